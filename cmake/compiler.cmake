@@ -1,0 +1,30 @@
+# Warnings, sanitizers and link settings shared by every target.
+
+add_library(varrocade_options INTERFACE)
+target_include_directories(varrocade_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
+
+if(MSVC)
+    target_compile_options(varrocade_options INTERFACE /W4 /WX /permissive- /utf-8)
+else()
+    target_compile_options(varrocade_options INTERFACE -Wall -Wextra -Wconversion -Wshadow -Werror)
+endif()
+
+if(WIN32)
+    # The program is 8-bit (ANSI) throughout: the A functions are the ones that are called, by name.
+    target_compile_definitions(varrocade_options INTERFACE WIN32_LEAN_AND_MEAN NOMINMAX _WIN32_WINNT=0x0A00 WINVER=0x0A00)
+    if(MINGW)
+        add_link_options(-static)
+    endif()
+endif()
+
+if(VARROCADE_SANITIZE)
+    add_compile_options(-fsanitize=address,undefined,fuzzer-no-link -fno-sanitize-recover=all -fno-omit-frame-pointer -g1)
+    add_link_options(-fsanitize=address,undefined)
+endif()
+
+# One library target a folder of src/.
+function(varrocade_library NAME)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+    add_library(${NAME} STATIC ${ARG_SOURCES})
+    target_link_libraries(${NAME} PUBLIC varrocade_options ${ARG_LINKS})
+endfunction()

@@ -1,0 +1,54 @@
+#include "cli/command_line.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+
+namespace varrocade::cli {
+
+namespace {
+
+constexpr auto Commands = std::to_array<Command>({
+    {"rewrite", "CATEGORY IN OUT",
+     "reads with the category's reader and writes with its writer; CATEGORY is vehicles, atguns, infantry, aircraft or "
+     "weapons; where IN is a folder, every *.txt in it goes to the folder OUT",
+     rewriteCommand},
+    {"tree", "FILE", "prints how the file parses, one element a line", treeCommand},
+});
+
+void printUsage() {
+    std::fputs("usage: varrocade-data COMMAND ARGUMENTS\n", stderr);
+    for (const Command& command : Commands) {
+        const std::string line = "  " + std::string(command.name) + " " + std::string(command.arguments) + "\n      " +
+                                 std::string(command.summary) + "\n";
+        std::fputs(line.c_str(), stderr);
+    }
+}
+
+} // namespace
+
+std::span<const Command> commands() {
+    return Commands;
+}
+
+void complain(std::string_view text) {
+    const std::string line = "varrocade-data: " + std::string(text) + "\n";
+    std::fputs(line.c_str(), stderr);
+}
+
+int runCommandLine(Arguments arguments) {
+    if (!arguments.empty()) {
+        const auto command = std::find_if(Commands.begin(), Commands.end(),
+                                          [&](const Command& row) { return row.name == arguments.front(); });
+        if (command != Commands.end()) {
+            const int status = command->run(arguments.subspan(1));
+            // What could not be written must not pass for done.
+            return std::fflush(stdout) == 0 && std::ferror(stdout) == 0 ? status : CouldNot;
+        }
+        complain("unknown command '" + arguments.front() + "'");
+    }
+    printUsage();
+    return CouldNot;
+}
+
+} // namespace varrocade::cli

@@ -1,0 +1,39 @@
+#pragma once
+// varrocade-data: the editor's core without its windows.
+
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace varrocade::cli {
+
+/// Exit statuses.
+inline constexpr int Done = 0;
+inline constexpr int Findings = 1;
+inline constexpr int CouldNot = 2;
+
+using Arguments = std::span<const std::string>;
+
+/// One command: its name, its arguments as the usage text shows them, what it does, and how.
+struct Command {
+    std::string_view name;
+    std::string_view arguments;
+    std::string_view summary;
+    int (*run)(Arguments arguments);
+};
+
+std::span<const Command> commands();
+
+/// Runs the command that the arguments (without the program's name) ask for; returns the exit status.
+int runCommandLine(Arguments arguments);
+
+/// Says on standard error what went wrong.
+void complain(std::string_view text);
+
+/// `rewrite [--explain] CATEGORY IN OUT`
+int rewriteCommand(Arguments arguments);
+
+/// `tree FILE`
+int treeCommand(Arguments arguments);
+
+} // namespace varrocade::cli

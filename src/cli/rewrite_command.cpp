@@ -1,0 +1,109 @@
+#include "cli/command_line.h"
+#include "data/category.h"
+#include "data/image_names.h"
+#include "data/unit_reader.h"
+#include "data/unit_writers.h"
+#include "platform/file_operations.h"
+#include "platform/safe_save.h"
+#include "weapons/weapon_files.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace varrocade::cli {
+
+namespace {
+
+bool isSeparator(char c) {
+    return c == '\\' || c == '/';
+}
+
+/// The file's name without its folder and without ".txt".
+std::string_view stemOf(std::string_view path) {
+    const std::size_t separator = path.find_last_of("\\/");
+    if (separator != std::string_view::npos) {
+        path.remove_prefix(separator + 1);
+    }
+    if (path.size() >= DataFileEnding.size() &&
+        equalsIgnoringCase(path.substr(path.size() - DataFileEnding.size()), DataFileEnding)) {
+        path.remove_suffix(DataFileEnding.size());
+    }
+    return path;
+}
+
+std::string asFolder(std::string path) {
+    if (path.empty() || !isSeparator(path.back())) {
+        path += '\\';
+    }
+    return path;
+}
+
+std::optional<std::string> rewritten(Category category, const std::string& content, std::string_view name) {
+    WeaponReadReport report;
+    std::optional<std::string> text;
+    if (category == Category::Weapons) {
+        text = weaponFileText(readWeapon(content, name, report));
+    } else {
+        text = unitFileText(category, readUnit(content, name, report.diagnostics));
+    }
+    for (const std::string& line : report.diagnostics) {
+        complain(line);
+    }
+    return text;
+}
+
+int rewriteFile(Category category, const std::string& in, const std::string& out) {
+    std::string content;
+    if (!readWholeFile(in, content)) {
+        complain(in + ": cannot be read: " + systemFiles().lastError());
+        return CouldNot;
+    }
+    const std::optional<std::string> text = rewritten(category, content, stemOf(in));
+    if (!text) {
+        complain(in + ": holds nothing that the writer of the " + std::string(categoryWord(category)) + " writes");
+        return CouldNot;
+    }
+    if (const auto failure = saveFile(systemFiles(), out, *text)) {
+        complain(failure->path + ": cannot be written: " + failure->reason);
+        return CouldNot;
+    }
+    return Done;
+}
+
+int rewriteFolder(Category category, const std::string& in, const std::string& out) {
+    std::vector<std::string> names;
+    if (!listFiles(in, DataFileEnding, names)) {
+        complain(in + ": cannot be listed: " + systemFiles().lastError());
+        return CouldNot;
+    }
+    if (const auto failure = createFolders(systemFiles(), out)) {
+        complain(failure->path + ": cannot be created: " + failure->reason);
+        return CouldNot;
+    }
+    std::sort(names.begin(), names.end());
+    int status = Done;
+    for (const std::string& name : names) {
+        status = std::max(status, rewriteFile(category, in + name, out + name));
+    }
+    return status;
+}
+
+} // namespace
+
+int rewriteCommand(Arguments arguments) {
+    if (arguments.size() != 3) {
+        complain("rewrite takes a category, what to read and where to write");
+        return CouldNot;
+    }
+    const std::optional<Category> category = categoryOfWord(arguments[0]);
+    if (!category) {
+        complain("unknown category '" + arguments[0] + "'");
+        return CouldNot;
+    }
+    if (isFolder(arguments[1])) {
+        return rewriteFolder(*category, asFolder(arguments[1]), asFolder(arguments[2]));
+    }
+    return rewriteFile(*category, arguments[1], arguments[2]);
+}
+
+} // namespace varrocade::cli

@@ -1,0 +1,108 @@
+#include "data/tag_tree.h"
+
+#include <array>
+#include <cstring>
+
+namespace varrocade {
+
+namespace {
+
+/// The game reads lines with a buffer of this many characters at a time.
+constexpr std::size_t PieceLength = 510;
+
+constexpr std::array<bool, 256> stopTable() {
+    std::array<bool, 256> stops{};
+    stops['\r'] = stops['\n'] = stops['/'] = true;
+    return stops;
+}
+
+constexpr std::array<bool, 256> Stops = stopTable();
+
+constexpr bool isBlank(char c) {
+    return c == ' ' || c == '\t';
+}
+
+/// What is left of one piece of a line: nothing from its first "//" on, no blanks at either end.
+struct Piece {
+    const char* begin;
+    const char* end;
+};
+
+Piece trimmed(const char* begin, const char* end) {
+    while (end != begin && isBlank(end[-1])) {
+        --end;
+    }
+    while (begin != end && isBlank(*begin)) {
+        ++begin;
+    }
+    return {begin, end};
+}
+
+/// Calls `take(piece, line)` for every piece of the content, in order; `line` counts from 1. A false answer
+/// ends the walk.
+template <typename Take>
+void forEachPiece(std::string_view content, Take take) {
+    const char* at = content.data();
+    const char* const end = at + content.size();
+    std::size_t line = 1;
+    while (at != end) {
+        const char* const pieceBegin = at;
+        const char* const limit =
+            static_cast<std::size_t>(end - at) > PieceLength ? at + PieceLength : end;
+        const char* pieceEnd = nullptr;
+        while (at != limit && *at != '\r' && *at != '\n') {
+            if (*at == '/' && pieceEnd == nullptr && at + 1 != limit && at[1] == '/') {
+                pieceEnd = at;
+            }
+            ++at;
+            while (at != limit && !Stops[static_cast<unsigned char>(*at)]) {
+                ++at;
+            }
+        }
+        const Piece piece = trimmed(pieceBegin, pieceEnd != nullptr ? pieceEnd : at);
+        if (piece.begin != piece.end && !take(piece, line)) {
+            return;
+        }
+        if (at == end) {
+            return;
+        }
+        if (*at == '\r') {
+            ++at;
+            if (at != end && *at == '\n') {
+                ++at;
+            }
+            ++line;
+        } else if (*at == '\n') {
+            ++at;
+            ++line;
+        }
+    }
+}
+
+} // namespace
+
+void cleanTaggedText(std::string_view fileContent, std::string& cleaned) {
+    // The pieces are moved together in place: they never grow, so the write position is behind the read position.
+    cleaned.assign(fileContent);
+    char* out = cleaned.data();
+    forEachPiece(cleaned, [&out](const Piece& piece, std::size_t) {
+        const auto length = static_cast<std::size_t>(piece.end - piece.begin);
+        std::memmove(out, piece.begin, length);
+        out += length;
+        return true;
+    });
+    cleaned.resize(static_cast<std::size_t>(out - cleaned.data()));
+}
+
+std::size_t lineOfOffset(std::string_view fileContent, std::size_t cleanedOffset) {
+    std::size_t cleanedLength = 0;
+    std::size_t found = 1;
+    forEachPiece(fileContent, [&](const Piece& piece, std::size_t line) {
+        cleanedLength += static_cast<std::size_t>(piece.end - piece.begin);
+        found = line;
+        return cleanedLength <= cleanedOffset;
+    });
+    return found;
+}
+
+} // namespace varrocade

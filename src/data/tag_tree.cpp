@@ -1,0 +1,258 @@
+#include "data/tag_tree.h"
+
+#include <algorithm>
+#include <cstring>
+#include <utility>
+
+namespace varrocade {
+
+namespace {
+
+using Nodes = std::vector<TagNode>;
+
+/// The fast parser gives up on files that nest deeper; no file of the game nests deeper than six levels.
+constexpr std::uint32_t MaxPlainDepth = 32;
+
+std::uint32_t addNode(Nodes& nodes, std::uint32_t parent, std::string_view name) {
+    const auto index = static_cast<std::uint32_t>(nodes.size());
+    TagNode node;
+    node.name = name;
+    node.parent = parent;
+    nodes.push_back(node);
+    TagNode& above = nodes[parent];
+    if (above.lastChild == TagNode::None) {
+        above.firstChild = index;
+    } else {
+        nodes[above.lastChild].nextSibling = index;
+    }
+    above.lastChild = index;
+    ++above.childCount;
+    return index;
+}
+
+bool startsWithClosingTag(std::string_view text, std::string_view name) {
+    return text.size() >= name.size() + 3 && text[1] == '/' && text[name.size() + 2] == '>' &&
+           std::memcmp(text.data() + 2, name.data(), name.size()) == 0;
+}
+
+/// Whether an open element has this name; such an element ends at the inner one's closing tag, which the
+/// fast parser leaves to the general one. Also true when the nesting is too deep to look.
+bool isOpen(const Nodes& nodes, std::uint32_t node, std::string_view name) {
+    for (std::uint32_t depth = 0; node != 0; node = nodes[node].parent) {
+        if (++depth > MaxPlainDepth || nodes[node].name == name) {
+            return true;
+        }
+    }
+    return false;
+}
+
+/// Parses a well-formed document in one pass from front to back. Every `<` it passes begins an opening tag or
+/// closes the innermost open element, so that the first closing tag of a name is the one found here.
+/// Returns false at the first thing that is not so; `nodes` is then to be thrown away.
+bool parseWellFormed(std::string_view text, Nodes& nodes) {
+    std::uint32_t open = 0;
+    std::size_t at = 0;
+    const std::size_t size = text.size();
+    while (at < size) {
+        if (text[at] != '<') {
+            return false;
+        }
+        if (at + 1 < size && text[at + 1] == '/') {
+            if (open == 0 || !startsWithClosingTag(text.substr(at), nodes[open].name)) {
+                return false;
+            }
+            at += nodes[open].name.size() + 3;
+            open = nodes[open].parent;
+            continue;
+        }
+        std::size_t tagEnd = at + 1;
+        while (tagEnd < size && text[tagEnd] != '>' && text[tagEnd] != '<') {
+            ++tagEnd;
+        }
+        if (tagEnd + 1 >= size || text[tagEnd] != '>') {
+            return false;
+        }
+        const std::string_view name = text.substr(at + 1, tagEnd - at - 1);
+        if (isOpen(nodes, open, name)) {
+            return false;
+        }
+        const std::uint32_t node = addNode(nodes, open, name);
+        at = tagEnd + 1;
+        if (text[at] == '<') {
+            open = node;
+            continue;
+        }
+        std::size_t textEnd = at + 1;
+        while (textEnd < size && text[textEnd] != '<') {
+            ++textEnd;
+        }
+        if (!startsWithClosingTag(text.substr(textEnd), name)) {
+            return false;
+        }
+        nodes[node].text = text.substr(at, textEnd - at);
+        at = textEnd + name.size() + 3;
+    }
+    return open == 0;
+}
+
+/// All closing tags of a text, to find the first one of a name at or after a position in logarithmic time.
+/// A name is hashed from its last character to its first, since the names of hostile files (`</</</</a>`) share
+/// their ends: one backward pass then hashes them all.
+class ClosingTags {
+public:
+    explicit ClosingTags(std::string_view text) : text_(text) {
+        const std::size_t last = text.rfind('>');
+        std::uint64_t hash = 0;
+        std::size_t tagEnd = 0;
+        for (std::size_t i = last == std::string_view::npos ? 0 : last + 1; i-- > 0;) {
+            if (text[i] == '>') {
+                hash = 0;
+                tagEnd = i;
+                continue;
+            }
+            if (text[i] == '/' && i > 0 && text[i - 1] == '<') {
+                tags_.push_back({hash, static_cast<std::uint32_t>(tagEnd - i - 1), static_cast<std::uint32_t>(i - 1)});
+            }
+            hash = extended(hash, text[i]);
+        }
+        std::sort(tags_.begin(), tags_.end(), isBefore);
+    }
+
+    [[nodiscard]] bool empty() const { return tags_.empty(); }
+
+    /// The position of the first "</name>" at or after `from`, or npos.
+    [[nodiscard]] std::size_t find(std::string_view name, std::size_t from) const {
+        std::uint64_t hash = 0;
+        for (std::size_t i = name.size(); i-- > 0;) {
+            hash = extended(hash, name[i]);
+        }
+        const Tag wanted{hash, static_cast<std::uint32_t>(name.size()), static_cast<std::uint32_t>(from)};
+        for (auto tag = std::lower_bound(tags_.begin(), tags_.end(), wanted, isBefore);
+             tag != tags_.end() && tag->hash == wanted.hash && tag->length == wanted.length; ++tag) {
+            if (text_.substr(tag->position + 2, tag->length) == name) {
+                return tag->position;
+            }
+        }
+        return std::string_view::npos;
+    }
+
+private:
+    struct Tag {
+        std::uint64_t hash;
+        std::uint32_t length;
+        std::uint32_t position;
+    };
+
+    static std::uint64_t extended(std::uint64_t hash, char c) {
+        constexpr std::uint64_t multiplier = 0x9E3779B97F4A7C15U;
+        return (hash + static_cast<unsigned char>(c) + 1) * multiplier;
+    }
+
+    static bool isBefore(const Tag& a, const Tag& b) {
+        if (a.hash != b.hash) {
+            return a.hash < b.hash;
+        }
+        return a.length != b.length ? a.length < b.length : a.position < b.position;
+    }
+
+    std::string_view text_;
+    std::vector<Tag> tags_;
+};
+
+/// Parses any text. An element ends at the first closing tag of its name, wherever that stands, so ranges can
+/// overlap, and a small hostile file can describe a tree that grows exponentially; a budget of work proportional
+/// to the file's size, which files without overlaps never use up, ends the parse there.
+class GeneralParser {
+public:
+    GeneralParser(std::string_view text, Nodes& nodes)
+        : text_(text), nodes_(nodes), closingTags_(text), budget_(WorkPerCharacter * text.size() + LeastWork) {}
+
+    void run() {
+        if (closingTags_.empty()) {
+            return;
+        }
+        levels_.push_back({0, 0, text_.size()});
+        while (!levels_.empty()) {
+            if (!parseNextChild()) {
+                levels_.pop_back();
+            }
+        }
+    }
+
+private:
+    static constexpr std::size_t WorkPerCharacter = 8;
+    static constexpr std::size_t LeastWork = 65536;
+
+    struct Level {
+        std::uint32_t node;
+        std::size_t cursor;
+        std::size_t end;
+    };
+
+    /// One child of the innermost level; false when that level is at its end.
+    bool parseNextChild() {
+        const Level level = levels_.back();
+        if (level.cursor >= level.end || text_[level.cursor] != '<') {
+            return false;
+        }
+        const std::size_t tagEnd = text_.substr(0, level.end).find('>', level.cursor);
+        const std::size_t work =
+            (tagEnd == std::string_view::npos ? level.end : tagEnd) - level.cursor;
+        if (work >= budget_) {
+            budget_ = 0;
+            return false;
+        }
+        budget_ -= work;
+        if (tagEnd == std::string_view::npos) {
+            return false;
+        }
+        const std::string_view name = text_.substr(level.cursor + 1, tagEnd - level.cursor - 1);
+        const std::size_t closing = closingTags_.find(name, level.cursor);
+        if (closing == std::string_view::npos) {
+            return false;
+        }
+        const std::uint32_t child = addNode(nodes_, level.node, name);
+        levels_.back().cursor = closing + name.size() + 3;
+        const std::size_t contentBegin = tagEnd + 1;
+        if (text_[contentBegin] != '<') {
+            nodes_[child].text = text_.substr(contentBegin, closing - contentBegin);
+        } else if (contentBegin < closing) {
+            levels_.push_back({child, contentBegin, closing});
+        }
+        return true;
+    }
+
+    std::string_view text_;
+    Nodes& nodes_;
+    ClosingTags closingTags_;
+    std::size_t budget_;
+    std::vector<Level> levels_;
+};
+
+} // namespace
+
+void TagTree::parse(std::string_view fileContent) {
+    cleaned_.clear();
+    nodes_.assign(1, TagNode{});
+    if (fileContent.size() >= TagNode::None) {
+        return;
+    }
+    cleanTaggedText(fileContent, cleaned_);
+    const std::string_view text = cleaned_;
+    if (text.empty()) {
+        return;
+    }
+    if (text[0] != '<') {
+        nodes_[0].text = text;
+        return;
+    }
+    // Lines of the game's files have some thirty characters an element.
+    constexpr std::size_t charactersPerElement = 24;
+    nodes_.reserve(text.size() / charactersPerElement + 8);
+    if (!parseWellFormed(text, nodes_)) {
+        nodes_.assign(1, TagNode{});
+        GeneralParser(text, nodes_).run();
+    }
+}
+
+} // namespace varrocade

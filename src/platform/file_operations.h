@@ -1,0 +1,74 @@
+#pragma once
+// The seam to the operating system's files. Paths are built with backslashes everywhere; an implementation
+// maps them where the system separates otherwise.
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace varrocade {
+
+/// What failed, on which path (as the caller built it), and the system's own reason.
+struct FileFailure {
+    std::string path;
+    std::string reason;
+};
+
+/// A file opened for writing. Every call returns whether it succeeded; the destructor closes without a report.
+class OutputFile {
+public:
+    OutputFile() = default;
+    OutputFile(const OutputFile&) = delete;
+    OutputFile& operator=(const OutputFile&) = delete;
+    virtual ~OutputFile() = default;
+
+    /// Writes at most `bytes.size()` bytes; returns how many went out, 0 on failure.
+    virtual std::size_t write(std::string_view bytes) = 0;
+    /// Hands everything written to the device.
+    virtual bool flush() = 0;
+    virtual bool close() = 0;
+};
+
+/// The operations on files that saving is made of. Tests put their own in between to make each step fail.
+class FileOperations {
+public:
+    FileOperations() = default;
+    FileOperations(const FileOperations&) = delete;
+    FileOperations& operator=(const FileOperations&) = delete;
+    virtual ~FileOperations() = default;
+
+    /// The whole content of a file into `content`; false when it cannot be opened or read.
+    virtual bool read(const std::string& path, std::string& content) = 0;
+    virtual bool exists(const std::string& path) = 0;
+    /// Creates a new file that nobody else may write; fails when it exists. Null on failure.
+    virtual std::unique_ptr<OutputFile> createNew(const std::string& path) = 0;
+    /// Puts `from` in the place of `to` in one step; `to` need not exist.
+    virtual bool replace(const std::string& from, const std::string& to) = 0;
+    virtual bool remove(const std::string& path) = 0;
+    /// Creates one folder; an existing one is no failure.
+    virtual bool createFolder(const std::string& path) = 0;
+    /// The reason of the last failure, in the system's words.
+    virtual std::string lastError() = 0;
+};
+
+/// The real files.
+FileOperations& systemFiles();
+
+/// Reads a whole file; false when it cannot be opened or read. `content` keeps its capacity, so that a loop
+/// over many files allocates once.
+bool readWholeFile(const std::string& path, std::string& content);
+
+/// The names of the files in `folder` (ending in a backslash) that end in `ending` (letter case ignored, as in
+/// "*.txt"), in the order in which the system lists them. False when the folder cannot be listed.
+bool listFiles(const std::string& folder, std::string_view ending, std::vector<std::string>& names);
+
+/// Whether `path` names a folder.
+bool isFolder(const std::string& path);
+
+/// The present local time as "2026-11-21 090533", to name backups.
+std::string timeStamp();
+
+} // namespace varrocade

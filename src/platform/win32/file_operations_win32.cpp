@@ -1,0 +1,147 @@
+#include "platform/file_operations.h"
+
+#include <windows.h>
+
+#include <array>
+#include <cstdio>
+
+namespace varrocade {
+
+namespace {
+
+class FileHandle {
+public:
+    explicit FileHandle(HANDLE handle) : handle_(handle) {}
+    FileHandle(const FileHandle&) = delete;
+    FileHandle& operator=(const FileHandle&) = delete;
+    ~FileHandle() { close(); }
+    [[nodiscard]] bool valid() const { return handle_ != INVALID_HANDLE_VALUE; }
+    [[nodiscard]] HANDLE get() const { return handle_; }
+    bool close() {
+        if (!valid()) {
+            return true;
+        }
+        const bool closed = CloseHandle(handle_) != 0;
+        handle_ = INVALID_HANDLE_VALUE;
+        return closed;
+    }
+
+private:
+    HANDLE handle_;
+};
+
+class Win32OutputFile : public OutputFile {
+public:
+    explicit Win32OutputFile(HANDLE handle) : handle_(handle) {}
+    std::size_t write(std::string_view bytes) override {
+        constexpr std::size_t largest = 1U << 30U;
+        DWORD written = 0;
+        const auto length = static_cast<DWORD>(bytes.size() < largest ? bytes.size() : largest);
+        return WriteFile(handle_.get(), bytes.data(), length, &written, nullptr) != 0 ? written : 0;
+    }
+    bool flush() override { return FlushFileBuffers(handle_.get()) != 0; }
+    bool close() override { return handle_.close(); }
+
+private:
+    FileHandle handle_;
+};
+
+class Win32Files : public FileOperations {
+public:
+    bool read(const std::string& path, std::string& content) override { return readWholeFile(path, content); }
+    bool exists(const std::string& path) override {
+        return GetFileAttributesA(path.c_str()) != INVALID_FILE_ATTRIBUTES;
+    }
+    std::unique_ptr<OutputFile> createNew(const std::string& path) override {
+        HANDLE handle =
+            CreateFileA(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr);
+        return handle == INVALID_HANDLE_VALUE ? nullptr : std::make_unique<Win32OutputFile>(handle);
+    }
+    bool replace(const std::string& from, const std::string& to) override {
+        return MoveFileExA(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
+    }
+    bool remove(const std::string& path) override { return DeleteFileA(path.c_str()) != 0; }
+    bool createFolder(const std::string& path) override {
+        return CreateDirectoryA(path.c_str(), nullptr) != 0 || GetLastError() == ERROR_ALREADY_EXISTS;
+    }
+    std::string lastError() override {
+        std::array<char, 512> text{};
+        const DWORD length =
+            FormatMessageA(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr, GetLastError(), 0,
+                           text.data(), static_cast<DWORD>(text.size()), nullptr);
+        std::string_view reason(text.data(), length);
+        while (!reason.empty() && (reason.back() == '\r' || reason.back() == '\n' || reason.back() == ' ')) {
+            reason.remove_suffix(1);
+        }
+        return std::string(reason);
+    }
+};
+
+} // namespace
+
+FileOperations& systemFiles() {
+    static Win32Files files;
+    return files;
+}
+
+bool readWholeFile(const std::string& path, std::string& content) {
+    const FileHandle file(CreateFileA(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                                      OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
+    LARGE_INTEGER size{};
+    if (!file.valid() || GetFileSizeEx(file.get(), &size) == 0) {
+        return false;
+    }
+    content.resize(static_cast<std::size_t>(size.QuadPart));
+    std::size_t length = 0;
+    while (length < content.size()) {
+        constexpr std::size_t largest = 1U << 30U;
+        const std::size_t rest = content.size() - length;
+        DWORD got = 0;
+        if (ReadFile(file.get(), content.data() + length, static_cast<DWORD>(rest < largest ? rest : largest), &got,
+                     nullptr) == 0) {
+            return false;
+        }
+        if (got == 0) {
+            break;
+        }
+        length += got;
+    }
+    content.resize(length);
+    return true;
+}
+
+bool listFiles(const std::string& folder, std::string_view ending, std::vector<std::string>& names) {
+    names.clear();
+    WIN32_FIND_DATAA found{};
+    HANDLE search = FindFirstFileA((folder + "*").c_str(), &found);
+    if (search == INVALID_HANDLE_VALUE) {
+        return false;
+    }
+    const std::string endingText(ending);
+    do {
+        const std::string_view name = found.cFileName;
+        // The system's own "*.txt" would also match longer endings through the short names of old file systems.
+        if ((found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0 && name.size() >= ending.size() &&
+            lstrcmpiA(found.cFileName + (name.size() - ending.size()), endingText.c_str()) == 0) {
+            names.emplace_back(name);
+        }
+    } while (FindNextFileA(search, &found) != 0);
+    FindClose(search);
+    return true;
+}
+
+bool isFolder(const std::string& path) {
+    const DWORD attributes = GetFileAttributesA(path.c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
+std::string timeStamp() {
+    SYSTEMTIME now{};
+    GetLocalTime(&now);
+    std::array<char, 64> text{};
+    const int length = std::snprintf(text.data(), text.size(), "%04u-%02u-%02u %02u%02u%02u", now.wYear, now.wMonth,
+                                     now.wDay, now.wHour, now.wMinute, now.wSecond);
+    return {text.data(), static_cast<std::size_t>(length > 0 ? length : 0)};
+}
+
+} // namespace varrocade

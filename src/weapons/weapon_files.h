@@ -1,0 +1,40 @@
+#pragma once
+// Reading and writing weapon files.
+
+#include "data/tag_tree.h"
+#include "data/unit_reader.h"
+#include "data/unit_writers.h"
+#include "weapons/weapon_record.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace varrocade {
+
+/// What a weapon file holds that its record cannot take.
+struct WeaponReadReport {
+    Diagnostics diagnostics;
+    /// The texts of `type` elements that name no weapon type, as far as the record already had a name.
+    std::vector<std::string> unknownTypes;
+};
+
+/// Reads the content of a weapon file. `fileName` is without folder and ".txt".
+WeaponRecord readWeapon(std::string_view fileContent, std::string_view fileName, WeaponReadReport& report);
+
+/// Reads the weapon file at `path`; nothing when it cannot be opened.
+std::optional<WeaponRecord> readWeaponFile(const std::string& path, std::string_view fileName,
+                                           WeaponReadReport& report);
+
+/// Loads a weapon below `base` for the window, with the boxes for a file that cannot be opened and for an
+/// unknown weapon type.
+std::optional<WeaponRecord> loadWeapon(std::string_view base, std::string_view fileName);
+
+/// The text of a weapon's file.
+std::string weaponFileText(const WeaponRecord& weapon);
+
+/// Writes a weapon to `fileName` below `base`, as `saveUnit` writes units.
+SaveResult saveWeapon(FileOperations& files, BackupKeeper& backups, const std::string& base,
+                      std::string_view fileName, const WeaponRecord& weapon);
+
+} // namespace varrocade

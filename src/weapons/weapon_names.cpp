@@ -1,0 +1,191 @@
+#include "weapons/weapon_names.h"
+
+#include <algorithm>
+#include <array>
+
+namespace varrocade {
+
+namespace {
+
+template <typename Value>
+struct NameRow {
+    Value value;
+    std::string_view name;
+};
+
+constexpr auto Types = std::to_array<NameRow<WeaponType>>({
+    {WeaponType::Rifle, "WEAPON_RIFLE"},
+    {WeaponType::Pistol, "WEAPON_PISTOL"},
+    {WeaponType::Carbine, "WEAPON_CARBINE"},
+    {WeaponType::Shotgun, "WEAPON_SHOTGUN"},
+    {WeaponType::AtRifle, "WEAPON_AT_RIFLE"},
+    {WeaponType::Smg, "WEAPON_SMG"},
+    {WeaponType::Lmg, "WEAPON_LMG"},
+    {WeaponType::Hmg, "WEAPON_HMG"},
+    {WeaponType::Rpg, "WEAPON_RPG"},
+    {WeaponType::RecoillessRifle, "WEAPON_RECOILLESS_RIFLE"},
+    {WeaponType::FlamethrowerPortable, "WEAPON_FLAMETHROWER_PORTABLE"},
+    {WeaponType::FlamethrowerTank, "WEAPON_FLAMETHROWER_TANK"},
+    {WeaponType::Grenade, "WEAPON_GRENADE"},
+    {WeaponType::GrenadeLauncher, "WEAPON_GRENADE_LAUNCHER"},
+    {WeaponType::Mortar, "WEAPON_MORTAR"},
+    {WeaponType::Cannon, "WEAPON_CANNON"},
+    {WeaponType::Mlrs, "WEAPON_MLRS"},
+    {WeaponType::Artillery, "WEAPON_ARTILLERY"},
+    {WeaponType::Bomb, "WEAPON_BOMB"},
+});
+
+struct FlavourRow {
+    AmmoFlavour value;
+    std::string_view name;
+    std::string_view displayName;
+};
+
+constexpr auto Flavours = std::to_array<FlavourRow>({
+    {AmmoFlavour::None, "FLAVOUR_NONE", "Unknown"},
+    {AmmoFlavour::Shrapnel, "FLAVOUR_SHRAPNEL", ""},
+    {AmmoFlavour::WoodSplinter, "FLAVOUR_WOOD_SPLINTER", ""},
+    {AmmoFlavour::Spark, "FLAVOUR_SPARK", ""},
+    {AmmoFlavour::Ball, "FLAVOUR_BALL", "Ball"},
+    {AmmoFlavour::Pellets, "FLAVOUR_PELLETS", "Pellets"},
+    {AmmoFlavour::AtRifleAp, "FLAVOUR_AT_RIFLE_AP", "AP"},
+    {AmmoFlavour::AtRifleHe, "FLAVOUR_AT_RIFLE_HE", "HE"},
+    {AmmoFlavour::GrenadeHe, "FLAVOUR_GRENADE_HE", "HE"},
+    {AmmoFlavour::GrenadeSmoke, "FLAVOUR_GRENADE_SMOKE", "Smoke"},
+    {AmmoFlavour::GrenadeHeat, "FLAVOUR_GRENADE_HEAT", "HEAT"},
+    {AmmoFlavour::GrenadeFlame, "FLAVOUR_GRENADE_FLAME", "Molotov cocktail"},
+    {AmmoFlavour::MortarHe, "FLAVOUR_MORTAR_HE", "HE"},
+    {AmmoFlavour::MortarSmoke, "FLAVOUR_MORTAR_SMOKE", "Smoke"},
+    {AmmoFlavour::ArtilleryHe, "FLAVOUR_ARTILLERY_HE", ""},
+    {AmmoFlavour::ArtillerySmoke, "FLAVOUR_ARTILLERY_SMOKE", ""},
+    {AmmoFlavour::Flame, "FLAVOUR_FLAME", "Flame"},
+    {AmmoFlavour::RpgHeat, "FLAVOUR_RPG_HEAT", "HEAT"},
+    {AmmoFlavour::RpgSmoke, "FLAVOUR_RPG_SMOKE", "Smoke"},
+    {AmmoFlavour::RpgHe, "FLAVOUR_RPG_HE", "HE"},
+    {AmmoFlavour::He, "FLAVOUR_HE", "HE"},
+    {AmmoFlavour::Heat, "FLAVOUR_HEAT", "HEAT"},
+    {AmmoFlavour::Ap, "FLAVOUR_AP", "AP"},
+    {AmmoFlavour::Hesh, "FLAVOUR_HESH", "HESH"},
+    {AmmoFlavour::Apc, "FLAVOUR_APC", "APC"},
+    {AmmoFlavour::Apcbc, "FLAVOUR_APCBC", "APCBC"},
+    {AmmoFlavour::Apfsds, "FLAVOUR_APFSDS", "APFSDS"},
+    {AmmoFlavour::Apcr, "FLAVOUR_APCR", "APCR"},
+    {AmmoFlavour::Apcnr, "FLAVOUR_APCNR", "APCNR"},
+    {AmmoFlavour::Apds, "FLAVOUR_APDS", "APDS"},
+    {AmmoFlavour::Canister, "FLAVOUR_CANISTER", "Canister"},
+    {AmmoFlavour::Smoke, "FLAVOUR_SMOKE", "Smoke"},
+    {AmmoFlavour::Atgm, "FLAVOUR_ATGM", "ATGM"},
+    {AmmoFlavour::Heatfs, "FLAVOUR_HEATFS", "HEATFS"},
+    {AmmoFlavour::RocketHe, "FLAVOUR_ROCKET_HE", "Rocket HE"},
+    {AmmoFlavour::BombHe, "FLAVOUR_BOMB_HE", "Bomb HE"},
+});
+
+constexpr auto OlderFlavourNames = std::to_array<NameRow<AmmoFlavour>>({
+    {AmmoFlavour::Ap, "FLAVOUR_AP_HE"},
+    {AmmoFlavour::Apc, "FLAVOUR_APC_HE"},
+    {AmmoFlavour::Apcbc, "FLAVOUR_APCBC_HE"},
+    {AmmoFlavour::AtRifleAp, "FLAVOUR_BALL_AT_RIFLE"},
+    {AmmoFlavour::RpgHeat, "FLAVOUR_RPG"},
+});
+
+constexpr auto Eras = std::to_array<NameRow<HeatEra>>({
+    {HeatEra::Early, "HEAT_ERA_EARLY"},
+    {HeatEra::Late, "HEAT_ERA_LATE"},
+    {HeatEra::ColdWarEarly, "HEAT_ERA_COLD_WAR_EARLY"},
+    {HeatEra::ColdWar, "HEAT_ERA_COLD_WAR"},
+    {HeatEra::ColdWarLate, "HEAT_ERA_COLD_WAR_LATE"},
+    {HeatEra::Modern, "HEAT_ERA_MODERN"},
+});
+
+constexpr auto GuidanceModes = std::to_array<NameRow<GuidanceMode>>({
+    {GuidanceMode::Manual, "GUIDED_MANUAL"},
+    {GuidanceMode::FireAndForget, "GUIDED_FAF"},
+    {GuidanceMode::TopAttack, "GUIDED_TOP_ATTACK"},
+    {GuidanceMode::OverTheTop, "GUIDED_OVER_THE_TOP"},
+});
+
+constexpr auto ReloadModes = std::to_array<NameRow<ReloadMode>>({
+    {ReloadMode::SemiAutomatic, "RELOAD_SEMI_AUTOMATIC"},
+    {ReloadMode::Automatic, "RELOAD_AUTOMATIC"},
+});
+
+template <typename Rows, typename Value>
+std::string_view findName(const Rows& rows, Value value, std::string_view otherwise) {
+    for (const auto& row : rows) {
+        if (row.value == value) {
+            return row.name;
+        }
+    }
+    return otherwise;
+}
+
+template <typename Value, std::size_t Count>
+std::optional<Value> findValue(const std::array<NameRow<Value>, Count>& rows, std::string_view name) {
+    for (const NameRow<Value>& row : rows) {
+        if (row.name == name) {
+            return row.value;
+        }
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+std::string_view nameOf(WeaponType type) {
+    return findName(Types, type, "WEAPON_NONE");
+}
+
+WeaponType weaponTypeOf(std::string_view name) {
+    return findValue(Types, name).value_or(WeaponType::None);
+}
+
+std::string_view nameOf(AmmoFlavour flavour) {
+    return findName(Flavours, flavour, Flavours.front().name);
+}
+
+AmmoFlavour flavourOf(std::string_view name) {
+    for (const FlavourRow& row : Flavours) {
+        if (row.name == name) {
+            // The game makes shrapnel, splinters and sparks itself; no file may name them.
+            return row.value < AmmoFlavour::Ball ? AmmoFlavour::None : row.value;
+        }
+    }
+    return findValue(OlderFlavourNames, name).value_or(AmmoFlavour::None);
+}
+
+std::string_view displayNameOf(AmmoFlavour flavour) {
+    const auto row = std::find_if(Flavours.begin(), Flavours.end(),
+                                  [flavour](const FlavourRow& candidate) { return candidate.value == flavour; });
+    return row != Flavours.end() ? row->displayName : Flavours.front().displayName;
+}
+
+bool isHeat(AmmoFlavour flavour) {
+    return flavour == AmmoFlavour::GrenadeHeat || flavour == AmmoFlavour::RpgHeat || flavour == AmmoFlavour::Heat ||
+           flavour == AmmoFlavour::Atgm || flavour == AmmoFlavour::Heatfs;
+}
+
+std::string_view nameOf(HeatEra era) {
+    return findName(Eras, era, "HEAT_ERA_LATE");
+}
+
+std::optional<HeatEra> heatEraOf(std::string_view name) {
+    return findValue(Eras, name);
+}
+
+std::string_view nameOf(GuidanceMode mode) {
+    return findName(GuidanceModes, mode, "GUIDED_MANUAL");
+}
+
+std::optional<GuidanceMode> guidanceModeOf(std::string_view name) {
+    return findValue(GuidanceModes, name);
+}
+
+std::string_view nameOf(ReloadMode mode) {
+    return findName(ReloadModes, mode, "RELOAD_AUTOMATIC");
+}
+
+std::optional<ReloadMode> reloadModeOf(std::string_view name) {
+    return findValue(ReloadModes, name);
+}
+
+} // namespace varrocade

@@ -1,0 +1,249 @@
+#include "data/image_names.h"
+#include "data/numbers.h"
+#include "platform/file_operations.h"
+#include "platform/messages.h"
+#include "weapons/weapon_elements.h"
+#include "weapons/weapon_files.h"
+#include "weapons/weapon_names.h"
+
+#include <algorithm>
+#include <array>
+#include <concepts>
+
+namespace varrocade {
+
+namespace {
+
+namespace we = weapon_element;
+
+/// What the walk is filling. `ammoType` is null until the first entry, and while one that found no room is passed.
+struct Reading {
+    WeaponRecord& weapon;
+    WeaponReadReport& report;
+    std::string_view fileContent;
+    const TagTree& tree;
+    const TagNode* node = nullptr;
+    AmmoTypeRecord* ammoType = nullptr;
+};
+
+/// The parent that a rule asks for. Entries of the ammunition are the one place where a grandparent counts.
+struct Rule {
+    std::string_view parent;
+    std::string_view element;
+    void (*apply)(Reading& reading, std::string_view text);
+};
+
+/// Cuts the last four characters of a name that holds ".png" or ".PNG" anywhere; other cases stay.
+std::string_view withoutPngEnding(std::string_view text) {
+    const bool hasEnding =
+        text.find(ImageEnding) != std::string_view::npos || text.find(".PNG") != std::string_view::npos;
+    return hasEnding ? text.substr(0, text.size() - ImageEnding.size()) : text;
+}
+
+void convert(std::string_view text, std::string& field) {
+    field = text;
+}
+void convert(std::string_view text, float& field) {
+    field = toFloat(text);
+}
+template <std::integral Integer>
+void convert(std::string_view text, Integer& field) {
+    field = toClamped<Integer>(text);
+}
+
+WeaponRecord* target(Reading& reading, const WeaponRecord*) {
+    return &reading.weapon;
+}
+AmmoTypeRecord* target(Reading& reading, const AmmoTypeRecord*) {
+    return reading.ammoType;
+}
+
+template <typename Owner, typename Field>
+const Owner* ownerOf(Field Owner::*) {
+    return nullptr;
+}
+
+template <auto Member>
+void set(Reading& reading, std::string_view text) {
+    if (auto* object = target(reading, ownerOf(Member))) {
+        convert(text, object->*Member);
+    }
+}
+
+template <auto Member>
+void setImage(Reading& reading, std::string_view text) {
+    set<Member>(reading, withoutPngEnding(text));
+}
+
+/// "yes" sets a flag; other texts leave it as it is.
+template <auto Member>
+void setFlag(Reading& reading, std::string_view text) {
+    if (auto* object = target(reading, ownerOf(Member)); object != nullptr && text == "yes") {
+        object->*Member = true;
+    }
+}
+
+/// A known word sets the member; other texts leave it as it is.
+template <auto Member, auto ValueOf>
+void setWord(Reading& reading, std::string_view text) {
+    auto* object = target(reading, ownerOf(Member));
+    if (const auto value = ValueOf(text); value && object != nullptr) {
+        object->*Member = *value;
+    }
+}
+
+void report(Reading& reading, const std::string& line) {
+    constexpr std::size_t mostLines = 100;
+    if (reading.report.diagnostics.size() < mostLines) {
+        reading.report.diagnostics.push_back(line);
+    }
+}
+
+void setType(Reading& reading, std::string_view text) {
+    const WeaponType type = weaponTypeOf(text);
+    if (type != WeaponType::None) {
+        reading.weapon.type = type;
+        return;
+    }
+    report(reading, "\xF0\x9F\x92\xA5 ERROR: WeaponDataList: getListEntryForWeapon() unknown <type> in '" +
+                        std::string(text) + "'");
+    constexpr std::size_t mostBoxes = 3;
+    if (!reading.weapon.name.empty() && reading.report.unknownTypes.size() < mostBoxes) {
+        reading.report.unknownTypes.emplace_back(text);
+    }
+}
+
+/// The low 8 bits, as the game keeps them.
+void setNumberOfBarrels(Reading& reading, std::string_view text) {
+    constexpr std::uint32_t lowByte = 0xFF;
+    reading.weapon.numberOfBarrels = static_cast<std::uint8_t>(static_cast<std::uint32_t>(toInteger(text)) & lowByte);
+}
+
+void setMuzzleFlash(Reading& reading, std::string_view text) {
+    if (text == "yes" || text == "no") {
+        reading.weapon.muzzleFlash = text == "yes";
+    }
+}
+
+void setCapacity(Reading& reading, std::string_view text) {
+    reading.weapon.magazineCapacity = std::max<std::int16_t>(1, toClamped<std::int16_t>(text));
+}
+
+void setFlavour(Reading& reading, std::string_view text) {
+    if (reading.ammoType != nullptr) {
+        reading.ammoType->flavour = flavourOf(text);
+    }
+}
+
+void addAmmoType(Reading& reading, std::string_view) {
+    std::vector<AmmoTypeRecord>& types = reading.weapon.ammoTypes;
+    reading.ammoType = nullptr;
+    if (types.size() < MaxAmmoTypes) {
+        reading.ammoType = &types.emplace_back();
+        return;
+    }
+    report(reading, "ERROR: " + reading.weapon.fileName + ": line " +
+                        std::to_string(lineOfOffset(reading.fileContent, reading.tree.offsetOf(reading.node->name))) +
+                        ": more than 255 ammunition types: left out");
+}
+
+using Weapon = WeaponRecord;
+using Ammo = AmmoTypeRecord;
+
+constexpr auto Rules = std::to_array<Rule>({
+    {we::Weapon, we::Comments, set<&Weapon::comments>},
+    {we::Weapon, we::Name, set<&Weapon::name>},
+    {we::Weapon, we::Type, setType},
+    {we::Dimensions, we::Calibre, set<&Weapon::calibre>},
+    {we::Dimensions, we::BarrelLength, set<&Weapon::barrelLength>},
+    {we::Dimensions, we::NumberBarrels, setNumberOfBarrels},
+    {we::Shoot, we::SoundShoot, set<&Weapon::shootSound>},
+    {we::Shoot, we::TracerImage, setImage<&Weapon::tracerImage>},
+    {we::Shoot, we::MuzzleFlash, setMuzzleFlash},
+    {we::Shoot, we::Range, set<&Weapon::range>},
+    {we::Shoot, we::Rof, set<&Weapon::rateOfFire>},
+    {we::Shoot, we::Reload, setWord<&Weapon::reload, reloadModeOf>},
+    {we::Magazine, we::Capacity, setCapacity},
+    {we::Magazine, we::SingleShot, setFlag<&Weapon::singleShot>},
+    {we::Magazine, we::SoundEjectClip, set<&Weapon::ejectClipSound>},
+    {we::Magazine, we::SoundReload, set<&Weapon::reloadSound>},
+    {we::Usage, we::Period, set<&Weapon::period>},
+    {we::Usage, we::Countries, set<&Weapon::countries>},
+    {we::Ammo, we::Type, addAmmoType},
+});
+
+/// For what stands in a `type` in an `ammo`.
+constexpr auto AmmoTypeRules = std::to_array<Rule>({
+    {we::Type, we::Flavour, setFlavour},
+    {we::Type, we::Era, setWord<&Ammo::era, heatEraOf>},
+    {we::Type, we::Speed, set<&Ammo::speed>},
+    {we::Type, we::Mass, set<&Ammo::mass>},
+    {we::Type, we::HE, set<&Ammo::highExplosive>},
+    {we::Type, we::ExplodeIn, set<&Ammo::explodeIn>},
+    {we::Type, we::Guided, setWord<&Ammo::guided, guidanceModeOf>},
+    {we::Type, we::SmokeTrail, setFlag<&Ammo::smokeTrail>},
+    {we::Type, we::ExplodeSound, set<&Ammo::explodeSound>},
+    {we::Type, we::TracerImage, setImage<&Ammo::tracerImage>},
+    {we::Type, we::Name, set<&Ammo::name>},
+});
+
+template <typename RuleTable>
+void applyRule(const RuleTable& rules, Reading& reading, std::string_view parent, const TagNode& node) {
+    for (const Rule& rule : rules) {
+        if (rule.element == node.name && rule.parent == parent) {
+            rule.apply(reading, node.text);
+            return;
+        }
+    }
+}
+
+} // namespace
+
+WeaponRecord readWeapon(std::string_view fileContent, std::string_view fileName, WeaponReadReport& report) {
+    WeaponRecord weapon;
+    weapon.fileName = fileName;
+    TagTree tree;
+    tree.parse(fileContent);
+    Reading reading{.weapon = weapon, .report = report, .fileContent = fileContent, .tree = tree};
+    const std::vector<TagNode>& nodes = tree.nodes();
+    for (std::size_t i = 1; i < nodes.size(); ++i) {
+        const TagNode& node = nodes[i];
+        const TagNode& parent = nodes[node.parent];
+        reading.node = &node;
+        const bool inAmmoType =
+            parent.name == we::Type && parent.parent != TagNode::None && nodes[parent.parent].name == we::Ammo;
+        if (inAmmoType) {
+            applyRule(AmmoTypeRules, reading, parent.name, node);
+        } else {
+            applyRule(Rules, reading, parent.name, node);
+        }
+    }
+    return weapon;
+}
+
+std::optional<WeaponRecord> readWeaponFile(const std::string& path, std::string_view fileName,
+                                           WeaponReadReport& report) {
+    std::string content;
+    if (!readWholeFile(path, content)) {
+        return std::nullopt;
+    }
+    return readWeapon(content, fileName, report);
+}
+
+std::optional<WeaponRecord> loadWeapon(std::string_view base, std::string_view fileName) {
+    const std::string path = dataFilePath(base, Category::Weapons, fileName);
+    WeaponReadReport report;
+    std::optional<WeaponRecord> weapon = readWeaponFile(path, fileName, report);
+    if (!weapon) {
+        showCouldNotLoad(path);
+    }
+    for (const std::string& line : report.diagnostics) {
+        debugLine(line);
+    }
+    for (const std::string& type : report.unknownTypes) {
+        showMessage({.text = "unknown <type> '" + type + "'", .caption = weapon->name, .icon = MessageIcon::Error});
+    }
+    return weapon;
+}
+
+} // namespace varrocade
