@@ -1,0 +1,66 @@
+#pragma once
+// The state of the running program: folders, mode, category, the open record, the drawing objects. It stands here
+// and nowhere else.
+
+#include "app/unit_display.h"
+#include "data/category.h"
+#include "data/unit_record.h"
+#include "mod/mod_settings.h"
+#include "platform/safe_save.h"
+#include "view/drawing_objects_win32.h"
+#include "view/picture_cache_win32.h"
+#include "weapons/weapon_record.h"
+
+#include <windows.h>
+
+#include <array>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace varrocade {
+
+struct Application {
+    HINSTANCE instance = nullptr;
+    HWND window = nullptr;
+    HMENU menu = nullptr;
+
+    std::string programFolder; ///< where the program was started, with a backslash at its end
+    std::string gameFolder;    ///< where the game itself is installed, or empty
+    bool modMode = false;
+    std::string modFolder; ///< keeps the last folder probed while mod mode is off
+    std::optional<ModSettings> modSettings;
+
+    Category category = Category::Vehicles;
+    std::array<std::string, CategoryCount> rememberedSelections;
+    std::optional<SquadRecord> openUnit;
+    std::optional<WeaponRecord> openWeapon;
+    std::vector<std::string> fileNames; ///< of the category, as the folder lists them
+    std::string typedAhead;             ///< what was typed into the list lately, and when
+    DWORD typedAheadTime = 0;
+    bool weaponPosChanged = false;
+    bool exhaustPosChanged = false;
+    bool showDestroyed = false;
+
+    DrawingObjects drawing;
+    PictureCache pictures;
+    BackupKeeper backups;
+    UnitDisplay display;
+};
+
+/// The one application.
+Application& application();
+
+/// The folder that data files are read from and written to: the mod's in mod mode, otherwise the program's.
+const std::string& baseFolder();
+
+/// Where pictures are looked for: the mod's folder before the program's.
+std::vector<std::string> imageBases();
+
+/// Whether a unit or a weapon is open.
+bool isRecordOpen();
+
+/// Drops the open record and with it the unsaved positions.
+void closeRecord();
+
+} // namespace varrocade

@@ -1,0 +1,149 @@
+#include "app/commands.h"
+
+#include "app/application.h"
+#include "app/file_commands.h"
+#include "app/file_list.h"
+#include "app/main_window.h"
+#include "app/mod_mode.h"
+#include "app/open_record.h"
+#include "app/stubs.h"
+#include "editors/form_port_win32.h"
+#include "resources/resource.h"
+
+#include <algorithm>
+#include <array>
+
+namespace varrocade {
+
+namespace {
+
+struct Command {
+    int id;
+    void (*run)();
+    bool (*isEnabled)();
+};
+
+bool always() {
+    return true;
+}
+
+bool inModMode() {
+    return application().modMode;
+}
+
+bool isVehicleOpen() {
+    return application().category == Category::Vehicles && application().openUnit.has_value();
+}
+
+bool canDuplicate() {
+    return isRecordOpen() && !application().fileNames.empty();
+}
+
+/// The open record's file is the one that is selected in the list.
+bool isSelectionOpen() {
+    return isRecordOpen() && !selectedEntry().empty();
+}
+
+void exitProgram() {
+    SendMessageA(application().window, WM_CLOSE, 0, 0);
+}
+
+void toggleDestroyed() {
+    Application& app = application();
+    app.showDestroyed = !app.showDestroyed;
+    CheckMenuItem(app.menu, IDM_SHOW_DESTROYED, MF_BYCOMMAND | (app.showDestroyed ? MF_CHECKED : MF_UNCHECKED));
+    displayChanged();
+    redrawNow();
+}
+
+void findInList() {
+    HWND filter = GetDlgItem(application().window, IDC_FILTER);
+    SetFocus(filter);
+    SendMessageA(filter, EM_SETSEL, 0, -1);
+}
+
+void refreshFiles() {
+    application().pictures.clear();
+    SendMessageA(application().window, RefreshListMessage, 0, 0);
+    updateButtons();
+    displayChanged();
+    redrawNow();
+}
+
+INT_PTR CALLBACK aboutProcedure(HWND dialog, UINT message, WPARAM parameter, LPARAM) {
+    if (message == WM_COMMAND && (LOWORD(parameter) == IDOK || LOWORD(parameter) == IDCANCEL)) {
+        EndDialog(dialog, 0);
+        return TRUE;
+    }
+    return message == WM_INITDIALOG ? TRUE : FALSE;
+}
+
+void showAbout() {
+    runDialog(application().window, IDD_ABOUT, aboutProcedure, nullptr);
+}
+
+template <Category Chosen>
+void choose() {
+    chooseCategory(Chosen);
+}
+
+constexpr auto Commands = std::to_array<Command>({
+    {IDC_VEHICLES, choose<Category::Vehicles>, always},
+    {IDC_AT_GUNS, choose<Category::AtGuns>, always},
+    {IDC_INFANTRY, choose<Category::Infantry>, always},
+    {IDC_AIRCRAFT, choose<Category::Aircraft>, always},
+    {IDC_WEAPONS, choose<Category::Weapons>, always},
+    {IDC_NEW, newFile, always},
+    {IDC_DUPLICATE, duplicateFile, canDuplicate},
+    {IDC_RENAME, renameFile, isSelectionOpen},
+    {IDC_DELETE, deleteFile, isSelectionOpen},
+    {IDC_EDIT_DETAILS, editOpenRecord, canEditOpenRecord},
+    {IDM_EXIT, exitProgram, always},
+    {IDM_MOD_MODE, switchModMode, always},
+    {IDM_EDIT_MOD, editModSettings, inModMode},
+    {IDM_PENETRATION, penetrationCalculations, always},
+    {IDM_REDUCE_IMAGES, reduceImageSizes, isVehicleOpen},
+    {IDM_GENERATE_THUMBNAILS, generateThumbnails, always},
+    {IDM_PNG_USAGE, generatePngUsage, always},
+    {IDM_SPREADSHEETS, generateSpreadsheets, always},
+    {IDM_CHECK_DUPLICATES, checkDuplicateFiles, inModMode},
+    {IDM_CHECK_UNUSED, checkUnusedFiles, inModMode},
+    {IDM_CHECK_VOICES, checkVoiceFiles, inModMode},
+    {IDM_SHOW_DESTROYED, toggleDestroyed, always},
+    {IDM_ABOUT, showAbout, always},
+    {IDM_FIND, findInList, always},
+    {IDM_REFRESH, refreshFiles, always},
+    {IDM_RENAME, renameFile, isSelectionOpen},
+    {IDM_DELETE, deleteFile, isSelectionOpen},
+});
+
+} // namespace
+
+bool runCommand(int id) {
+    const auto command =
+        std::find_if(Commands.begin(), Commands.end(), [id](const Command& row) { return row.id == id; });
+    if (command == Commands.end() || !command->isEnabled()) {
+        return false;
+    }
+    command->run();
+    return true;
+}
+
+void updateMenu(HMENU menu) {
+    for (const Command& command : Commands) {
+        EnableMenuItem(menu, static_cast<UINT>(command.id),
+                       MF_BYCOMMAND | (command.isEnabled() ? MF_ENABLED : MF_GRAYED));
+    }
+}
+
+void updateButtons() {
+    for (const Command& command : Commands) {
+        HWND button = GetDlgItem(application().window, command.id);
+        if (button != nullptr) {
+            EnableWindow(button, command.isEnabled() ? TRUE : FALSE);
+        }
+    }
+    ShowWindow(GetDlgItem(application().window, IDC_EDIT_DETAILS), canEditOpenRecord() ? SW_SHOWNA : SW_HIDE);
+}
+
+} // namespace varrocade

@@ -1,0 +1,5 @@
+#include "app/start_application.h"
+
+int WINAPI WinMain(HINSTANCE instance, HINSTANCE, LPSTR, int showCommand) {
+    return varrocade::startApplication(instance, showCommand);
+}

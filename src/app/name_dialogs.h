@@ -1,0 +1,32 @@
+#pragma once
+// The small dialogs that ask for a file's name.
+
+#include <windows.h>
+
+#include <optional>
+#include <string>
+
+namespace varrocade {
+
+enum class NameDialogKind { NewSquad, NewWeapon, Duplicate, Rename };
+
+struct NewFileChoice {
+    std::string name;
+    std::string nationality; ///< "NATIONALITY_...", of a new squad only
+};
+
+/// Why a choice is refused; an empty text when the reason has been shown already. Nothing: it is taken.
+using NameCheck = std::optional<std::string>;
+
+struct NameDialog {
+    HWND owner;
+    NameDialogKind kind;
+    /// Does what the dialog is for, or says why not; the dialog then stays open.
+    NameCheck (*take)(const NewFileChoice& choice);
+    NewFileChoice choice = {}; ///< what the dialog begins with, and what was chosen
+};
+
+/// Runs the dialog; false when the user cancelled it.
+bool askForName(NameDialog& dialog);
+
+} // namespace varrocade

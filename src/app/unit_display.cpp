@@ -1,0 +1,96 @@
+#include "app/unit_display.h"
+
+#include "app/application.h"
+#include "app/window_layout.h"
+
+#include <algorithm>
+
+namespace varrocade {
+
+namespace {
+
+RECT asRect(const Place& place) {
+    return {place.x, place.y, place.x + place.width, place.y + place.height};
+}
+
+void composeDisplay(UnitDisplay& display) {
+    Application& app = application();
+    display.isStale = false;
+    display.picture.reset();
+    display.drawing = {};
+    display.hasDrawing = false;
+    display.sheet = {};
+    if (!app.openUnit) {
+        return;
+    }
+    if (app.openUnit->vehicle) {
+        const DrawOptions options{.bases = imageBases(), .showDestroyed = app.showDestroyed};
+        display.drawing = drawVehicle(*app.openUnit->vehicle, options, app.pictures);
+        display.hasDrawing = true;
+    }
+    display.sheet = unitSheet(*app.openUnit, display.drawing.missingPictures);
+}
+
+/// The drawing is painted once for each state and size; painting again only copies it.
+void paintPicture(HDC device, const RECT& area, UnitDisplay& display) {
+    const Application& app = application();
+    const SIZE size{area.right - area.left, area.bottom - area.top};
+    if (size.cx <= 0 || size.cy <= 0) {
+        return;
+    }
+    if (!display.picture || display.pictureSize.cx != size.cx || display.pictureSize.cy != size.cy) {
+        display.picture = std::make_unique<MemoryBitmap>(device, size.cx, size.cy);
+        display.pictureSize = size;
+        const RECT whole{0, 0, size.cx, size.cy};
+        if (display.hasDrawing) {
+            paintDrawing(display.picture->device(), whole, display.drawing, app.drawing, application().pictures);
+        } else {
+            FillRect(display.picture->device(), &whole, app.drawing.beigeBrush.get());
+        }
+    }
+    BitBlt(device, area.left, area.top, size.cx, size.cy, display.picture->device(), 0, 0, SRCCOPY);
+}
+
+void paintHint(HDC device, const RECT& area, const DrawingObjects& objects) {
+    constexpr char hint[] = "Choose a file in the list.";
+    FillRect(device, &area, objects.beigeBrush.get());
+    const Selection font(device, objects.normalFont.get());
+    SetBkMode(device, TRANSPARENT);
+    RECT place = area;
+    DrawTextA(device, hint, -1, &place, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
+}
+
+} // namespace
+
+void paintDisplay(HDC device, const RECT& client) {
+    Application& app = application();
+    UnitDisplay& display = app.display;
+    if (display.isStale) {
+        composeDisplay(display);
+    }
+    const RECT picture = asRect(picturePlace(client.right, client.bottom, app.drawing.dpi));
+    const RECT sheet = asRect(sheetPlace(client.right, client.bottom, app.drawing.dpi));
+    paintPicture(device, picture, display);
+    const int width = sheet.right - sheet.left;
+    if (width <= 0 || sheet.bottom <= 0) {
+        return;
+    }
+    const MemoryBitmap buffer(device, width, sheet.bottom);
+    const RECT whole{0, 0, width, sheet.bottom};
+    if (app.openUnit) {
+        const SheetOptions options{.bases = imageBases(), .scroll = display.scroll};
+        display.sheetHeight =
+            paintSheet(buffer.device(), whole, display.sheet, options, app.drawing, app.pictures);
+    } else {
+        paintHint(buffer.device(), whole, app.drawing);
+    }
+    BitBlt(device, sheet.left, sheet.top, width, sheet.bottom, buffer.device(), 0, 0, SRCCOPY);
+}
+
+void scrollSheet(int pixels, int visibleHeight) {
+    UnitDisplay& display = application().display;
+    const int furthest = std::max(0, display.sheetHeight - visibleHeight);
+    display.scroll = std::clamp(display.scroll + pixels, 0, furthest);
+}
+
+} // namespace varrocade

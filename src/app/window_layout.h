@@ -1,0 +1,58 @@
+#pragma once
+// Where things stand in the main window. All lengths are pixels of a 96 dpi screen unless said otherwise.
+
+#include <array>
+#include <cstddef>
+
+namespace varrocade {
+
+/// A rectangle by its corner and size.
+struct Place {
+    int x = 0;
+    int y = 0;
+    int width = 0;
+    int height = 0;
+    bool operator==(const Place&) const = default;
+};
+
+/// The band of the client area that holds the list and the data sheet; the rest is the picture area.
+inline constexpr int BandWidth = 966;
+/// The list with its buttons takes this much of the band.
+inline constexpr int ListWidth = 358;
+/// The picture area's aspect: width to height of the client area.
+inline constexpr int PictureAspectWidth = 350;
+inline constexpr int PictureAspectHeight = 650;
+
+/// The system's measures that the window's first size is made of, in pixels of the screen.
+struct FrameMetrics {
+    int frame = 0;   ///< width of the sizing frame
+    int caption = 0; ///< height of the caption
+    int menu = 0;    ///< height of the menu bar
+};
+
+/// The window at start: as high as the work area, as wide as band and picture area need, centred.
+/// `scale` is the screen's dots per inch.
+Place firstWindowPlace(int workWidth, int workHeight, const FrameMetrics& metrics, int dpi);
+
+/// The list box and the filter above it, for a client area of `height`.
+Place fileListPlace(int height);
+Place filterPlace();
+
+inline constexpr std::size_t FileButtonCount = 4;
+/// The four file buttons below the list, in the order New, Duplicate, Rename, Delete.
+std::array<Place, FileButtonCount> fileButtonPlaces(int height);
+
+inline constexpr std::size_t CategoryButtonCount = 5;
+inline constexpr std::array<Place, CategoryButtonCount> CategoryButtonPlaces = {{
+    {7, 4, 66, 36},
+    {76, 4, 66, 36},
+    {145, 4, 66, 36},
+    {215, 4, 66, 36},
+    {284, 4, 66, 36},
+}};
+
+/// The picture and the data sheet, in the pixels of the screen, for a client area of such pixels.
+Place picturePlace(int width, int height, int dpi);
+Place sheetPlace(int width, int height, int dpi);
+
+} // namespace varrocade

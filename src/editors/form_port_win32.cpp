@@ -1,0 +1,78 @@
+#include "editors/form_port_win32.h"
+
+#include <array>
+
+namespace varrocade {
+
+namespace {
+
+/// Whether a control is a drop-down list, whose messages are others than an edit's.
+bool isComboBox(HWND control) {
+    std::array<char, 16> name{};
+    GetClassNameA(control, name.data(), static_cast<int>(name.size()));
+    return lstrcmpiA(name.data(), "ComboBox") == 0;
+}
+
+/// Records hold LF-free texts on one line; edits of several lines show CR LF.
+std::string onOneLine(std::string text) {
+    std::string line;
+    for (const char c : text) {
+        if (c == '\n') {
+            line += ' ';
+        } else if (c != '\r') {
+            line += c;
+        }
+    }
+    return line;
+}
+
+} // namespace
+
+std::string DialogPort::text(int control) {
+    HWND window = GetDlgItem(dialog_, control);
+    std::string text(static_cast<std::size_t>(GetWindowTextLengthA(window)) + 1, '\0');
+    text.resize(static_cast<std::size_t>(GetWindowTextA(window, text.data(), static_cast<int>(text.size()))));
+    return onOneLine(std::move(text));
+}
+
+void DialogPort::setText(int control, std::string_view text) {
+    SetWindowTextA(GetDlgItem(dialog_, control), std::string(text).c_str());
+}
+
+bool DialogPort::isChecked(int control) {
+    return IsDlgButtonChecked(dialog_, control) == BST_CHECKED;
+}
+
+void DialogPort::setChecked(int control, bool checked) {
+    CheckDlgButton(dialog_, control, checked ? BST_CHECKED : BST_UNCHECKED);
+}
+
+void DialogPort::setEnabled(int control, bool enabled) {
+    EnableWindow(GetDlgItem(dialog_, control), enabled ? TRUE : FALSE);
+}
+
+void DialogPort::setChoices(int control, std::span<const std::string> choices) {
+    HWND window = GetDlgItem(dialog_, control);
+    SendMessageA(window, CB_RESETCONTENT, 0, 0);
+    for (const std::string& choice : choices) {
+        SendMessageA(window, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(choice.c_str()));
+    }
+}
+
+void DialogPort::setLimit(int control, std::size_t characters) {
+    HWND window = GetDlgItem(dialog_, control);
+    SendMessageA(window, isComboBox(window) ? CB_LIMITTEXT : EM_LIMITTEXT, characters, 0);
+}
+
+void DialogPort::focus(int control) {
+    // As the dialog manager does it: the default button follows, and an edit's text is selected.
+    SendMessageA(dialog_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(GetDlgItem(dialog_, control)), TRUE);
+}
+
+INT_PTR runDialog(HWND owner, int dialogTemplate, DLGPROC procedure, void* context) {
+    const INT_PTR result = DialogBoxParamA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(dialogTemplate), owner, procedure,
+                                           reinterpret_cast<LPARAM>(context));
+    return result > 0 ? result : 0;
+}
+
+} // namespace varrocade

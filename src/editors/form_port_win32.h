@@ -1,0 +1,41 @@
+#pragma once
+
+#include "editors/form.h"
+
+#include <windows.h>
+
+namespace varrocade {
+
+/// The controls of a real dialog.
+class DialogPort : public FormPort {
+public:
+    explicit DialogPort(HWND dialog) : dialog_(dialog) {}
+
+    std::string text(int control) override;
+    void setText(int control, std::string_view text) override;
+    bool isChecked(int control) override;
+    void setChecked(int control, bool checked) override;
+    void setEnabled(int control, bool enabled) override;
+    void setChoices(int control, std::span<const std::string> choices) override;
+    void setLimit(int control, std::size_t characters) override;
+    void focus(int control) override;
+
+private:
+    HWND dialog_;
+};
+
+/// Runs a modal dialog whose procedure finds `context` as its user data from WM_INITDIALOG on.
+/// Returns what the dialog ended with, 0 when it could not be shown.
+INT_PTR runDialog(HWND owner, int dialogTemplate, DLGPROC procedure, void* context);
+
+/// The context that a dialog was opened with; null before WM_INITDIALOG. The procedure passes its parameters.
+template <typename Context>
+Context* dialogContext(HWND dialog, UINT message, LPARAM parameter) {
+    if (message == WM_INITDIALOG) {
+        SetWindowLongPtrA(dialog, DWLP_USER, parameter);
+    }
+    // The system keeps an integer for the dialog.
+    return reinterpret_cast<Context*>(GetWindowLongPtrA(dialog, DWLP_USER));
+}
+
+} // namespace varrocade

@@ -1,0 +1,255 @@
+// The "Details" dialog.
+
+#include "editors/vehicle_editor.h"
+
+#include "data/enumerations.h"
+#include "data/image_names.h"
+#include "editors/component_list.h"
+#include "editors/form_port_win32.h"
+#include "editors/image_choices.h"
+#include "editors/vehicle_form.h"
+#include "platform/messages.h"
+#include "resources/resource.h"
+#include "view/data_sheet.h"
+#include "view/image_folders.h"
+
+#include <array>
+
+namespace varrocade {
+
+namespace {
+
+// Private messages of the dialog.
+constexpr UINT RefreshComponents = WM_APP + 1;
+constexpr UINT UpdateMoveButtons = WM_APP + 2;
+
+// ---- "Add New Component"
+
+struct NewComponent {
+    std::string_view name;
+    ComponentKind kind;
+};
+
+constexpr auto NewComponents = std::to_array<NewComponent>({
+    {"Superstructure", ComponentKind::Superstructure},
+    {"Fixed Weapon", ComponentKind::FixedWeapon},
+    {"Turret", ComponentKind::Turret},
+});
+
+INT_PTR CALLBACK addComponentProcedure(HWND dialog, UINT message, WPARAM parameter, LPARAM pointer) {
+    auto* context = dialogContext<VehicleEditorContext>(dialog, message, pointer);
+    if (message == WM_INITDIALOG) {
+        std::vector<std::string> names;
+        for (const NewComponent& row : NewComponents) {
+            names.emplace_back(row.name);
+        }
+        DialogPort(dialog).setChoices(IDC_COMPONENT_KIND, names);
+        SendDlgItemMessageA(dialog, IDC_COMPONENT_KIND, CB_SETCURSEL, 0, 0);
+        return TRUE;
+    }
+    if (message == WM_COMMAND && LOWORD(parameter) == IDOK) {
+        const LRESULT chosen = SendDlgItemMessageA(dialog, IDC_COMPONENT_KIND, CB_GETCURSEL, 0, 0);
+        if (chosen >= 0 && static_cast<std::size_t>(chosen) < NewComponents.size()) {
+            addComponent(*context->record.vehicle, NewComponents[static_cast<std::size_t>(chosen)].kind);
+            context->redraw();
+            EndDialog(dialog, 1);
+        }
+        return TRUE;
+    }
+    if (message == WM_COMMAND && LOWORD(parameter) == IDCANCEL) {
+        EndDialog(dialog, 0);
+        return TRUE;
+    }
+    return FALSE;
+}
+
+// ---- the component list
+
+std::optional<std::size_t> selectedComponent(HWND dialog, const VehicleRecord& vehicle) {
+    const LRESULT selected = SendDlgItemMessageA(dialog, IDC_COMPONENTS, LB_GETCURSEL, 0, 0);
+    if (selected < 0 || static_cast<std::size_t>(selected) >= vehicle.components.size()) {
+        return std::nullopt;
+    }
+    return static_cast<std::size_t>(selected);
+}
+
+void selectComponent(HWND dialog, std::size_t index) {
+    SendDlgItemMessageA(dialog, IDC_COMPONENTS, LB_SETCURSEL, index, 0);
+    SendMessageA(dialog, UpdateMoveButtons, 0, 0);
+}
+
+void refreshComponents(HWND dialog, const VehicleRecord& vehicle) {
+    HWND list = GetDlgItem(dialog, IDC_COMPONENTS);
+    SendMessageA(list, LB_RESETCONTENT, 0, 0);
+    for (std::size_t i = 0; i < vehicle.components.size(); ++i) {
+        SendMessageA(list, LB_ADDSTRING, 0,
+                     reinterpret_cast<LPARAM>(componentLine(i + 1, vehicle.components[i]).c_str()));
+    }
+    SendMessageA(dialog, UpdateMoveButtons, 0, 0);
+}
+
+void updateMoveButtons(HWND dialog, const VehicleRecord& vehicle) {
+    const auto selected = selectedComponent(dialog, vehicle);
+    DialogPort port(dialog);
+    port.setEnabled(IDC_UP, selected && canMoveUp(vehicle, *selected));
+    port.setEnabled(IDC_DOWN, selected && canMoveDown(vehicle, *selected));
+    port.setEnabled(IDC_REMOVE, selected.has_value());
+}
+
+void addToList(HWND dialog, VehicleEditorContext& context) {
+    const std::vector<ComponentRecord>& components = context.record.vehicle->components;
+    if (components.size() >= MaxSquadMembers) {
+        showMessage({.text = std::string(TooManyComponentsText),
+                     .caption = std::string(SquadFullCaption),
+                     .icon = MessageIcon::Error});
+        return;
+    }
+    if (runDialog(dialog, IDD_ADD_COMPONENT, addComponentProcedure, &context) != 0) {
+        SendMessageA(dialog, RefreshComponents, 0, 0);
+        selectComponent(dialog, components.size() - 1);
+    }
+}
+
+void deleteFromList(HWND dialog, VehicleEditorContext& context) {
+    std::vector<ComponentRecord>& components = context.record.vehicle->components;
+    const auto selected = selectedComponent(dialog, *context.record.vehicle);
+    if (!selected) {
+        return;
+    }
+    if (components[*selected].kind == ComponentKind::Hull) {
+        showMessage({.text = std::string(DeleteHullText),
+                     .caption = std::string(DeleteComponentCaption),
+                     .icon = MessageIcon::Information});
+        return;
+    }
+    const Answer answer = showMessage({.text = std::string(DeleteComponentText),
+                                       .caption = std::string(DeleteComponentCaption),
+                                       .buttons = MessageButtons::YesNo,
+                                       .icon = MessageIcon::Question});
+    if (answer != Answer::Yes) {
+        return;
+    }
+    components.erase(components.begin() + static_cast<std::ptrdiff_t>(*selected));
+    context.redraw();
+    SendMessageA(dialog, RefreshComponents, 0, 0);
+    if (!components.empty()) {
+        selectComponent(dialog, std::min(*selected, components.size() - 1));
+    }
+}
+
+void moveInList(HWND dialog, VehicleEditorContext& context, bool upwards) {
+    VehicleRecord& vehicle = *context.record.vehicle;
+    const auto selected = selectedComponent(dialog, vehicle);
+    if (!selected || !(upwards ? canMoveUp(vehicle, *selected) : canMoveDown(vehicle, *selected))) {
+        return;
+    }
+    const std::size_t other = upwards ? *selected - 1 : *selected + 1;
+    std::swap(vehicle.components[*selected], vehicle.components[other]);
+    context.redraw();
+    SendMessageA(dialog, RefreshComponents, 0, 0);
+    selectComponent(dialog, other);
+}
+
+// ---- the dialog
+
+/// A drop-down list that offers pictures.
+struct ImageList {
+    int control;
+    std::array<ImageSource, 2> sources;
+};
+
+constexpr auto ImageLists = std::to_array<ImageList>({
+    {IDC_PROFILE_IMAGE, {{{image_folder::Profiles}, {image_folder::Units, "Profile-"}}}},
+    {IDC_UNIFORM_PROFILE, {{{image_folder::Units, "Profile-"}, {image_folder::Uniforms, "uniform_"}}}},
+    {IDC_UNIFORM_GAME, {{{image_folder::Uniforms, "uniform_game"}, {image_folder::Uniforms, "uniform_"}}}},
+    {IDC_UNIFORM_RANKS, {{{image_folder::Uniforms, "uniform_ranks"}, {image_folder::Uniforms, "uniform_"}}}},
+    {IDC_UNIFORM_NAME, {{{image_folder::Uniforms}, {image_folder::Units, "Profile-"}}}},
+});
+
+std::vector<std::string> strings(std::span<const std::string_view> names) {
+    return {names.begin(), names.end()};
+}
+
+void fillDialog(HWND dialog, const VehicleEditorContext& context) {
+    DialogPort port(dialog);
+    port.setChoices(IDC_NATIONALITY, strings(nationalityNames()));
+    port.setChoices(IDC_TYPE, strings(unitTypeNames()));
+    for (const ImageList& list : ImageLists) {
+        std::vector<std::string> choices = imageChoices(context.imageBases, list.sources);
+        choices.insert(choices.begin(), std::string(DefaultImageName));
+        port.setChoices(list.control, choices);
+    }
+    fillVehicleForm(port, context.record);
+    refreshComponents(dialog, *context.record.vehicle);
+}
+
+void saveDialog(HWND dialog, VehicleEditorContext& context) {
+    DialogPort port(dialog);
+    if (const auto error = readVehicleForm(port, context.record)) {
+        port.focus(error->control);
+        showMessage({.text = error->message, .caption = "Details", .icon = MessageIcon::Information});
+        return;
+    }
+    EndDialog(dialog, 1);
+}
+
+INT_PTR handleCommand(HWND dialog, VehicleEditorContext& context, WORD control, WORD notification) {
+    switch (control) {
+    case IDOK:
+        saveDialog(dialog, context);
+        return TRUE;
+    case IDCANCEL:
+        EndDialog(dialog, 0);
+        return TRUE;
+    case IDC_UNIFORM_NEW_METHOD:
+    case IDC_UNIFORM_OLD_METHOD: {
+        DialogPort port(dialog);
+        enableUniformLists(port);
+        return TRUE;
+    }
+    case IDC_ADD:
+        addToList(dialog, context);
+        return TRUE;
+    case IDC_REMOVE:
+        deleteFromList(dialog, context);
+        return TRUE;
+    case IDC_UP:
+    case IDC_DOWN:
+        moveInList(dialog, context, control == IDC_UP);
+        return TRUE;
+    case IDC_COMPONENTS:
+        if (notification == LBN_SELCHANGE) {
+            SendMessageA(dialog, UpdateMoveButtons, 0, 0);
+        }
+        return TRUE;
+    default:
+        return FALSE;
+    }
+}
+
+INT_PTR CALLBACK detailsProcedure(HWND dialog, UINT message, WPARAM parameter, LPARAM pointer) {
+    auto* context = dialogContext<VehicleEditorContext>(dialog, message, pointer);
+    switch (message) {
+    case WM_INITDIALOG:
+        fillDialog(dialog, *context);
+        return TRUE;
+    case RefreshComponents:
+        refreshComponents(dialog, *context->record.vehicle);
+        return TRUE;
+    case UpdateMoveButtons:
+        updateMoveButtons(dialog, *context->record.vehicle);
+        return TRUE;
+    case WM_COMMAND:
+        return handleCommand(dialog, *context, LOWORD(parameter), HIWORD(parameter));
+    default:
+        return FALSE;
+    }
+}
+
+} // namespace
+
+bool editVehicle(VehicleEditorContext context) {
+    return runDialog(context.owner, IDD_DETAILS, detailsProcedure, &context) != 0;
+}
+
+} // namespace varrocade

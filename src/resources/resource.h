@@ -1,0 +1,89 @@
+#pragma once
+// The numbers of the program's resources and controls. Macros, since the resource compiler reads this file too.
+// NOLINTBEGIN(cppcoreguidelines-macro-usage)
+
+#define IDS_TITLE 103
+#define IDS_WINDOW_CLASS 109
+#define IDI_PROGRAM 107
+#define IDI_PROGRAM_SMALL 108
+#define IDR_MENU 109
+#define IDR_ACCELERATORS 109
+#define IDB_WEAPON_MARK 151
+#define IDB_EXHAUST_MARK 165
+#define IDB_DISCHARGER_MARK 183
+
+#define IDD_ABOUT 103
+#define IDD_DUPLICATE 147
+#define IDD_RENAME 164
+#define IDD_PENETRATION 177
+#define IDD_NEW_SQUAD 178
+#define IDD_NEW_WEAPON 184
+#define IDD_EDIT_MOD 190
+#define IDD_CHECK_DUPLICATES 204
+#define IDD_CHECK_UNUSED 206
+#define IDD_CHECK_VOICES 210
+#define IDD_DETAILS 230
+#define IDD_ADD_COMPONENT 231
+
+// The main window's controls.
+#define IDC_FILE_LIST 1001
+#define IDC_NEW 1002
+#define IDC_DUPLICATE 1003
+#define IDC_RENAME 1004
+#define IDC_DELETE 1005
+#define IDC_VEHICLES 1006
+#define IDC_AT_GUNS 1007
+#define IDC_INFANTRY 1008
+#define IDC_AIRCRAFT 1009
+#define IDC_WEAPONS 1010
+#define IDC_FILTER 1140
+#define IDC_EDIT_DETAILS 1141
+
+// Menu commands.
+#define IDM_ABOUT 104
+#define IDM_EXIT 105
+#define IDM_GENERATE_THUMBNAILS 32772
+#define IDM_PENETRATION 32773
+#define IDM_MOD_MODE 32777
+#define IDM_EDIT_MOD 32778
+#define IDM_PNG_USAGE 32779
+#define IDM_SPREADSHEETS 32780
+#define IDM_CHECK_DUPLICATES 32782
+#define IDM_CHECK_UNUSED 32783
+#define IDM_CHECK_VOICES 32785
+#define IDM_SHOW_DESTROYED 32786
+#define IDM_REDUCE_IMAGES 32789
+#define IDM_FIND 32800
+#define IDM_REFRESH 32801
+#define IDM_RENAME 32802
+#define IDM_DELETE 32803
+
+// Controls of the "Details" dialog.
+#define IDC_NATIONALITY 1200
+#define IDC_TYPE 1201
+#define IDC_LONG_NAME 1202
+#define IDC_SHORT_NAME 1203
+#define IDC_DESCRIPTION 1204
+#define IDC_WEIGHT 1205
+#define IDC_PROFILE_IMAGE 1206
+#define IDC_UNIFORM_PROFILE 1207
+#define IDC_UNIFORM_GAME 1208
+#define IDC_UNIFORM_RANKS 1209
+#define IDC_UNIFORM_NAME 1210
+#define IDC_UNIFORM_NEW_METHOD 1211
+#define IDC_UNIFORM_OLD_METHOD 1212
+#define IDC_LANGUAGE 1213
+#define IDC_MOUNT_INFANTRY 1214
+#define IDC_AMPHIBIOUS 1215
+#define IDC_COMPONENTS 1216
+#define IDC_ADD 1217
+#define IDC_REMOVE 1218
+#define IDC_UP 1219
+#define IDC_DOWN 1220
+#define IDC_COMPONENT_KIND 1221
+
+// Controls of the dialogs that ask for a name.
+#define IDC_NEW_NAME 1230
+#define IDC_NEW_NATIONALITY 1231
+
+// NOLINTEND(cppcoreguidelines-macro-usage)

@@ -1,0 +1,269 @@
+#include "view/data_sheet.h"
+
+#include "data/enumerations.h"
+#include "view/sheet_text.h"
+
+#include <algorithm>
+#include <array>
+#include <span>
+#include <utility>
+
+namespace varrocade {
+
+namespace {
+
+constexpr std::array<std::string_view, 4> KindNames = {"Hull", "Superstructure", "Turret", "Fixed Weapon"};
+
+std::string_view kindName(ComponentKind kind) {
+    return KindNames[static_cast<std::size_t>(kind)];
+}
+
+std::string degrees(std::int32_t value) {
+    return std::to_string(value) + "\xB0";
+}
+
+std::string plateText(const ArmourPlate& plate) {
+    return plate.angle == 0 ? std::to_string(plate.thickness) : std::to_string(plate.thickness) + " @ " + degrees(plate.angle);
+}
+
+std::string optionalThickness(std::int32_t value) {
+    return value < 0 ? "-" : std::to_string(value);
+}
+
+SheetSection figuresSection(const SquadRecord& record) {
+    const VehicleRecord& vehicle = *record.vehicle;
+    SheetSection section{.heading = {"Vehicle"}};
+    section.pairs.push_back({"Type", displayName(record.type, "TYPE_")});
+    section.pairs.push_back({"Weight", grouped(vehicle.weight) + " kg"});
+    for (const ComponentRecord& component : vehicle.components) {
+        if (component.kind == ComponentKind::Hull) {
+            section.pairs.push_back({"Length", centimetres(component.length)});
+            section.pairs.push_back({"Width", centimetres(component.width)});
+            section.pairs.push_back({"Hull height", centimetres(component.height)});
+            break;
+        }
+    }
+    std::size_t crew = 0;
+    for (const ComponentRecord& component : vehicle.components) {
+        crew += component.crew.size();
+    }
+    section.pairs.push_back({"Crew", std::to_string(crew)});
+    section.pairs.push_back({"Carries infantry", yesNo(vehicle.canMountInfantry)});
+    section.pairs.push_back({"Amphibious", yesNo(vehicle.amphibious)});
+    return section;
+}
+
+SheetSection driveSection(const VehicleRecord& vehicle) {
+    constexpr std::array<std::string_view, 3> mounts = {"rear", "middle", "front"};
+    SheetSection section{.heading = {"Drive"}};
+    section.pairs.push_back({"Engine", vehicle.engineName.str()});
+    section.pairs.push_back({"Power", std::to_string(vehicle.horsepower) + " hp"});
+    section.pairs.push_back({"Power to weight", powerToWeight(vehicle.horsepower, vehicle.weight)});
+    section.pairs.push_back({"Mounted", std::string(mounts[static_cast<std::size_t>(vehicle.engineMount)])});
+    section.pairs.push_back({"Reliability", displayName(vehicle.reliability, "RELIABILITY_")});
+    section.pairs.push_back({"Revolutions", std::to_string(vehicle.idleRevolutions) + " to " +
+                                                std::to_string(vehicle.revolutionLimit) + " rpm"});
+    section.pairs.push_back({"Gears", std::to_string(vehicle.forwardGears) + " forward, " +
+                                          std::to_string(vehicle.reverseGears) + " reverse"});
+    section.pairs.push_back({"Steering", displayName(vehicle.steering, "STEERING_")});
+    section.pairs.push_back({"Exhaust pipes", std::to_string(vehicle.exhaustPipes.size())});
+    section.pairs.push_back({"Smoke screen", yesNo(vehicle.smokeScreen)});
+    return section;
+}
+
+SheetSection armourSection(const VehicleRecord& vehicle) {
+    SheetSection section{.heading = {"Armour (mm @ angle from the vertical)"}};
+    SheetTable table;
+    table.rows.push_back({"", "Upper front", "Lower front", "Upper side", "Lower side", "Upper rear", "Lower rear",
+                          "Top", "Bottom", "Mantlet"});
+    const auto sides = [](const ArmourPlate& left, const ArmourPlate& right) {
+        return left == right ? plateText(left) : plateText(left) + " / " + plateText(right);
+    };
+    for (std::size_t i = 0; i < vehicle.components.size(); ++i) {
+        const ComponentRecord& component = vehicle.components[i];
+        // The files have no place for a fixed weapon's armour.
+        if (component.kind == ComponentKind::FixedWeapon) {
+            continue;
+        }
+        const ArmourRecord& armour = component.armour;
+        table.rows.push_back({std::to_string(i + 1) + ". " + std::string(kindName(component.kind)),
+                              plateText(armour.upperFront), plateText(armour.lowerFront),
+                              sides(armour.upperLeft, armour.upperRight), sides(armour.lowerLeft, armour.lowerRight),
+                              plateText(armour.upperRear), plateText(armour.lowerRear), std::to_string(armour.top),
+                              optionalThickness(armour.bottom), optionalThickness(armour.mantlet)});
+        const std::array<std::pair<std::string_view, std::int32_t>, 3> spaced = {
+            {{"front", armour.frontSpaced}, {"side", armour.sideSpaced}, {"rear", armour.rearSpaced}}};
+        std::string text;
+        for (const auto& [where, thickness] : spaced) {
+            if (thickness > 0) {
+                text += (text.empty() ? "" : ", ") + std::string(where) + " " + std::to_string(thickness) + " mm";
+            }
+        }
+        if (!text.empty()) {
+            section.notes.push_back({std::string(kindName(component.kind)) + ", spaced armour: " + text + "."});
+        }
+    }
+    section.tables.push_back(std::move(table));
+    return section;
+}
+
+std::string ammoText(const AmmoLoadRecord& ammo) {
+    std::string text = grouped(ammo.rounds);
+    if (!ammo.flavour.empty()) {
+        text += " " + flavourWord(ammo.flavour);
+    }
+    return text;
+}
+
+/// "40 APCBC, 39 HE" for the weapon; ammunition is carried for a weapon type, not for one piece.
+std::string ammoFor(std::span<const AmmoLoadRecord> loads, std::string_view weaponType) {
+    std::string text;
+    for (const AmmoLoadRecord& ammo : loads) {
+        if (ammo.weaponType == weaponType) {
+            text += (text.empty() ? "" : ", ") + ammoText(ammo);
+        }
+    }
+    return text.empty() ? "-" : text;
+}
+
+std::string traverseText(const ComponentRecord& component) {
+    if (component.kind == ComponentKind::Turret && !component.limitedTraverse) {
+        return "all round";
+    }
+    std::string text = degrees(component.rotateLeft) + " left, " + degrees(component.rotateRight) + " right";
+    if (component.offsetAngle != 0) {
+        text += " of " + degrees(component.offsetAngle);
+    }
+    return text;
+}
+
+SheetSection weaponsSection(const VehicleRecord& vehicle) {
+    SheetSection section{.heading = {"Weapons"}};
+    SheetTable table;
+    table.rows.push_back({"", "Weapon", "Ammunition", "Traverse", "Full circle"});
+    for (std::size_t i = 0; i < vehicle.components.size(); ++i) {
+        const ComponentRecord& component = vehicle.components[i];
+        std::string place = std::to_string(i + 1) + ". " + std::string(kindName(component.kind));
+        for (const WeaponMountRecord& weapon : component.weapons) {
+            table.rows.push_back({place, weaponWord(weapon.type), ammoFor(component.ammo, weapon.type),
+                                  traverseText(component),
+                                  component.rotateTime > 0 ? std::to_string(component.rotateTime) + " s" : "-"});
+            place.clear();
+        }
+    }
+    for (const ComponentRecord& component : vehicle.components) {
+        if (!component.smokeDischargers.empty()) {
+            section.notes.push_back({std::string(kindName(component.kind)) + ": " +
+                                     std::to_string(component.smokeDischargers.size()) + " smoke dischargers."});
+        }
+    }
+    if (table.rows.size() > 1) {
+        section.tables.push_back(std::move(table));
+    }
+    return section;
+}
+
+SheetSection crewSection(const VehicleRecord& vehicle) {
+    SheetSection section{.heading = {"Crew"}};
+    SheetTable table;
+    table.rows.push_back({"", "Job", "Arms", "Ammunition"});
+    for (std::size_t i = 0; i < vehicle.components.size(); ++i) {
+        const ComponentRecord& component = vehicle.components[i];
+        std::string place = std::to_string(i + 1) + ". " + std::string(kindName(component.kind));
+        for (const CrewManRecord& man : component.crew) {
+            std::string arms;
+            for (const Text& weapon : man.weapons) {
+                arms += (arms.empty() ? "" : ", ") + weaponWord(weapon);
+            }
+            std::string rounds;
+            for (const AmmoLoadRecord& ammo : man.ammo) {
+                rounds += (rounds.empty() ? "" : ", ") + ammoText(ammo);
+            }
+            table.rows.push_back({place, displayName(man.job, "JOB_"), arms, rounds});
+            place.clear();
+        }
+    }
+    if (table.rows.size() > 1) {
+        section.tables.push_back(std::move(table));
+    }
+    return section;
+}
+
+SheetSection uniformSection(const SquadRecord& record) {
+    SheetSection section{.heading = {"Crew uniforms"}};
+    const auto imageText = [](const Text& name) { return name.empty() ? std::string("Default") : name.str(); };
+    if (record.namedUniform) {
+        section.pairs.push_back({"Uniform", imageText(record.uniformName)});
+    } else {
+        section.pairs.push_back({"Profile", imageText(record.uniformProfile)});
+        section.pairs.push_back({"Game", imageText(record.uniformGame)});
+    }
+    section.pairs.push_back({"Ranks", imageText(record.uniformRanks)});
+    section.pairs.push_back({"Voice language", record.language.empty() ? "Default" : record.language.str()});
+    return section;
+}
+
+SheetSection availabilitySection(const SquadRecord& record) {
+    constexpr std::array<std::string_view, 12> months = {"January",   "February", "March",    "April",
+                                                         "May",       "June",     "July",     "August",
+                                                         "September", "October",  "November", "December"};
+    SheetSection section{.heading = {"Availability"}};
+    SheetTable table;
+    table.rows.push_back({"From", "Number"});
+    for (const AvailabilityPoint& point : record.availability) {
+        const std::string month = point.month >= 1 && point.month <= months.size()
+                                      ? std::string(months[point.month - 1U])
+                                      : "month " + std::to_string(point.month);
+        table.rows.push_back({month + " " + std::to_string(point.year), grouped(point.number)});
+    }
+    if (table.rows.size() > 1) {
+        section.tables.push_back(std::move(table));
+    } else {
+        section.notes.push_back({"No dates are given."});
+    }
+    if (record.convertedAvailability) {
+        section.notes.push_back({"Converted from the older quarterly form."});
+    }
+    return section;
+}
+
+} // namespace
+
+std::string componentLine(std::size_t place, const ComponentRecord& component) {
+    std::string line = std::to_string(place) + ". " + std::string(kindName(component.kind));
+    if (!component.crew.empty()) {
+        line += " (crew " + std::to_string(component.crew.size()) + ")";
+    }
+    return line;
+}
+
+DataSheet unitSheet(const SquadRecord& record, const std::vector<std::string>& missingPictures) {
+    DataSheet sheet;
+    sheet.title.text = record.longName.empty() ? record.fileName.str() : record.longName.str();
+    sheet.title.subtitle = displayName(record.nationality, NationalityPrefix) +
+                           (record.shortName.empty() ? "" : ", " + record.shortName.str());
+    sheet.title.nationality = record.nationality.str();
+    sheet.comment = record.comment.str();
+    if (record.vehicle) {
+        sheet.sections.push_back(figuresSection(record));
+        sheet.sections.push_back(driveSection(*record.vehicle));
+        sheet.sections.push_back(armourSection(*record.vehicle));
+        sheet.sections.push_back(weaponsSection(*record.vehicle));
+        sheet.sections.push_back(crewSection(*record.vehicle));
+    }
+    sheet.sections.push_back(availabilitySection(record));
+    sheet.sections.push_back(uniformSection(record));
+    if (!missingPictures.empty()) {
+        SheetSection missing{.heading = {"Missing pictures"}};
+        for (const std::string& path : missingPictures) {
+            missing.notes.push_back({path});
+        }
+        sheet.sections.push_back(std::move(missing));
+    }
+    std::erase_if(sheet.sections, [](const SheetSection& section) {
+        return section.pairs.empty() && section.tables.empty() && section.notes.empty();
+    });
+    return sheet;
+}
+
+} // namespace varrocade

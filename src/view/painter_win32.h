@@ -1,0 +1,39 @@
+#pragma once
+// Puts a draw list and a data sheet on a device.
+
+#include "view/data_sheet.h"
+#include "view/drawing_objects_win32.h"
+#include "view/picture_cache_win32.h"
+
+namespace varrocade {
+
+/// A bitmap in memory that painting goes to first, so that the screen changes in one step.
+class MemoryBitmap {
+public:
+    MemoryBitmap(HDC screen, int width, int height);
+    MemoryBitmap(const MemoryBitmap&) = delete;
+    MemoryBitmap& operator=(const MemoryBitmap&) = delete;
+    ~MemoryBitmap();
+    [[nodiscard]] HDC device() const { return device_; }
+
+private:
+    HDC device_;
+    HBITMAP bitmap_;
+    HGDIOBJ former_;
+};
+
+/// Paints a drawing into `area`: the ground with its metre grid, the unit, a scale in metres.
+void paintDrawing(HDC device, const RECT& area, const DrawList& list, const DrawingObjects& objects,
+                  PictureCache& pictures);
+
+/// Where flags come from.
+struct SheetOptions {
+    std::vector<std::string> bases;
+    int scroll = 0; ///< pixels that the sheet is scrolled down
+};
+
+/// Paints a sheet into `area` and returns the height of the whole sheet in pixels.
+int paintSheet(HDC device, const RECT& area, const DataSheet& sheet, const SheetOptions& options,
+               const DrawingObjects& objects, PictureCache& pictures);
+
+} // namespace varrocade

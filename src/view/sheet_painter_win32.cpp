@@ -1,0 +1,203 @@
+#include "view/painter_win32.h"
+
+#include "data/enumerations.h"
+#include "view/flag_painter_win32.h"
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+namespace varrocade {
+
+namespace {
+
+constexpr COLORREF Ink = RGB(40, 34, 24);
+constexpr COLORREF FadedInk = RGB(120, 104, 76);
+constexpr COLORREF RuleColour = RGB(190, 172, 128);
+
+/// Lays a sheet out from top to bottom and paints it on the way.
+class SheetPainter {
+public:
+    SheetPainter(HDC device, const RECT& area, const SheetOptions& options, const DrawingObjects& objects,
+                 PictureCache& pictures)
+        : device_(device), options_(options), objects_(objects), pictures_(pictures),
+          left_(area.left + objects.scaled(Margin)), right_(area.right - objects.scaled(Margin)),
+          y_(area.top + objects.scaled(Margin) - options.scroll), rule_(CreatePen(PS_SOLID, 1, RuleColour)) {
+        SetBkMode(device_, TRANSPARENT);
+    }
+
+    int paint(const DataSheet& sheet) {
+        const int top = y_;
+        paintTitle(sheet.title);
+        if (!sheet.comment.empty()) {
+            paragraph(sheet.comment, objects_.normalFont.get(), Ink);
+        }
+        for (const SheetSection& section : sheet.sections) {
+            paintSection(section);
+        }
+        return y_ - top + 2 * objects_.scaled(Margin);
+    }
+
+private:
+    static constexpr int Margin = 14;
+    static constexpr int FlagWidth = 48;
+    static constexpr int FlagHeight = 32;
+    static constexpr int SectionGap = 10;
+
+    [[nodiscard]] int lineHeight(HFONT font) const {
+        const Selection selection(device_, font);
+        TEXTMETRICA metrics{};
+        GetTextMetricsA(device_, &metrics);
+        return metrics.tmHeight + objects_.scaled(2);
+    }
+
+    [[nodiscard]] int widthOf(const std::string& words, HFONT font) const {
+        const Selection selection(device_, font);
+        SIZE size{};
+        GetTextExtentPoint32A(device_, words.data(), static_cast<int>(words.size()), &size);
+        return size.cx;
+    }
+
+    void text(const std::string& words, int x, int y, HFONT font, COLORREF colour) const {
+        const Selection selection(device_, font);
+        SetTextColor(device_, colour);
+        TextOutA(device_, x, y, words.data(), static_cast<int>(words.size()));
+    }
+
+    /// Text broken into lines between `left` and `right`; returns its height.
+    int brokenText(const std::string& words, int left, int right, int y, HFONT font, COLORREF colour) const {
+        const Selection selection(device_, font);
+        SetTextColor(device_, colour);
+        constexpr UINT format = DT_WORDBREAK | DT_NOPREFIX | DT_EDITCONTROL;
+        RECT place{left, y, right, y};
+        DrawTextA(device_, words.data(), static_cast<int>(words.size()), &place, format | DT_CALCRECT);
+        place.right = right;
+        DrawTextA(device_, words.data(), static_cast<int>(words.size()), &place, format);
+        return place.bottom - place.top;
+    }
+
+    void paragraph(const std::string& words, HFONT font, COLORREF colour) {
+        y_ += brokenText(words, left_, right_, y_, font, colour) + objects_.scaled(4);
+    }
+
+    static std::string_view wordOf(std::string_view nationality) {
+        return nationality.starts_with(NationalityPrefix) ? nationality.substr(NationalityPrefix.size())
+                                                          : std::string_view();
+    }
+
+    void paintTitle(const SheetTitle& title) {
+        const int flagWidth = objects_.scaled(FlagWidth);
+        int textLeft = left_;
+        const RECT flag{left_, y_, left_ + flagWidth, y_ + objects_.scaled(FlagHeight)};
+        if (varrocade::paintFlag(device_, flag, wordOf(title.nationality), options_.bases, pictures_)) {
+            textLeft += flagWidth + objects_.scaled(Margin);
+        }
+        const int buttonWidth = objects_.scaled(100);
+        const int titleHeight = brokenText(title.text, textLeft, right_ - buttonWidth, y_, objects_.largeFont.get(), Ink);
+        text(title.subtitle, textLeft, y_ + titleHeight, objects_.normalFont.get(), FadedInk);
+        y_ += std::max(titleHeight + lineHeight(objects_.normalFont.get()), objects_.scaled(FlagHeight)) +
+              objects_.scaled(SectionGap);
+    }
+
+    void paintSection(const SheetSection& section) {
+        y_ += objects_.scaled(SectionGap);
+        text(section.heading.text, left_, y_, objects_.boldFont.get(), Ink);
+        y_ += lineHeight(objects_.boldFont.get());
+        {
+            const Selection pen(device_, rule_.get());
+            MoveToEx(device_, left_, y_, nullptr);
+            LineTo(device_, right_, y_);
+        }
+        y_ += objects_.scaled(4);
+        paintPairs(section.pairs);
+        for (const SheetTable& table : section.tables) {
+            paintTable(table);
+        }
+        for (const SheetNote& note : section.notes) {
+            paragraph(note.text, objects_.smallFont.get(), Ink);
+        }
+    }
+
+    /// Two columns of label and value; a value too long for its column takes more lines.
+    void paintPairs(const std::vector<SheetPair>& pairs) {
+        const int columnWidth = (right_ - left_) / 2;
+        const int labelWidth = objects_.scaled(120);
+        for (std::size_t i = 0; i < pairs.size(); i += 2) {
+            int height = lineHeight(objects_.normalFont.get());
+            for (std::size_t column = 0; column < 2 && i + column < pairs.size(); ++column) {
+                const SheetPair& pair = pairs[i + column];
+                const int x = left_ + static_cast<int>(column) * columnWidth;
+                text(pair.label, x, y_, objects_.normalFont.get(), FadedInk);
+                const int right = x + columnWidth - objects_.scaled(8);
+                height = std::max(height, brokenText(pair.value.empty() ? "-" : pair.value, x + labelWidth, right, y_,
+                                                     objects_.normalFont.get(), Ink));
+            }
+            y_ += height;
+        }
+    }
+
+    /// Column widths by their longest cells; columns that do not fit shrink together and break their texts.
+    [[nodiscard]] std::vector<int> columnWidths(const SheetTable& table) const {
+        std::vector<int> widths(table.rows.front().size(), 0);
+        for (const auto& row : table.rows) {
+            for (std::size_t column = 0; column < row.size() && column < widths.size(); ++column) {
+                widths[column] = std::max(widths[column], widthOf(row[column], objects_.smallFont.get()));
+            }
+        }
+        const int gap = objects_.scaled(10);
+        const int free = right_ - left_ - gap * static_cast<int>(widths.size() - 1);
+        int total = 0;
+        for (const int width : widths) {
+            total += width;
+        }
+        // Only the wide columns give way: narrow ones hold numbers.
+        while (total > free) {
+            const auto widest = std::max_element(widths.begin(), widths.end());
+            const int less = std::min(total - free, std::max(1, *widest / 8));
+            *widest -= less;
+            total -= less;
+        }
+        return widths;
+    }
+
+    void paintTable(const SheetTable& table) {
+        const std::vector<int> widths = columnWidths(table);
+        const int gap = objects_.scaled(10);
+        bool isHead = true;
+        for (const auto& row : table.rows) {
+            int x = left_;
+            int height = lineHeight(objects_.smallFont.get());
+            for (std::size_t column = 0; column < row.size() && column < widths.size(); ++column) {
+                height = std::max(height, brokenText(row[column], x, x + widths[column] + objects_.scaled(2), y_,
+                                                     objects_.smallFont.get(), isHead ? FadedInk : Ink));
+                x += widths[column] + gap;
+            }
+            y_ += height;
+            isHead = false;
+        }
+        y_ += objects_.scaled(4);
+    }
+
+    HDC device_;
+    const SheetOptions& options_;
+    const DrawingObjects& objects_;
+    PictureCache& pictures_;
+    int left_;
+    int right_;
+    int y_;
+    GdiObject<HPEN> rule_;
+};
+
+} // namespace
+
+int paintSheet(HDC device, const RECT& area, const DataSheet& sheet, const SheetOptions& options,
+               const DrawingObjects& objects, PictureCache& pictures) {
+    const int saved = SaveDC(device);
+    IntersectClipRect(device, area.left, area.top, area.right, area.bottom);
+    FillRect(device, &area, objects.beigeBrush.get());
+    const int height = SheetPainter(device, area, options, objects, pictures).paint(sheet);
+    RestoreDC(device, saved);
+    return height;
+}
+
+} // namespace varrocade
