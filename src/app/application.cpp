@@ -1,5 +1,7 @@
 #include "app/application.h"
 
+#include "app/open_record.h"
+
 namespace varrocade {
 
 Application& application() {
@@ -25,9 +27,17 @@ bool isRecordOpen() {
     return app.openUnit.has_value() || app.openWeapon.has_value();
 }
 
+bool isUnitModified() {
+    const Application& app = application();
+    return app.openUnit && app.savedUnit && *app.openUnit != *app.savedUnit;
+}
+
 void closeRecord() {
     Application& app = application();
+    keepUnsavedUnit();
     app.openUnit.reset();
+    app.savedUnit.reset();
+    app.history.clear();
     app.openWeapon.reset();
     app.weaponPosChanged = false;
     app.exhaustPosChanged = false;

@@ -2,6 +2,7 @@
 // The state of the running program: folders, mode, category, the open record, the drawing objects. It stands here
 // and nowhere else.
 
+#include "app/undo_history.h"
 #include "app/unit_display.h"
 #include "data/category.h"
 #include "data/unit_record.h"
@@ -9,6 +10,7 @@
 #include "platform/safe_save.h"
 #include "view/drawing_objects_win32.h"
 #include "view/picture_cache_win32.h"
+#include "weapons/weapon_catalogue.h"
 #include "weapons/weapon_record.h"
 
 #include <windows.h>
@@ -42,6 +44,10 @@ struct Application {
     bool exhaustPosChanged = false;
     bool showDestroyed = false;
 
+    std::optional<SquadRecord> savedUnit; ///< the open unit as its file holds it
+    UndoHistory history;
+    WeaponCatalogue catalogue;
+
     DrawingObjects drawing;
     PictureCache pictures;
     BackupKeeper backups;
@@ -59,6 +65,9 @@ std::vector<std::string> imageBases();
 
 /// Whether a unit or a weapon is open.
 bool isRecordOpen();
+
+/// Whether the open unit differs from its file.
+bool isUnitModified();
 
 /// Drops the open record and with it the unsaved positions.
 void closeRecord();

@@ -3,6 +3,7 @@
 #include "app/application.h"
 #include "app/file_commands.h"
 #include "app/file_list.h"
+#include "app/game_folder.h"
 #include "app/main_window.h"
 #include "app/mod_mode.h"
 #include "app/open_record.h"
@@ -12,6 +13,7 @@
 
 #include <algorithm>
 #include <array>
+#include <string>
 
 namespace varrocade {
 
@@ -42,6 +44,24 @@ bool canDuplicate() {
 /// The open record's file is the one that is selected in the list.
 bool isSelectionOpen() {
     return isRecordOpen() && !selectedEntry().empty();
+}
+
+bool canUndo() {
+    return application().openUnit && application().history.canUndo();
+}
+
+bool canRedo() {
+    return application().openUnit && application().history.canRedo();
+}
+
+bool canSave() {
+    const Application& app = application();
+    return isUnitModified() || app.weaponPosChanged || app.exhaustPosChanged;
+}
+
+void saveRecord() {
+    saveOpenRecord();
+    redrawSelectedEntry();
 }
 
 void exitProgram() {
@@ -115,6 +135,10 @@ constexpr auto Commands = std::to_array<Command>({
     {IDM_REFRESH, refreshFiles, always},
     {IDM_RENAME, renameFile, isSelectionOpen},
     {IDM_DELETE, deleteFile, isSelectionOpen},
+    {IDM_SAVE, saveRecord, canSave},
+    {IDM_UNDO, undoChange, canUndo},
+    {IDM_REDO, redoChange, canRedo},
+    {IDM_GAME_FOLDER, browseForGameFolder, always},
 });
 
 } // namespace
@@ -130,6 +154,11 @@ bool runCommand(int id) {
 }
 
 void updateMenu(HMENU menu) {
+    const UndoHistory& history = application().history;
+    const std::string undo = "&Undo " + std::string(history.undoName()) + "\tCtrl+Z";
+    const std::string redo = "&Redo " + std::string(history.redoName()) + "\tCtrl+Y";
+    ModifyMenuA(menu, IDM_UNDO, MF_BYCOMMAND | MF_STRING, IDM_UNDO, undo.c_str());
+    ModifyMenuA(menu, IDM_REDO, MF_BYCOMMAND | MF_STRING, IDM_REDO, redo.c_str());
     for (const Command& command : Commands) {
         EnableMenuItem(menu, static_cast<UINT>(command.id),
                        MF_BYCOMMAND | (command.isEnabled() ? MF_ENABLED : MF_GRAYED));

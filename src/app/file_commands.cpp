@@ -49,6 +49,9 @@ std::optional<std::string> refusalOfOtherName(const std::string& name) {
 /// Refills the list, selects an entry and remembers it.
 void refillAndSelect(const std::string& name) {
     Application& app = application();
+    if (app.category == Category::Weapons) {
+        app.catalogue.load(app.programFolder, app.modMode ? app.modFolder : "");
+    }
     SendMessageA(app.window, RefreshListMessage, 0, 0);
     if (!selectEntry(name)) {
         leaveFilter();

@@ -195,12 +195,22 @@ void drawListEntry(const DRAWITEMSTRUCT& item) {
     const Selection font(item.hDC, objects.normalFont.get());
     SetBkMode(item.hDC, TRANSPARENT);
     SetTextColor(item.hDC, GetSysColor(isSelected ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT));
-    const bool isUnsaved = isSelected && (app.weaponPosChanged || app.exhaustPosChanged);
+    const bool isUnsaved = isSelected && (app.weaponPosChanged || app.exhaustPosChanged || isUnitModified());
     const std::string text = isUnsaved ? name + " *" : name;
     constexpr UINT format = DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS;
     DrawTextA(item.hDC, text.c_str(), static_cast<int>(text.size()), &place, format);
     if ((item.itemState & ODS_FOCUS) != 0) {
         DrawFocusRect(item.hDC, &item.rcItem);
+    }
+}
+
+void redrawSelectedEntry() {
+    HWND list = listWindow();
+    RECT place{};
+    const LRESULT selected = SendMessageA(list, LB_GETCURSEL, 0, 0);
+    if (selected >= 0 && SendMessageA(list, LB_GETITEMRECT, static_cast<WPARAM>(selected),
+                                      reinterpret_cast<LPARAM>(&place)) != LB_ERR) {
+        InvalidateRect(list, &place, FALSE);
     }
 }
 

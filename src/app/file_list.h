@@ -29,6 +29,9 @@ std::vector<std::string> listedEntries();
 void drawListEntry(const DRAWITEMSTRUCT& item);
 int listEntryHeight();
 
+/// Shows the selected entry anew: its mark for unsaved changes may be another.
+void redrawSelectedEntry();
+
 /// Empties the filter and takes the keyboard focus to the list.
 void leaveFilter();
 

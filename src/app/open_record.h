@@ -4,6 +4,7 @@
 #include "data/unit_writers.h"
 
 #include <string>
+#include <string_view>
 
 namespace varrocade {
 
@@ -13,6 +14,16 @@ bool openFile(const std::string& name);
 
 /// Writes the open record to its file.
 SaveResult saveOpenRecord();
+
+/// Writes the open unit among the backups when it differs from its file, so that changes that were kept in memory
+/// only are not lost when another file is opened.
+void keepUnsavedUnit();
+
+/// Notes a change of the open unit that can be undone under this name, and shows it.
+void unitChanged(std::string_view change);
+
+void undoChange();
+void redoChange();
 
 /// Opens the editor of the open record's kind and saves what the user keeps.
 void editOpenRecord();

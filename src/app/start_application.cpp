@@ -136,6 +136,7 @@ int startApplication(HINSTANCE instance, int showCommand) {
     }
     app.menu = GetMenu(app.window);
     detectModMode();
+    app.catalogue.load(app.programFolder, app.modMode ? app.modFolder : "");
     ShowWindow(app.window, showCommand);
     UpdateWindow(app.window);
     const int status = runMessageLoop();

@@ -9,18 +9,24 @@ namespace varrocade::cli {
 namespace {
 
 constexpr auto Commands = std::to_array<Command>({
-    {"rewrite", "CATEGORY IN OUT",
-     "reads with the category's reader and writes with its writer; CATEGORY is vehicles, atguns, infantry, aircraft or "
-     "weapons; where IN is a folder, every *.txt in it goes to the folder OUT",
+    {"rewrite", "[--explain] CATEGORY IN OUT",
+     "reads with the category's reader and writes with its writer; CATEGORY is vehicles, atguns, infantry, "
+     "aircraft or weapons; where IN is a folder, every *.txt in it goes to the folder OUT; with --explain, "
+     "prints what that drops, changes or respells, a line each",
      rewriteCommand},
+    {"penetration", "WEAPONFILE SHELLINDEX ANGLE K | --matrix GAMEFOLDER",
+     "prints penetration and velocity of an ammunition type (counted from 0) at seven ranges, for armour "
+     "that leans by ANGLE degrees and the drag coefficient K; with --matrix, tab separated, the range up to "
+     "which every ammunition type goes through every plate of every vehicle, at most 3000 m, \"-\" for none",
+     penetrationCommand},
     {"tree", "FILE", "prints how the file parses, one element a line", treeCommand},
 });
 
 void printUsage() {
     std::fputs("usage: varrocade-data COMMAND ARGUMENTS\n", stderr);
     for (const Command& command : Commands) {
-        const std::string line = "  " + std::string(command.name) + " " + std::string(command.arguments) + "\n      " +
-                                 std::string(command.summary) + "\n";
+        const std::string line = "  " + std::string(command.name) + " " + std::string(command.arguments) +
+                                 "\n      " + std::string(command.summary) + "\n";
         std::fputs(line.c_str(), stderr);
     }
 }
@@ -34,6 +40,13 @@ std::span<const Command> commands() {
 void complain(std::string_view text) {
     const std::string line = "varrocade-data: " + std::string(text) + "\n";
     std::fputs(line.c_str(), stderr);
+}
+
+std::string asFolder(std::string path) {
+    if (path.empty() || (path.back() != '\\' && path.back() != '/')) {
+        path += '\\';
+    }
+    return path;
 }
 
 int runCommandLine(Arguments arguments) {

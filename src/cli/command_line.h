@@ -30,8 +30,14 @@ int runCommandLine(Arguments arguments);
 /// Says on standard error what went wrong.
 void complain(std::string_view text);
 
+/// A folder as paths are built from it: ending in a separator.
+std::string asFolder(std::string path);
+
 /// `rewrite [--explain] CATEGORY IN OUT`
 int rewriteCommand(Arguments arguments);
+
+/// `penetration WEAPONFILE SHELLINDEX ANGLE K` and `penetration --matrix GAMEFOLDER`
+int penetrationCommand(Arguments arguments);
 
 /// `tree FILE`
 int treeCommand(Arguments arguments);

@@ -1,22 +1,21 @@
 #include "cli/command_line.h"
 #include "data/category.h"
 #include "data/image_names.h"
+#include "data/save_losses.h"
 #include "data/unit_reader.h"
 #include "data/unit_writers.h"
 #include "platform/file_operations.h"
 #include "platform/safe_save.h"
 #include "weapons/weapon_files.h"
+#include "weapons/weapon_losses.h"
 
 #include <algorithm>
+#include <cstdio>
 #include <vector>
 
 namespace varrocade::cli {
 
 namespace {
-
-bool isSeparator(char c) {
-    return c == '\\' || c == '/';
-}
 
 /// The file's name without its folder and without ".txt".
 std::string_view stemOf(std::string_view path) {
@@ -27,13 +26,6 @@ std::string_view stemOf(std::string_view path) {
     if (path.size() >= DataFileEnding.size() &&
         equalsIgnoringCase(path.substr(path.size() - DataFileEnding.size()), DataFileEnding)) {
         path.remove_suffix(DataFileEnding.size());
-    }
-    return path;
-}
-
-std::string asFolder(std::string path) {
-    if (path.empty() || !isSeparator(path.back())) {
-        path += '\\';
     }
     return path;
 }
@@ -52,25 +44,47 @@ std::optional<std::string> rewritten(Category category, const std::string& conte
     return text;
 }
 
-int rewriteFile(Category category, const std::string& in, const std::string& out) {
+/// What to do with each file.
+struct Task {
+    Category category;
+    bool explain; ///< print what is lost
+};
+
+/// Prints what the rewritten file loses; returns the exit status that follows from it.
+int explainLosses(Category category, const std::string& path, const std::string& content) {
+    const std::optional<std::vector<SaveLoss>> losses = category == Category::Weapons
+                                                            ? weaponSaveLosses(content)
+                                                            : unitSaveLosses(category, content);
+    if (!losses || losses->empty()) {
+        return Done;
+    }
+    for (const SaveLoss& loss : *losses) {
+        const std::string line = path + ":" + lossText(loss) + "\n";
+        std::fwrite(line.data(), 1, line.size(), stdout);
+    }
+    return Findings;
+}
+
+int rewriteFile(const Task& task, const std::string& in, const std::string& out) {
     std::string content;
     if (!readWholeFile(in, content)) {
         complain(in + ": cannot be read: " + systemFiles().lastError());
         return CouldNot;
     }
-    const std::optional<std::string> text = rewritten(category, content, stemOf(in));
+    const std::optional<std::string> text = rewritten(task.category, content, stemOf(in));
     if (!text) {
-        complain(in + ": holds nothing that the writer of the " + std::string(categoryWord(category)) + " writes");
+        complain(in + ": holds nothing that the writer of the " + std::string(categoryWord(task.category)) +
+                 " writes");
         return CouldNot;
     }
     if (const auto failure = saveFile(systemFiles(), out, *text)) {
         complain(failure->path + ": cannot be written: " + failure->reason);
         return CouldNot;
     }
-    return Done;
+    return task.explain ? explainLosses(task.category, in, content) : Done;
 }
 
-int rewriteFolder(Category category, const std::string& in, const std::string& out) {
+int rewriteFolder(const Task& task, const std::string& in, const std::string& out) {
     std::vector<std::string> names;
     if (!listFiles(in, DataFileEnding, names)) {
         complain(in + ": cannot be listed: " + systemFiles().lastError());
@@ -83,7 +97,7 @@ int rewriteFolder(Category category, const std::string& in, const std::string& o
     std::sort(names.begin(), names.end());
     int status = Done;
     for (const std::string& name : names) {
-        status = std::max(status, rewriteFile(category, in + name, out + name));
+        status = std::max(status, rewriteFile(task, in + name, out + name));
     }
     return status;
 }
@@ -91,6 +105,10 @@ int rewriteFolder(Category category, const std::string& in, const std::string& o
 } // namespace
 
 int rewriteCommand(Arguments arguments) {
+    const bool explain = !arguments.empty() && arguments[0] == "--explain";
+    if (explain) {
+        arguments = arguments.subspan(1);
+    }
     if (arguments.size() != 3) {
         complain("rewrite takes a category, what to read and where to write");
         return CouldNot;
@@ -100,10 +118,11 @@ int rewriteCommand(Arguments arguments) {
         complain("unknown category '" + arguments[0] + "'");
         return CouldNot;
     }
+    const Task task{*category, explain};
     if (isFolder(arguments[1])) {
-        return rewriteFolder(*category, asFolder(arguments[1]), asFolder(arguments[2]));
+        return rewriteFolder(task, asFolder(arguments[1]), asFolder(arguments[2]));
     }
-    return rewriteFile(*category, arguments[1], arguments[2]);
+    return rewriteFile(task, arguments[1], arguments[2]);
 }
 
 } // namespace varrocade::cli

@@ -39,13 +39,20 @@ void addQuarter(Reading& reading, std::string_view name, std::string_view text) 
     reading.record.convertedAvailability = true;
     reading.point = nullptr;
     const auto number = toClamped<std::uint16_t>(text);
+    if (reading.trace != nullptr) {
+        reading.trace->noteConverted(fieldId<&AvailabilityPoint::number>(), valueText(std::int32_t{number}));
+    }
     if (number == 0) {
+        if (reading.trace != nullptr) {
+            reading.trace->noteLeftOut("a quarter without units becomes no point");
+        }
         return;
     }
     std::vector<AvailabilityPoint>& points = reading.record.availability;
     // The last month of the quarter, but the first one for the second point: so the game converts them.
     const std::int32_t month = points.size() == 1 ? 3 * quarter->quarter - 2 : 3 * quarter->quarter;
-    const AvailabilityPoint point{static_cast<std::uint8_t>(month), static_cast<std::uint16_t>(quarter->year), number};
+    const AvailabilityPoint point{static_cast<std::uint8_t>(month), static_cast<std::uint16_t>(quarter->year),
+                                  number};
     const std::size_t count = points.size();
     if (count > 1 && points[count - 1].number == number && points[count - 2].number == number) {
         points.back() = point;

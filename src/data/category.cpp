@@ -34,9 +34,8 @@ std::string_view categoryWord(Category category) {
 }
 
 std::optional<Category> categoryOfWord(std::string_view word) {
-    const auto found =
-        std::find_if(AllCategories.begin(), AllCategories.end(),
-                     [word](Category category) { return categoryWord(category) == word; });
+    const auto found = std::find_if(AllCategories.begin(), AllCategories.end(),
+                                    [word](Category category) { return categoryWord(category) == word; });
     return found == AllCategories.end() ? std::nullopt : std::optional(*found);
 }
 

@@ -47,8 +47,7 @@ void forEachPiece(std::string_view content, Take take) {
     std::size_t line = 1;
     while (at != end) {
         const char* const pieceBegin = at;
-        const char* const limit =
-            static_cast<std::size_t>(end - at) > PieceLength ? at + PieceLength : end;
+        const char* const limit = static_cast<std::size_t>(end - at) > PieceLength ? at + PieceLength : end;
         const char* pieceEnd = nullptr;
         while (at != limit && *at != '\r' && *at != '\n') {
             if (*at == '/' && pieceEnd == nullptr && at + 1 != limit && at[1] == '/') {
@@ -82,7 +81,8 @@ void forEachPiece(std::string_view content, Take take) {
 } // namespace
 
 void cleanTaggedText(std::string_view fileContent, std::string& cleaned) {
-    // The pieces are moved together in place: they never grow, so the write position is behind the read position.
+    // The pieces are moved together in place: they never grow, so the write position is behind the read
+    // position.
     cleaned.assign(fileContent);
     char* out = cleaned.data();
     forEachPiece(cleaned, [&out](const Piece& piece, std::size_t) {
@@ -92,6 +92,18 @@ void cleanTaggedText(std::string_view fileContent, std::string& cleaned) {
         return true;
     });
     cleaned.resize(static_cast<std::size_t>(out - cleaned.data()));
+}
+
+std::vector<KeptPiece> keptPieces(std::string_view fileContent) {
+    std::vector<KeptPiece> pieces;
+    std::size_t cleanedLength = 0;
+    forEachPiece(fileContent, [&](const Piece& piece, std::size_t line) {
+        const std::string_view text(piece.begin, static_cast<std::size_t>(piece.end - piece.begin));
+        pieces.push_back({text, line, cleanedLength});
+        cleanedLength += text.size();
+        return true;
+    });
+    return pieces;
 }
 
 std::size_t lineOfOffset(std::string_view fileContent, std::size_t cleanedOffset) {

@@ -29,7 +29,12 @@ constexpr auto UnitTypes = std::to_array<std::string_view>({
 });
 
 constexpr auto Qualities = std::to_array<std::string_view>({
-    "QUALITY_ELITE", "QUALITY_SUPERIOR", QualityRegular, "QUALITY_POOR", QualityUntrained, QualityRaw,
+    "QUALITY_ELITE",
+    "QUALITY_SUPERIOR",
+    QualityRegular,
+    "QUALITY_POOR",
+    QualityUntrained,
+    QualityRaw,
 });
 
 constexpr auto Reliabilities = std::to_array<std::string_view>({
@@ -68,64 +73,51 @@ constexpr auto Jobs = std::to_array<std::string_view>({
 });
 
 constexpr auto Nationalities = std::to_array<std::string_view>({
-    "NATIONALITY_AMERICAN",
-    "NATIONALITY_ARMENIA",
-    "NATIONALITY_ARMENIAN",
-    "NATIONALITY_AUSTRALIAN",
-    "NATIONALITY_AUSTRIAN",
-    "NATIONALITY_AZERBAIJAN",
-    "NATIONALITY_AZERBAIJANI",
-    "NATIONALITY_BELGIAN",
-    "NATIONALITY_BRITISH",
-    "NATIONALITY_CANADIAN",
-    "NATIONALITY_CHINESE",
-    "NATIONALITY_DUTCH",
-    "NATIONALITY_EGYPTIAN",
-    "NATIONALITY_FINLAND",
-    "NATIONALITY_FINNISH",
-    "NATIONALITY_FRENCH",
-    "NATIONALITY_GEORGIAN",
-    "NATIONALITY_GERMAN",
-    "NATIONALITY_HUNGARIAN",
-    "NATIONALITY_INDIAN",
-    "NATIONALITY_IRANIAN",
-    "NATIONALITY_IRAQI",
-    "NATIONALITY_ISRAELI",
-    "NATIONALITY_ITALIAN",
-    "NATIONALITY_JAPANESE",
-    "NATIONALITY_JORDANIAN",
-    "NATIONALITY_KUWAITI",
-    "NATIONALITY_KUWATI",
-    "NATIONALITY_NORTH_KOREAN",
-    "NATIONALITY_NORTH_VIETNAMESE",
-    "NATIONALITY_PAKISTANI",
-    "NATIONALITY_POLISH",
-    "NATIONALITY_ROMANIAN",
-    "NATIONALITY_RUSSIAN",
-    "NATIONALITY_SOUTH_KOREAN",
-    "NATIONALITY_SOUTH_VIETNAMESE",
-    "NATIONALITY_SYRIAN",
-    "NATIONALITY_TURKISH",
-    "NATIONALITY_UKRAINIAN",
+    "NATIONALITY_AMERICAN",    "NATIONALITY_ARMENIA",      "NATIONALITY_ARMENIAN",
+    "NATIONALITY_AUSTRALIAN",  "NATIONALITY_AUSTRIAN",     "NATIONALITY_AZERBAIJAN",
+    "NATIONALITY_AZERBAIJANI", "NATIONALITY_BELGIAN",      "NATIONALITY_BRITISH",
+    "NATIONALITY_CANADIAN",    "NATIONALITY_CHINESE",      "NATIONALITY_DUTCH",
+    "NATIONALITY_EGYPTIAN",    "NATIONALITY_FINLAND",      "NATIONALITY_FINNISH",
+    "NATIONALITY_FRENCH",      "NATIONALITY_GEORGIAN",     "NATIONALITY_GERMAN",
+    "NATIONALITY_HUNGARIAN",   "NATIONALITY_INDIAN",       "NATIONALITY_IRANIAN",
+    "NATIONALITY_IRAQI",       "NATIONALITY_ISRAELI",      "NATIONALITY_ITALIAN",
+    "NATIONALITY_JAPANESE",    "NATIONALITY_JORDANIAN",    "NATIONALITY_KUWAITI",
+    "NATIONALITY_KUWATI",      "NATIONALITY_NORTH_KOREAN", "NATIONALITY_NORTH_VIETNAMESE",
+    "NATIONALITY_PAKISTANI",   "NATIONALITY_POLISH",       "NATIONALITY_ROMANIAN",
+    "NATIONALITY_RUSSIAN",     "NATIONALITY_SOUTH_KOREAN", "NATIONALITY_SOUTH_VIETNAMESE",
+    "NATIONALITY_SYRIAN",      "NATIONALITY_TURKISH",      "NATIONALITY_UKRAINIAN",
 });
 
-constexpr auto Mounts = std::to_array<std::string_view>({MountFront, MountMiddle, "MOUNT_REAR"});
+constexpr auto Mounts = std::to_array<std::string_view>({MountFront, MountMiddle, MountRear});
 
 // Some game images have "game" in their name and some have not, in the game's own files too.
 constexpr auto NationalUniforms = std::to_array<NationalUniform>({
-    {"NATIONALITY_AMERICAN", "uniform_american_vehicle_crew", "uniform_game_american_tank_crew", "uniform_ranks_american"},
-    {"NATIONALITY_BRITISH", "uniform_british_vehicle_crew", "uniform_game_british_tank_crew", "uniform_ranks_british"},
-    {"NATIONALITY_CHINESE", "uniform_chinese_vehicle_crew", "uniform_chinese_tank_crew", "uniform_ranks_chinese"},
-    {"NATIONALITY_FINNISH", "uniform_finnish_vehicle_crew", "uniform_finnish_tank_crew", "uniform_ranks_finnish"},
-    {"NATIONALITY_FRENCH", "uniform_french_vehicle_crew", "uniform_game_french_tank_crew", "uniform_ranks_french"},
-    {"NATIONALITY_GERMAN", "uniform_german_vehicle_crew", "uniform_game_german_tank_crew", "uniform_ranks_german"},
-    {"NATIONALITY_HUNGARIAN", "uniform_hungarian_vehicle_crew", "uniform_hungarian_tank_crew", "uniform_ranks_hungarian"},
-    {"NATIONALITY_ITALIAN", "uniform_italian_vehicle_crew", "uniform_game_italian_tank_crew", "uniform_ranks_italian"},
-    {"NATIONALITY_JAPANESE", "uniform_japanese_vehicle_crew", "uniform_game_japanese_tank_crew", "uniform_ranks_japanese"},
-    {"NATIONALITY_POLISH", "uniform_polish_vehicle_crew", "uniform_game_polish_tank_crew", "uniform_ranks_polish"},
-    {"NATIONALITY_ROMANIAN", "uniform_romanian_vehicle_crew", "uniform_romanian_tank_crew", "uniform_ranks_romanian"},
-    {"NATIONALITY_RUSSIAN", "uniform_russian_vehicle_crew", "uniform_game_russian_tank_crew", "uniform_ranks_russian"},
-    {"NATIONALITY_UKRAINIAN", "uniform_ukrainian_vehicle_crew", "uniform_game_ukrainian_tank_crew", "uniform_ranks_ukrainian"},
+    {"NATIONALITY_AMERICAN", "uniform_american_vehicle_crew", "uniform_game_american_tank_crew",
+     "uniform_ranks_american"},
+    {"NATIONALITY_BRITISH", "uniform_british_vehicle_crew", "uniform_game_british_tank_crew",
+     "uniform_ranks_british"},
+    {"NATIONALITY_CHINESE", "uniform_chinese_vehicle_crew", "uniform_chinese_tank_crew",
+     "uniform_ranks_chinese"},
+    {"NATIONALITY_FINNISH", "uniform_finnish_vehicle_crew", "uniform_finnish_tank_crew",
+     "uniform_ranks_finnish"},
+    {"NATIONALITY_FRENCH", "uniform_french_vehicle_crew", "uniform_game_french_tank_crew",
+     "uniform_ranks_french"},
+    {"NATIONALITY_GERMAN", "uniform_german_vehicle_crew", "uniform_game_german_tank_crew",
+     "uniform_ranks_german"},
+    {"NATIONALITY_HUNGARIAN", "uniform_hungarian_vehicle_crew", "uniform_hungarian_tank_crew",
+     "uniform_ranks_hungarian"},
+    {"NATIONALITY_ITALIAN", "uniform_italian_vehicle_crew", "uniform_game_italian_tank_crew",
+     "uniform_ranks_italian"},
+    {"NATIONALITY_JAPANESE", "uniform_japanese_vehicle_crew", "uniform_game_japanese_tank_crew",
+     "uniform_ranks_japanese"},
+    {"NATIONALITY_POLISH", "uniform_polish_vehicle_crew", "uniform_game_polish_tank_crew",
+     "uniform_ranks_polish"},
+    {"NATIONALITY_ROMANIAN", "uniform_romanian_vehicle_crew", "uniform_romanian_tank_crew",
+     "uniform_ranks_romanian"},
+    {"NATIONALITY_RUSSIAN", "uniform_russian_vehicle_crew", "uniform_game_russian_tank_crew",
+     "uniform_ranks_russian"},
+    {"NATIONALITY_UKRAINIAN", "uniform_ukrainian_vehicle_crew", "uniform_game_ukrainian_tank_crew",
+     "uniform_ranks_ukrainian"},
 });
 
 struct DefaultFlavour {
@@ -181,8 +173,9 @@ std::span<const std::string_view> mountNames() {
 }
 
 const NationalUniform* findNationalUniform(std::string_view nationality) {
-    const auto row = std::find_if(NationalUniforms.begin(), NationalUniforms.end(),
-                                         [&](const NationalUniform& uniform) { return uniform.nationality == nationality; });
+    const auto row =
+        std::find_if(NationalUniforms.begin(), NationalUniforms.end(),
+                     [&](const NationalUniform& uniform) { return uniform.nationality == nationality; });
     return row == NationalUniforms.end() ? nullptr : &*row;
 }
 

@@ -24,6 +24,7 @@ inline constexpr std::string_view QualityUntrained = "QUALITY_UNTRAINED";
 inline constexpr std::string_view QualityRaw = "QUALITY_RAW";
 inline constexpr std::string_view MountFront = "MOUNT_FRONT";
 inline constexpr std::string_view MountMiddle = "MOUNT_MIDDLE";
+inline constexpr std::string_view MountRear = "MOUNT_REAR";
 inline constexpr std::string_view NationalityPrefix = "NATIONALITY_";
 inline constexpr std::string_view EnginePrefix = "ENGINE_";
 inline constexpr std::string_view WeaponPrefix = "WEAPON_";

@@ -1,8 +1,8 @@
 #pragma once
 // The lines that the writers print: tabs for indentation, CR LF at the end, `<name>value</name>`.
 
-#include "data/numbers.h"
 #include "data/image_names.h"
+#include "data/numbers.h"
 
 #include <string>
 #include <string_view>

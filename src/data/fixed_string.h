@@ -43,10 +43,12 @@ public:
 private:
     static_assert(Capacity <= UINT8_MAX);
 
-    // memmove, since the text may be a part of this very string.
     void assign(std::string_view text) {
         length_ = static_cast<std::uint8_t>(text.size() < Capacity ? text.size() : Capacity);
-        std::memmove(characters_.data(), text.data(), length_);
+        if (length_ > 0) {
+            // Not memcpy, since the text may be a part of this very string.
+            std::memmove(characters_.data(), text.data(), length_);
+        }
         characters_[length_] = '\0';
     }
 

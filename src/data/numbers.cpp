@@ -61,8 +61,9 @@ double toReal(std::string_view text) {
         // The library leaves open whether it was too large or too small: a negative exponent tells.
         const std::string_view number(text.data(), static_cast<std::size_t>(result.ptr - text.data()));
         const std::size_t exponent = number.find_first_of("eE");
-        const bool tiny = exponent != std::string_view::npos ? number.substr(exponent + 1).starts_with('-')
-                                                             : number.find_first_not_of("0.") > number.find('.');
+        const bool tiny = exponent != std::string_view::npos
+                              ? number.substr(exponent + 1).starts_with('-')
+                              : number.find_first_not_of("0.") > number.find('.');
         value = tiny ? 0.0 : std::numeric_limits<double>::max();
     }
     return negative ? -value : value;
@@ -86,16 +87,17 @@ void appendInteger(std::string& out, std::int32_t value) {
 void appendShortest(std::string& out, float value) {
     std::array<char, 64> digits{};
     constexpr int significantDigits = 6;
-    const auto result = std::to_chars(digits.data(), digits.data() + digits.size(), static_cast<double>(value),
-                                      std::chars_format::general, significantDigits);
+    const auto result =
+        std::to_chars(digits.data(), digits.data() + digits.size(), static_cast<double>(value),
+                      std::chars_format::general, significantDigits);
     out.append(digits.data(), result.ptr);
 }
 
 void appendFixed(std::string& out, double value, int decimals) {
     // The largest double has 309 digits before the point.
     std::array<char, 400> digits{};
-    const auto result = std::to_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::fixed,
-                                      decimals < 0 || decimals > 32 ? 2 : decimals);
+    const auto result = std::to_chars(digits.data(), digits.data() + digits.size(), value,
+                                      std::chars_format::fixed, decimals < 0 || decimals > 32 ? 2 : decimals);
     out.append(digits.data(), result.ptr);
 }
 

@@ -96,8 +96,8 @@ bool parseWellFormed(std::string_view text, Nodes& nodes) {
 }
 
 /// All closing tags of a text, to find the first one of a name at or after a position in logarithmic time.
-/// A name is hashed from its last character to its first, since the names of hostile files (`</</</</a>`) share
-/// their ends: one backward pass then hashes them all.
+/// A name is hashed from its last character to its first, since the names of hostile files (`</</</</a>`)
+/// share their ends: one backward pass then hashes them all.
 class ClosingTags {
 public:
     explicit ClosingTags(std::string_view text) : text_(text) {
@@ -111,7 +111,8 @@ public:
                 continue;
             }
             if (text[i] == '/' && i > 0 && text[i - 1] == '<') {
-                tags_.push_back({hash, static_cast<std::uint32_t>(tagEnd - i - 1), static_cast<std::uint32_t>(i - 1)});
+                tags_.push_back(
+                    {hash, static_cast<std::uint32_t>(tagEnd - i - 1), static_cast<std::uint32_t>(i - 1)});
             }
             hash = extended(hash, text[i]);
         }
@@ -160,12 +161,13 @@ private:
 };
 
 /// Parses any text. An element ends at the first closing tag of its name, wherever that stands, so ranges can
-/// overlap, and a small hostile file can describe a tree that grows exponentially; a budget of work proportional
-/// to the file's size, which files without overlaps never use up, ends the parse there.
+/// overlap, and a small hostile file can describe a tree that grows exponentially; a budget of work
+/// proportional to the file's size, which files without overlaps never use up, ends the parse there.
 class GeneralParser {
 public:
     GeneralParser(std::string_view text, Nodes& nodes)
-        : text_(text), nodes_(nodes), closingTags_(text), budget_(WorkPerCharacter * text.size() + LeastWork) {}
+        : text_(text), nodes_(nodes), closingTags_(text),
+          budget_(WorkPerCharacter * text.size() + LeastWork) {}
 
     void run() {
         if (closingTags_.empty()) {
@@ -196,8 +198,7 @@ private:
             return false;
         }
         const std::size_t tagEnd = text_.substr(0, level.end).find('>', level.cursor);
-        const std::size_t work =
-            (tagEnd == std::string_view::npos ? level.end : tagEnd) - level.cursor;
+        const std::size_t work = (tagEnd == std::string_view::npos ? level.end : tagEnd) - level.cursor;
         if (work >= budget_) {
             budget_ = 0;
             return false;

@@ -35,6 +35,14 @@ Place visit(Reading& reading, Place parent, const TagNode& node) {
     return rule->place;
 }
 
+Place visitTraced(Reading& reading, Place parent, std::uint32_t index) {
+    const TagNode& node = reading.tree.nodes()[index];
+    reading.trace->enter(index, node.parent);
+    const Place place = visit(reading, parent, node);
+    reading.trace->leave(parent != Place::Commonness && unit_rules::findRule(parent, node.name) != nullptr);
+    return place;
+}
+
 /// Bombs are of high explosive unless the file says otherwise.
 void completeBombs(AircraftRecord& aircraft) {
     for (AmmoLoadRecord& ammo : aircraft.ammo) {
@@ -46,20 +54,26 @@ void completeBombs(AircraftRecord& aircraft) {
 
 } // namespace
 
+void unit_rules::readTree(Reading& reading) {
+    const std::vector<TagNode>& nodes = reading.tree.nodes();
+    std::vector<Place> places(nodes.size(), Place::Unknown);
+    for (std::uint32_t i = 1; i < nodes.size(); ++i) {
+        const std::uint32_t parent = nodes[i].parent;
+        places[i] = reading.trace == nullptr ? visit(reading, places[parent], nodes[i])
+                                             : visitTraced(reading, places[parent], i);
+    }
+    if (reading.record.aircraft) {
+        completeBombs(*reading.record.aircraft);
+    }
+}
+
 SquadRecord readUnit(std::string_view fileContent, std::string_view fileName, Diagnostics& diagnostics) {
     SquadRecord record;
     record.fileName = fileName;
     TagTree tree;
     tree.parse(fileContent);
     Reading reading{.record = record, .diagnostics = diagnostics, .fileContent = fileContent, .tree = tree};
-    const std::vector<TagNode>& nodes = tree.nodes();
-    std::vector<Place> places(nodes.size(), Place::Unknown);
-    for (std::size_t i = 1; i < nodes.size(); ++i) {
-        places[i] = visit(reading, places[nodes[i].parent], nodes[i]);
-    }
-    if (record.aircraft) {
-        completeBombs(*record.aircraft);
-    }
+    unit_rules::readTree(reading);
     return record;
 }
 

@@ -14,8 +14,8 @@ namespace varrocade {
 /// Lines for the debugger about data that a file holds and the record cannot take.
 using Diagnostics = std::vector<std::string>;
 
-/// Reads the content of a unit file. Nothing is refused: unknown elements are left out, absent ones leave their
-/// defaults. `fileName` is the name to give the record, without folder and ".txt".
+/// Reads the content of a unit file. Nothing is refused: unknown elements are left out, absent ones leave
+/// their defaults. `fileName` is the name to give the record, without folder and ".txt".
 SquadRecord readUnit(std::string_view fileContent, std::string_view fileName, Diagnostics& diagnostics);
 
 /// Reads the unit file at `path`; nothing when it cannot be opened.

@@ -1,6 +1,6 @@
 #pragma once
-// One unit file in memory. Plain values: copied for undo, compared with `==`. Integers are those of the files;
-// lengths and offsets are centimetres, angles degrees clockwise seen from above with 0 straight ahead.
+// One unit file in memory. Plain values: copied for undo, compared with `==`. Integers are those of the
+// files; lengths and offsets are centimetres, angles degrees clockwise seen from above with 0 straight ahead.
 
 #include "data/fixed_string.h"
 
@@ -61,7 +61,8 @@ struct ArmourPlate {
     bool operator==(const ArmourPlate&) const = default;
 };
 
-/// The value of `ArmourRecord::bottom` and `mantlet` while they are not given; any negative one means the same.
+/// The value of `ArmourRecord::bottom` and `mantlet` while they are not given; any negative one means the
+/// same.
 inline constexpr std::int32_t ArmourNotGiven = -1;
 
 struct ArmourRecord {
@@ -83,7 +84,8 @@ struct ArmourRecord {
 };
 
 struct SmokeDischargerRecord {
-    bool directional = false; ///< throws its grenades in a direction; set by an angle, an elevation or a speed
+    bool directional =
+        false; ///< throws its grenades in a direction; set by an angle, an elevation or a speed
     bool angleGiven = false;
     bool elevationGiven = false;
     std::int32_t angle = 0;

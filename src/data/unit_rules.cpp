@@ -12,6 +12,8 @@
 #include <cstring>
 #include <limits>
 #include <optional>
+#include <type_traits>
+#include <utility>
 
 namespace varrocade::unit_rules {
 
@@ -70,9 +72,38 @@ struct MemberOf<Field Record::*> {
 };
 
 template <auto Member>
-auto* targetOf(Reading& reading) {
-    const typename MemberOf<decltype(Member)>::Owner* kind = nullptr;
+using OwnerOf = typename MemberOf<decltype(Member)>::Owner;
+template <auto Member>
+using FieldOf = std::remove_cvref_t<decltype(std::declval<OwnerOf<Member>&>().*Member)>;
+
+/// The object whose list or reference a rule changes.
+template <auto Member>
+auto* ownerOf(Reading& reading) {
+    const OwnerOf<Member>* kind = nullptr;
     return target(reading, kind);
+}
+
+/// The object whose member a rule is about to set.
+template <auto Member, ValueKind Kind = kindOfField<FieldOf<Member>>()>
+auto* targetOf(Reading& reading) {
+    auto* object = ownerOf<Member>(reading);
+    if (reading.trace != nullptr && object != nullptr) {
+        reading.trace->note<Member>(*object, std::same_as<OwnerOf<Member>, SquadRecord>, Kind);
+    }
+    return object;
+}
+
+/// The element made an entry; `alone`: and put away the former one.
+void noteEntry(Reading& reading, bool alone = false) {
+    if (reading.trace != nullptr) {
+        reading.trace->noteEntry(reading.node->name, alone);
+    }
+}
+
+void judge(Reading& reading, bool understood) {
+    if (reading.trace != nullptr) {
+        reading.trace->judge(understood);
+    }
 }
 
 void convert(std::string_view text, bool& field) {
@@ -109,25 +140,32 @@ void set(Reading& reading, std::string_view text) {
 
 template <auto Member>
 void setImage(Reading& reading, std::string_view text) {
-    if (auto* object = targetOf<Member>(reading)) {
+    if (auto* object = targetOf<Member, ValueKind::Image>(reading)) {
         object->*Member = imageNameOf(text);
     }
 }
 
 template <auto Member>
 void setUniformImage(Reading& reading, std::string_view text) {
-    reading.record.*Member = isDefaultImage(text) ? DefaultImageName : imageNameOf(text);
+    SquadRecord* record = targetOf<Member, ValueKind::Image>(reading);
+    record->*Member = isDefaultImage(text) ? DefaultImageName : imageNameOf(text);
 }
 
 void setUniformName(Reading& reading, std::string_view text) {
-    reading.record.namedUniform = true;
-    reading.record.uniformName = isDefaultImage(text) ? std::string_view() : text;
+    SquadRecord* record = targetOf<&SquadRecord::uniformName>(reading);
+    record->namedUniform = true;
+    record->uniformName = text;
+    if (isDefaultImage(text)) {
+        record->uniformName.clear();
+        judge(reading, true);
+    }
 }
 
 void setQuality(Reading& reading, std::string_view text) {
     const auto names = qualityNames();
     const bool known = std::find(names.begin(), names.end(), text) != names.end();
-    reading.record.quality = !known ? QualityRegular : (text == QualityRaw ? QualityUntrained : text);
+    judge(reading, known);
+    targetOf<&SquadRecord::quality>(reading)->quality = !known ? QualityRegular : (text == QualityRaw ? QualityUntrained : text);
 }
 
 // ---- availability
@@ -140,6 +178,7 @@ void addPoint(Reading& reading, std::string_view) {
         return;
     }
     reading.point = &points.emplace_back();
+    noteEntry(reading);
 }
 
 // ---- vehicle
@@ -154,33 +193,38 @@ void forgetComponentEntries(Reading& reading) {
 
 void createVehicle(Reading& reading, std::string_view) {
     reading.record.vehicle.emplace();
+    noteEntry(reading, true);
     reading.component = nullptr;
     reading.exhaustPipe = nullptr;
     forgetComponentEntries(reading);
 }
 
 void setEngineMount(Reading& reading, std::string_view text) {
-    if (VehicleRecord* vehicle = target(reading, static_cast<const VehicleRecord*>(nullptr))) {
+    if (VehicleRecord* vehicle = targetOf<&VehicleRecord::engineMount>(reading)) {
+        const auto names = mountNames();
+        judge(reading, std::find(names.begin(), names.end(), text) != names.end());
         vehicle->engineMount = text == MountFront    ? EngineMount::Front
                                : text == MountMiddle ? EngineMount::Middle
                                                      : EngineMount::Rear;
     }
 }
 
-/// The older form names the engine in the element itself, by its name or by an identifier of the engine table.
+/// The older form names the engine in the element itself, by its name or by an identifier of the engine
+/// table.
 void setFlatEngine(Reading& reading, std::string_view text) {
     if (text.empty() || !reading.record.vehicle) {
         return;
     }
-    VehicleRecord& vehicle = *reading.record.vehicle;
+    VehicleRecord& vehicle = *targetOf<&VehicleRecord::engineName>(reading);
     if (!text.starts_with(EnginePrefix)) {
         vehicle.engineName = text;
         return;
     }
     const EngineRow* row = findEngine(text);
     vehicle.engineName = row != nullptr ? row->name : std::string_view();
+    judge(reading, row != nullptr);
     if (row != nullptr) {
-        vehicle.horsepower = row->horsepower;
+        targetOf<&VehicleRecord::horsepower>(reading)->horsepower = row->horsepower;
     }
 }
 
@@ -199,13 +243,17 @@ void addComponent(Reading& reading, std::string_view) {
     components.reserve(MaxSquadMembers);
     reading.component = &components.emplace_back();
     reading.component->kind = Kind;
+    noteEntry(reading);
 }
 
 /// Appends to a list of the object that is being filled, and makes the new entry the current one.
 template <auto List, auto Current>
 void append(Reading& reading, std::string_view) {
-    auto* object = targetOf<List>(reading);
+    auto* object = ownerOf<List>(reading);
     reading.*Current = object != nullptr ? &(object->*List).emplace_back() : nullptr;
+    if (object != nullptr) {
+        noteEntry(reading);
+    }
 }
 
 /// A man's entries begin afresh, so that what a refused man holds goes nowhere.
@@ -268,11 +316,15 @@ void addInfantryman(Reading& reading, std::string_view) {
         return;
     }
     reading.man = &reading.record.infantrymen.emplace_back();
+    noteEntry(reading);
 }
 
 void addPersonalWeapon(Reading& reading, std::string_view text) {
     if (reading.man != nullptr) {
         reading.man->weapons.emplace_back(text);
+        if (reading.trace != nullptr) {
+            reading.trace->noteItem(fieldId<&CrewManRecord::weapons>(), reading.man->weapons.back());
+        }
     }
 }
 
@@ -287,11 +339,13 @@ void createHeavyWeapon(Reading& reading, std::string_view) {
     }
     reading.heavyWeapon = &reading.record.heavyWeapon.emplace();
     reading.heavyWeapon->kind = Kind;
+    noteEntry(reading);
     reading.record.heavyWeaponPlace = reading.record.infantrymen.size();
 }
 
 void createAircraft(Reading& reading, std::string_view) {
     reading.record.aircraft.emplace();
+    noteEntry(reading, true);
     reading.weapon = nullptr;
     reading.ammo = nullptr;
     reading.rotorBlades = nullptr;
@@ -299,7 +353,7 @@ void createAircraft(Reading& reading, std::string_view) {
 
 /// Into -180 to 180, in whole turns.
 void setNormalisedAngle(Reading& reading, std::string_view text) {
-    if (reading.weapon != nullptr) {
+    if (WeaponMountRecord* weapon = targetOf<&WeaponMountRecord::offsetAngle>(reading)) {
         constexpr std::int32_t fullTurn = 360;
         constexpr std::int32_t halfTurn = 180;
         std::int32_t angle = toInteger(text) % fullTurn;
@@ -308,7 +362,7 @@ void setNormalisedAngle(Reading& reading, std::string_view text) {
         } else if (angle < -halfTurn) {
             angle += fullTurn;
         }
-        reading.weapon->offsetAngle = angle;
+        weapon->offsetAngle = angle;
     }
 }
 
@@ -455,7 +509,8 @@ constexpr auto PlainRules = std::to_array<Rule>({
     {P::Hull, e::ImageDestroyed, P::Unknown, setImage<&Component::destroyedImage>},
     {P::Hull, e::Man, P::CrewMan, addMan<&Component::crew>},
     {P::Hull, e::Armour, P::Armour, nullptr},
-    {P::Hull, e::SmokeDischarger, P::SmokeDischarger, append<&Component::smokeDischargers, &Reading::discharger>},
+    {P::Hull, e::SmokeDischarger, P::SmokeDischarger,
+     append<&Component::smokeDischargers, &Reading::discharger>},
 
     {P::Superstructure, e::Width, P::Unknown, set<&Component::width>},
     {P::Superstructure, e::Length, P::Unknown, set<&Component::length>},
@@ -468,7 +523,8 @@ constexpr auto PlainRules = std::to_array<Rule>({
 
     {P::Turret, e::Diameter, P::Unknown, set<&Component::diameter>},
     {P::Turret, e::Height, P::Unknown, set<&Component::height>},
-    {P::Turret, e::SmokeDischarger, P::SmokeDischarger, append<&Component::smokeDischargers, &Reading::discharger>},
+    {P::Turret, e::SmokeDischarger, P::SmokeDischarger,
+     append<&Component::smokeDischargers, &Reading::discharger>},
     {P::FixedWeapon, e::OffsetZ, P::Unknown, set<&Component::offsetZ>},
 
     {P::ComponentWeapon, e::Type, P::Unknown, set<&Mounted::type>},
@@ -483,7 +539,8 @@ constexpr auto PlainRules = std::to_array<Rule>({
     {P::SmokeDischarger, e::OffsetX, P::Unknown, set<&Discharger::offsetX>},
     {P::SmokeDischarger, e::OffsetY, P::Unknown, set<&Discharger::offsetY>},
     {P::SmokeDischarger, e::Angle, P::Unknown, setDirection<&Discharger::angle, &Discharger::angleGiven>},
-    {P::SmokeDischarger, e::Elevation, P::Unknown, setDirection<&Discharger::elevation, &Discharger::elevationGiven>},
+    {P::SmokeDischarger, e::Elevation, P::Unknown,
+     setDirection<&Discharger::elevation, &Discharger::elevationGiven>},
     {P::SmokeDischarger, e::Speed, P::Unknown, setDirection<&Discharger::speed>},
     {P::SmokeDischarger, e::Ammo, P::Unknown, set<&Discharger::ammo>},
     {P::SmokeDischarger, e::Reload, P::Unknown, set<&Discharger::reload>},
@@ -591,11 +648,11 @@ private:
     static constexpr std::size_t Slots = 1024;
 
     static std::size_t slotOf(Place parent, std::string_view name) {
-        const auto first = static_cast<unsigned char>(name.empty() ? '\0' : name.front());
-        const auto last = static_cast<unsigned char>(name.empty() ? '\0' : name.back());
-        const auto middle = static_cast<unsigned char>(name.empty() ? '\0' : name[name.size() / 2]);
-        const std::size_t hash = static_cast<std::size_t>(parent) * 131 + name.size() * 31 + first * 7U +
-                                 last * 61U + middle * 17U;
+        const std::size_t first = static_cast<unsigned char>(name.empty() ? '\0' : name.front());
+        const std::size_t last = static_cast<unsigned char>(name.empty() ? '\0' : name.back());
+        const std::size_t middle = static_cast<unsigned char>(name.empty() ? '\0' : name[name.size() / 2]);
+        const std::size_t hash =
+            static_cast<std::size_t>(parent) * 131 + name.size() * 31 + first * 7 + last * 61 + middle * 17;
         return hash % Slots;
     }
 
@@ -641,6 +698,9 @@ void report(Reading& reading, std::string_view line) {
 }
 
 void reportLeftOut(Reading& reading, std::string_view what) {
+    if (reading.trace != nullptr) {
+        reading.trace->noteLeftOut(what);
+    }
     if (reading.diagnostics.size() >= MaxDiagnostics || reading.node == nullptr) {
         return;
     }

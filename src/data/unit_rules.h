@@ -1,6 +1,7 @@
 #pragma once
 // What each element of a unit file means: the table behind the unit reader.
 
+#include "data/reading_trace.h"
 #include "data/tag_tree.h"
 #include "data/unit_reader.h"
 
@@ -50,14 +51,16 @@ enum class Place : std::uint8_t {
     Count
 };
 
-/// What the walk is filling. A pointer is null outside the member it stands for, and while a member that found
-/// no room is passed over.
+/// What the walk is filling. A pointer is null outside the member it stands for, and while a member that
+/// found no room is passed over.
 struct Reading {
     SquadRecord& record;
     Diagnostics& diagnostics;
     std::string_view fileContent;
     const TagTree& tree;
     const TagNode* node = nullptr;
+    /// Where to note what becomes of each element, or null.
+    ReadingTrace* trace = nullptr;
 
     AvailabilityPoint* point = nullptr;
     ComponentRecord* component = nullptr;
@@ -80,6 +83,9 @@ struct Rule {
 
 /// The rule for an element in a place, or null.
 const Rule* findRule(Place parent, std::string_view element);
+
+/// Walks the tree and fills the record.
+void readTree(Reading& reading);
 
 /// A point of the older quarterly availability, such as "1942Q3" with its number.
 void addQuarter(Reading& reading, std::string_view name, std::string_view text);

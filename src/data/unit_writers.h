@@ -1,5 +1,6 @@
 #pragma once
-// The unit files' layouts, as the game's own files have them down to tabs, blank lines and the order of lines.
+// The unit files' layouts, as the game's own files have them down to tabs, blank lines and the order of
+// lines.
 
 #include "data/category.h"
 #include "data/unit_record.h"
@@ -27,8 +28,8 @@ std::optional<std::string> unitFileText(Category category, const SquadRecord& re
 /// What came of a save.
 enum class SaveResult { Saved, NothingToSave, Failed };
 
-/// Writes a unit to its file below `base` through a temporary file, keeping the former content among the backups.
-/// A failure shows the "Couldn't save file" box and leaves the old file whole.
+/// Writes a unit to its file below `base` through a temporary file, keeping the former content among the
+/// backups. A failure shows the "Couldn't save file" box and leaves the old file whole.
 SaveResult saveUnit(FileOperations& files, BackupKeeper& backups, const std::string& base, Category category,
                     const SquadRecord& record);
 

@@ -4,11 +4,14 @@
 
 #include "data/fixed_string.h"
 
+#include <algorithm>
 #include <cstdint>
+#include <limits>
 #include <optional>
 #include <span>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <variant>
 #include <vector>
 
@@ -44,7 +47,8 @@ struct NumberRange {
 /// One field of a form: a control, the member of the record that it shows, and how.
 template <typename Record>
 struct FormField {
-    using Member = std::variant<Text Record::*, LanguageCode Record::*, std::int32_t Record::*, bool Record::*>;
+    using Member = std::variant<Text Record::*, LanguageCode Record::*, std::int32_t Record::*, std::uint16_t Record::*,
+                                std::uint8_t Record::*, bool Record::*>;
 
     int control;
     std::string_view label; ///< for messages
@@ -64,6 +68,14 @@ std::optional<std::int32_t> wholeNumber(std::string_view text);
 /// The message for a text that is not in a field's range.
 std::string rangeMessage(std::string_view label, const NumberRange& range);
 
+/// A range brought within what a member's type holds.
+template <typename Integer>
+NumberRange within(NumberRange range) {
+    range.least = std::max<std::int32_t>(range.least, std::numeric_limits<Integer>::min());
+    range.greatest = std::min<std::int32_t>(range.greatest, std::numeric_limits<Integer>::max());
+    return range;
+}
+
 /// Shows a record in the controls of a form.
 template <typename Record>
 void fillForm(FormPort& port, std::span<const FormField<Record>> fields, const Record& record) {
@@ -73,7 +85,7 @@ void fillForm(FormPort& port, std::span<const FormField<Record>> fields, const R
                 using Value = std::remove_cvref_t<decltype(record.*member)>;
                 if constexpr (std::is_same_v<Value, bool>) {
                     port.setChecked(field.control, record.*member);
-                } else if constexpr (std::is_same_v<Value, std::int32_t>) {
+                } else if constexpr (std::is_integral_v<Value>) {
                     port.setText(field.control, std::to_string(record.*member));
                 } else {
                     port.setLimit(field.control, Value::MaxLength);
@@ -95,13 +107,14 @@ std::optional<FormError> readForm(FormPort& port, std::span<const FormField<Reco
                 using Value = std::remove_cvref_t<decltype(record.*member)>;
                 if constexpr (std::is_same_v<Value, bool>) {
                     record.*member = port.isChecked(field.control);
-                } else if constexpr (std::is_same_v<Value, std::int32_t>) {
+                } else if constexpr (std::is_integral_v<Value>) {
+                    const NumberRange range = within<Value>(field.range);
                     const std::optional<std::int32_t> number = wholeNumber(port.text(field.control));
-                    const bool inRange = number && *number >= field.range.least && *number <= field.range.greatest;
-                    if (inRange || (!number && field.range.zeroForOtherTexts)) {
-                        record.*member = number.value_or(0);
+                    const bool inRange = number && *number >= range.least && *number <= range.greatest;
+                    if (inRange || (!number && range.zeroForOtherTexts)) {
+                        record.*member = static_cast<Value>(number.value_or(0));
                     } else {
-                        error = FormError{field.control, rangeMessage(field.label, field.range)};
+                        error = FormError{field.control, rangeMessage(field.label, range)};
                     }
                 } else {
                     record.*member = port.text(field.control);

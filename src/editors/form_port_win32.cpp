@@ -36,7 +36,16 @@ std::string DialogPort::text(int control) {
 }
 
 void DialogPort::setText(int control, std::string_view text) {
-    SetWindowTextA(GetDlgItem(dialog_, control), std::string(text).c_str());
+    HWND window = GetDlgItem(dialog_, control);
+    const std::string words(text);
+    const bool isPureList = isComboBox(window) && (GetWindowLongA(window, GWL_STYLE) & CBS_DROPDOWNLIST) == CBS_DROPDOWNLIST;
+    if (isPureList) {
+        const LRESULT index = SendMessageA(window, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
+                                           reinterpret_cast<LPARAM>(words.c_str()));
+        SendMessageA(window, CB_SETCURSEL, static_cast<WPARAM>(index), 0);
+        return;
+    }
+    SetWindowTextA(window, words.c_str());
 }
 
 bool DialogPort::isChecked(int control) {
@@ -53,10 +62,13 @@ void DialogPort::setEnabled(int control, bool enabled) {
 
 void DialogPort::setChoices(int control, std::span<const std::string> choices) {
     HWND window = GetDlgItem(dialog_, control);
+    // Emptying the list empties its edit part too.
+    const std::string kept = text(control);
     SendMessageA(window, CB_RESETCONTENT, 0, 0);
     for (const std::string& choice : choices) {
         SendMessageA(window, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(choice.c_str()));
     }
+    setText(control, kept);
 }
 
 void DialogPort::setLimit(int control, std::size_t characters) {

@@ -4,7 +4,10 @@
 
 #include "data/enumerations.h"
 #include "data/image_names.h"
+#include "editors/availability_dialog.h"
+#include "editors/component_dialogs.h"
 #include "editors/component_list.h"
+#include "editors/drive_dialog.h"
 #include "editors/form_port_win32.h"
 #include "editors/image_choices.h"
 #include "editors/vehicle_form.h"
@@ -18,6 +21,14 @@
 namespace varrocade {
 
 namespace {
+
+/// What the dialog works on.
+struct VehicleEditor {
+    EditContext& edit;
+    const DrawingObjects& drawing;
+
+    [[nodiscard]] VehicleRecord& vehicle() const { return *edit.record.vehicle; }
+};
 
 // Private messages of the dialog.
 constexpr UINT RefreshComponents = WM_APP + 1;
@@ -37,7 +48,7 @@ constexpr auto NewComponents = std::to_array<NewComponent>({
 });
 
 INT_PTR CALLBACK addComponentProcedure(HWND dialog, UINT message, WPARAM parameter, LPARAM pointer) {
-    auto* context = dialogContext<VehicleEditorContext>(dialog, message, pointer);
+    auto* context = dialogContext<VehicleEditor>(dialog, message, pointer);
     if (message == WM_INITDIALOG) {
         std::vector<std::string> names;
         for (const NewComponent& row : NewComponents) {
@@ -50,8 +61,9 @@ INT_PTR CALLBACK addComponentProcedure(HWND dialog, UINT message, WPARAM paramet
     if (message == WM_COMMAND && LOWORD(parameter) == IDOK) {
         const LRESULT chosen = SendDlgItemMessageA(dialog, IDC_COMPONENT_KIND, CB_GETCURSEL, 0, 0);
         if (chosen >= 0 && static_cast<std::size_t>(chosen) < NewComponents.size()) {
-            addComponent(*context->record.vehicle, NewComponents[static_cast<std::size_t>(chosen)].kind);
-            context->redraw();
+            const NewComponent& row = NewComponents[static_cast<std::size_t>(chosen)];
+            addComponent(context->vehicle(), row.kind);
+            context->edit.changed("Add " + std::string(row.name));
             EndDialog(dialog, 1);
         }
         return TRUE;
@@ -96,8 +108,8 @@ void updateMoveButtons(HWND dialog, const VehicleRecord& vehicle) {
     port.setEnabled(IDC_REMOVE, selected.has_value());
 }
 
-void addToList(HWND dialog, VehicleEditorContext& context) {
-    const std::vector<ComponentRecord>& components = context.record.vehicle->components;
+void addToList(HWND dialog, VehicleEditor& context) {
+    const std::vector<ComponentRecord>& components = context.vehicle().components;
     if (components.size() >= MaxSquadMembers) {
         showMessage({.text = std::string(TooManyComponentsText),
                      .caption = std::string(SquadFullCaption),
@@ -110,9 +122,9 @@ void addToList(HWND dialog, VehicleEditorContext& context) {
     }
 }
 
-void deleteFromList(HWND dialog, VehicleEditorContext& context) {
-    std::vector<ComponentRecord>& components = context.record.vehicle->components;
-    const auto selected = selectedComponent(dialog, *context.record.vehicle);
+void deleteFromList(HWND dialog, VehicleEditor& context) {
+    std::vector<ComponentRecord>& components = context.vehicle().components;
+    const auto selected = selectedComponent(dialog, context.vehicle());
     if (!selected) {
         return;
     }
@@ -130,24 +142,36 @@ void deleteFromList(HWND dialog, VehicleEditorContext& context) {
         return;
     }
     components.erase(components.begin() + static_cast<std::ptrdiff_t>(*selected));
-    context.redraw();
+    context.edit.changed("Delete component");
     SendMessageA(dialog, RefreshComponents, 0, 0);
     if (!components.empty()) {
         selectComponent(dialog, std::min(*selected, components.size() - 1));
     }
 }
 
-void moveInList(HWND dialog, VehicleEditorContext& context, bool upwards) {
-    VehicleRecord& vehicle = *context.record.vehicle;
+void moveInList(HWND dialog, VehicleEditor& context, bool upwards) {
+    VehicleRecord& vehicle = context.vehicle();
     const auto selected = selectedComponent(dialog, vehicle);
     if (!selected || !(upwards ? canMoveUp(vehicle, *selected) : canMoveDown(vehicle, *selected))) {
         return;
     }
     const std::size_t other = upwards ? *selected - 1 : *selected + 1;
     std::swap(vehicle.components[*selected], vehicle.components[other]);
-    context.redraw();
+    context.edit.changed("Move component");
     SendMessageA(dialog, RefreshComponents, 0, 0);
     selectComponent(dialog, other);
+}
+
+void openComponent(HWND dialog, VehicleEditor& context) {
+    SendMessageA(dialog, UpdateMoveButtons, 0, 0);
+    const auto selected = selectedComponent(dialog, context.vehicle());
+    if (!selected) {
+        return;
+    }
+    editComponent(dialog, context.edit, *selected);
+    context.edit.redraw();
+    SendMessageA(dialog, RefreshComponents, 0, 0);
+    selectComponent(dialog, *selected);
 }
 
 // ---- the dialog
@@ -170,33 +194,39 @@ std::vector<std::string> strings(std::span<const std::string_view> names) {
     return {names.begin(), names.end()};
 }
 
-void fillDialog(HWND dialog, const VehicleEditorContext& context) {
+void fillDialog(HWND dialog, const VehicleEditor& context) {
     DialogPort port(dialog);
     port.setChoices(IDC_NATIONALITY, strings(nationalityNames()));
     port.setChoices(IDC_TYPE, strings(unitTypeNames()));
     for (const ImageList& list : ImageLists) {
-        std::vector<std::string> choices = imageChoices(context.imageBases, list.sources);
+        std::vector<std::string> choices = imageChoices(context.edit.imageBases, list.sources);
         choices.insert(choices.begin(), std::string(DefaultImageName));
         port.setChoices(list.control, choices);
     }
-    fillVehicleForm(port, context.record);
-    refreshComponents(dialog, *context.record.vehicle);
+    fillVehicleForm(port, context.edit.record);
+    refreshComponents(dialog, context.vehicle());
 }
 
-void saveDialog(HWND dialog, VehicleEditorContext& context) {
+void saveDialog(HWND dialog, VehicleEditor& context) {
     DialogPort port(dialog);
-    if (const auto error = readVehicleForm(port, context.record)) {
+    if (const auto error = readVehicleForm(port, context.edit.record)) {
         port.focus(error->control);
         showMessage({.text = error->message, .caption = "Details", .icon = MessageIcon::Information});
         return;
     }
+    context.edit.changed("Details");
     EndDialog(dialog, 1);
 }
 
-INT_PTR handleCommand(HWND dialog, VehicleEditorContext& context, WORD control, WORD notification) {
+INT_PTR handleCommand(HWND dialog, VehicleEditor& context, WORD control, WORD notification) {
     switch (control) {
     case IDOK:
-        saveDialog(dialog, context);
+        // Enter on a component opens it, as a double-click does.
+        if (GetFocus() == GetDlgItem(dialog, IDC_COMPONENTS) && GetKeyState(VK_RETURN) < 0) {
+            openComponent(dialog, context);
+        } else {
+            saveDialog(dialog, context);
+        }
         return TRUE;
     case IDCANCEL:
         EndDialog(dialog, 0);
@@ -220,6 +250,16 @@ INT_PTR handleCommand(HWND dialog, VehicleEditorContext& context, WORD control, 
     case IDC_COMPONENTS:
         if (notification == LBN_SELCHANGE) {
             SendMessageA(dialog, UpdateMoveButtons, 0, 0);
+        } else if (notification == LBN_DBLCLK) {
+            openComponent(dialog, context);
+        }
+        return TRUE;
+    case IDC_DRIVE:
+        editDrive(dialog, context.edit);
+        return TRUE;
+    case IDC_AVAILABILITY:
+        if (editAvailability(dialog, context.edit, context.drawing)) {
+            context.edit.changed("Availability");
         }
         return TRUE;
     default:
@@ -228,16 +268,16 @@ INT_PTR handleCommand(HWND dialog, VehicleEditorContext& context, WORD control, 
 }
 
 INT_PTR CALLBACK detailsProcedure(HWND dialog, UINT message, WPARAM parameter, LPARAM pointer) {
-    auto* context = dialogContext<VehicleEditorContext>(dialog, message, pointer);
+    auto* context = dialogContext<VehicleEditor>(dialog, message, pointer);
     switch (message) {
     case WM_INITDIALOG:
         fillDialog(dialog, *context);
         return TRUE;
     case RefreshComponents:
-        refreshComponents(dialog, *context->record.vehicle);
+        refreshComponents(dialog, context->vehicle());
         return TRUE;
     case UpdateMoveButtons:
-        updateMoveButtons(dialog, *context->record.vehicle);
+        updateMoveButtons(dialog, context->vehicle());
         return TRUE;
     case WM_COMMAND:
         return handleCommand(dialog, *context, LOWORD(parameter), HIWORD(parameter));
@@ -248,8 +288,9 @@ INT_PTR CALLBACK detailsProcedure(HWND dialog, UINT message, WPARAM parameter, L
 
 } // namespace
 
-bool editVehicle(VehicleEditorContext context) {
-    return runDialog(context.owner, IDD_DETAILS, detailsProcedure, &context) != 0;
+bool editVehicle(HWND owner, EditContext& edit, const DrawingObjects& drawing) {
+    VehicleEditor context{.edit = edit, .drawing = drawing};
+    return runDialog(owner, IDD_DETAILS, detailsProcedure, &context) != 0;
 }
 
 } // namespace varrocade

@@ -17,7 +17,8 @@ struct FileFailure {
     std::string reason;
 };
 
-/// A file opened for writing. Every call returns whether it succeeded; the destructor closes without a report.
+/// A file opened for writing. Every call returns whether it succeeded; the destructor closes without a
+/// report.
 class OutputFile {
 public:
     OutputFile() = default;
@@ -61,7 +62,11 @@ FileOperations& systemFiles();
 /// over many files allocates once.
 bool readWholeFile(const std::string& path, std::string& content);
 
-/// The names of the files in `folder` (ending in a backslash) that end in `ending` (letter case ignored, as in
+/// At most the first `length` bytes of a file.
+bool readFileBeginning(const std::string& path, std::size_t length, std::string& content);
+
+/// The names of the files in `folder` (ending in a backslash) that end in `ending` (letter case ignored, as
+/// in
 /// "*.txt"), in the order in which the system lists them. False when the folder cannot be listed.
 bool listFiles(const std::string& folder, std::string_view ending, std::vector<std::string>& names);
 

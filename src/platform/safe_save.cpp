@@ -52,9 +52,34 @@ std::string withoutEndingBackslash(std::string_view path) {
     return std::string(path);
 }
 
+/// Where the backup of `path` goes: its path below the base folder, with a mark and the time in its name.
+std::string backupPath(FileOperations& files, const std::string& base, std::string_view path, std::string_view mark) {
+    const std::string_view below = path.starts_with(base) ? path.substr(base.size()) : path;
+    const std::size_t name = below.rfind('\\') + 1;
+    const std::size_t dot = below.find('.', name);
+    const std::string stem = base + std::string(BackupFolder) + std::string(below.substr(0, dot)) + std::string(mark) +
+                             " " + timeStamp();
+    const std::string ending(dot == std::string_view::npos ? std::string_view() : below.substr(dot));
+    std::string backup = stem + ending;
+    for (int attempt = 2; files.exists(backup) && attempt < MaxNameAttempts; ++attempt) {
+        backup = stem + " " + std::to_string(attempt) + ending;
+    }
+    return backup;
+}
+
+std::optional<FileFailure> writeBackup(FileOperations& files, const std::string& base, const std::string& path,
+                                       std::string_view mark, std::string_view content) {
+    const std::string backup = backupPath(files, base, path, mark);
+    if (auto failure = createFolders(files, backup.substr(0, backup.rfind('\\') + 1))) {
+        return failure;
+    }
+    return saveFile(files, backup, content);
+}
+
 } // namespace
 
-std::optional<FileFailure> saveFile(FileOperations& files, const std::string& path, std::string_view content) {
+std::optional<FileFailure> saveFile(FileOperations& files, const std::string& path,
+                                    std::string_view content) {
     TemporaryFile temporary = createTemporary(files, path);
     if (!temporary.file) {
         return FileFailure{path, files.lastError()};
@@ -94,32 +119,21 @@ std::optional<FileFailure> BackupKeeper::keep(FileOperations& files, const std::
     if (!files.read(path, content)) {
         return FileFailure{path, files.lastError()};
     }
-    const std::string_view below =
-        std::string_view(path).starts_with(base) ? std::string_view(path).substr(base.size()) : path;
-    const std::size_t lastSeparator = below.rfind('\\');
-    const std::string folder =
-        base + std::string(BackupFolder) +
-        std::string(lastSeparator == std::string_view::npos ? "" : below.substr(0, lastSeparator + 1));
-    if (auto failure = createFolders(files, folder)) {
-        return failure;
-    }
-    const std::string_view name = below.substr(lastSeparator + 1);
-    const std::size_t dot = name.rfind('.');
-    const std::string stem(name.substr(0, dot));
-    const std::string ending(dot == std::string_view::npos ? std::string_view() : name.substr(dot));
-    std::string backup = folder + stem + " " + timeStamp() + ending;
-    for (int attempt = 2; files.exists(backup) && attempt < MaxNameAttempts; ++attempt) {
-        backup = folder + stem + " " + timeStamp() + " " + std::to_string(attempt) + ending;
-    }
-    if (auto failure = saveFile(files, backup, content)) {
+    if (auto failure = writeBackup(files, base, path, "", content)) {
         return failure;
     }
     kept_.insert(path);
     return std::nullopt;
 }
 
-std::optional<FileFailure> replaceDataFile(FileOperations& files, BackupKeeper& backups, const std::string& base,
-                                           const std::string& path, std::string_view content) {
+std::optional<FileFailure> BackupKeeper::keepUnsaved(FileOperations& files, const std::string& base,
+                                                     const std::string& path, std::string_view content) {
+    return writeBackup(files, base, path, " (unsaved)", content);
+}
+
+std::optional<FileFailure> replaceDataFile(FileOperations& files, BackupKeeper& backups,
+                                           const std::string& base, const std::string& path,
+                                           std::string_view content) {
     const std::string folder = withoutEndingBackslash(std::string_view(path).substr(0, path.rfind('\\') + 1));
     if (!folder.empty()) {
         if (auto failure = createFolders(files, folder + "\\")) {

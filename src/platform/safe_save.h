@@ -1,6 +1,6 @@
 #pragma once
-// Saving that never loses the old file: the new content goes to a temporary file beside the target, is flushed
-// to the device and closed, and only then takes the target's place in one step.
+// Saving that never loses the old file: the new content goes to a temporary file beside the target, is
+// flushed to the device and closed, and only then takes the target's place in one step.
 
 #include "platform/file_operations.h"
 
@@ -23,6 +23,10 @@ public:
     /// `base` ends in a backslash and begins `path`.
     std::optional<FileFailure> keep(FileOperations& files, const std::string& base, const std::string& path);
 
+    /// Writes a content that never reached `path` beside its backups, marked as unsaved.
+    std::optional<FileFailure> keepUnsaved(FileOperations& files, const std::string& base, const std::string& path,
+                                           std::string_view content);
+
 private:
     std::set<std::string, std::less<>> kept_;
 };
@@ -32,7 +36,8 @@ private:
 std::optional<FileFailure> createFolders(FileOperations& files, const std::string& path);
 
 /// Backs up, then saves: what every writer of the editor's data files goes through.
-std::optional<FileFailure> replaceDataFile(FileOperations& files, BackupKeeper& backups, const std::string& base,
-                                           const std::string& path, std::string_view content);
+std::optional<FileFailure> replaceDataFile(FileOperations& files, BackupKeeper& backups,
+                                           const std::string& base, const std::string& path,
+                                           std::string_view content);
 
 } // namespace varrocade

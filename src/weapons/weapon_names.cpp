@@ -154,14 +154,15 @@ AmmoFlavour flavourOf(std::string_view name) {
 }
 
 std::string_view displayNameOf(AmmoFlavour flavour) {
-    const auto row = std::find_if(Flavours.begin(), Flavours.end(),
-                                  [flavour](const FlavourRow& candidate) { return candidate.value == flavour; });
+    const auto row = std::find_if(Flavours.begin(), Flavours.end(), [flavour](const FlavourRow& candidate) {
+        return candidate.value == flavour;
+    });
     return row != Flavours.end() ? row->displayName : Flavours.front().displayName;
 }
 
 bool isHeat(AmmoFlavour flavour) {
-    return flavour == AmmoFlavour::GrenadeHeat || flavour == AmmoFlavour::RpgHeat || flavour == AmmoFlavour::Heat ||
-           flavour == AmmoFlavour::Atgm || flavour == AmmoFlavour::Heatfs;
+    return flavour == AmmoFlavour::GrenadeHeat || flavour == AmmoFlavour::RpgHeat ||
+           flavour == AmmoFlavour::Heat || flavour == AmmoFlavour::Atgm || flavour == AmmoFlavour::Heatfs;
 }
 
 std::string_view nameOf(HeatEra era) {

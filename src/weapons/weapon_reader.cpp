@@ -5,6 +5,7 @@
 #include "weapons/weapon_elements.h"
 #include "weapons/weapon_files.h"
 #include "weapons/weapon_names.h"
+#include "weapons/weapon_rules.h"
 
 #include <algorithm>
 #include <array>
@@ -16,12 +17,14 @@ namespace {
 
 namespace we = weapon_element;
 
-/// What the walk is filling. `ammoType` is null until the first entry, and while one that found no room is passed.
+/// What the walk is filling. `ammoType` is null until the first entry, and while one that found no room is
+/// passed.
 struct Reading {
     WeaponRecord& weapon;
     WeaponReadReport& report;
     std::string_view fileContent;
     const TagTree& tree;
+    ReadingTrace* trace;
     const TagNode* node = nullptr;
     AmmoTypeRecord* ammoType = nullptr;
 };
@@ -58,27 +61,50 @@ AmmoTypeRecord* target(Reading& reading, const AmmoTypeRecord*) {
     return reading.ammoType;
 }
 
-template <typename Owner, typename Field>
-const Owner* ownerOf(Field Owner::*) {
-    return nullptr;
+template <typename Member>
+struct MemberOf;
+template <typename Record, typename Field>
+struct MemberOf<Field Record::*> {
+    using Owner = Record;
+    using Type = Field;
+};
+
+/// The object whose member a rule is about to set.
+template <auto Member, ValueKind Kind = kindOfField<typename MemberOf<decltype(Member)>::Type>()>
+auto* targetOf(Reading& reading) {
+    using Owner = typename MemberOf<decltype(Member)>::Owner;
+    const Owner* kind = nullptr;
+    auto* object = target(reading, kind);
+    if (reading.trace != nullptr && object != nullptr) {
+        reading.trace->note<Member>(*object, std::same_as<Owner, WeaponRecord>, Kind);
+    }
+    return object;
+}
+
+void judge(Reading& reading, bool understood) {
+    if (reading.trace != nullptr) {
+        reading.trace->judge(understood);
+    }
 }
 
 template <auto Member>
 void set(Reading& reading, std::string_view text) {
-    if (auto* object = target(reading, ownerOf(Member))) {
+    if (auto* object = targetOf<Member>(reading)) {
         convert(text, object->*Member);
     }
 }
 
 template <auto Member>
 void setImage(Reading& reading, std::string_view text) {
-    set<Member>(reading, withoutPngEnding(text));
+    if (auto* object = targetOf<Member, ValueKind::Image>(reading)) {
+        object->*Member = withoutPngEnding(text);
+    }
 }
 
 /// "yes" sets a flag; other texts leave it as it is.
 template <auto Member>
 void setFlag(Reading& reading, std::string_view text) {
-    if (auto* object = target(reading, ownerOf(Member)); object != nullptr && text == "yes") {
+    if (auto* object = targetOf<Member>(reading); object != nullptr && text == "yes") {
         object->*Member = true;
     }
 }
@@ -86,7 +112,7 @@ void setFlag(Reading& reading, std::string_view text) {
 /// A known word sets the member; other texts leave it as it is.
 template <auto Member, auto ValueOf>
 void setWord(Reading& reading, std::string_view text) {
-    auto* object = target(reading, ownerOf(Member));
+    auto* object = targetOf<Member>(reading);
     if (const auto value = ValueOf(text); value && object != nullptr) {
         object->*Member = *value;
     }
@@ -101,8 +127,9 @@ void report(Reading& reading, const std::string& line) {
 
 void setType(Reading& reading, std::string_view text) {
     const WeaponType type = weaponTypeOf(text);
+    WeaponRecord* weapon = targetOf<&WeaponRecord::type>(reading);
     if (type != WeaponType::None) {
-        reading.weapon.type = type;
+        weapon->type = type;
         return;
     }
     report(reading, "\xF0\x9F\x92\xA5 ERROR: WeaponDataList: getListEntryForWeapon() unknown <type> in '" +
@@ -116,22 +143,26 @@ void setType(Reading& reading, std::string_view text) {
 /// The low 8 bits, as the game keeps them.
 void setNumberOfBarrels(Reading& reading, std::string_view text) {
     constexpr std::uint32_t lowByte = 0xFF;
-    reading.weapon.numberOfBarrels = static_cast<std::uint8_t>(static_cast<std::uint32_t>(toInteger(text)) & lowByte);
+    targetOf<&WeaponRecord::numberOfBarrels>(reading)->numberOfBarrels =
+        static_cast<std::uint8_t>(static_cast<std::uint32_t>(toInteger(text)) & lowByte);
 }
 
 void setMuzzleFlash(Reading& reading, std::string_view text) {
+    WeaponRecord* weapon = targetOf<&WeaponRecord::muzzleFlash>(reading);
     if (text == "yes" || text == "no") {
-        reading.weapon.muzzleFlash = text == "yes";
+        weapon->muzzleFlash = text == "yes";
     }
 }
 
 void setCapacity(Reading& reading, std::string_view text) {
-    reading.weapon.magazineCapacity = std::max<std::int16_t>(1, toClamped<std::int16_t>(text));
+    targetOf<&WeaponRecord::magazineCapacity>(reading)->magazineCapacity =
+        std::max<std::int16_t>(1, toClamped<std::int16_t>(text));
 }
 
 void setFlavour(Reading& reading, std::string_view text) {
-    if (reading.ammoType != nullptr) {
-        reading.ammoType->flavour = flavourOf(text);
+    if (AmmoTypeRecord* ammoType = targetOf<&AmmoTypeRecord::flavour>(reading)) {
+        ammoType->flavour = flavourOf(text);
+        judge(reading, ammoType->flavour != AmmoFlavour::None);
     }
 }
 
@@ -140,11 +171,18 @@ void addAmmoType(Reading& reading, std::string_view) {
     reading.ammoType = nullptr;
     if (types.size() < MaxAmmoTypes) {
         reading.ammoType = &types.emplace_back();
+        if (reading.trace != nullptr) {
+            reading.trace->noteEntry(reading.node->name, false);
+        }
         return;
     }
-    report(reading, "ERROR: " + reading.weapon.fileName + ": line " +
-                        std::to_string(lineOfOffset(reading.fileContent, reading.tree.offsetOf(reading.node->name))) +
-                        ": more than 255 ammunition types: left out");
+    if (reading.trace != nullptr) {
+        reading.trace->noteLeftOut("more than 255 ammunition types");
+    }
+    report(reading,
+           "ERROR: " + reading.weapon.fileName + ": line " +
+               std::to_string(lineOfOffset(reading.fileContent, reading.tree.offsetOf(reading.node->name))) +
+               ": more than 255 ammunition types: left out");
 }
 
 using Weapon = WeaponRecord;
@@ -187,38 +225,85 @@ constexpr auto AmmoTypeRules = std::to_array<Rule>({
     {we::Type, we::Name, set<&Ammo::name>},
 });
 
+/// Applies the rule for a node, if there is one; returns whether there is.
 template <typename RuleTable>
-void applyRule(const RuleTable& rules, Reading& reading, std::string_view parent, const TagNode& node) {
+bool applyRule(const RuleTable& rules, Reading& reading, std::string_view parent, const TagNode& node) {
     for (const Rule& rule : rules) {
         if (rule.element == node.name && rule.parent == parent) {
             rule.apply(reading, node.text);
-            return;
+            return true;
         }
     }
+    return false;
+}
+
+/// Whether elements of this name hold others that mean something.
+bool isGroup(std::string_view name) {
+    return std::any_of(Rules.begin(), Rules.end(), [name](const Rule& rule) { return rule.parent == name; });
+}
+
+bool visit(Reading& reading, const TagNode& node) {
+    const std::vector<TagNode>& nodes = reading.tree.nodes();
+    const TagNode& parent = nodes[node.parent];
+    reading.node = &node;
+    const bool inAmmoType =
+        parent.name == we::Type && parent.parent != TagNode::None && nodes[parent.parent].name == we::Ammo;
+    return inAmmoType ? applyRule(AmmoTypeRules, reading, parent.name, node)
+                      : applyRule(Rules, reading, parent.name, node);
 }
 
 } // namespace
 
-WeaponRecord readWeapon(std::string_view fileContent, std::string_view fileName, WeaponReadReport& report) {
+WeaponRecord weapon_rules::readTree(const TagTree& tree, std::string_view fileContent,
+                                    std::string_view fileName, WeaponReadReport& report,
+                                    ReadingTrace* trace) {
     WeaponRecord weapon;
     weapon.fileName = fileName;
-    TagTree tree;
-    tree.parse(fileContent);
-    Reading reading{.weapon = weapon, .report = report, .fileContent = fileContent, .tree = tree};
+    Reading reading{
+        .weapon = weapon, .report = report, .fileContent = fileContent, .tree = tree, .trace = trace};
     const std::vector<TagNode>& nodes = tree.nodes();
-    for (std::size_t i = 1; i < nodes.size(); ++i) {
-        const TagNode& node = nodes[i];
-        const TagNode& parent = nodes[node.parent];
-        reading.node = &node;
-        const bool inAmmoType =
-            parent.name == we::Type && parent.parent != TagNode::None && nodes[parent.parent].name == we::Ammo;
-        if (inAmmoType) {
-            applyRule(AmmoTypeRules, reading, parent.name, node);
+    for (std::uint32_t i = 1; i < nodes.size(); ++i) {
+        if (trace == nullptr) {
+            visit(reading, nodes[i]);
         } else {
-            applyRule(Rules, reading, parent.name, node);
+            trace->enter(i, nodes[i].parent);
+            const bool hasRule = visit(reading, nodes[i]);
+            trace->leave(hasRule || isGroup(nodes[i].name));
         }
     }
     return weapon;
+}
+
+bool weapon_rules::isElement(std::string_view name) {
+    const auto isNamed = [name](const Rule& rule) { return rule.element == name; };
+    return isGroup(name) || std::any_of(Rules.begin(), Rules.end(), isNamed) ||
+           std::any_of(AmmoTypeRules.begin(), AmmoTypeRules.end(), isNamed);
+}
+
+std::string valueText(WeaponType value) {
+    return std::string(nameOf(value));
+}
+
+std::string valueText(AmmoFlavour value) {
+    return std::string(nameOf(value));
+}
+
+std::string valueText(HeatEra value) {
+    return std::string(nameOf(value));
+}
+
+std::string valueText(GuidanceMode value) {
+    return value == GuidanceMode::Unguided ? std::string() : std::string(nameOf(value));
+}
+
+std::string valueText(ReloadMode value) {
+    return value == ReloadMode::None ? std::string() : std::string(nameOf(value));
+}
+
+WeaponRecord readWeapon(std::string_view fileContent, std::string_view fileName, WeaponReadReport& report) {
+    TagTree tree;
+    tree.parse(fileContent);
+    return weapon_rules::readTree(tree, fileContent, fileName, report, nullptr);
 }
 
 std::optional<WeaponRecord> readWeaponFile(const std::string& path, std::string_view fileName,
@@ -241,7 +326,8 @@ std::optional<WeaponRecord> loadWeapon(std::string_view base, std::string_view f
         debugLine(line);
     }
     for (const std::string& type : report.unknownTypes) {
-        showMessage({.text = "unknown <type> '" + type + "'", .caption = weapon->name, .icon = MessageIcon::Error});
+        showMessage(
+            {.text = "unknown <type> '" + type + "'", .caption = weapon->name, .icon = MessageIcon::Error});
     }
     return weapon;
 }

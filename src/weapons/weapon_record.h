@@ -73,9 +73,22 @@ enum class AmmoFlavour : std::uint8_t {
     BombHe = 193,
 };
 
-enum class HeatEra : std::uint8_t { Early = 0, Late = 1, ColdWarEarly = 2, ColdWar = 3, ColdWarLate = 4, Modern = 5 };
+enum class HeatEra : std::uint8_t {
+    Early = 0,
+    Late = 1,
+    ColdWarEarly = 2,
+    ColdWar = 3,
+    ColdWarLate = 4,
+    Modern = 5
+};
 
-enum class GuidanceMode : std::uint8_t { Unguided = 0, Manual = 1, FireAndForget = 2, TopAttack = 3, OverTheTop = 4 };
+enum class GuidanceMode : std::uint8_t {
+    Unguided = 0,
+    Manual = 1,
+    FireAndForget = 2,
+    TopAttack = 3,
+    OverTheTop = 4
+};
 
 enum class ReloadMode : std::uint8_t { None = 0, SemiAutomatic = 1, Automatic = 2 };
 

@@ -68,8 +68,8 @@ void writeMagazine(FileText& out, const WeaponRecord& weapon) {
     out.close(1, we::Magazine).blankLine();
 }
 
-/// These three smoke flavours have no explosive in the files. The smoke of guns and of artillery has: the game's
-/// files rely on it.
+/// These three smoke flavours have no explosive in the files. The smoke of guns and of artillery has: the
+/// game's files rely on it.
 bool hasNoExplosive(AmmoFlavour flavour) {
     return flavour == AmmoFlavour::GrenadeSmoke || flavour == AmmoFlavour::RpgSmoke ||
            flavour == AmmoFlavour::MortarSmoke;

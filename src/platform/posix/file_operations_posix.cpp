@@ -62,7 +62,8 @@ public:
     bool exists(const std::string& path) override { return ::access(nativePath(path).c_str(), F_OK) == 0; }
     std::unique_ptr<OutputFile> createNew(const std::string& path) override {
         constexpr int mode = 0666;
-        const int descriptor = ::open(nativePath(path).c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode);
+        const int descriptor =
+            ::open(nativePath(path).c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode);
         return descriptor < 0 ? nullptr : std::make_unique<PosixOutputFile>(descriptor);
     }
     bool replace(const std::string& from, const std::string& to) override {
@@ -112,6 +113,14 @@ bool readWholeFile(const std::string& path, std::string& content) {
     }
     content.resize(length);
     return true;
+}
+
+bool readFileBeginning(const std::string& path, std::size_t length, std::string& content) {
+    const Descriptor file(::open(nativePath(path).c_str(), O_RDONLY | O_CLOEXEC));
+    content.resize(length);
+    const ssize_t got = file.number() < 0 ? -1 : ::read(file.number(), content.data(), length);
+    content.resize(got > 0 ? static_cast<std::size_t>(got) : 0);
+    return got >= 0;
 }
 
 bool listFiles(const std::string& folder, std::string_view ending, std::vector<std::string>& names) {

@@ -67,8 +67,8 @@ public:
     std::string lastError() override {
         std::array<char, 512> text{};
         const DWORD length =
-            FormatMessageA(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr, GetLastError(), 0,
-                           text.data(), static_cast<DWORD>(text.size()), nullptr);
+            FormatMessageA(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
+                           GetLastError(), 0, text.data(), static_cast<DWORD>(text.size()), nullptr);
         std::string_view reason(text.data(), length);
         while (!reason.empty() && (reason.back() == '\r' || reason.back() == '\n' || reason.back() == ' ')) {
             reason.remove_suffix(1);
@@ -97,8 +97,8 @@ bool readWholeFile(const std::string& path, std::string& content) {
         constexpr std::size_t largest = 1U << 30U;
         const std::size_t rest = content.size() - length;
         DWORD got = 0;
-        if (ReadFile(file.get(), content.data() + length, static_cast<DWORD>(rest < largest ? rest : largest), &got,
-                     nullptr) == 0) {
+        if (ReadFile(file.get(), content.data() + length, static_cast<DWORD>(rest < largest ? rest : largest),
+                     &got, nullptr) == 0) {
             return false;
         }
         if (got == 0) {
@@ -108,6 +108,17 @@ bool readWholeFile(const std::string& path, std::string& content) {
     }
     content.resize(length);
     return true;
+}
+
+bool readFileBeginning(const std::string& path, std::size_t length, std::string& content) {
+    const FileHandle file(CreateFileA(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                                      OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+    content.resize(length);
+    DWORD got = 0;
+    const bool isRead =
+        file.valid() && ReadFile(file.get(), content.data(), static_cast<DWORD>(length), &got, nullptr) != 0;
+    content.resize(isRead ? got : 0);
+    return isRead;
 }
 
 bool listFiles(const std::string& folder, std::string_view ending, std::vector<std::string>& names) {
@@ -120,7 +131,8 @@ bool listFiles(const std::string& folder, std::string_view ending, std::vector<s
     const std::string endingText(ending);
     do {
         const std::string_view name = found.cFileName;
-        // The system's own "*.txt" would also match longer endings through the short names of old file systems.
+        // The system's own "*.txt" would also match longer endings through the short names of old file
+        // systems.
         if ((found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0 && name.size() >= ending.size() &&
             lstrcmpiA(found.cFileName + (name.size() - ending.size()), endingText.c_str()) == 0) {
             names.emplace_back(name);
@@ -139,8 +151,8 @@ std::string timeStamp() {
     SYSTEMTIME now{};
     GetLocalTime(&now);
     std::array<char, 64> text{};
-    const int length = std::snprintf(text.data(), text.size(), "%04u-%02u-%02u %02u%02u%02u", now.wYear, now.wMonth,
-                                     now.wDay, now.wHour, now.wMinute, now.wSecond);
+    const int length = std::snprintf(text.data(), text.size(), "%04u-%02u-%02u %02u%02u%02u", now.wYear,
+                                     now.wMonth, now.wDay, now.wHour, now.wMinute, now.wSecond);
     return {text.data(), static_cast<std::size_t>(length > 0 ? length : 0)};
 }
 

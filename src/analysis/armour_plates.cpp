@@ -1,0 +1,65 @@
+#include "analysis/armour_plates.h"
+
+#include "data/elements.h"
+
+#include <array>
+
+namespace varrocade {
+
+namespace {
+
+namespace e = element;
+
+struct PlateRow {
+    std::string_view name;
+    ArmourPlate ArmourRecord::*plate;
+};
+
+constexpr auto Plates = std::to_array<PlateRow>({
+    {e::UpperFront, &ArmourRecord::upperFront},
+    {e::LowerFront, &ArmourRecord::lowerFront},
+    {e::UpperLeft, &ArmourRecord::upperLeft},
+    {e::UpperRight, &ArmourRecord::upperRight},
+    {e::LowerLeft, &ArmourRecord::lowerLeft},
+    {e::LowerRight, &ArmourRecord::lowerRight},
+    {e::UpperRear, &ArmourRecord::upperRear},
+    {e::LowerRear, &ArmourRecord::lowerRear},
+});
+
+struct ThicknessRow {
+    std::string_view name;
+    std::int32_t ArmourRecord::*thickness;
+    std::int32_t angle;
+};
+
+constexpr std::int32_t Upright = 0;
+constexpr std::int32_t Horizontal = 90;
+
+constexpr auto Thicknesses = std::to_array<ThicknessRow>({
+    {e::Top, &ArmourRecord::top, Horizontal},
+    {e::Bottom, &ArmourRecord::bottom, Horizontal},
+    {e::Mantlet, &ArmourRecord::mantlet, Upright},
+});
+
+} // namespace
+
+std::vector<VehiclePlate> armourPlates(const VehicleRecord& vehicle) {
+    std::vector<VehiclePlate> plates;
+    const auto add = [&plates](std::size_t component, std::string_view name, const ArmourPlate& plate) {
+        if (plate.thickness > 0) {
+            plates.push_back({.component = component, .name = name, .plate = plate});
+        }
+    };
+    for (std::size_t i = 0; i < vehicle.components.size(); ++i) {
+        const ArmourRecord& armour = vehicle.components[i].armour;
+        for (const PlateRow& row : Plates) {
+            add(i, row.name, armour.*row.plate);
+        }
+        for (const ThicknessRow& row : Thicknesses) {
+            add(i, row.name, {.thickness = armour.*row.thickness, .angle = row.angle});
+        }
+    }
+    return plates;
+}
+
+} // namespace varrocade

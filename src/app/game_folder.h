@@ -1,0 +1,9 @@
+#pragma once
+
+namespace varrocade {
+
+/// Lets the user choose the folder of the installed game, which the checks of a mod compare it with. Kept in
+/// "options.dat". A folder without "Varrocade.exe" is refused with a message.
+void browseForGameFolder();
+
+} // namespace varrocade

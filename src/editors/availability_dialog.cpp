@@ -1,0 +1,135 @@
+#include "editors/availability_dialog.h"
+
+#include "editors/list_dialog_win32.h"
+#include "editors/unit_lists.h"
+#include "resources/resource.h"
+#include "view/timeline_painter_win32.h"
+
+#include <commctrl.h>
+#include <windowsx.h>
+
+namespace varrocade {
+
+namespace {
+
+struct AvailabilityContext {
+    const DrawingObjects& drawing;
+    std::vector<AvailabilityPoint> points; ///< the copy that the dialog works on
+    HWND dialog = nullptr;
+    ListDialog* list = nullptr;
+    std::optional<std::size_t> dragged;
+    TimelineScale dragScale; ///< stays as it was when the dragging began
+};
+
+constexpr int Reach = 8;
+
+AvailabilityContext& contextOf(const ListDialog& list) {
+    return *static_cast<AvailabilityContext*>(list.context);
+}
+
+void repaintTimeline(HWND dialog) {
+    InvalidateRect(GetDlgItem(dialog, IDC_TIMELINE), nullptr, FALSE);
+}
+
+TimelineScale scaleOf(HWND timeline, const AvailabilityContext& context) {
+    RECT area{};
+    GetClientRect(timeline, &area);
+    return timelineScaleIn(area, context.points, context.drawing);
+}
+
+void beginDragging(HWND timeline, AvailabilityContext& context, int x, int y) {
+    if (!takeShownEntry(context.dialog, *context.list)) {
+        return;
+    }
+    context.dragScale = scaleOf(timeline, context);
+    context.dragged = timelinePointNear(context.points, context.dragScale, x, y, context.drawing.scaled(Reach));
+    if (context.dragged) {
+        SetCapture(timeline);
+        refreshEntries(context.dialog, *context.list, static_cast<int>(*context.dragged));
+    }
+}
+
+void drag(AvailabilityContext& context, int x, int y) {
+    if (!context.dragged) {
+        return;
+    }
+    context.points[*context.dragged] = context.dragScale.pointAt(x, y);
+    refreshEntries(context.dialog, *context.list, static_cast<int>(*context.dragged));
+    repaintTimeline(context.dialog);
+}
+
+/// The timeline's mouse: its steps are dragged by their corners.
+LRESULT CALLBACK timelineProcedure(HWND timeline, UINT message, WPARAM parameter, LPARAM detail, UINT_PTR,
+                                   DWORD_PTR data) {
+    auto& context = *reinterpret_cast<AvailabilityContext*>(data);
+    switch (message) {
+    case WM_LBUTTONDOWN:
+        beginDragging(timeline, context, GET_X_LPARAM(detail), GET_Y_LPARAM(detail));
+        return 0;
+    case WM_MOUSEMOVE:
+        drag(context, GET_X_LPARAM(detail), GET_Y_LPARAM(detail));
+        return 0;
+    case WM_LBUTTONUP:
+        context.dragged.reset();
+        ReleaseCapture();
+        return 0;
+    default:
+        return DefSubclassProc(timeline, message, parameter, detail);
+    }
+}
+
+void prepareAvailability(HWND dialog, ListDialog& list) {
+    AvailabilityContext& context = contextOf(list);
+    context.dialog = dialog;
+    context.list = &list;
+    SetWindowSubclass(GetDlgItem(dialog, IDC_TIMELINE), timelineProcedure, 0, reinterpret_cast<DWORD_PTR>(&context));
+}
+
+void followAvailability(HWND dialog, ListDialog&) {
+    repaintTimeline(dialog);
+}
+
+bool availabilityCommand(HWND dialog, ListDialog& list, int control) {
+    if (control != IDC_ENTRY_SORT) {
+        return false;
+    }
+    if (takeShownEntry(dialog, list)) {
+        sortByDate(contextOf(list).points);
+        refreshEntries(dialog, list, list.shown);
+    }
+    return true;
+}
+
+INT_PTR CALLBACK availabilityProcedure(HWND dialog, UINT message, WPARAM parameter, LPARAM pointer) {
+    if (message == WM_DRAWITEM) {
+        const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(pointer);
+        const AvailabilityContext& context = contextOf(*dialogContext<ListDialog>(dialog, message, pointer));
+        FillRect(item.hDC, &item.rcItem, context.drawing.beigeBrush.get());
+        paintTimeline(item.hDC, item.rcItem, context.points, context.drawing);
+        return TRUE;
+    }
+    return handleListDialog(dialog, message, parameter, pointer);
+}
+
+} // namespace
+
+bool editAvailability(HWND owner, EditContext& edit, const DrawingObjects& drawing) {
+    AvailabilityContext context{.drawing = drawing, .points = edit.record.availability, .dragged = {}, .dragScale = {}};
+    VectorListModel<AvailabilityPoint> model(context.points, availabilityShape());
+    ListDialog list{.model = model,
+                    .caption = "Availability",
+                    .fullText = "There are already 255 dates, the most that the game counts",
+                    .fullCaption = "Availability",
+                    .context = &context,
+                    .command = availabilityCommand,
+                    .prepare = prepareAvailability,
+                    .follow = followAvailability};
+    if (runDialog(owner, IDD_AVAILABILITY, availabilityProcedure, &list) == 0 ||
+        context.points == edit.record.availability) {
+        return false;
+    }
+    edit.record.availability = std::move(context.points);
+    return true;
+}
+
+} // namespace varrocade

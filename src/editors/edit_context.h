@@ -1,0 +1,24 @@
+#pragma once
+
+#include "data/unit_record.h"
+#include "weapons/weapon_catalogue.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace varrocade {
+
+/// What every editor of the open unit works with.
+struct EditContext {
+    SquadRecord& record;
+    const WeaponCatalogue& catalogue;
+    /// The folders that images are offered from, each ending in a backslash.
+    std::vector<std::string> imageBases;
+    /// Shows the record's present state in the main window.
+    void (*redraw)();
+    /// Shows it, and remembers it as a step that can be undone under this name.
+    void (*changed)(std::string_view what);
+};
+
+} // namespace varrocade

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace varrocade {
+
+/// A picture's size in pixels.
+struct PictureSize {
+    std::int32_t width = 0;
+    std::int32_t height = 0;
+    bool operator==(const PictureSize&) const = default;
+};
+
+/// The size that the header of a PNG file names; nothing when the bytes do not begin such a file.
+std::optional<PictureSize> pngSizeOf(std::string_view bytes);
+
+/// The size of the PNG file at `path`, of which only the beginning is read; nothing when it cannot be read or
+/// is no PNG file.
+std::optional<PictureSize> readPngSize(const std::string& path);
+
+} // namespace varrocade

@@ -1,0 +1,245 @@
+#include "weapons/weapon_catalogue.h"
+
+#include "data/category.h"
+#include "data/enumerations.h"
+#include "data/image_names.h"
+#include "weapons/weapon_files.h"
+
+#include <algorithm>
+#include <array>
+#include <unordered_set>
+#include <utility>
+
+namespace varrocade {
+
+namespace {
+
+char lowered(char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+std::string loweredText(std::string_view text) {
+    std::string result(text);
+    std::transform(result.begin(), result.end(), result.begin(), lowered);
+    return result;
+}
+
+/// Identifiers and words for people compare alike: "NORTH_KOREAN" and "North Korean".
+char folded(char c) {
+    return c == '_' ? ' ' : lowered(c);
+}
+
+bool sameFolded(std::string_view a, std::string_view b) {
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                      [](char x, char y) { return folded(x) == folded(y); });
+}
+
+/// Less than 0, 0 or more, as `std::string_view::compare`.
+int compareFolded(std::string_view a, std::string_view b) {
+    const auto [x, y] = std::mismatch(a.begin(), a.end(), b.begin(), b.end(),
+                                      [](char left, char right) { return folded(left) == folded(right); });
+    if (x == a.end() || y == b.end()) {
+        return static_cast<int>(x != a.end()) - static_cast<int>(y != b.end());
+    }
+    return static_cast<unsigned char>(folded(*x)) < static_cast<unsigned char>(folded(*y)) ? -1 : 1;
+}
+
+bool comesBefore(const CatalogueEntry& a, const CatalogueEntry& b) {
+    const WeaponRecord& left = a.weapon;
+    const WeaponRecord& right = b.weapon;
+    if (left.calibre != right.calibre) {
+        return left.calibre < right.calibre;
+    }
+    if (left.barrelLength != right.barrelLength) {
+        return left.barrelLength < right.barrelLength;
+    }
+    if (const int order = compareFolded(left.name, right.name); order != 0) {
+        return order < 0;
+    }
+    // Without this the system's order of listing would show.
+    return left.fileName < right.fileName;
+}
+
+std::string_view withoutEnding(std::string_view diskName) {
+    return diskName.substr(0, diskName.size() - DataFileEnding.size());
+}
+
+bool isFileNamed(std::string_view diskName, std::string_view fileName) {
+    return diskName.size() >= DataFileEnding.size() && equalsIgnoringCase(withoutEnding(diskName), fileName);
+}
+
+std::string_view nameInFolder(std::string_view path) {
+    return path.substr(path.rfind('\\') + 1);
+}
+
+constexpr std::string_view Blanks = " \t";
+
+std::string_view trimmed(std::string_view text) {
+    const std::size_t first = text.find_first_not_of(Blanks);
+    return first == std::string_view::npos ? std::string_view()
+                                           : text.substr(first, text.find_last_not_of(Blanks) - first + 1);
+}
+
+/// The forms of nationalities in old files, and the ones that stand for the same nation today.
+constexpr auto NationalitySynonyms = std::to_array<std::pair<std::string_view, std::string_view>>({
+    {"Armenia", "Armenian"},
+    {"Azerbaijan", "Azerbaijani"},
+    {"Finland", "Finnish"},
+    {"Kuwati", "Kuwaiti"},
+});
+
+std::string_view nationOf(std::string_view nationality) {
+    if (nationality.starts_with(NationalityPrefix)) {
+        nationality.remove_prefix(NationalityPrefix.size());
+    }
+    for (const auto& [old, present] : NationalitySynonyms) {
+        if (sameFolded(nationality, old)) {
+            return present;
+        }
+    }
+    return nationality;
+}
+
+std::string_view itself(std::string_view word) {
+    return word;
+}
+
+/// Whether one of the words of a list, separated by commas, is the wanted one. A list without words names
+/// all.
+bool lists(std::string_view list, std::string_view wanted, std::string_view (*meaning)(std::string_view)) {
+    bool isEmpty = true;
+    while (!list.empty()) {
+        const std::size_t comma = std::min(list.find(','), list.size());
+        const std::string_view word = trimmed(list.substr(0, comma));
+        if (!word.empty()) {
+            if (sameFolded(meaning(word), wanted)) {
+                return true;
+            }
+            isEmpty = false;
+        }
+        list.remove_prefix(std::min(comma + 1, list.size()));
+    }
+    return isEmpty;
+}
+
+} // namespace
+
+void WeaponCatalogue::load(std::string_view programFolder, std::string_view modFolder) {
+    folders_.clear();
+    entries_.clear();
+    problems_.clear();
+    if (!modFolder.empty()) {
+        folders_.push_back(categoryFolder(modFolder, Category::Weapons));
+    }
+    folders_.push_back(categoryFolder(programFolder, Category::Weapons));
+    for (const std::string& folder : folders_) {
+        addFolder(folder);
+    }
+    std::sort(entries_.begin(), entries_.end(), comesBefore);
+}
+
+/// Appends the weapons of a folder, but for those whose file names are there already.
+void WeaponCatalogue::addFolder(const std::string& folder) {
+    std::vector<std::string> diskNames;
+    if (!listFiles(folder, DataFileEnding, diskNames)) {
+        std::string reason = systemFiles().lastError();
+        // Only the last folder, the program's, must be there.
+        if (&folder == &folders_.back() || isFolder(folder)) {
+            problems_.push_back({folder, std::move(reason)});
+        }
+        return;
+    }
+    std::sort(diskNames.begin(), diskNames.end());
+    std::unordered_set<std::string> present;
+    for (const CatalogueEntry& entry : entries_) {
+        present.insert(loweredText(entry.weapon.fileName));
+    }
+    entries_.reserve(entries_.size() + diskNames.size());
+    for (const std::string& diskName : diskNames) {
+        std::string key = loweredText(withoutEnding(diskName));
+        if (!present.contains(key) && addFile(folder, diskName)) {
+            present.insert(std::move(key));
+        }
+    }
+}
+
+/// Appends the weapon of one file; false when it could not be read or holds none.
+bool WeaponCatalogue::addFile(const std::string& folder, std::string_view diskName) {
+    std::string path = folder + std::string(diskName);
+    if (!readWholeFile(path, content_)) {
+        problems_.push_back({std::move(path), systemFiles().lastError()});
+        return false;
+    }
+    const std::string_view fileName = withoutEnding(diskName);
+    WeaponReadReport report;
+    WeaponRecord weapon = readWeapon(content_, fileName, report);
+    for (std::string& line : report.diagnostics) {
+        problems_.push_back({path, std::move(line)});
+    }
+    WeaponRecord untouched;
+    untouched.fileName = fileName;
+    if (weapon == untouched) {
+        problems_.push_back({std::move(path), "holds no weapon"});
+        return false;
+    }
+    entries_.push_back({std::move(path), std::move(weapon)});
+    return true;
+}
+
+void WeaponCatalogue::refresh(std::string_view fileName) {
+    std::erase_if(entries_, [fileName](const CatalogueEntry& entry) {
+        return equalsIgnoringCase(entry.weapon.fileName, fileName);
+    });
+    std::erase_if(problems_, [fileName](const FileFailure& problem) {
+        return isFileNamed(nameInFolder(problem.path), fileName);
+    });
+    std::vector<std::string> diskNames;
+    for (const std::string& folder : folders_) {
+        listFiles(folder, DataFileEnding, diskNames);
+        const auto found =
+            std::find_if(diskNames.begin(), diskNames.end(),
+                         [fileName](const std::string& diskName) { return isFileNamed(diskName, fileName); });
+        if (found != diskNames.end() && addFile(folder, *found)) {
+            const auto place =
+                std::upper_bound(entries_.begin(), entries_.end() - 1, entries_.back(), comesBefore);
+            std::rotate(place, entries_.end() - 1, entries_.end());
+            return;
+        }
+    }
+}
+
+void WeaponCatalogue::refreshRenamed(std::string_view from, std::string_view to) {
+    refresh(from);
+    refresh(to);
+}
+
+std::vector<const WeaponRecord*> WeaponCatalogue::select(const WeaponFilter& filter) const {
+    const std::string_view nation = nationOf(filter.nationality);
+    std::vector<const WeaponRecord*> found;
+    for (const CatalogueEntry& entry : entries_) {
+        const WeaponRecord& weapon = entry.weapon;
+        const bool isWanted = (filter.types.empty() || std::find(filter.types.begin(), filter.types.end(),
+                                                                 weapon.type) != filter.types.end()) &&
+                              (nation.empty() || lists(weapon.countries, nation, nationOf)) &&
+                              (filter.period.empty() || lists(weapon.period, filter.period, itself));
+        if (isWanted) {
+            found.push_back(&weapon);
+        }
+    }
+    return found;
+}
+
+const WeaponRecord* WeaponCatalogue::find(std::string_view name) const {
+    const WeaponRecord* named = nullptr;
+    for (const CatalogueEntry& entry : entries_) {
+        if (equalsIgnoringCase(entry.weapon.fileName, name)) {
+            return &entry.weapon;
+        }
+        if (named == nullptr && equalsIgnoringCase(entry.weapon.name, name)) {
+            named = &entry.weapon;
+        }
+    }
+    return named;
+}
+
+} // namespace varrocade

@@ -1,0 +1,71 @@
+#pragma once
+// All weapons of the game and of the mod in use: what the drop-down lists of the editors offer, and where the
+// figures behind a weapon's name are looked up.
+
+#include "platform/file_operations.h"
+#include "weapons/weapon_record.h"
+
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace varrocade {
+
+struct CatalogueEntry {
+    std::string path; ///< the file that the record was read from
+    WeaponRecord weapon;
+};
+
+/// Which weapons a list offers. An empty member lets all of them through.
+struct WeaponFilter {
+    std::span<const WeaponType> types;
+    /// As units name it, such as "NATIONALITY_NORTH_KOREAN", or as weapons do, "North Korean". A weapon is
+    /// let through when its `countries`, separated by commas, name the nationality, or name none at all.
+    std::string_view nationality;
+    /// Such as "Cold War"; compared with the words of `period` in the same way.
+    std::string_view period;
+};
+
+/// The weapon files of up to two folders. Where both hold a file of the same name (letter case ignored), the
+/// mod's counts, unless it cannot be read. Entries and records stay where they are until the next call that
+/// is not const.
+class WeaponCatalogue {
+public:
+    /// Drops what was loaded and reads all weapon files below `programFolder` and, unless it is empty,
+    /// `modFolder`; both end in a backslash. A mod without weapons of its own is no problem.
+    void load(std::string_view programFolder, std::string_view modFolder = {});
+
+    /// Brings one weapon up to date after its file was saved, created or deleted in either folder. `fileName`
+    /// is without folder and ".txt". When the mod's file is gone, the program's file of that name shows
+    /// again.
+    void refresh(std::string_view fileName);
+
+    /// The same for both names of a file that was renamed.
+    void refreshRenamed(std::string_view from, std::string_view to);
+
+    /// Sorted by calibre, then barrel length, then name.
+    [[nodiscard]] const std::vector<CatalogueEntry>& entries() const { return entries_; }
+
+    /// The entries that a filter lets through, in the same order.
+    [[nodiscard]] std::vector<const WeaponRecord*> select(const WeaponFilter& filter) const;
+
+    /// The weapon whose file has this name, otherwise the first one that calls itself so; letter case does
+    /// not count. Null when there is none.
+    [[nodiscard]] const WeaponRecord* find(std::string_view name) const;
+
+    /// The files that could not be read or hold no weapon, which are left out, and those with data that a
+    /// record cannot take, with the reasons.
+    [[nodiscard]] const std::vector<FileFailure>& problems() const { return problems_; }
+
+private:
+    bool addFile(const std::string& folder, std::string_view diskName);
+    void addFolder(const std::string& folder);
+
+    std::vector<std::string> folders_; ///< of the weapon files; the first one counts
+    std::vector<CatalogueEntry> entries_;
+    std::vector<FileFailure> problems_;
+    std::string content_; ///< of the file read last, kept for its capacity
+};
+
+} // namespace varrocade

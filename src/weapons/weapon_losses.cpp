@@ -1,0 +1,35 @@
+#include "weapons/weapon_losses.h"
+
+#include "data/loss_finder.h"
+#include "weapons/weapon_files.h"
+#include "weapons/weapon_rules.h"
+
+#include <string>
+
+namespace varrocade {
+
+namespace {
+
+WeaponRecord readTraced(TracedFile& file) {
+    WeaponReadReport ignored;
+    return weapon_rules::readTree(file.tree, file.content, {}, ignored, &file.trace);
+}
+
+bool goesWithoutSaying(const FieldHistory&, const TracedValue&) {
+    return false;
+}
+
+} // namespace
+
+std::vector<SaveLoss> weaponSaveLosses(std::string_view fileContent) {
+    TracedFile file(fileContent);
+    const std::string text = weaponFileText(readTraced(file));
+    TracedFile saved(text);
+    readTraced(saved);
+    return findLosses(file, saved,
+                      {.isElement = weapon_rules::isElement,
+                       .keys = {},
+                       .goesWithoutSaying = goesWithoutSaying});
+}
+
+} // namespace varrocade

@@ -1,0 +1,13 @@
+#pragma once
+// What saving a weapon file anew would lose, as `unitSaveLosses` tells it of units.
+
+#include "data/save_losses.h"
+
+#include <string_view>
+#include <vector>
+
+namespace varrocade {
+
+std::vector<SaveLoss> weaponSaveLosses(std::string_view fileContent);
+
+} // namespace varrocade

@@ -1,0 +1,31 @@
+#pragma once
+// The weapon reader's walk over a tree, for those who ask what became of each element.
+
+#include "data/reading_trace.h"
+#include "data/tag_tree.h"
+#include "weapons/weapon_files.h"
+
+#include <string>
+#include <string_view>
+
+namespace varrocade::weapon_rules {
+
+/// Reads a tree; `fileContent` is what it was parsed from. `trace` may be null.
+WeaponRecord readTree(const TagTree& tree, std::string_view fileContent, std::string_view fileName,
+                      WeaponReadReport& report, ReadingTrace* trace);
+
+/// Whether an element of this name means something in some place.
+bool isElement(std::string_view name);
+
+} // namespace varrocade::weapon_rules
+
+namespace varrocade {
+
+/// The names of the files; empty for the modes that are never written.
+std::string valueText(WeaponType value);
+std::string valueText(AmmoFlavour value);
+std::string valueText(HeatEra value);
+std::string valueText(GuidanceMode value);
+std::string valueText(ReloadMode value);
+
+} // namespace varrocade
