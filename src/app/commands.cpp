@@ -9,6 +9,7 @@
 #include "app/open_record.h"
 #include "app/stubs.h"
 #include "editors/form_port_win32.h"
+#include "editors/penetration_dialog.h"
 #include "resources/resource.h"
 
 #include <algorithm>
@@ -96,6 +97,11 @@ INT_PTR CALLBACK aboutProcedure(HWND dialog, UINT message, WPARAM parameter, LPA
         return TRUE;
     }
     return message == WM_INITDIALOG ? TRUE : FALSE;
+}
+
+void penetrationCalculations() {
+    const Application& app = application();
+    calculatePenetration(app.window, app.catalogue, app.drawing);
 }
 
 void showAbout() {

@@ -84,8 +84,11 @@ void layOut(HWND window) {
     move(window, IDC_FILE_LIST, fileListPlace(height));
     const int right = MulDiv(client.right, USER_DEFAULT_SCREEN_DPI, dpi);
     Place details = DetailsButton;
-    details.x = right - details.width - DetailsButtonMargin;
+    const int barWidth = GetSystemMetrics(SM_CXVSCROLL);
+    details.x = right - details.width - DetailsButtonMargin - MulDiv(barWidth, USER_DEFAULT_SCREEN_DPI, dpi);
     move(window, IDC_EDIT_DETAILS, details);
+    SetWindowPos(GetDlgItem(window, IDC_SHEET_SCROLL), nullptr, client.right - barWidth, 0, barWidth, client.bottom,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 LRESULT create(HWND window) {
@@ -98,6 +101,8 @@ LRESULT create(HWND window) {
         createButton(window, row);
     }
     createButton(window, {IDC_EDIT_DETAILS, "Details..."});
+    CreateWindowExA(0, "SCROLLBAR", "", WS_CHILD | SBS_VERT, 0, 0, 0, 0, window,
+                    reinterpret_cast<HMENU>(static_cast<INT_PTR>(IDC_SHEET_SCROLL)), application().instance, nullptr);
     setFonts(window);
     updateButtons();
     return 0;
@@ -121,6 +126,7 @@ void paint(HWND window) {
     FillRect(device, &band, GetSysColorBrush(COLOR_WINDOW));
     paintDisplay(device, client);
     EndPaint(window, &paintStruct);
+    updateSheetScrollBar(GetDlgItem(window, IDC_SHEET_SCROLL), client.bottom);
 }
 
 void scroll(HWND window, int wheel) {
@@ -213,6 +219,13 @@ LRESULT CALLBACK mainWindowProcedure(HWND window, UINT message, WPARAM parameter
     case WM_MOUSEWHEEL:
         scroll(window, GET_WHEEL_DELTA_WPARAM(parameter));
         return 0;
+    case WM_VSCROLL: {
+        RECT client{};
+        GetClientRect(window, &client);
+        scrollSheetByBar(reinterpret_cast<HWND>(detail), LOWORD(parameter), client.bottom);
+        redrawNow();
+        return 0;
+    }
     case WM_DPICHANGED:
         moveToOtherScreen(window, HIWORD(parameter), *reinterpret_cast<const RECT*>(detail));
         return 0;

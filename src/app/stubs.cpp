@@ -43,10 +43,6 @@ void editModSettings() {
     announce(IDD_EDIT_MOD);
 }
 
-void penetrationCalculations() {
-    announce(IDD_PENETRATION);
-}
-
 void checkDuplicateFiles() {
     announce(IDD_CHECK_DUPLICATES);
 }

@@ -4,7 +4,6 @@
 namespace varrocade {
 
 void editModSettings();
-void penetrationCalculations();
 void reduceImageSizes();
 void generateThumbnails();
 void generatePngUsage();

@@ -69,7 +69,12 @@ void paintDisplay(HDC device, const RECT& client) {
         composeDisplay(display);
     }
     const RECT picture = asRect(picturePlace(client.right, client.bottom, app.drawing.dpi));
-    const RECT sheet = asRect(sheetPlace(client.right, client.bottom, app.drawing.dpi));
+    RECT sheet = asRect(sheetPlace(client.right, client.bottom, app.drawing.dpi));
+    // The scroll bar's place is kept free whether it is there or not, so that the text does not jump.
+    RECT barPlace = sheet;
+    sheet.right -= GetSystemMetrics(SM_CXVSCROLL);
+    barPlace.left = sheet.right;
+    FillRect(device, &barPlace, app.drawing.beigeBrush.get());
     paintPicture(device, picture, display);
     const int width = sheet.right - sheet.left;
     if (width <= 0 || sheet.bottom <= 0) {
@@ -91,6 +96,51 @@ void scrollSheet(int pixels, int visibleHeight) {
     UnitDisplay& display = application().display;
     const int furthest = std::max(0, display.sheetHeight - visibleHeight);
     display.scroll = std::clamp(display.scroll + pixels, 0, furthest);
+}
+
+void updateSheetScrollBar(HWND bar, int visibleHeight) {
+    const UnitDisplay& display = application().display;
+    const bool isNeeded = application().openUnit && display.sheetHeight > visibleHeight;
+    if (isNeeded) {
+        SCROLLINFO info{};
+        info.cbSize = sizeof(info);
+        info.fMask = SIF_RANGE | SIF_PAGE | SIF_POS;
+        info.nMax = display.sheetHeight - 1;
+        info.nPage = static_cast<UINT>(visibleHeight);
+        info.nPos = display.scroll;
+        SetScrollInfo(bar, SB_CTL, &info, TRUE);
+    }
+    ShowWindow(bar, isNeeded ? SW_SHOWNA : SW_HIDE);
+}
+
+void scrollSheetByBar(HWND bar, int request, int visibleHeight) {
+    constexpr int lineHeight = 20;
+    const int line = application().drawing.scaled(lineHeight);
+    switch (request) {
+    case SB_LINEUP:
+        scrollSheet(-line, visibleHeight);
+        break;
+    case SB_LINEDOWN:
+        scrollSheet(line, visibleHeight);
+        break;
+    case SB_PAGEUP:
+        scrollSheet(-visibleHeight, visibleHeight);
+        break;
+    case SB_PAGEDOWN:
+        scrollSheet(visibleHeight, visibleHeight);
+        break;
+    case SB_THUMBTRACK:
+    case SB_THUMBPOSITION: {
+        SCROLLINFO info{};
+        info.cbSize = sizeof(info);
+        info.fMask = SIF_TRACKPOS;
+        GetScrollInfo(bar, SB_CTL, &info);
+        scrollSheet(info.nTrackPos - application().display.scroll, visibleHeight);
+        break;
+    }
+    default:
+        break;
+    }
 }
 
 } // namespace varrocade

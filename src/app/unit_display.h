@@ -27,4 +27,10 @@ void paintDisplay(HDC device, const RECT& client);
 /// Scrolls the sheet by pixels, as far as there is something to see.
 void scrollSheet(int pixels, int visibleHeight);
 
+/// Shows the scroll bar where the sheet is higher than its area, and how far it is scrolled.
+void updateSheetScrollBar(HWND bar, int visibleHeight);
+
+/// What a message of the scroll bar asks for.
+void scrollSheetByBar(HWND bar, int request, int visibleHeight);
+
 } // namespace varrocade

@@ -50,17 +50,9 @@ void takeDialog(HWND dialog, EditContext& edit) {
 
 /// An engine picked from the list brings its horsepower with it.
 void pickEngine(HWND dialog) {
-    HWND box = GetDlgItem(dialog, IDC_ENGINE);
-    const LRESULT chosen = SendMessageA(box, CB_GETCURSEL, 0, 0);
-    const LRESULT length = chosen < 0 ? -1 : SendMessageA(box, CB_GETLBTEXTLEN, static_cast<WPARAM>(chosen), 0);
-    if (length < 0) {
-        return;
-    }
-    std::string name(static_cast<std::size_t>(length) + 1, '\0');
-    SendMessageA(box, CB_GETLBTEXT, static_cast<WPARAM>(chosen), reinterpret_cast<LPARAM>(name.data()));
-    name.resize(static_cast<std::size_t>(length));
+    completeChoice(dialog, IDC_ENGINE);
     DialogPort port(dialog);
-    takeEngine(port, name);
+    takeEngine(port, port.text(IDC_ENGINE));
 }
 
 INT_PTR CALLBACK driveProcedure(HWND dialog, UINT message, WPARAM parameter, LPARAM pointer) {

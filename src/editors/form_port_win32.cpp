@@ -81,6 +81,17 @@ void DialogPort::focus(int control) {
     SendMessageA(dialog_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(GetDlgItem(dialog_, control)), TRUE);
 }
 
+void completeChoice(HWND dialog, int control) {
+    HWND box = GetDlgItem(dialog, control);
+    const LRESULT chosen = SendMessageA(box, CB_GETCURSEL, 0, 0);
+    const LRESULT length = chosen < 0 ? -1 : SendMessageA(box, CB_GETLBTEXTLEN, static_cast<WPARAM>(chosen), 0);
+    if (length >= 0) {
+        std::string text(static_cast<std::size_t>(length) + 1, '\0');
+        SendMessageA(box, CB_GETLBTEXT, static_cast<WPARAM>(chosen), reinterpret_cast<LPARAM>(text.data()));
+        SetWindowTextA(box, text.c_str());
+    }
+}
+
 INT_PTR runDialog(HWND owner, int dialogTemplate, DLGPROC procedure, void* context) {
     const INT_PTR result = DialogBoxParamA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(dialogTemplate), owner, procedure,
                                            reinterpret_cast<LPARAM>(context));

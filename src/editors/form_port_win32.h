@@ -24,6 +24,9 @@ private:
     HWND dialog_;
 };
 
+/// Puts what was chosen from a drop-down list into its edit part, which it reaches only after the notification.
+void completeChoice(HWND dialog, int control);
+
 /// Runs a modal dialog whose procedure finds `context` as its user data from WM_INITDIALOG on.
 /// Returns what the dialog ended with, 0 when it could not be shown.
 INT_PTR runDialog(HWND owner, int dialogTemplate, DLGPROC procedure, void* context);

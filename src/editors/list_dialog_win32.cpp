@@ -120,18 +120,6 @@ void chooseEntry(HWND dialog, ListDialog& list) {
     }
 }
 
-/// A choice from a drop-down list reaches its edit part only after the notification.
-void completeChoice(HWND dialog, int control) {
-    HWND box = GetDlgItem(dialog, control);
-    const LRESULT chosen = SendMessageA(box, CB_GETCURSEL, 0, 0);
-    const LRESULT length = chosen < 0 ? -1 : SendMessageA(box, CB_GETLBTEXTLEN, static_cast<WPARAM>(chosen), 0);
-    if (length >= 0) {
-        std::string text(static_cast<std::size_t>(length) + 1, '\0');
-        SendMessageA(box, CB_GETLBTEXT, static_cast<WPARAM>(chosen), reinterpret_cast<LPARAM>(text.data()));
-        SetWindowTextA(box, text.c_str());
-    }
-}
-
 INT_PTR handleCommand(HWND dialog, ListDialog& list, WPARAM parameter) {
     const int control = LOWORD(parameter);
     switch (control) {

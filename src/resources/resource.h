@@ -52,6 +52,7 @@
 #define IDC_WEAPONS 1010
 #define IDC_FILTER 1140
 #define IDC_EDIT_DETAILS 1141
+#define IDC_SHEET_SCROLL 1142
 
 // Menu commands.
 #define IDM_ABOUT 104
@@ -185,6 +186,28 @@
 #define IDC_BOTTOM_GIVEN 1365
 #define IDC_MANTLET 1366
 #define IDC_MANTLET_GIVEN 1367
+
+// Controls of the "Penetration Calculation" dialog.
+#define IDC_PEN_MASS 1012
+#define IDC_PEN_HE 1013
+#define IDC_PEN_SHELL 1035
+#define IDC_PEN_WEAPON 1036
+#define IDC_PEN_ANGLE 1037
+#define IDC_DRAG_AP 1091
+#define IDC_DRAG_APC 1092
+#define IDC_DRAG_APCBC 1093
+#define IDC_DRAG_APCNR 1094
+#define IDC_DRAG_APCR 1095
+#define IDC_DRAG_APDS 1096
+#define IDC_DRAG_APFSDS 1097
+#define IDC_DRAG_BULLET 1098
+#define IDC_PEN_VELOCITY 1099
+#define IDC_PEN_CALIBRE 1101
+// The texts of the seven ranges follow one another.
+#define IDC_PENETRATION_ROWS 1111
+#define IDC_VELOCITY_ROWS 1119
+#define IDC_CURVES 1130
+#define IDC_COPY_TABLE 1131
 
 // Controls of the dialogs that ask for a name.
 #define IDC_NEW_NAME 1230

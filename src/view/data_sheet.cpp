@@ -208,17 +208,14 @@ SheetSection availabilitySection(const SquadRecord& record) {
                                                          "May",       "June",     "July",     "August",
                                                          "September", "October",  "November", "December"};
     SheetSection section{.heading = {"Availability"}};
-    SheetTable table;
-    table.rows.push_back({"From", "Number"});
     for (const AvailabilityPoint& point : record.availability) {
         const std::string month = point.month >= 1 && point.month <= months.size()
                                       ? std::string(months[point.month - 1U])
                                       : "month " + std::to_string(point.month);
-        table.rows.push_back({month + " " + std::to_string(point.year), grouped(point.number)});
+        section.pairs.push_back({month + " " + std::to_string(point.year), grouped(point.number)});
     }
-    if (table.rows.size() > 1) {
-        section.tables.push_back(std::move(table));
-    } else {
+    section.timeline = record.availability;
+    if (record.availability.empty()) {
         section.notes.push_back({"No dates are given."});
     }
     if (record.convertedAvailability) {

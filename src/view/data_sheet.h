@@ -35,12 +35,13 @@ struct SheetTable {
     std::vector<std::vector<std::string>> rows;
 };
 
-/// One section: figures in pairs (two columns of them where there is room), notes and tables, in this order.
+/// One section: a timeline, figures in pairs (two columns of them), tables and notes, in this order.
 struct SheetSection {
     SheetHeading heading;
     std::vector<SheetPair> pairs = {};
     std::vector<SheetTable> tables = {};
     std::vector<SheetNote> notes = {};
+    std::vector<AvailabilityPoint> timeline = {}; ///< shown as steps over the years
 };
 
 struct DataSheet {

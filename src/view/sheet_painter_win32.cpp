@@ -2,6 +2,7 @@
 
 #include "data/enumerations.h"
 #include "view/flag_painter_win32.h"
+#include "view/timeline_painter_win32.h"
 
 #include <algorithm>
 #include <string>
@@ -43,6 +44,7 @@ private:
     static constexpr int FlagWidth = 48;
     static constexpr int FlagHeight = 32;
     static constexpr int SectionGap = 10;
+    static constexpr int TimelineHeight = 96;
 
     [[nodiscard]] int lineHeight(HFONT font) const {
         const Selection selection(device_, font);
@@ -109,6 +111,11 @@ private:
             LineTo(device_, right_, y_);
         }
         y_ += objects_.scaled(4);
+        if (!section.timeline.empty()) {
+            const RECT area{left_, y_, right_, y_ + objects_.scaled(TimelineHeight)};
+            paintTimeline(device_, area, section.timeline, objects_);
+            y_ = area.bottom + objects_.scaled(6);
+        }
         paintPairs(section.pairs);
         for (const SheetTable& table : section.tables) {
             paintTable(table);

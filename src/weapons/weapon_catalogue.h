@@ -19,12 +19,12 @@ struct CatalogueEntry {
 
 /// Which weapons a list offers. An empty member lets all of them through.
 struct WeaponFilter {
-    std::span<const WeaponType> types;
+    std::span<const WeaponType> types = {};
     /// As units name it, such as "NATIONALITY_NORTH_KOREAN", or as weapons do, "North Korean". A weapon is
     /// let through when its `countries`, separated by commas, name the nationality, or name none at all.
-    std::string_view nationality;
+    std::string_view nationality = {};
     /// Such as "Cold War"; compared with the words of `period` in the same way.
-    std::string_view period;
+    std::string_view period = {};
 };
 
 /// The weapon files of up to two folders. Where both hold a file of the same name (letter case ignored), the

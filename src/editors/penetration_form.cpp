@@ -1,0 +1,109 @@
+#include "editors/penetration_form.h"
+
+#include "data/numbers.h"
+#include "resources/resource.h"
+#include "view/sheet_text.h"
+#include "weapons/weapon_names.h"
+
+#include <array>
+
+namespace varrocade {
+
+namespace {
+
+/// The controls of the drag coefficients, in the order of `DragClass`.
+constexpr std::array<int, 8> DragControls = {IDC_DRAG_AP,   IDC_DRAG_APC,  IDC_DRAG_APCBC,  IDC_DRAG_APCNR,
+                                             IDC_DRAG_APCR, IDC_DRAG_APDS, IDC_DRAG_APFSDS, IDC_DRAG_BULLET};
+
+constexpr std::string_view NoValue = "-";
+
+std::string number(double value) {
+    std::string text;
+    appendShortest(text, static_cast<float>(value));
+    return text;
+}
+
+void showDashes(FormPort& port) {
+    for (const int control : {IDC_PEN_VELOCITY, IDC_PEN_MASS, IDC_PEN_HE, IDC_PEN_CALIBRE}) {
+        port.setText(control, NoValue);
+    }
+    for (int row = 0; row < static_cast<int>(PenetrationRanges.size()); ++row) {
+        port.setText(IDC_PENETRATION_ROWS + row, NoValue);
+        port.setText(IDC_VELOCITY_ROWS + row, NoValue);
+    }
+}
+
+} // namespace
+
+std::vector<std::string> penetrationWeapons(const WeaponCatalogue& catalogue) {
+    std::vector<std::string> names;
+    for (const CatalogueEntry& entry : catalogue.entries()) {
+        names.push_back(entry.weapon.fileName);
+    }
+    return names;
+}
+
+std::vector<std::string> shellTypes(const WeaponRecord& weapon) {
+    std::vector<std::string> names;
+    for (const AmmoTypeRecord& ammo : weapon.ammoTypes) {
+        std::string name(displayNameOf(ammo.flavour));
+        if (name.empty()) {
+            name = nameOf(ammo.flavour);
+        }
+        names.push_back(ammo.name.empty() ? name : name + " - " + ammo.name);
+    }
+    return names;
+}
+
+void fillPenetrationDefaults(FormPort& port) {
+    const auto classes = dragClasses();
+    for (std::size_t i = 0; i < DragControls.size() && i < classes.size(); ++i) {
+        port.setText(DragControls[i], number(classes[i].coefficient));
+    }
+    std::vector<std::string> angles;
+    for (const int angle : OfferedAngles) {
+        angles.push_back(std::to_string(angle));
+    }
+    port.setChoices(IDC_PEN_ANGLE, angles);
+    port.setText(IDC_PEN_ANGLE, "0");
+}
+
+double formDrag(FormPort& port, AmmoFlavour flavour) {
+    return toReal(port.text(DragControls[static_cast<std::size_t>(dragClassOf(flavour))]));
+}
+
+double formAngle(FormPort& port) {
+    return toReal(port.text(IDC_PEN_ANGLE));
+}
+
+void showPenetration(FormPort& port, const WeaponRecord* weapon, std::size_t shell) {
+    if (weapon == nullptr || shell >= weapon->ammoTypes.size()) {
+        showDashes(port);
+        return;
+    }
+    const AmmoTypeRecord& ammo = weapon->ammoTypes[shell];
+    const Projectile projectile = projectileOf(*weapon, ammo);
+    port.setText(IDC_PEN_VELOCITY, number(projectile.muzzleVelocity));
+    port.setText(IDC_PEN_MASS, number(projectile.mass));
+    port.setText(IDC_PEN_HE, number(projectile.highExplosive));
+    port.setText(IDC_PEN_CALIBRE, number(projectile.calibre));
+    const double drag = formDrag(port, ammo.flavour);
+    const double angle = formAngle(port);
+    for (std::size_t row = 0; row < PenetrationRanges.size(); ++row) {
+        const Impact impact = impactAt(projectile, drag, PenetrationRanges[row], angle);
+        port.setText(IDC_PENETRATION_ROWS + static_cast<int>(row), penetrationText(impact.penetration));
+        port.setText(IDC_VELOCITY_ROWS + static_cast<int>(row), velocityText(impact.velocity));
+    }
+}
+
+std::string penetrationTable(FormPort& port, const WeaponRecord& weapon, std::size_t shell) {
+    std::string table = weapon.name + "\t" + shellTypes(weapon)[shell] + "\t" + port.text(IDC_PEN_ANGLE) + " degrees\r\n";
+    table += "Range\tPenetration\tVelocity\r\n";
+    for (std::size_t row = 0; row < PenetrationRanges.size(); ++row) {
+        table += grouped(PenetrationRanges[row]) + " m\t" + port.text(IDC_PENETRATION_ROWS + static_cast<int>(row)) + "\t" +
+                 port.text(IDC_VELOCITY_ROWS + static_cast<int>(row)) + "\r\n";
+    }
+    return table;
+}
+
+} // namespace varrocade

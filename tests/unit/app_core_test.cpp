@@ -1,0 +1,120 @@
+// What the program decides without its window.
+
+#include "app/file_names.h"
+#include "app/name_filter.h"
+#include "app/options_file.h"
+#include "app/positions.h"
+#include "app/undo_history.h"
+#include "app/window_layout.h"
+#include "data/unit_writers.h"
+#include "mod/mod_settings.h"
+
+#include <gtest/gtest.h>
+
+namespace varrocade::tests {
+namespace {
+
+TEST(OptionsFile, ReadsWhatItWroteAndOtherVersions) {
+    EXPECT_EQ(encodeOptions(""), std::string("\xE8\x03\0\0\0\0", 6));
+    EXPECT_EQ(decodeOptions(encodeOptions("C:\\Games\\")).gameFolder, "C:\\Games\\");
+    EXPECT_EQ(decodeOptions(std::string("\x01\0\x02\0\0\0ab", 8)).gameFolder, "ab");
+    EXPECT_EQ(decodeOptions(std::string("\x01\0\x09\0\0\0ab", 8)).gameFolder, "ab");
+    EXPECT_EQ(decodeOptions("\xE8").gameFolder, "");
+    EXPECT_FALSE(decodeOptions(std::string("\xE8\x03\x03\x01\0\0", 6)).isFatal); // 259
+    EXPECT_TRUE(decodeOptions(std::string("\xE8\x03\x04\x01\0\0", 6)).isFatal);  // 260
+}
+
+TEST(WindowLayout, FirstPlaceFollowsTheWorkArea) {
+    // ((1000 - 16 - 22 - 20) * 350) / 650 + 2 * (4 + 483), centred.
+    const Place place = firstWindowPlace(1600, 1000, {.frame = 4, .caption = 22, .menu = 20}, 96);
+    EXPECT_EQ(place, (Place{(1600 - 1481) / 2, 0, 1481, 1000}));
+    EXPECT_EQ(fileListPlace(900), (Place{4, 68, 350, 798}));
+    EXPECT_EQ(fileButtonPlaces(900)[3], (Place{266, 866, 82, 24}));
+    EXPECT_EQ(picturePlace(1473, 900, 96).width, 507);
+    EXPECT_EQ(sheetPlace(1473, 900, 96).width, 608);
+}
+
+TEST(FileNames, RefuseWhatFilesCannotBeCalled) {
+    EXPECT_EQ(refusalOfName(""), "A name must be entered");
+    for (const char c : std::string("<>:\"/\\|?*.")) {
+        EXPECT_EQ(refusalOfName(std::string("a") + c), "Ilegal characters in the filename") << c;
+    }
+    EXPECT_FALSE(refusalOfName("German Tiger (copy)"));
+    EXPECT_FALSE(refusalOfNationality("North Korean T-34", "NATIONALITY_NORTH_KOREAN"));
+    EXPECT_EQ(refusalOfNationality("Tiger", "NATIONALITY_GERMAN"),
+              "The filename must begin with the squad's nationality name:\n\n        German");
+}
+
+TEST(FileNames, NewUnitsCanBeWritten) {
+    for (const Category category : {Category::Vehicles, Category::AtGuns, Category::Infantry, Category::Aircraft}) {
+        EXPECT_TRUE(unitFileText(category, newUnit(category, "German X", "NATIONALITY_GERMAN")).has_value());
+    }
+    EXPECT_EQ(newUnit(Category::Aircraft, "German X", "NATIONALITY_GERMAN").type, "TYPE_PLANE");
+}
+
+TEST(NameFilter, WantsEveryWord) {
+    EXPECT_TRUE(passesFilter("German Panzer VI Tiger", "tig  ger"));
+    EXPECT_FALSE(passesFilter("German Panzer VI Tiger", "tiger russian"));
+    EXPECT_TRUE(passesFilter("anything", "  "));
+    EXPECT_EQ(nationalityOfName("North Korean T-34"), "NORTH_KOREAN");
+    EXPECT_EQ(nationalityOfName("Germanic thing"), "");
+}
+
+TEST(Positions, QuestionNamesWhatWouldBeLost) {
+    struct Case {
+        Category category;
+        bool weapon;
+        bool exhaust;
+        std::string_view question;
+    };
+    for (const Case& row : {Case{Category::Vehicles, true, true, "Save your changes to weapon and exhaust positions?"},
+                            Case{Category::Vehicles, true, false, "Save your changes to weapon positions?"},
+                            Case{Category::Vehicles, false, true, "Save your changes to exhaust positions?"},
+                            Case{Category::Vehicles, false, false, ""},
+                            Case{Category::Aircraft, true, true, "Save your changes to weapon positions?"},
+                            Case{Category::Aircraft, false, true, ""}, Case{Category::Infantry, true, true, ""}}) {
+        EXPECT_EQ(unsavedPositionsQuestion(true, row.category, row.weapon, row.exhaust), row.question);
+    }
+    EXPECT_EQ(unsavedPositionsQuestion(false, Category::Vehicles, true, true), "");
+}
+
+TEST(UndoHistory, GoesBackAndForthAndForgetsWhatWasUndone) {
+    UndoHistory history;
+    SquadRecord record;
+    history.start(record);
+    history.note("nothing", record);
+    EXPECT_FALSE(history.canUndo());
+    record.longName = "one";
+    history.note("Name", record);
+    record.longName = "two";
+    history.note("Second name", record);
+    EXPECT_EQ(history.undoName(), "Second name");
+    EXPECT_EQ(history.undo().longName, "one");
+    EXPECT_EQ(history.redoName(), "Second name");
+    EXPECT_EQ(history.undo().longName, "");
+    EXPECT_FALSE(history.canUndo());
+    record = history.redo();
+    EXPECT_EQ(record.longName, "one");
+    record.longName = "other";
+    history.note("Other", record);
+    EXPECT_FALSE(history.canRedo());
+    for (int i = 0; i < 300; ++i) {
+        record.vehicle.emplace().weight = i + 1;
+        history.note("Weight", record);
+    }
+    int steps = 0;
+    while (history.canUndo()) {
+        history.undo();
+        ++steps;
+    }
+    EXPECT_EQ(steps, 99);
+}
+
+TEST(ModSettings, ReadsWhatItWrote) {
+    ModSettings settings{.name = "Desert", .author = "Someone", .comment = "Sand", .firstYear = 1940, .lastYear = 1943};
+    EXPECT_EQ(readModSettings(modSettingsText(settings)), settings);
+    EXPECT_EQ(readModSettings(""), ModSettings{});
+}
+
+} // namespace
+} // namespace varrocade::tests

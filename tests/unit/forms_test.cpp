@@ -1,0 +1,261 @@
+// The dialogs' forms, driven without windows.
+
+#include "editors/armour_form.h"
+#include "editors/component_form.h"
+#include "editors/component_list.h"
+#include "editors/drive_form.h"
+#include "editors/unit_lists.h"
+#include "editors/vehicle_form.h"
+#include "editors/weapon_choices.h"
+#include "fake_form_port.h"
+#include "resources/resource.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <map>
+
+namespace varrocade::tests {
+namespace {
+
+SquadRecord vehicleUnit() {
+    SquadRecord record;
+    record.longName = "Long";
+    record.language = "de";
+    record.vehicle.emplace().weight = 20000;
+    return record;
+}
+
+TEST(VehicleForm, TakesTheFieldsOverAsTheUserLeftThem) {
+    SquadRecord record = vehicleUnit();
+    FakeFormPort port;
+    fillVehicleForm(port, record);
+    EXPECT_EQ(port.texts[IDC_WEIGHT], "20000");
+    EXPECT_EQ(port.texts[IDC_LANGUAGE], "de");
+    EXPECT_EQ(port.texts[IDC_UNIFORM_PROFILE], "Default");
+    SquadRecord unchanged = record;
+    ASSERT_FALSE(readVehicleForm(port, unchanged));
+    EXPECT_EQ(unchanged, record);
+
+    port.texts[IDC_WEIGHT] = "heavy";
+    port.texts[IDC_UNIFORM_GAME] = "Other.PNG";
+    port.setChecked(IDC_AMPHIBIOUS, true);
+    ASSERT_FALSE(readVehicleForm(port, record));
+    EXPECT_EQ(record.vehicle->weight, 0);
+    EXPECT_EQ(record.uniformGame, "Other");
+    EXPECT_TRUE(record.vehicle->amphibious);
+}
+
+TEST(VehicleForm, LanguageIsTwoCharactersOrNone) {
+    for (const auto& [text, expected] : std::map<std::string, std::string>{
+             {"fr", "fr"}, {"f", ""}, {"fra", ""}, {"Default", ""}, {"", ""}}) {
+        SquadRecord record = vehicleUnit();
+        FakeFormPort port;
+        fillVehicleForm(port, record);
+        port.texts[IDC_LANGUAGE] = text;
+        ASSERT_FALSE(readVehicleForm(port, record));
+        EXPECT_EQ(record.language, expected.c_str()) << text;
+    }
+}
+
+TEST(VehicleForm, UniformMethodsEnableTheirListsAndKeepWhatTheyDoNotShow) {
+    SquadRecord record = vehicleUnit();
+    record.uniformProfile = "kept";
+    FakeFormPort port;
+    fillVehicleForm(port, record);
+    EXPECT_TRUE(port.disabled.contains(IDC_UNIFORM_NAME));
+    EXPECT_FALSE(port.disabled.contains(IDC_UNIFORM_PROFILE));
+    port.setChecked(IDC_UNIFORM_NEW_METHOD, false);
+    port.setChecked(IDC_UNIFORM_OLD_METHOD, true);
+    enableUniformLists(port);
+    EXPECT_TRUE(port.disabled.contains(IDC_UNIFORM_PROFILE));
+    EXPECT_TRUE(port.disabled.contains(IDC_UNIFORM_GAME));
+    EXPECT_FALSE(port.disabled.contains(IDC_UNIFORM_NAME));
+    port.texts[IDC_UNIFORM_NAME] = "winter";
+    ASSERT_FALSE(readVehicleForm(port, record));
+    EXPECT_TRUE(record.namedUniform);
+    EXPECT_EQ(record.uniformName, "winter");
+    EXPECT_EQ(record.uniformProfile, "kept");
+}
+
+ComponentRecord turret() {
+    ComponentRecord component;
+    component.kind = ComponentKind::Turret;
+    component.rotateTime = 16;
+    component.limitedTraverse = true;
+    return component;
+}
+
+struct TraverseCase {
+    const char* left;
+    const char* right;
+    const char* offset;
+    const char* message; ///< without "The turret " or "The "; empty: accepted
+    const char* caption;
+};
+
+constexpr TraverseCase TraverseCases[] = {
+    {"180", "180", "0", "", ""},
+    {"0", "360", "-180", "", ""},
+    {"10", "10", "180", "", ""},
+    {"181", "180", "0", "rotate left and right angles must add up to less that 360 degrees", "Rotate angles"},
+    {"-1", "0", "0", "rotate left and right angles must be between 0 and 360 degrees", "Rotate angles"},
+    {"0", "361", "0", "rotate left and right angles must be between 0 and 360 degrees", "Rotate angles"},
+    {"10", "10", "181", "offset angle must be between -180 and 180 degrees", "Offset angle"},
+    {"10", "10", "-181", "offset angle must be between -180 and 180 degrees", "Offset angle"},
+    // The limits are looked at before the offset angle.
+    {"400", "10", "400", "rotate left and right angles must be between 0 and 360 degrees", "Rotate angles"},
+};
+
+TEST(ComponentForm, ChecksTraverseOfTurretsAndFixedWeapons) {
+    for (const bool isTurret : {true, false}) {
+        for (const TraverseCase& row : TraverseCases) {
+            ComponentRecord component = turret();
+            component.kind = isTurret ? ComponentKind::Turret : ComponentKind::FixedWeapon;
+            component.offsetZ = 1;
+            FakeFormPort port;
+            fillComponentForm(port, component);
+            port.texts[IDC_ROTATE_LEFT] = row.left;
+            port.texts[IDC_ROTATE_RIGHT] = row.right;
+            port.texts[IDC_OFFSET_ANGLE] = row.offset;
+            const ComponentRecord before = component;
+            const auto error = readComponentForm(port, component);
+            if (*row.message == '\0') {
+                EXPECT_FALSE(error) << row.left << " " << row.right;
+                EXPECT_EQ(std::to_string(component.rotateRight), row.right);
+            } else {
+                ASSERT_TRUE(error) << row.left << " " << row.right;
+                EXPECT_EQ(error->message, (isTurret ? "The turret " : "The ") + std::string(row.message));
+                EXPECT_EQ(error->caption, row.caption);
+                EXPECT_EQ(component, before);
+            }
+        }
+    }
+}
+
+TEST(ComponentForm, LeavesLimitsAloneWithoutLimitedTraverse) {
+    ComponentRecord component = turret();
+    FakeFormPort port;
+    fillComponentForm(port, component);
+    port.setChecked(IDC_LIMITED_TRAVERSE, false);
+    enableTraverse(port);
+    EXPECT_TRUE(port.disabled.contains(IDC_ROTATE_LEFT));
+    EXPECT_TRUE(port.disabled.contains(IDC_OFFSET_ANGLE));
+    port.texts[IDC_ROTATE_LEFT] = "nonsense";
+    ASSERT_FALSE(readComponentForm(port, component));
+    EXPECT_FALSE(component.limitedTraverse);
+}
+
+TEST(ComponentForm, FixedWeaponsStandAboveTheGround) {
+    ComponentRecord weapon = turret();
+    weapon.kind = ComponentKind::FixedWeapon;
+    FakeFormPort port;
+    fillComponentForm(port, weapon);
+    const auto error = readComponentForm(port, weapon);
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->message, "OffsetZ must be greater than zero");
+    EXPECT_EQ(error->caption, "Error");
+}
+
+TEST(ComponentForm, RotateSpeedIsDegreesASecond) {
+    EXPECT_EQ(rotateSpeedText(16), "22.5");
+    EXPECT_EQ(rotateSpeedText(7), "51.4");
+    EXPECT_EQ(rotateSpeedText(0), "0.0");
+    EXPECT_EQ(rotateTimeOf("22.5"), 16);
+    EXPECT_EQ(rotateTimeOf("0"), std::nullopt);
+    EXPECT_EQ(rotateTimeOf("-3"), std::nullopt);
+    EXPECT_EQ(rotateTimeOf("fast"), std::nullopt);
+    EXPECT_EQ(rotateTimeOf("100000"), 1);
+    // A speed of 1.0 stands for many times: one that was not touched keeps its own.
+    ComponentRecord slow = turret();
+    slow.limitedTraverse = false;
+    slow.rotateTime = 349;
+    FakeFormPort port;
+    fillComponentForm(port, slow);
+    ASSERT_FALSE(readComponentForm(port, slow));
+    EXPECT_EQ(slow.rotateTime, 349);
+    port.texts[IDC_ROTATE_SPEED] = "0";
+    EXPECT_TRUE(readComponentForm(port, slow));
+}
+
+TEST(ArmourForm, NotGivenIsAStateOfItsOwn) {
+    ArmourRecord armour;
+    armour.upperFront = {50, 60};
+    FakeFormPort port;
+    fillArmourForm(port, armour, true);
+    EXPECT_EQ(port.texts[IDC_PLATES + 2], "100 mm"); // 50 mm at 60 degrees
+    EXPECT_TRUE(port.disabled.contains(IDC_MANTLET));
+    port.setChecked(IDC_MANTLET_GIVEN, true);
+    port.texts[IDC_MANTLET] = "0";
+    ASSERT_FALSE(readArmourForm(port, armour, true));
+    EXPECT_EQ(armour.mantlet, 0);
+    EXPECT_EQ(armour.bottom, ArmourNotGiven);
+    port.texts[IDC_PLATES + 1] = "91";
+    const auto error = readArmourForm(port, armour, true);
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->control, IDC_PLATES + 1);
+    EXPECT_EQ(error->message, "\"Upper front angle\" must be a whole number from 0 to 90");
+}
+
+TEST(DriveForm, EnginesBringTheirHorsepower) {
+    SquadRecord record = vehicleUnit();
+    FakeFormPort port;
+    fillDriveForm(port, *record.vehicle);
+    takeEngine(port, "Buick Series 60");
+    EXPECT_EQ(port.texts[IDC_HORSEPOWER], "330");
+    port.texts[IDC_ENGINE_MOUNT] = "Front";
+    ASSERT_FALSE(readDriveForm(port, *record.vehicle));
+    EXPECT_EQ(record.vehicle->engineMount, EngineMount::Front);
+    port.texts[IDC_RPM_LIMIT] = "100";
+    EXPECT_TRUE(readDriveForm(port, *record.vehicle));
+}
+
+TEST(ListModel, CopiesMirrorsAndRefusesBadNumbers) {
+    std::vector<ExhaustPipeRecord> pipes = {{.offsetX = 50, .offsetY = -200, .angle = 135}};
+    VectorListModel<ExhaustPipeRecord> model(pipes, exhaustPipeShape());
+    model.mirror(0);
+    ASSERT_EQ(pipes.size(), 2U);
+    EXPECT_EQ(pipes[1].offsetX, -50);
+    EXPECT_EQ(pipes[1].angle, 225);
+    FakeFormPort port;
+    model.show(1, port);
+    port.texts[IDC_OFFSET_Y] = "far";
+    ASSERT_TRUE(model.read(1, port));
+    EXPECT_EQ(pipes[1].offsetY, -200);
+
+    std::vector<CrewManRecord> crew(MaxSquadMembers);
+    EXPECT_FALSE(VectorListModel<CrewManRecord>(crew, crewShape()).hasRoom());
+}
+
+TEST(ComponentList, NewComponentsAreAllZero) {
+    VehicleRecord vehicle;
+    addComponent(vehicle, ComponentKind::Turret);
+    const ComponentRecord& component = vehicle.components.front();
+    EXPECT_EQ(component.armour.bottom, 0);
+    EXPECT_EQ(component.rotateTime, 0);
+    EXPECT_FALSE(canMoveUp(vehicle, 0));
+    EXPECT_FALSE(canMoveDown(vehicle, 0));
+}
+
+TEST(WeaponChoices, FollowTheUnitsNationAndTime) {
+    SquadRecord record = vehicleUnit();
+    record.nationality = "NATIONALITY_GERMAN";
+    record.availability = {{1, 1943, 10}};
+    EXPECT_EQ(periodOf(record), "WW2");
+    WeaponCatalogue catalogue;
+    catalogue.load("sample\\");
+    const auto has = [](const std::vector<std::string>& names, const char* name) {
+        return std::find(names.begin(), names.end(), name) != names.end();
+    };
+    const auto offered = weaponChoices(catalogue, record, false);
+    EXPECT_TRUE(has(offered, "WEAPON_CANNON_75_KWK42_L70"));
+    EXPECT_FALSE(has(offered, "WEAPON_CANNON_75_M3_L38"));
+    EXPECT_TRUE(has(weaponChoices(catalogue, record, true), "WEAPON_CANNON_75_M3_L38"));
+    const AmmoLoadRecord smoke{"WEAPON_CANNON_75_KWK42_L70", "FLAVOUR_HESH", 1};
+    const std::vector<std::string> weapons = {"WEAPON_CANNON_75_KWK42_L70"};
+    EXPECT_EQ(ammunitionWarning(smoke, weapons, catalogue), "The weapon has no ammunition of this flavour.");
+    EXPECT_EQ(ammunitionWarning(smoke, {}, catalogue), "This ammunition is for a weapon that is not there.");
+}
+
+} // namespace
+} // namespace varrocade::tests
