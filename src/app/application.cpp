@@ -27,6 +27,14 @@ bool isRecordOpen() {
     return app.openUnit.has_value() || app.openWeapon.has_value();
 }
 
+std::string openFileName() {
+    const Application& app = application();
+    if (app.openWeapon) {
+        return app.openWeapon->fileName;
+    }
+    return app.openUnit ? app.openUnit->fileName.str() : std::string();
+}
+
 bool isUnitModified() {
     const Application& app = application();
     return app.openUnit && app.savedUnit && *app.openUnit != *app.savedUnit;

@@ -66,6 +66,9 @@ std::vector<std::string> imageBases();
 /// Whether a unit or a weapon is open.
 bool isRecordOpen();
 
+/// The name of the open record's file, or empty.
+std::string openFileName();
+
 /// Whether the open unit differs from its file.
 bool isUnitModified();
 

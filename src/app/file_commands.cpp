@@ -24,15 +24,6 @@ std::string pathOf(const std::string& name) {
     return dataFilePath(baseFolder(), application().category, name);
 }
 
-/// The name of the open record's file.
-std::string openFileName() {
-    const Application& app = application();
-    if (app.openWeapon) {
-        return app.openWeapon->fileName;
-    }
-    return app.openUnit ? app.openUnit->fileName.str() : std::string();
-}
-
 /// The refusal of a name for another file of the open record. A name whose former one did not begin with the
 /// nationality either need not do so.
 std::optional<std::string> refusalOfOtherName(const std::string& name) {
@@ -239,7 +230,11 @@ void deleteFile() {
 
 void chooseCategory(Category category) {
     Application& app = application();
-    if (category == app.category || !mayLeavePositions()) {
+    if (category == app.category) {
+        SendMessageA(app.window, RefreshListMessage, 0, 0);
+        return;
+    }
+    if (!mayLeavePositions()) {
         return;
     }
     app.category = category;

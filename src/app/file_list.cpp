@@ -128,7 +128,11 @@ void applyFilter() {
     constexpr LPARAM reservedBytes = 65536;
     HWND list = listWindow();
     const std::string filter = windowText(filterWindow());
-    const std::string selected = selectedEntry();
+    std::string selected = selectedEntry();
+    if (selected.empty()) {
+        // The filter may have hidden it, and shows it again.
+        selected = openFileName();
+    }
     SendMessageA(list, WM_SETREDRAW, FALSE, 0);
     SendMessageA(list, LB_RESETCONTENT, 0, 0);
     SendMessageA(list, LB_INITSTORAGE, reservedItems, reservedBytes);

@@ -58,12 +58,8 @@ void turnOn(ModSettings settings) {
     showMode();
 }
 
-void dropRecord() {
-    closeRecord();
-    redrawNow();
-}
-
-void offerNewMod() {
+/// Asks for a new mod and creates it; false when the user cancelled that.
+bool offerNewMod() {
     const Answer answer = showMessage(
         {.text = "This will create a new mod (starting with the default WW2 settings) in the folder:\n\n" +
                  application().modFolder +
@@ -72,10 +68,15 @@ void offerNewMod() {
          .caption = "Create New Mod",
          .buttons = MessageButtons::OkCancel,
          .icon = MessageIcon::Information});
-    if (answer == Answer::Ok && createModFolder()) {
-        dropRecord();
+    if (answer == Answer::Cancel) {
+        return false;
+    }
+    if (createModFolder()) {
+        closeRecord();
+        showOpenRecord();
         editModSettings();
     }
+    return true;
 }
 
 } // namespace
@@ -129,10 +130,12 @@ void switchModMode() {
         return;
     }
     if (application().modMode) {
+        // Closed while its folder is still the mod's: what is unsaved is kept there.
+        closeRecord();
         leaveModMode();
-        dropRecord();
-    } else if (!detectModMode()) {
-        offerNewMod();
+        showOpenRecord();
+    } else if (!detectModMode() && !offerNewMod()) {
+        return;
     }
     application().rememberedSelections.fill({});
 }

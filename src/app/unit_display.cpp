@@ -20,13 +20,21 @@ void composeDisplay(UnitDisplay& display) {
     display.drawing = {};
     display.hasDrawing = false;
     display.sheet = {};
+    if (app.openWeapon) {
+        display.sheet = weaponSheet(*app.openWeapon);
+    }
     if (!app.openUnit) {
         return;
     }
-    if (app.openUnit->vehicle) {
-        const DrawOptions options{.bases = imageBases(), .showDestroyed = app.showDestroyed};
-        display.drawing = drawVehicle(*app.openUnit->vehicle, options, app.pictures);
-        display.hasDrawing = true;
+    const DrawOptions options{.bases = imageBases(), .showDestroyed = app.showDestroyed};
+    const SquadRecord& unit = *app.openUnit;
+    display.hasDrawing = unit.vehicle || unit.heavyWeapon || unit.aircraft;
+    if (unit.vehicle) {
+        display.drawing = drawVehicle(*unit.vehicle, options, app.pictures);
+    } else if (unit.heavyWeapon) {
+        display.drawing = drawHeavyWeapon(*unit.heavyWeapon, options, app.pictures);
+    } else if (unit.aircraft) {
+        display.drawing = drawAircraft(*unit.aircraft, options, app.pictures);
     }
     display.sheet = unitSheet(*app.openUnit, display.drawing.missingPictures);
 }
@@ -82,7 +90,7 @@ void paintDisplay(HDC device, const RECT& client) {
     }
     const MemoryBitmap buffer(device, width, sheet.bottom);
     const RECT whole{0, 0, width, sheet.bottom};
-    if (app.openUnit) {
+    if (isRecordOpen()) {
         const SheetOptions options{.bases = imageBases(), .scroll = display.scroll};
         display.sheetHeight =
             paintSheet(buffer.device(), whole, display.sheet, options, app.drawing, app.pictures);
@@ -100,7 +108,7 @@ void scrollSheet(int pixels, int visibleHeight) {
 
 void updateSheetScrollBar(HWND bar, int visibleHeight) {
     const UnitDisplay& display = application().display;
-    const bool isNeeded = application().openUnit && display.sheetHeight > visibleHeight;
+    const bool isNeeded = isRecordOpen() && display.sheetHeight > visibleHeight;
     if (isNeeded) {
         SCROLLINFO info{};
         info.cbSize = sizeof(info);

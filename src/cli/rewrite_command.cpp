@@ -52,9 +52,8 @@ struct Task {
 
 /// Prints what the rewritten file loses; returns the exit status that follows from it.
 int explainLosses(Category category, const std::string& path, const std::string& content) {
-    const std::optional<std::vector<SaveLoss>> losses = category == Category::Weapons
-                                                            ? weaponSaveLosses(content)
-                                                            : unitSaveLosses(category, content);
+    const std::optional<std::vector<SaveLoss>> losses =
+        category == Category::Weapons ? weaponSaveLosses(content) : unitSaveLosses(category, content);
     if (!losses || losses->empty()) {
         return Done;
     }

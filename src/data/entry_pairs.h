@@ -9,8 +9,8 @@
 
 namespace varrocade {
 
-/// Pairs entries of the same element in paired entries, by the values of their key fields first, as writers put
-/// some entries in another order, and then in the order of the files.
+/// Pairs entries of the same element in paired entries, by the values of their key fields first, as writers
+/// put some entries in another order, and then in the order of the files.
 class EntryPairs {
 public:
     EntryPairs(const TracedFile& file, const FieldHistory& history, const TracedFile& saved,

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <set>
 #include <string>
 #include <utility>
 
@@ -77,6 +78,9 @@ private:
         return savedHistory_.last(pairs_.partnerOf(value.entry), value.field);
     }
     void foldLostGroups();
+    /// The groups of the saved file, each by the entry it stands in.
+    using Groups = std::set<std::pair<std::uint32_t, std::string_view>>;
+    [[nodiscard]] Groups savedGroups() const;
     void reportNodes();
     void reportEntry(std::uint32_t index);
 
@@ -130,8 +134,8 @@ void LossFinder::judgeNode(Values values) {
         judgeEffective(index, effective);
     } else if (overwriting != nullptr) {
         add(index, LossKind::Dropped,
-            elementText(node(index)) + " is overwritten by " + elementText(node(overwriting->node)) + " on line " +
-                std::to_string(lineOf(overwriting->node)));
+            elementText(node(index)) + " is overwritten by " + elementText(node(overwriting->node)) +
+                " on line " + std::to_string(lineOf(overwriting->node)));
     }
 }
 
@@ -163,12 +167,13 @@ void LossFinder::judgeEffective(std::uint32_t index, const std::vector<const Tra
         nodes_[index].isLost = true;
         nodes_[index].lost = 1;
     } else if (const TracedValue& value = *effective.front();
-               !node(index).text.empty() && !means(node(index).text, value, file_.trace.understandingOf(index))) {
+               !node(index).text.empty() &&
+               !means(node(index).text, value, file_.trace.understandingOf(index))) {
         add(index, LossKind::Changed, elementText(node(index)) + " " + misreadText(node(index).text, value));
     }
 }
 
-/// The elements of the saved file that have the values, each once, such as `<upper_side> "50" and ...`.
+/// For an element some of whose values the saved file has: whether there they are the same, and in what words.
 void LossFinder::judgeWritten(std::uint32_t index, const std::vector<const TracedValue*>& effective) {
     const TagNode& element = node(index);
     const std::vector<TagNode>& savedNodes = saved_.tree.nodes();
@@ -213,16 +218,26 @@ void LossFinder::judgeWritten(std::uint32_t index, const std::vector<const Trace
     add(index, LossKind::Respelt, elementText(element) + " is written as " + text);
 }
 
-/// A group or an entry of which nothing is kept is one loss, not as many as it has values.
+LossFinder::Groups LossFinder::savedGroups() const {
+    Groups groups;
+    const std::vector<TagNode>& savedNodes = saved_.tree.nodes();
+    for (std::uint32_t i = 1; i < savedNodes.size(); ++i) {
+        if (saved_.trace.fateOf(i) == Fate::Group) {
+            groups.emplace(saved_.trace.entryAround(i), savedNodes[i].name);
+        }
+    }
+    return groups;
+}
+
+/// A group that the saved file does not have is one loss, not as many as it has values.
 void LossFinder::foldLostGroups() {
     constexpr std::uint32_t fewest = 2;
+    const Groups groups = savedGroups();
     for (auto i = static_cast<std::uint32_t>(nodes_.size()); i-- > 1;) {
         NodeState& state = nodes_[i];
-        const Fate fate = file_.trace.fateOf(i);
-        const bool holdsOthers = fate == Fate::Group || (fate == Fate::Entry && !pairs_.isGone(i));
-        if (holdsOthers && state.kept == 0 && state.lost >= fewest) {
-            state.isWhole = true;
-        }
+        const std::uint32_t entry = file_.trace.entryAround(i);
+        state.isWhole = file_.trace.fateOf(i) == Fate::Group && state.kept == 0 && state.lost >= fewest &&
+                        !groups.contains({pairs_.partnerOf(entry), node(i).name});
         NodeState& above = nodes_[node(i).parent];
         above.kept += state.kept;
         above.lost += state.lost;
@@ -233,8 +248,8 @@ void LossFinder::reportEntry(std::uint32_t index) {
     const Fate fate = file_.trace.fateOf(index);
     nodes_[index].isWhole = true;
     add(index, LossKind::Dropped,
-        elementText(node(index)) +
-            (fate == Fate::Replaced ? ": a later one takes its place" : " is not written in files of this kind"));
+        elementText(node(index)) + (fate == Fate::Replaced ? ": a later one takes its place"
+                                                           : " is not written in files of this kind"));
 }
 
 void LossFinder::reportNodes() {
@@ -266,8 +281,8 @@ void LossFinder::reportNodes() {
             add(i, LossKind::Dropped, elementText(node(i)) + placeOf(i) + " is not written");
         } else if (state.isWhole) {
             add(i, LossKind::Dropped,
-                tagText(node(i).name) + placeOf(i) + " is not written, with the " + std::to_string(state.lost) +
-                    " values in it");
+                tagText(node(i).name) + placeOf(i) + " is not written, with the " +
+                    std::to_string(state.lost) + " values in it");
         }
     }
 }
@@ -279,24 +294,23 @@ FieldHistory::FieldHistory(const ReadingTrace& trace) {
     for (const TracedValue& value : trace.values()) {
         values_.push_back(&value);
     }
-    std::stable_sort(values_.begin(), values_.end(), [](const TracedValue* a, const TracedValue* b) {
-        return isBefore(keyOf(a), keyOf(b));
-    });
+    std::stable_sort(values_.begin(), values_.end(),
+                     [](const TracedValue* a, const TracedValue* b) { return isBefore(keyOf(a), keyOf(b)); });
 }
 
 const TracedValue* FieldHistory::first(std::uint32_t entry, FieldId field) const {
     const FieldKey key{entry, field};
-    const auto found =
-        std::lower_bound(values_.begin(), values_.end(), key,
-                         [](const TracedValue* value, const FieldKey& k) { return isBefore(keyOf(value), k); });
+    const auto found = std::lower_bound(
+        values_.begin(), values_.end(), key,
+        [](const TracedValue* value, const FieldKey& k) { return isBefore(keyOf(value), k); });
     return found != values_.end() && !isBefore(key, keyOf(*found)) ? *found : nullptr;
 }
 
 const TracedValue* FieldHistory::last(std::uint32_t entry, FieldId field) const {
     const FieldKey key{entry, field};
-    const auto behind =
-        std::upper_bound(values_.begin(), values_.end(), key,
-                         [](const FieldKey& k, const TracedValue* value) { return isBefore(k, keyOf(value)); });
+    const auto behind = std::upper_bound(
+        values_.begin(), values_.end(), key,
+        [](const FieldKey& k, const TracedValue* value) { return isBefore(k, keyOf(value)); });
     return behind != values_.begin() && !isBefore(keyOf(behind[-1]), key) ? behind[-1] : nullptr;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
-// Comparing what a reader made of a file with what it makes of the file that the writer would put in its place.
+// Comparing what a reader made of a file with what it makes of the file that the writer would put in its
+// place.
 
 #include "data/reading_trace.h"
 #include "data/save_losses.h"
@@ -38,7 +39,8 @@ private:
 struct LossKnowledge {
     /// Whether an element of this name means something in some place.
     bool (*isElement)(std::string_view name);
-    /// The fields whose values tell the entries of one element apart where a writer puts them in another order.
+    /// The fields whose values tell the entries of one element apart where a writer puts them in another
+    /// order.
     std::span<const FieldId> keys;
     /// Whether a value that the writer leaves out is what its absence means, although it is not the field's
     /// default.

@@ -136,9 +136,11 @@ void ReadingTrace::judge(bool understood) {
 }
 
 std::string_view ReadingTrace::reasonOf(std::uint32_t leftOut) const {
-    const auto found = std::lower_bound(reasons_.begin(), reasons_.end(), leftOut,
-                                        [](const Reason& reason, std::uint32_t node) { return reason.node < node; });
-    return found != reasons_.end() && found->node == leftOut ? std::string_view(found->why) : std::string_view();
+    const auto found =
+        std::lower_bound(reasons_.begin(), reasons_.end(), leftOut,
+                         [](const Reason& reason, std::uint32_t node) { return reason.node < node; });
+    return found != reasons_.end() && found->node == leftOut ? std::string_view(found->why)
+                                                             : std::string_view();
 }
 
 } // namespace varrocade

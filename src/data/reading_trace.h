@@ -1,6 +1,6 @@
 #pragma once
-// What a reader did with each element of a file. A trace is kept only where somebody asks what saving the file
-// would lose; reading for the window goes without.
+// What a reader did with each element of a file. A trace is kept only where somebody asks what saving the
+// file would lose; reading for the window goes without.
 
 #include "data/fixed_string.h"
 #include "data/unit_record.h"
@@ -86,7 +86,8 @@ public:
     /// Ends it: takes the values that its fields have now.
     void leave(bool hasRule);
 
-    /// The element is about to set a member of `object`. `ofFile`: the object is the record of the whole file.
+    /// The element is about to set a member of `object`. `ofFile`: the object is the record of the whole
+    /// file.
     template <auto Member, typename Object>
     void note(const Object& object, bool ofFile, ValueKind kind) {
         using Field = std::remove_cvref_t<decltype(object.*Member)>;

@@ -45,8 +45,9 @@ bool goesWithoutSaying(const FieldHistory& history, const TracedValue& value) {
                               fieldId<&ArmourRecord::rearSpaced>()})) {
         return value.after.starts_with('-');
     }
-    return isOneOf(value.field, {fieldId<&SquadRecord::uniformProfile>(), fieldId<&SquadRecord::uniformGame>(),
-                                 fieldId<&SquadRecord::uniformRanks>()}) &&
+    return isOneOf(value.field,
+                   {fieldId<&SquadRecord::uniformProfile>(), fieldId<&SquadRecord::uniformGame>(),
+                    fieldId<&SquadRecord::uniformRanks>()}) &&
            value.after == DefaultImageName;
 }
 
@@ -56,8 +57,8 @@ bool goesWithoutSayingInVehicle(const FieldHistory& history, const TracedValue& 
         return true;
     }
     const SquadRecord defaults;
-    const NationalUniform* national = findNationalUniform(
-        lastText(history, 0, fieldId<&SquadRecord::nationality>(), defaults.nationality));
+    const NationalUniform* national =
+        findNationalUniform(lastText(history, 0, fieldId<&SquadRecord::nationality>(), defaults.nationality));
     if (national == nullptr) {
         return false;
     }
@@ -91,11 +92,10 @@ std::optional<std::vector<SaveLoss>> unitSaveLosses(Category category, std::stri
         fieldId<&WeaponMountRecord::type>(), fieldId<&AmmoLoadRecord::weaponType>(),
         fieldId<&AvailabilityPoint::month>(), fieldId<&AvailabilityPoint::year>(),
         fieldId<&AvailabilityPoint::number>()};
-    const LossKnowledge knowledge{.isElement = isUnitElement,
-                                  .keys = keys,
-                                  .goesWithoutSaying = category == Category::Vehicles
-                                                           ? goesWithoutSayingInVehicle
-                                                           : goesWithoutSaying};
+    const LossKnowledge knowledge{
+        .isElement = isUnitElement,
+        .keys = keys,
+        .goesWithoutSaying = category == Category::Vehicles ? goesWithoutSayingInVehicle : goesWithoutSaying};
     return findLosses(file, saved, knowledge);
 }
 

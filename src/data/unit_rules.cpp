@@ -165,7 +165,8 @@ void setQuality(Reading& reading, std::string_view text) {
     const auto names = qualityNames();
     const bool known = std::find(names.begin(), names.end(), text) != names.end();
     judge(reading, known);
-    targetOf<&SquadRecord::quality>(reading)->quality = !known ? QualityRegular : (text == QualityRaw ? QualityUntrained : text);
+    targetOf<&SquadRecord::quality>(reading)->quality =
+        !known ? QualityRegular : (text == QualityRaw ? QualityUntrained : text);
 }
 
 // ---- availability

@@ -8,8 +8,8 @@
 
 namespace varrocade {
 
-/// False where the reader had to guess or to cut: "5 kg" for 5, "Yes" for a flag that is not set, a text longer
-/// than its field.
+/// False where the reader had to guess or to cut: "5 kg" for 5, "Yes" for a flag that is not set, a text
+/// longer than its field.
 bool means(std::string_view text, const TracedValue& value,
            Understanding understanding = Understanding::ByText);
 

@@ -233,6 +233,8 @@ INT_PTR handleCommand(HWND dialog, VehicleEditor& context, WORD control, WORD no
         return TRUE;
     case IDC_UNIFORM_NEW_METHOD:
     case IDC_UNIFORM_OLD_METHOD: {
+        // Lists stand between the two buttons, so the system does not take these for one group.
+        CheckRadioButton(dialog, IDC_UNIFORM_NEW_METHOD, IDC_UNIFORM_OLD_METHOD, control);
         DialogPort port(dialog);
         enableUniformLists(port);
         return TRUE;

@@ -107,25 +107,6 @@ SheetSection armourSection(const VehicleRecord& vehicle) {
     return section;
 }
 
-std::string ammoText(const AmmoLoadRecord& ammo) {
-    std::string text = grouped(ammo.rounds);
-    if (!ammo.flavour.empty()) {
-        text += " " + flavourWord(ammo.flavour);
-    }
-    return text;
-}
-
-/// "40 APCBC, 39 HE" for the weapon; ammunition is carried for a weapon type, not for one piece.
-std::string ammoFor(std::span<const AmmoLoadRecord> loads, std::string_view weaponType) {
-    std::string text;
-    for (const AmmoLoadRecord& ammo : loads) {
-        if (ammo.weaponType == weaponType) {
-            text += (text.empty() ? "" : ", ") + ammoText(ammo);
-        }
-    }
-    return text.empty() ? "-" : text;
-}
-
 std::string traverseText(const ComponentRecord& component) {
     if (component.kind == ComponentKind::Turret && !component.limitedTraverse) {
         return "all round";
@@ -247,6 +228,10 @@ DataSheet unitSheet(const SquadRecord& record, const std::vector<std::string>& m
         sheet.sections.push_back(armourSection(*record.vehicle));
         sheet.sections.push_back(weaponsSection(*record.vehicle));
         sheet.sections.push_back(crewSection(*record.vehicle));
+    }
+    addSquadSections(sheet, record);
+    if (record.aircraft) {
+        addAircraftSections(sheet, *record.aircraft);
     }
     sheet.sections.push_back(availabilitySection(record));
     sheet.sections.push_back(uniformSection(record));

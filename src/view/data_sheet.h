@@ -3,6 +3,7 @@
 
 #include "data/category.h"
 #include "data/unit_record.h"
+#include "weapons/weapon_record.h"
 
 #include <string>
 #include <vector>
@@ -52,6 +53,13 @@ struct DataSheet {
 
 /// The sheet of a unit of any category that has a `SquadRecord`. `missingPictures` are listed at its end.
 DataSheet unitSheet(const SquadRecord& record, const std::vector<std::string>& missingPictures);
+
+/// The sheet of a weapon.
+DataSheet weaponSheet(const WeaponRecord& weapon);
+
+/// The sections that only infantry and heavy weapons, and only aircraft, have.
+void addSquadSections(DataSheet& sheet, const SquadRecord& record);
+void addAircraftSections(DataSheet& sheet, const AircraftRecord& aircraft);
 
 /// The line that names a component in lists: its place in the vehicle (from 1), its kind and its crew.
 std::string componentLine(std::size_t place, const ComponentRecord& component);

@@ -98,6 +98,12 @@ struct DrawOptions {
 /// long as the hull.
 DrawList drawVehicle(const VehicleRecord& vehicle, const DrawOptions& options, PictureSizes& sizes);
 
+/// The drawing of a heavy weapon: its base and the gun on it.
+DrawList drawHeavyWeapon(const HeavyWeaponRecord& weapon, const DrawOptions& options, PictureSizes& sizes);
+
+/// The drawing of an aircraft with its rotors.
+DrawList drawAircraft(const AircraftRecord& aircraft, const DrawOptions& options, PictureSizes& sizes);
+
 /// Where the drawing of `list` goes in an area of the screen: a scale at which a metre is a whole number of pixels,
 /// and the pixel of the point (0, 0).
 struct Fit {

@@ -26,10 +26,9 @@ std::vector<SaveLoss> weaponSaveLosses(std::string_view fileContent) {
     const std::string text = weaponFileText(readTraced(file));
     TracedFile saved(text);
     readTraced(saved);
-    return findLosses(file, saved,
-                      {.isElement = weapon_rules::isElement,
-                       .keys = {},
-                       .goesWithoutSaying = goesWithoutSaying});
+    return findLosses(
+        file, saved,
+        {.isElement = weapon_rules::isElement, .keys = {}, .goesWithoutSaying = goesWithoutSaying});
 }
 
 } // namespace varrocade

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "contest.h"
+
+#include <cstddef>
+
+namespace varrocade::benchmarks {
+
+/// How many units the parsing and the loading are measured with.
+inline constexpr std::size_t UnitCount = 2000;
+inline constexpr std::size_t WeaponCount = 600;
+
+/// The tag tree's parser against pugixml's, both building their trees in memory.
+ContestResult parsingContest(std::size_t rounds);
+
+/// Reading unit files into records against only opening and reading the files.
+ContestResult loadingContest(std::size_t rounds);
+
+} // namespace varrocade::benchmarks

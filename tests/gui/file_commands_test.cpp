@@ -1,0 +1,218 @@
+// New, Duplicate, Rename, Delete.
+
+#include "gui_test.h"
+
+#include <algorithm>
+
+namespace varrocade::gui {
+
+namespace {
+
+/// A file of each category that the editor's writer would write as it is.
+struct FileRow {
+    CategoryParts category;
+    std::string_view name;
+};
+
+constexpr FileRow WrittenAlike[] = {
+    {Categories[0], Tiger},
+    {Categories[1], "German 88mm FlaK 36"},
+    {Categories[2], "German Grenadier Gruppe 1944"},
+    {Categories[3], "American P-47D Thunderbolt"},
+    {Categories[4], "WEAPON_CANNON_88_KWK36_L56"},
+};
+
+Box refusal(std::string_view text) {
+    return {.caption = "Error", .text = std::string(text)};
+}
+
+} // namespace
+
+class FileCommandsTest : public GuiTest {
+protected:
+    /// Tries a name in a dialog that refuses it and stays open.
+    void expectRefusal(Window dialog, std::string_view name, std::string_view reason) const {
+        SCOPED_TRACE(name);
+        dialog.setText(IDC_NEW_NAME, name);
+        dialog.startPress(IDOK);
+        answer(refusal(reason));
+        EXPECT_TRUE(dialog.exists());
+    }
+    void expectNameRefusals(Window dialog, std::string_view goodName,
+                            std::string_view badCharacters = "\\.") const {
+        expectRefusal(dialog, "", "A name must be entered");
+        for (const char character : badCharacters) {
+            expectRefusal(dialog, std::string(goodName) + character + "2",
+                          "Ilegal characters in the filename");
+        }
+    }
+    void takeName(Window dialog, std::string_view name) const {
+        dialog.setText(IDC_NEW_NAME, name);
+        finish(dialog);
+    }
+    [[nodiscard]] bool isListed(std::string_view name) const {
+        const std::vector<std::string> all = entries();
+        return std::find(all.begin(), all.end(), name) != all.end();
+    }
+    void expectOpen(std::string_view name) const {
+        EXPECT_EQ(selected(), name);
+        EXPECT_TRUE(isEnabled(DuplicateId) && isEnabled(RenameId) && isEnabled(DeleteId)) << name;
+    }
+};
+
+TEST_F(FileCommandsTest, NewSquadIsWrittenAtOnceInEveryCategory) {
+    constexpr std::string_view types[] = {"TYPE_TANK", "TYPE_ATGUN", "TYPE_INFANTRY_SECTION", "TYPE_PLANE"};
+    constexpr std::string_view name = "German Test";
+    start();
+    for (std::size_t i = 0; i < std::size(types); ++i) {
+        SCOPED_TRACE(types[i]);
+        chooseCategory(Categories[i].button);
+        const Window dialog = openDialog(NewId, "New Squad");
+        dialog.control(IDC_NEW_NATIONALITY).choose("German");
+        takeName(dialog, name);
+        expectOpen(name);
+        const std::string text = game.read(dataFile(name, Categories[i].name));
+        EXPECT_NE(text.find("<type>" + std::string(types[i]) + "</type>"), std::string::npos) << text;
+        EXPECT_NE(text.find("<nationality>NATIONALITY_GERMAN</nationality>"), std::string::npos) << text;
+    }
+    chooseCategory(VehiclesId);
+    const Window details = openDetails();
+    EXPECT_EQ(details.control(IDC_COMPONENTS).listTexts(), std::vector<std::string>{"1. Hull"});
+    finish(details, IDCANCEL);
+}
+
+TEST_F(FileCommandsTest, NewSquadRefusesBadNames) {
+    start();
+    const Window dialog = openDialog(NewId, "New Squad");
+    dialog.control(IDC_NEW_NATIONALITY).choose("German");
+    expectNameRefusals(dialog, "German 2", "<>:\"/\\|?*.");
+    expectRefusal(dialog, "Tiger",
+                  "The filename must begin with the squad's nationality name:\n\n        German");
+    expectRefusal(dialog, Tiger, "Squad name already exists");
+    finish(dialog, IDCANCEL);
+    EXPECT_EQ(entries(), game.names("Data\\Vehicles"));
+    EXPECT_FALSE(game.exists("Backups"));
+    EXPECT_FALSE(isEnabled(DuplicateId));
+}
+
+TEST_F(FileCommandsTest, NewWeapon) {
+    game.copyFromSample("Data\\Weapons");
+    start();
+    chooseCategory(WeaponsId);
+    const std::size_t count = entries().size();
+    Window dialog = openDialog(NewId, "New Weapon");
+    expectNameRefusals(dialog, "WEAPON_TEST");
+    expectRefusal(dialog, "WEAPON_CANNON_88_KWK36_L56", "Weapon name already exists");
+    takeName(dialog, "WEAPON_CANNON_99_TEST");
+    expectOpen("WEAPON_CANNON_99_TEST");
+    EXPECT_EQ(entries().size(), count + 1);
+    EXPECT_NE(game.read(dataFile("WEAPON_CANNON_99_TEST", "Weapons")), "");
+}
+
+TEST_F(FileCommandsTest, DuplicateWritesTheOpenRecordUnderAnotherName) {
+    game.copyFromSample("Data\\Weapons");
+    start();
+    for (const FileRow& row : WrittenAlike) {
+        SCOPED_TRACE(row.name);
+        chooseCategory(row.category.button);
+        select(row.name);
+        const std::string original = game.read(dataFile(row.name, row.category.name));
+        const Window dialog = openDialog(DuplicateId, "Duplicate");
+        const std::string copy = dialog.control(IDC_NEW_NAME).text();
+        EXPECT_EQ(copy, std::string(row.name) + " (copy)");
+        expectRefusal(dialog, row.name, "File already exists");
+        takeName(dialog, copy);
+        EXPECT_EQ(game.read(dataFile(copy, row.category.name)), original);
+        EXPECT_EQ(game.read(dataFile(row.name, row.category.name)), original);
+        EXPECT_TRUE(isListed(copy) && isListed(row.name));
+        expectOpen(copy);
+    }
+    chooseCategory(VehiclesId);
+    const Window dialog = openDialog(DuplicateId, "Duplicate");
+    expectNameRefusals(dialog, "German");
+    expectRefusal(dialog, "Tiger",
+                  "The filename must begin with the squad's nationality name:\n\n        German");
+    finish(dialog, IDCANCEL);
+}
+
+TEST_F(FileCommandsTest, RenameMovesTheFileAndTheOpenRecord) {
+    game.copyFromSample("Data\\Weapons");
+    start();
+    for (const FileRow& row : WrittenAlike) {
+        SCOPED_TRACE(row.name);
+        chooseCategory(row.category.button);
+        select(row.name);
+        const std::string original = game.read(dataFile(row.name, row.category.name));
+        const std::string other = game.names("Data\\" + std::string(row.category.name)).front();
+        const std::string renamed = std::string(row.name) + " II";
+        const Window dialog = openDialog(RenameId, "Rename");
+        EXPECT_EQ(dialog.control(IDC_NEW_NAME).text(), row.name);
+        expectRefusal(dialog, "", "A name must be entered");
+        expectRefusal(dialog, std::string(row.name) + "?", "Ilegal characters in the filename");
+        game.write(dataFile(renamed, row.category.name), "in the way");
+        expectRefusal(dialog, renamed, "That file already exists");
+        game.remove(dataFile(renamed, row.category.name));
+        takeName(dialog, renamed);
+        EXPECT_EQ(game.read(dataFile(renamed, row.category.name)), original);
+        EXPECT_FALSE(game.exists(dataFile(row.name, row.category.name)));
+        EXPECT_FALSE(isListed(row.name));
+        expectOpen(renamed);
+    }
+    // What is saved from now on goes to the new name.
+    chooseCategory(VehiclesId);
+    const Window details = openDetails();
+    details.setText(IDC_WEIGHT, "1");
+    finish(details);
+    EXPECT_FALSE(game.exists(dataFile(Tiger)));
+    const std::string renamed = std::string(Tiger) + " II";
+    EXPECT_NE(game.read(dataFile(renamed)).find("<weight>1</weight>"), std::string::npos);
+    EXPECT_EQ(game.backups(dataFile(renamed)).size(), 1U);
+}
+
+TEST_F(FileCommandsTest, DeleteKeepsABackupAndSelectsTheNeighbour) {
+    const Box squadQuestion = {"Delete", "Are you sure you want to delete this squad?", {IDYES, IDNO}};
+    game.copyFromSample("Data\\Weapons");
+    start();
+    const std::vector<std::string> all = entries();
+    const std::string original = game.read(dataFile(all[1]));
+    select(all[1]);
+    window.startPress(DeleteId);
+    answer(squadQuestion, IDNO);
+    EXPECT_TRUE(game.exists(dataFile(all[1])));
+    EXPECT_FALSE(game.exists("Backups"));
+    window.startPress(DeleteId);
+    answer(squadQuestion, IDYES);
+    EXPECT_TRUE(eventually([&] { return selected() == all[2]; }));
+    expectOpen(all[2]);
+    EXPECT_FALSE(game.exists(dataFile(all[1])));
+    EXPECT_FALSE(isListed(all[1]));
+    EXPECT_EQ(game.backups(dataFile(all[1])), std::vector<std::string>{original});
+
+    select(all.back());
+    window.startPress(DeleteId);
+    answer(squadQuestion, IDYES);
+    EXPECT_TRUE(eventually([&] { return selected() == all[all.size() - 2]; }));
+
+    chooseCategory(WeaponsId);
+    list().choose(0);
+    const std::string weapon = selected();
+    window.startPress(DeleteId);
+    answer({"Delete", "Are you sure you want to delete this weapon?", {IDYES, IDNO}}, IDYES);
+    EXPECT_TRUE(eventually([&] { return !isListed(weapon); }));
+    EXPECT_FALSE(game.exists(dataFile(weapon, "Weapons")));
+}
+
+TEST_F(FileCommandsTest, DeletingTheLastFileLeavesNothingOpen) {
+    game.remove("Data\\Aircraft");
+    game.write(dataFile("German Only One", "Aircraft"), "<aircraft></aircraft>");
+    start();
+    chooseCategory(AircraftId);
+    list().choose(0);
+    window.startPress(DeleteId);
+    answer({"Delete", "Are you sure you want to delete this squad?", {IDYES, IDNO}}, IDYES);
+    EXPECT_TRUE(eventually([&] { return entries().empty() && !isEnabled(DuplicateId); }));
+    EXPECT_FALSE(isEnabled(RenameId) || isEnabled(DeleteId));
+    EXPECT_TRUE(isEnabled(NewId));
+}
+
+} // namespace varrocade::gui

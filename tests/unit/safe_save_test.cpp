@@ -1,0 +1,261 @@
+// Saving: whatever fails, the old file is still there, whole.
+
+#include "data/unit_writers.h"
+#include "platform/safe_save.h"
+#include "test_support.h"
+#include "weapons/weapon_files.h"
+
+#include <algorithm>
+
+#include <gtest/gtest.h>
+
+namespace varrocade::tests {
+
+namespace {
+
+/// The real files, but for one operation that fails: the one with the number `failing`, from 1; 0 for none.
+class FaultyFiles : public FileOperations {
+public:
+    explicit FaultyFiles(int failing) : failing_(failing) {}
+
+    bool read(const std::string& path, std::string& content) override {
+        return !fails() && systemFiles().read(path, content);
+    }
+    bool exists(const std::string& path) override { return systemFiles().exists(path); }
+    std::unique_ptr<OutputFile> createNew(const std::string& path) override {
+        if (fails()) {
+            return nullptr;
+        }
+        auto file = systemFiles().createNew(path);
+        return file ? std::make_unique<FaultyOutput>(*this, std::move(file)) : nullptr;
+    }
+    bool replace(const std::string& from, const std::string& to) override {
+        return !fails() && systemFiles().replace(from, to);
+    }
+    bool remove(const std::string& path) override { return !fails() && systemFiles().remove(path); }
+    bool createFolder(const std::string& path) override { return !fails() && systemFiles().createFolder(path); }
+    std::string lastError() override { return "the disk is full"; }
+
+    [[nodiscard]] bool hasFailed() const { return failing_ > 0 && operations_ >= failing_; }
+
+private:
+    class FaultyOutput : public OutputFile {
+    public:
+        FaultyOutput(FaultyFiles& files, std::unique_ptr<OutputFile> file) : files_(files), file_(std::move(file)) {}
+        std::size_t write(std::string_view bytes) override {
+            if (files_.fails()) {
+                return 0;
+            }
+            // Never more than half of a longer text at a time, as a slow device would take it.
+            return file_->write(bytes.substr(0, (bytes.size() + 1) / 2));
+        }
+        bool flush() override { return !files_.fails() && file_->flush(); }
+        bool close() override {
+            // The system's file is closed in any case, so that it can be removed.
+            return file_->close() && !files_.fails();
+        }
+
+    private:
+        FaultyFiles& files_;
+        std::unique_ptr<OutputFile> file_;
+    };
+
+    bool fails() { return ++operations_ == failing_; }
+
+    int operations_ = 0;
+    int failing_;
+};
+
+const std::string UnitFile = "Data\\Infantry\\Squad.txt";
+const std::string OldText = "<squad><description><comment>old</comment></description></squad>";
+
+SquadRecord newSquad() {
+    SquadRecord record;
+    record.fileName = "Squad";
+    record.comment = "new";
+    return record;
+}
+
+std::size_t count(const std::vector<std::string>& names, std::string_view start) {
+    return static_cast<std::size_t>(
+        std::count_if(names.begin(), names.end(), [&](const std::string& name) { return name.starts_with(start); }));
+}
+
+} // namespace
+
+TEST(Saving, KeepsTheOldFileWhicheverStepFails) {
+    bool succeeded = false;
+    int failing = 0;
+    while (!succeeded) {
+        ASSERT_LT(++failing, 200);
+        const TemporaryFolder folder;
+        folder.write(UnitFile, OldText);
+        const MessageRecorder messages;
+        FaultyFiles files(failing);
+        BackupKeeper backups;
+        const SaveResult result = saveUnit(files, backups, folder.path(), Category::Infantry, newSquad());
+        const std::vector<std::string> names = folder.files();
+        succeeded = !files.hasFailed();
+        EXPECT_EQ(result == SaveResult::Saved, succeeded) << "operation " << failing;
+        EXPECT_EQ(folder.read(UnitFile), succeeded ? squadFileText(newSquad()) : OldText) << "operation " << failing;
+        // Beside the unit there is at most its backup, and that is whole.
+        const std::size_t kept = count(names, "Backups\\Data\\Infantry\\Squad ");
+        EXPECT_EQ(names.size(), 1 + kept) << "operation " << failing << " left something: " << names.back();
+        EXPECT_LE(kept, 1U);
+        if (kept == 1) {
+            EXPECT_EQ(folder.read(names.front()), OldText);
+        }
+        if (succeeded) {
+            EXPECT_EQ(kept, 1U);
+            EXPECT_TRUE(MessageRecorder::shown().empty());
+        } else {
+            ASSERT_EQ(MessageRecorder::shown().size(), 1U) << "operation " << failing;
+            EXPECT_EQ(MessageRecorder::shown()[0].text, folder.path() + UnitFile);
+            EXPECT_EQ(MessageRecorder::shown()[0].caption, "Couldn't save file");
+        }
+    }
+    // Folders, the old content, and each of two files created, written in pieces, flushed, closed and put in place.
+    EXPECT_GT(failing, 20);
+}
+
+TEST(Saving, LeavesNothingBehindWhereThereWasNoFile) {
+    bool succeeded = false;
+    for (int failing = 1; !succeeded; ++failing) {
+        ASSERT_LT(failing, 200);
+        const TemporaryFolder folder;
+        const MessageRecorder messages;
+        FaultyFiles files(failing);
+        BackupKeeper backups;
+        WeaponRecord weapon;
+        const SaveResult result = saveWeapon(files, backups, folder.path(), "W", weapon);
+        succeeded = !files.hasFailed();
+        EXPECT_EQ(result, succeeded ? SaveResult::Saved : SaveResult::Failed) << "operation " << failing;
+        EXPECT_EQ(folder.files(), succeeded ? std::vector<std::string>{"Data\\Weapons\\W.txt"} : std::vector<std::string>())
+            << "operation " << failing;
+        EXPECT_EQ(MessageRecorder::shown().size(), succeeded ? 0U : 1U) << "operation " << failing;
+    }
+}
+
+TEST(Saving, SaysWhatFailed) {
+    const TemporaryFolder folder;
+    const std::string path = folder.path() + "file.txt";
+    FaultyFiles files(1);
+    const std::optional<FileFailure> failure = saveFile(files, path, "content");
+    ASSERT_TRUE(failure);
+    EXPECT_EQ(failure->path, path);
+    EXPECT_EQ(failure->reason, "the disk is full");
+    EXPECT_FALSE(saveFile(systemFiles(), path, "content"));
+    EXPECT_EQ(folder.read("file.txt"), "content");
+    EXPECT_FALSE(saveFile(systemFiles(), path, ""));
+    EXPECT_EQ(folder.read("file.txt"), "");
+    const std::optional<FileFailure> nowhere = saveFile(systemFiles(), folder.path() + "no\\file.txt", "content");
+    ASSERT_TRUE(nowhere);
+    EXPECT_FALSE(nowhere->reason.empty());
+}
+
+TEST(Saving, StepsOverLeftoversOfAnotherRun) {
+    const TemporaryFolder folder;
+    folder.write("file.txt", "old");
+    folder.write("file.txt.saving", "cut off");
+    FaultyFiles files(0);
+    EXPECT_FALSE(saveFile(files, folder.path() + "file.txt", "new"));
+    EXPECT_EQ(folder.read("file.txt"), "new");
+    EXPECT_EQ(folder.read("file.txt.saving"), "cut off");
+    EXPECT_EQ(folder.files().size(), 2U);
+}
+
+TEST(Saving, WritesLargeFilesWhole) {
+    const TemporaryFolder folder;
+    std::string content;
+    for (int i = 0; content.size() < (1U << 20U); ++i) {
+        content += std::to_string(i) + "\r\n";
+    }
+    FaultyFiles files(0);
+    EXPECT_FALSE(saveFile(files, folder.path() + "file.txt", content));
+    EXPECT_EQ(folder.read("file.txt"), content);
+}
+
+TEST(Saving, DoesNothingForARecordOfAnotherKind) {
+    const TemporaryFolder folder;
+    const MessageRecorder messages;
+    BackupKeeper backups;
+    EXPECT_EQ(saveUnit(systemFiles(), backups, folder.path(), Category::Vehicles, newSquad()), SaveResult::NothingToSave);
+    EXPECT_EQ(saveUnit(systemFiles(), backups, folder.path(), Category::Aircraft, newSquad()), SaveResult::NothingToSave);
+    EXPECT_TRUE(folder.files().empty());
+    EXPECT_TRUE(MessageRecorder::shown().empty());
+}
+
+TEST(Backups, AreMadeOncePerRunAndFile) {
+    const TemporaryFolder folder;
+    folder.write(UnitFile, OldText);
+    folder.write("Data\\Infantry\\Other.txt", "other");
+    SquadRecord record = newSquad();
+    BackupKeeper firstRun;
+    ASSERT_EQ(saveUnit(systemFiles(), firstRun, folder.path(), Category::Infantry, record), SaveResult::Saved);
+    record.comment = "newer";
+    ASSERT_EQ(saveUnit(systemFiles(), firstRun, folder.path(), Category::Infantry, record), SaveResult::Saved);
+    EXPECT_EQ(count(folder.files(), "Backups\\"), 1U);
+    record.fileName = "Other";
+    ASSERT_EQ(saveUnit(systemFiles(), firstRun, folder.path(), Category::Infantry, record), SaveResult::Saved);
+    EXPECT_EQ(count(folder.files(), "Backups\\Data\\Infantry\\Other "), 1U);
+    // A file that is new in this run has no former content; saving it again does not make one.
+    record.fileName = "Third";
+    ASSERT_EQ(saveUnit(systemFiles(), firstRun, folder.path(), Category::Infantry, record), SaveResult::Saved);
+    EXPECT_EQ(count(folder.files(), "Backups\\"), 2U);
+    // The next run keeps what it finds, also within the same second.
+    for (std::size_t run = 2; run < 5; ++run) {
+        BackupKeeper nextRun;
+        record.fileName = "Squad";
+        ASSERT_EQ(saveUnit(systemFiles(), nextRun, folder.path(), Category::Infantry, record), SaveResult::Saved);
+        EXPECT_EQ(count(folder.files(), "Backups\\Data\\Infantry\\Squad "), run);
+    }
+}
+
+TEST(Backups, OfAFailedSaveServeTheNext) {
+    const TemporaryFolder folder;
+    folder.write(UnitFile, OldText);
+    const MessageRecorder messages;
+    BackupKeeper backups;
+    SaveResult result = SaveResult::Failed;
+    for (int failing = 1; result == SaveResult::Failed; ++failing) {
+        ASSERT_LT(failing, 200);
+        FaultyFiles files(failing);
+        result = saveUnit(files, backups, folder.path(), Category::Infantry, newSquad());
+    }
+    const std::vector<std::string> names = folder.files();
+    ASSERT_EQ(count(names, "Backups\\"), 1U);
+    EXPECT_EQ(folder.read(names.front()), OldText);
+    EXPECT_EQ(folder.read(UnitFile), squadFileText(newSquad()));
+}
+
+TEST(Folders, AreListedByEnding) {
+    const TemporaryFolder folder;
+    for (const char* name : {"b.txt", "A.TXT", "c.txtx", "txt", ".txt", "d.png", "sub.txt\\e.txt"}) {
+        folder.write(name, "");
+    }
+    std::vector<std::string> names;
+    ASSERT_TRUE(listFiles(folder.path(), ".txt", names));
+    std::sort(names.begin(), names.end());
+    EXPECT_EQ(names, std::vector<std::string>({".txt", "A.TXT", "b.txt"}));
+    EXPECT_FALSE(listFiles(folder.path() + "missing\\", ".txt", names));
+    EXPECT_TRUE(isFolder(folder.path() + "sub.txt"));
+    EXPECT_FALSE(isFolder(folder.path() + "b.txt"));
+    std::string content = "former";
+    EXPECT_FALSE(readWholeFile(folder.path() + "sub.txt", content)) << "a folder is no file";
+    EXPECT_FALSE(readWholeFile(folder.path() + "missing.txt", content));
+    EXPECT_TRUE(readWholeFile(folder.path() + "b.txt", content));
+    EXPECT_EQ(content, "");
+}
+
+TEST(Folders, AreCreatedWhereMissing) {
+    const TemporaryFolder folder;
+    EXPECT_FALSE(createFolders(systemFiles(), folder.path() + "a\\b\\c\\"));
+    EXPECT_TRUE(isFolder(folder.path() + "a\\b\\c"));
+    EXPECT_FALSE(createFolders(systemFiles(), folder.path() + "a\\b\\c\\")) << "existing ones are no failure";
+    folder.write("file", "");
+    const std::optional<FileFailure> failure = createFolders(systemFiles(), folder.path() + "file\\below\\");
+    ASSERT_TRUE(failure);
+    EXPECT_EQ(failure->path, folder.path() + "file\\below");
+}
+
+} // namespace varrocade::tests

@@ -1,0 +1,208 @@
+// Files that no editor wrote: none may crash a reader, overflow the stack or take for ever.
+
+#include "data/tag_tree.h"
+#include "data/unit_reader.h"
+#include "tag_tree_model.h"
+#include "test_support.h"
+#include "weapons/weapon_files.h"
+
+#include <algorithm>
+#include <chrono>
+
+#include <gtest/gtest.h>
+
+namespace varrocade::tests {
+
+namespace {
+
+/// Far above what any case takes, far below what quadratic work on it would.
+constexpr std::chrono::seconds Deadline{30};
+
+std::string repeated(std::string_view text, std::size_t count) {
+    std::string out;
+    out.reserve(text.size() * count);
+    for (std::size_t i = 0; i < count; ++i) {
+        out += text;
+    }
+    return out;
+}
+
+std::string numbered(std::string_view before, std::size_t count, std::string_view after) {
+    std::string out;
+    for (std::size_t i = 0; i < count; ++i) {
+        out += std::string(before) + std::to_string(i) + std::string(after);
+    }
+    return out;
+}
+
+std::string nestedInEachOther(std::size_t levels) {
+    std::string document = numbered("<n", levels, ">");
+    for (std::size_t i = levels; i-- > 0;) {
+        document += "</n" + std::to_string(i) + ">";
+    }
+    return document;
+}
+
+/// Every level's content stands in two elements, its sibling and one that begins in it but ends later: the tree
+/// doubles with each level.
+std::string doubling(std::size_t levels) {
+    std::string document;
+    std::string ends;
+    for (std::size_t i = 0; i < levels; ++i) {
+        const std::string number = std::to_string(i) + ">";
+        document += "<c" + number + "<d" + number + "</c" + number;
+        ends.insert(0, "</d" + number + "<\n/\n/c" + number);
+    }
+    return document + "<x>1</x>" + ends;
+}
+
+std::size_t depthOf(const TagTree& tree) {
+    std::vector<std::size_t> depths(tree.nodes().size(), 0);
+    for (std::size_t i = 1; i < depths.size(); ++i) {
+        depths[i] = depths[tree.nodes()[i].parent] + 1;
+    }
+    return *std::max_element(depths.begin(), depths.end());
+}
+
+class Stopwatch {
+public:
+    [[nodiscard]] bool inTime() const { return std::chrono::steady_clock::now() - start_ < Deadline; }
+
+private:
+    std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
+};
+
+} // namespace
+
+TEST(HostileFile, NestsDeep) {
+    constexpr std::size_t levels = 200000;
+    const Stopwatch watch;
+    TagTree tree;
+    tree.parse(nestedInEachOther(levels));
+    EXPECT_EQ(depthOf(tree), levels);
+    tree.parse(repeated("<a>", levels) + "</a>");
+    EXPECT_EQ(depthOf(tree), levels);
+    EXPECT_EQ(tree.root().childCount, 1U);
+    // Unit rules at every level: vehicles in squads in squads.
+    const SquadRecord record = readUnitText(repeated("<squad><vehicle><hull>", levels) + "</hull></vehicle></squad>");
+    EXPECT_FALSE(record.vehicle && record.vehicle->components.size() > MaxSquadMembers);
+    EXPECT_TRUE(watch.inTime());
+}
+
+TEST(HostileFile, HasMoreTagsThanSense) {
+    const Stopwatch watch;
+    TagTree tree;
+    tree.parse(std::string(std::size_t{64} << 20U, '<'));
+    EXPECT_EQ(tree.nodes().size(), 1U);
+    constexpr std::size_t length = std::size_t{1} << 20U;
+    for (const char* part : {"</", "</a>", "<a>", "<>", "</>", "\r", "/ ", "<a></b>"}) {
+        tree.parse(repeated(part, length / std::string_view(part).size()));
+        EXPECT_LE(tree.nodes().size(), length) << part;
+    }
+    tree.parse("<a>" + repeated("</", length / 2) + "a>");
+    EXPECT_EQ(tree.nodes().size(), 2U) << "the last of the closing tags is whole";
+    EXPECT_TRUE(watch.inTime());
+}
+
+TEST(HostileFile, OverlapsExponentially) {
+    const Stopwatch watch;
+    TagTree tree;
+    ModelNode model;
+    std::size_t former = 0;
+    for (std::size_t levels = 1; levels < 8; ++levels) {
+        const std::string document = doubling(levels);
+        tree.parse(document);
+        ASSERT_TRUE(parseModel(modelCleaned(document), 100000, model));
+        EXPECT_TRUE(isSameTree(tree, model)) << levels;
+        EXPECT_GT(tree.nodes().size(), 2 * former) << "the document does not double";
+        former = tree.nodes().size() - 1;
+    }
+    const std::string document = doubling(60);
+    tree.parse(document);
+    EXPECT_LT(tree.nodes().size(), 100000U);
+    EXPECT_GT(tree.nodes().size(), 1000U);
+    EXPECT_TRUE(watch.inTime());
+}
+
+TEST(HostileFile, HasManyDifferentNames) {
+    constexpr std::size_t count = 200000;
+    const Stopwatch watch;
+    TagTree tree;
+    // Unfinished at the end, so that every closing tag is looked up.
+    tree.parse(numbered("<n", count, "></n>") + "<");
+    EXPECT_EQ(tree.nodes().size(), 1U) << "the first element is not closed";
+    std::string document;
+    for (std::size_t i = 0; i < count; ++i) {
+        const std::string number = std::to_string(i);
+        document += "<n" + number + "></n" + number + ">";
+    }
+    tree.parse(document + "<");
+    EXPECT_EQ(tree.root().childCount, count);
+    EXPECT_TRUE(watch.inTime());
+}
+
+namespace {
+
+/// Where to cut a file up to `end`: at every byte, or at every seventh under the sanitizers, which are slow,
+/// beginning elsewhere in each file.
+std::vector<std::size_t> cutsOf(const SampleFile& file, std::size_t end) {
+#ifdef NDEBUG
+    constexpr std::size_t stride = 1;
+#else
+    constexpr std::size_t stride = 7;
+#endif
+    std::vector<std::size_t> cuts;
+    for (std::size_t at = file.name.size() % stride; at < end; at += stride) {
+        cuts.push_back(at);
+    }
+    return cuts;
+}
+
+std::size_t entriesOf(const SquadRecord& record) {
+    return (record.vehicle ? record.vehicle->components.size() : 0) + record.infantrymen.size() +
+           (record.heavyWeapon ? 1 : 0) + (record.aircraft ? record.aircraft->weapons.size() : 0);
+}
+
+/// How many entries the reader of the file's category finds in a content.
+std::size_t entriesIn(Category category, std::string_view content) {
+    if (category == Category::Weapons) {
+        WeaponReadReport report;
+        return readWeapon(content, "cut", report).ammoTypes.size();
+    }
+    return entriesOf(readUnitText(content));
+}
+
+} // namespace
+
+TEST(TruncatedFile, LosesAllAsItsRootIsNotClosed) {
+    for (const SampleFile& file : sampleFiles()) {
+        for (const std::size_t length : cutsOf(file, file.content.rfind("</"))) {
+            // Copied to a block of its own, so that a look beyond its end is found out.
+            const std::vector<char> cut(file.content.begin(),
+                                        file.content.begin() + static_cast<std::ptrdiff_t>(length));
+            ASSERT_EQ(entriesIn(file.category, {cut.data(), cut.size()}), 0U) << file.name << " cut at " << length;
+        }
+    }
+}
+
+TEST(TruncatedFile, KeepsWhatStandsBeforeTheCutWithItsRootClosedAgain) {
+    for (const SampleFile& file : sampleFiles()) {
+        const std::string ending = "\n" + file.content.substr(file.content.rfind("</"));
+        const std::size_t all = entriesIn(file.category, file.content);
+        std::size_t former = 0;
+        for (const std::size_t length : cutsOf(file, file.content.size())) {
+            const std::string closed = file.content.substr(0, length) + ending;
+            const std::size_t entries = entriesIn(file.category, closed);
+            // Only the file's outer part can be left open, with all that is in it.
+            ASSERT_TRUE(entries == 0 || entries >= former) << file.name << " cut at " << length;
+            ASSERT_LE(entries, all) << file.name << " cut at " << length;
+            former = std::max(former, entries);
+            if (length % 61 == 0) {
+                ASSERT_EQ(differenceFromModel(closed), "") << file.name << " cut at " << length;
+            }
+        }
+        EXPECT_GT(former, 0U) << file.name;
+    }
+}
+
+} // namespace varrocade::tests

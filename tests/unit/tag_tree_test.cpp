@@ -1,0 +1,202 @@
+#include "data/tag_tree.h"
+
+#include "tag_tree_model.h"
+#include "test_support.h"
+
+#include <array>
+#include <random>
+
+#include <gtest/gtest.h>
+
+namespace varrocade::tests {
+
+namespace {
+
+struct ParseCase {
+    const char* what;
+    std::string content;
+    const char* tree;
+};
+
+std::string described(std::string_view content) {
+    TagTree tree;
+    tree.parse(content);
+    return describe(tree);
+}
+
+} // namespace
+
+TEST(TagTree, ParsesAsTheGameDoes) {
+    const std::vector<ParseCase> cases = {
+        {"nothing", "", ""},
+        {"only comments and blanks", "// nothing\r\n \t\r\n\t// here\r\n", ""},
+        {"text without elements", "no element\r\n", "=no element"},
+        {"elements and texts", "<a>\r\n\t<b>1</b>\r\n\t<c>2</c>\r\n</a>\r\n", "{a{b=1 c=2}}"},
+        {"an empty element", "<a></a><b>x</b>", "{a b=x}"},
+        {"an element over three lines", "<a>\r\n\tvalue\r\n</a>", "{a=value}"},
+        {"a value that goes over lines", "<a>one\r\n\t two</a>", "{a=onetwo}"},
+        {"inner blanks stay", "<a> two words\t</a>", "{a= two words\t}"},
+        {"an armour line", "\t\t\t\t<front>35@30</front>\t// @0 is upright\r\n", "{front=35@30}"},
+        {"slashes in a value take its closing tag", "<u><a>x//y</a>\r\n<b>1</b></u>", "{u}"},
+        {"a later closing tag serves", "<a>x//y</a>\r\nz</a><b>1</b>", "{a=xz b=1}"},
+        {"single slashes", "<a>x/y/z</a>", "{a=x/y/z}"},
+        {"a comment that begins with three", "<a>1</a>///</a>", "{a=1}"},
+        {"siblings of one name", "<t><w>1</w><w>2</w></t>", "{t{w=1 w=2}}"},
+        {"the same name inside", "<a><a>1</a><b>2</b></a><c>3</c>", "{a{a=1} b=2}"},
+        {"text after a child", "<a><b>1</b>text<c>2</c></a><d>3</d>", "{a{b=1} d=3}"},
+        {"text before a child", "<a>text<b>1</b></a><c>2</c>", "{a=text<b>1</b> c=2}"},
+        {"text after the last element", "<a>1</a>text<b>2</b>", "{a=1}"},
+        {"case counts", "<A>1</a></A><a>2</a>", "{A=1</a> a=2}"},
+        {"no attributes", "<a b>1</a></a b>", "{a b=1</a>}"},
+        {"a word more in the opening tag", "<a b>1</a><c>2</c>", ""},
+        {"nothing closes itself", "<a/>1</a/><b/><c>2</c>", "{a/=1}"},
+        {"a name of no characters", "<>1</><b>2</b>", "{=1 b=2}"},
+        {"a missing closing tag drops what follows", "<u><a>1</a><b>2<c>3</c></u>", "{u{a=1}}"},
+        {"a missing end of a tag", "<u><a>1</a><b</u><c>2</c>", "{u{a=1} c=2}"},
+        {"the last tag has no end", "<a>1</a><b", "{a=1}"},
+        {"a closing tag alone", "</a><b>1</b>", ""},
+        {"a range that begins in another", "<a><b>1</a>2</b><c>3</c>", "{a{b=1</a>2}}"},
+        {"a closing tag of a longer name", "<a>1</ab></a>", "{a=1</ab>}"},
+        {"a closing tag that is a part of a name", "<a>1<</a>2", "{a=1<}"},
+    };
+    for (const ParseCase& c : cases) {
+        EXPECT_EQ(described(c.content), c.tree) << c.what;
+    }
+}
+
+TEST(TagTree, TakesEveryLineEnd) {
+    const std::string lines = "// first|<a>|\t<b>one // comment|\t two</b>|| <c>3</c> \t|</a>|";
+    for (const char* lineEnd : {"\r\n", "\n", "\r", "\n\r", "\r\r\n"}) {
+        std::string content;
+        for (const char c : lines) {
+            content += c == '|' ? std::string(lineEnd) : std::string(1, c);
+        }
+        EXPECT_EQ(described(content), "{a{b=onetwo c=3}}");
+    }
+    // What an editor appended to the last line's end does not matter either.
+    EXPECT_EQ(described("<a>1</a>"), described("<a>1</a>\r"));
+}
+
+TEST(TagTree, ReadsLongLinesInPieces) {
+    constexpr std::size_t pieceLength = 510;
+    for (std::size_t length = pieceLength - 4; length <= pieceLength + 4; ++length) {
+        // What stands about the border of the first piece: blanks there vanish, slashes parted by it stay.
+        for (const char* border : {"  ", "//", "x ", " x", "/ /", "\t//"}) {
+            const std::string content = std::string(length - 2, 'x') + border + "tail\n";
+            TagTree tree;
+            tree.parse("<a>" + content + "</a>");
+            const std::string expected = modelCleaned("<a>" + content);
+            ASSERT_EQ(tree.cleaned(), expected + "</a>") << length << border;
+        }
+    }
+    // Comments reach to the end of their piece only: the game sees the rest of a long line again.
+    EXPECT_EQ(described("<a>1</a>//" + std::string(500, '-') + "<b>2</b>\n"), "{a=1 b=2}");
+}
+
+TEST(TagTree, TellsTheLineOfAnElement) {
+    const std::string content = "// one\r\n\r\n<a>\r<b>4</b>\n\t<c>5</c>// c\r\n<d\r\n>" + std::string(600, ' ') +
+                                "7</d>\r\n</a>";
+    TagTree tree;
+    tree.parse(content);
+    ASSERT_EQ(describe(tree), "{a{b=4 c=5 d=7}}");
+    const std::array<std::size_t, 4> lines = {3, 4, 5, 6};
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        EXPECT_EQ(lineOfOffset(content, tree.offsetOf(tree.nodes()[i + 1].name)), lines[i]);
+    }
+}
+
+TEST(TagTree, ParsesAfreshEachTime) {
+    TagTree tree;
+    tree.parse("<a><b>1</b></a>");
+    tree.parse("text");
+    EXPECT_EQ(describe(tree), "=text");
+    tree.parse("<c>2</c>");
+    EXPECT_EQ(describe(tree), "{c=2}");
+    tree.parse("");
+    EXPECT_EQ(describe(tree), "");
+}
+
+namespace {
+
+/// Makes small documents: random tokens, and well-formed trees with a few random changes.
+class DocumentMaker {
+public:
+    std::string randomTokens() {
+        std::string document;
+        for (std::size_t count = below(28); count > 0; --count) {
+            document += Tokens[below(Tokens.size())];
+        }
+        return document;
+    }
+
+    std::string changedTree() {
+        std::string document;
+        appendElements(document, 0);
+        for (std::size_t changes = below(4); changes > 0 && !document.empty(); --changes) {
+            change(document);
+        }
+        return document;
+    }
+
+private:
+    static constexpr auto Tokens = std::to_array<const char*>(
+        {"<a>", "</a>", "<b>", "</b>", "<ab>", "</ab>", "<c>",  "</c>", "<>", "</>", "x", "yz", " ",  "\t",
+         "//",  "\n",   "\r",  "\r\n", "<",    ">",     "</",   "/",    "<a", "a>",  "<\n/\n/a>"});
+    static constexpr auto Names = std::to_array<const char*>({"a", "b", "ab", "c", "d", "e", "a b", ""});
+
+    std::size_t below(std::size_t bound) { return std::uniform_int_distribution<std::size_t>(0, bound - 1)(random_); }
+
+    void appendElements(std::string& document, std::size_t depth) {
+        for (std::size_t count = 1 + below(3); count > 0; --count) {
+            const std::string name = Names[below(Names.size())];
+            document += std::string(below(3), ' ') + "<" + name + ">";
+            if (depth < 4 && below(2) == 0) {
+                document += below(2) == 0 ? "\r\n" : "";
+                appendElements(document, depth + 1);
+            } else {
+                document += std::string(below(3), 'x');
+            }
+            document += "</" + name + ">" + (below(3) == 0 ? "// comment\n" : "");
+        }
+    }
+
+    void change(std::string& document) {
+        const std::size_t at = below(document.size());
+        const std::size_t length = 1 + below(6);
+        switch (below(4)) {
+        case 0:
+            document.erase(at, length);
+            break;
+        case 1:
+            document.insert(below(document.size()), document.substr(at, length));
+            break;
+        case 2:
+            document.insert(at, Tokens[below(Tokens.size())]);
+            break;
+        default:
+            document.resize(at);
+            break;
+        }
+    }
+
+    std::mt19937 random_{20240229};
+};
+
+} // namespace
+
+TEST(TagTree, AgreesWithThePlainAlgorithm) {
+    DocumentMaker maker;
+    for (int i = 0; i < 20000; ++i) {
+        for (const std::string& document : {maker.randomTokens(), maker.changedTree()}) {
+            ASSERT_EQ(differenceFromModel(document), "") << document;
+        }
+    }
+}
+
+TEST(TagTree, AgreesWithThePlainAlgorithmOnTheSample) {
+    for (const SampleFile& file : sampleFiles()) {
+        EXPECT_EQ(differenceFromModel(file.content), "") << file.name;
+    }
+}
+
+} // namespace varrocade::tests

@@ -1,0 +1,79 @@
+#pragma once
+// What the tests share: texts and folders, recorded message boxes, the sample's files.
+
+#include "data/category.h"
+#include "data/unit_reader.h"
+#include "platform/messages.h"
+
+#include <initializer_list>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace varrocade::tests {
+
+/// The sample game's base folder, below the working directory.
+inline const std::string SampleBase = "sample\\";
+
+/// The content of a file; fails the test when it cannot be read.
+std::string readText(const std::string& path);
+std::string goldenText(std::string_view name);
+
+/// The lines of a text that the writers made; fails the test when one does not end with CR LF.
+std::vector<std::string> linesOf(std::string_view text);
+
+/// The lines from the one that begins with `first` (after its tabs) to the one that begins with `last`, both
+/// included; empty when there is no such block.
+std::vector<std::string> linesBetween(std::string_view text, std::string_view first, std::string_view last);
+
+bool hasLine(std::string_view text, std::string_view line);
+
+struct SampleFile {
+    Category category;
+    std::string name;
+    std::string content;
+};
+
+/// Every data file of the sample, read once.
+const std::vector<SampleFile>& sampleFiles();
+
+/// Reads a unit without looking at its diagnostics.
+SquadRecord readUnitText(std::string_view content);
+
+/// A folder of its own for a test, gone with it.
+class TemporaryFolder {
+public:
+    TemporaryFolder();
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+    ~TemporaryFolder();
+
+    /// Built with backslashes, one at its end.
+    [[nodiscard]] const std::string& path() const { return path_; }
+    /// The same as the system writes it.
+    [[nodiscard]] std::string nativePath(std::string_view below) const;
+    /// Writes a file, creating the folders above it. `below` is built with backslashes, as everywhere here.
+    void write(std::string_view below, std::string_view content) const;
+    [[nodiscard]] std::string read(std::string_view below) const;
+    /// Every file below the folder, sorted.
+    [[nodiscard]] std::vector<std::string> files() const;
+
+private:
+    std::string path_;
+};
+
+/// Takes the place of the message boxes while it lives.
+class MessageRecorder {
+public:
+    MessageRecorder();
+    MessageRecorder(const MessageRecorder&) = delete;
+    MessageRecorder& operator=(const MessageRecorder&) = delete;
+    ~MessageRecorder();
+
+    [[nodiscard]] static const std::vector<Message>& shown();
+
+private:
+    MessageHandler former_;
+};
+
+} // namespace varrocade::tests

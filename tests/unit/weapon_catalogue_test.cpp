@@ -1,0 +1,247 @@
+#include "test_support.h"
+#include "weapons/weapon_catalogue.h"
+
+#include <algorithm>
+#include <filesystem>
+
+#include <gtest/gtest.h>
+
+namespace varrocade::tests {
+
+namespace {
+
+struct WeaponText {
+    std::string_view name = "WEAPON_CANNON";
+    std::string_view type = "WEAPON_CANNON";
+    std::string_view calibre = "75";
+    std::string_view barrelLength = "3000";
+    std::string_view countries = {};
+    std::string_view period = {};
+};
+
+std::string textOf(const WeaponText& weapon) {
+    const auto element = [](std::string_view name, std::string_view value) {
+        const std::string tag(name);
+        return "<" + tag + ">" + std::string(value) + "</" + tag + ">\r\n";
+    };
+    return "<weapon>\r\n" + element("name", weapon.name) + element("type", weapon.type) + "<dimensions>\r\n" +
+           element("calibre", weapon.calibre) + element("barrel_length", weapon.barrelLength) +
+           "</dimensions>\r\n<usage>\r\n" + element("period", weapon.period) +
+           element("countries", weapon.countries) + "</usage>\r\n</weapon>\r\n";
+}
+
+/// A program folder and a mod folder, and the catalogue over both.
+class WeaponCatalogueTest : public ::testing::Test {
+protected:
+    static std::string below(std::string_view fileName) {
+        return "Data\\Weapons\\" + std::string(fileName) + ".txt";
+    }
+    void inProgram(std::string_view fileName, const WeaponText& weapon) {
+        program.write(below(fileName), textOf(weapon));
+    }
+    void inMod(std::string_view fileName, const WeaponText& weapon) {
+        mod.write(below(fileName), textOf(weapon));
+    }
+    void load() { catalogue.load(program.path(), mod.path()); }
+
+    std::vector<std::string> names() const {
+        std::vector<std::string> found;
+        for (const CatalogueEntry& entry : catalogue.entries()) {
+            found.push_back(entry.weapon.name);
+        }
+        return found;
+    }
+    std::vector<std::string> select(const WeaponFilter& filter) const {
+        std::vector<std::string> found;
+        for (const WeaponRecord* weapon : catalogue.select(filter)) {
+            found.push_back(weapon->name);
+        }
+        return found;
+    }
+    std::vector<std::string> problemPaths() const {
+        std::vector<std::string> paths;
+        for (const FileFailure& problem : catalogue.problems()) {
+            EXPECT_FALSE(problem.reason.empty()) << problem.path;
+            paths.push_back(problem.path);
+        }
+        return paths;
+    }
+
+    TemporaryFolder program;
+    TemporaryFolder mod;
+    WeaponCatalogue catalogue;
+};
+
+using Names = std::vector<std::string>;
+
+} // namespace
+
+TEST_F(WeaponCatalogueTest, SortsForPeople) {
+    inProgram("a", {.name = "WEAPON_120", .calibre = "120"});
+    inProgram("b", {.name = "WEAPON_75_LONG", .barrelLength = "5250"});
+    inProgram("c", {.name = "WEAPON_75_B"});
+    inProgram("d", {.name = "weapon_75_a"});
+    inProgram("e", {.name = "WEAPON_75_A_2"});
+    inProgram("f", {.name = "WEAPON_792", .calibre = "7.92"});
+    inMod("g", {.name = "WEAPON_75_SHORT", .barrelLength = "1000"});
+    load();
+    EXPECT_EQ(names(), (Names{"WEAPON_792", "WEAPON_75_SHORT", "weapon_75_a", "WEAPON_75_A_2", "WEAPON_75_B",
+                              "WEAPON_75_LONG", "WEAPON_120"}));
+    EXPECT_TRUE(catalogue.problems().empty());
+}
+
+TEST_F(WeaponCatalogueTest, PrefersTheModsFiles) {
+    inProgram("WEAPON_A", {.name = "program's A"});
+    inProgram("WEAPON_B", {.name = "program's B"});
+    inProgram("WEAPON B", {.name = "program's other B"});
+    inMod("weapon_a", {.name = "mod's A"});
+    inMod("WEAPON_C", {.name = "mod's C"});
+    load();
+    EXPECT_EQ(names(), (Names{"mod's A", "mod's C", "program's B", "program's other B"}));
+    EXPECT_EQ(catalogue.entries().front().path, mod.path() + below("weapon_a"));
+    catalogue.load(program.path());
+    EXPECT_EQ(names(), (Names{"program's A", "program's B", "program's other B"})) << "out of the mod again";
+}
+
+TEST_F(WeaponCatalogueTest, FindsByFileNameBeforeName) {
+    inProgram("WEAPON_X", {.name = "WEAPON_Y"});
+    inProgram("WEAPON_Y", {.name = "WEAPON_Y", .calibre = "88"});
+    inProgram("copy", {.name = "WEAPON_Z"});
+    load();
+    const auto fileOf = [this](std::string_view name) {
+        const WeaponRecord* weapon = catalogue.find(name);
+        return weapon == nullptr ? "none" : weapon->fileName;
+    };
+    EXPECT_EQ(fileOf("WEAPON_Y"), "WEAPON_Y");
+    EXPECT_EQ(fileOf("weapon_x"), "WEAPON_X");
+    EXPECT_EQ(fileOf("Weapon_Z"), "copy");
+    EXPECT_EQ(fileOf("WEAPON"), "none");
+    EXPECT_EQ(fileOf(""), "none");
+}
+
+TEST_F(WeaponCatalogueTest, ListsByTypeNationalityAndPeriod) {
+    inProgram("1", {.name = "all", .calibre = "1"});
+    inProgram(
+        "2",
+        {.name = "german", .type = "WEAPON_HMG", .calibre = "2", .countries = "German", .period = "WW2"});
+    inProgram("3", {.name = "korean",
+                    .calibre = "3",
+                    .countries = "Chinese, North Korean",
+                    .period = "Cold War,Modern"});
+    inProgram("4", {.name = "finnish",
+                    .calibre = "4",
+                    .countries = "NATIONALITY_FINNISH\t,Swedish",
+                    .period = "ww2, Cold War"});
+    inProgram("5", {.name = "blanks", .calibre = "5", .countries = " , ,", .period = ","});
+    load();
+    struct Case {
+        std::string_view nationality;
+        std::string_view period;
+        Names expected;
+    };
+    const std::vector<Case> cases = {
+        {"", "", {"all", "german", "korean", "finnish", "blanks"}},
+        {"NATIONALITY_GERMAN", "", {"all", "german", "blanks"}},
+        {"NATIONALITY_NORTH_KOREAN", "", {"all", "korean", "blanks"}},
+        {"north korean", "", {"all", "korean", "blanks"}},
+        {"NATIONALITY_FINNISH", "", {"all", "finnish", "blanks"}},
+        {"NATIONALITY_FINLAND", "", {"all", "finnish", "blanks"}},
+        {"NATIONALITY_SOUTH_KOREAN", "", {"all", "blanks"}},
+        {"KOREAN", "", {"all", "blanks"}},
+        {"", "WW2", {"all", "german", "finnish", "blanks"}},
+        {"", "Cold War", {"all", "korean", "finnish", "blanks"}},
+        {"", "War", {"all", "blanks"}},
+        {"NATIONALITY_GERMAN", "Modern", {"all", "blanks"}},
+        {"NATIONALITY_GERMAN", "WW2", {"all", "german", "blanks"}},
+    };
+    for (const Case& c : cases) {
+        EXPECT_EQ(select({.nationality = c.nationality, .period = c.period}), c.expected)
+            << c.nationality << ", " << c.period;
+    }
+    const std::vector<WeaponType> machineGuns = {WeaponType::Lmg, WeaponType::Hmg};
+    EXPECT_EQ(select({.types = machineGuns}), Names{"german"});
+    EXPECT_EQ(select({.types = machineGuns, .nationality = "NATIONALITY_FRENCH"}), Names{});
+}
+
+TEST_F(WeaponCatalogueTest, GoesOnPastBadFiles) {
+    inProgram("good", {.name = "good"});
+    inProgram("shadowed", {.name = "program's"});
+    program.write(below("empty"), "");
+    program.write(below("picture"), std::string_view("\x89PNG\r\n\x1A\n\0\0\0\rIHDR", 16));
+    program.write(below("strange"), textOf({.name = "strange", .type = "WEAPON_SLINGSHOT"}));
+    program.write("Data\\Weapons\\folder.txt\\inner.txt", "");
+    mod.write(below("shadowed"), "<weapon><name>cut off");
+    load();
+    EXPECT_EQ(names(), (Names{"good", "program's", "strange"}));
+    EXPECT_EQ(problemPaths(), (Names{mod.path() + below("shadowed"), program.path() + below("empty"),
+                                     program.path() + below("picture"), program.path() + below("strange")}));
+    EXPECT_NE(catalogue.problems().back().reason.find("WEAPON_SLINGSHOT"), std::string::npos);
+}
+
+TEST_F(WeaponCatalogueTest, ListsFilesThatCannotBeOpened) {
+    inProgram("good", {.name = "good"});
+    std::error_code error;
+    std::filesystem::create_symlink("missing", program.nativePath(below("dangling")), error);
+    if (error) {
+        GTEST_SKIP() << "no symbolic links here";
+    }
+    load();
+    EXPECT_EQ(names(), Names{"good"});
+    EXPECT_EQ(problemPaths(), Names{program.path() + below("dangling")});
+}
+
+TEST_F(WeaponCatalogueTest, NeedsTheProgramsFolderOnly) {
+    load();
+    EXPECT_EQ(problemPaths(), Names{program.path() + "Data\\Weapons\\"});
+    inProgram("a", {.name = "a"});
+    load();
+    EXPECT_EQ(names(), Names{"a"});
+    EXPECT_TRUE(catalogue.problems().empty()) << "a mod may have no weapons";
+    EXPECT_EQ(catalogue.find("b"), nullptr);
+}
+
+TEST_F(WeaponCatalogueTest, FollowsWhatIsSavedCreatedAndDeleted) {
+    inProgram("a", {.name = "program's a", .calibre = "50"});
+    inProgram("b", {.name = "b", .calibre = "75"});
+    load();
+    inProgram("b", {.name = "b", .calibre = "37"});
+    catalogue.refresh("b");
+    EXPECT_EQ(names(), (Names{"b", "program's a"})) << "saved with another calibre";
+    inMod("A", {.name = "mod's a", .calibre = "20"});
+    catalogue.refresh("A");
+    EXPECT_EQ(names(), (Names{"mod's a", "b"})) << "created in the mod";
+    mod.write(below("A"), "");
+    catalogue.refresh("a");
+    EXPECT_EQ(names(), (Names{"b", "program's a"}));
+    EXPECT_EQ(problemPaths(), Names{mod.path() + below("A")}) << "spoilt in the mod";
+    std::filesystem::remove(mod.nativePath(below("A")));
+    catalogue.refresh("A");
+    EXPECT_EQ(names(), (Names{"b", "program's a"}));
+    EXPECT_TRUE(catalogue.problems().empty()) << "deleted in the mod";
+    std::filesystem::remove(program.nativePath(below("a")));
+    catalogue.refresh("a");
+    EXPECT_EQ(names(), Names{"b"}) << "deleted in the program";
+    std::filesystem::rename(program.nativePath(below("b")), program.nativePath(below("c")));
+    catalogue.refreshRenamed("b", "c");
+    ASSERT_EQ(names(), Names{"b"}) << "the name inside stays";
+    EXPECT_EQ(catalogue.entries().front().weapon.fileName, "c");
+    EXPECT_EQ(catalogue.entries().front().path, program.path() + below("c"));
+}
+
+TEST(WeaponCatalogue, HoldsTheWholeSample) {
+    WeaponCatalogue catalogue;
+    catalogue.load(SampleBase);
+    for (const FileFailure& problem : catalogue.problems()) {
+        ADD_FAILURE() << problem.path << ": " << problem.reason;
+    }
+    std::size_t weapons = 0;
+    for (const SampleFile& file : sampleFiles()) {
+        if (file.category == Category::Weapons) {
+            ++weapons;
+            EXPECT_NE(catalogue.find(file.name), nullptr) << file.name;
+        }
+    }
+    EXPECT_EQ(catalogue.entries().size(), weapons);
+}
+
+} // namespace varrocade::tests
