@@ -23,7 +23,6 @@ constexpr Rgb Khaki = hex(0x7A6F4B);
 constexpr Rgb SovietKhaki = hex(0x79724C);
 constexpr Rgb BritishKhaki = hex(0x6A6040);
 constexpr Rgb AmericanOlive = hex(0x6B6744);
-constexpr Rgb Tan = hex(0xA39468);
 constexpr Rgb NoTabs{};
 
 constexpr std::array Entries{

@@ -42,6 +42,8 @@ void GuiTest::TearDown() {
         }
         if (!HasFailure() && window.exists()) {
             close();
+        } else if (!HasFailure()) {
+            EXPECT_EQ(editor->waitForExit(), 0U);
         }
     }
     if (timer_ != nullptr) {

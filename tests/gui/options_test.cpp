@@ -57,6 +57,7 @@ TEST_F(OptionsTest, TooLongATextEndsTheProgramAtOnce) {
         EXPECT_FALSE(editor->waitForMainWindow());
         EXPECT_TRUE(editor->waitForExit());
         EXPECT_EQ(game.read("options.dat"), before);
+        editor.reset();
     }
 }
 
