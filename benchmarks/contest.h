@@ -9,7 +9,7 @@
 namespace varrocade::benchmarks {
 
 struct ContestResult {
-    double first;  ///< median seconds of processor time a round
+    double first; ///< median seconds of processor time a round
     double second;
     double ratio; ///< median of the rounds' ratios, first to second
 };

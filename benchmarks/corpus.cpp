@@ -63,7 +63,8 @@ bool isXml(const std::string& content) {
 bool isListEntry(std::string_view line) {
     const std::size_t tabs = line.find_first_not_of('\t');
     line.remove_prefix(tabs == std::string_view::npos ? line.size() : tabs);
-    return line.starts_with("<ammo><for>") || line.starts_with("<weapon><type>") || line.starts_with("<type><flavour>");
+    return line.starts_with("<ammo><for>") || line.starts_with("<weapon><type>") ||
+           line.starts_with("<type><flavour>");
 }
 
 /// The file with its lines of weapons and ammunition repeated until it is `factor` times as long.

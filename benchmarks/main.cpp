@@ -21,8 +21,10 @@ int main(int argumentCount, char** arguments) {
     }
     benchmark::RunSpecifiedBenchmarks();
     constexpr std::size_t rounds = 101;
-    std::printf("\nProcessor time a unit, medians of %zu rounds in turns:  ours     other  ratio   aim\n", rounds);
+    std::printf("\nProcessor time a unit, medians of %zu rounds in turns:  ours     other  ratio   aim\n",
+                rounds);
     printRow("parsing in memory : pugixml", varrocade::benchmarks::parsingContest(rounds), 1.0);
-    printRow("loading unit files : opening and reading them", varrocade::benchmarks::loadingContest(rounds), 1.3);
+    printRow("loading unit files : opening and reading them", varrocade::benchmarks::loadingContest(rounds),
+             1.3);
     return 0;
 }

@@ -16,7 +16,9 @@ namespace {
 /// The real files without waiting for the device, whose time would hide all other.
 class UnflushedFiles : public FileOperations {
 public:
-    bool read(const std::string& path, std::string& content) override { return systemFiles().read(path, content); }
+    bool read(const std::string& path, std::string& content) override {
+        return systemFiles().read(path, content);
+    }
     bool exists(const std::string& path) override { return systemFiles().exists(path); }
     std::unique_ptr<OutputFile> createNew(const std::string& path) override {
         return std::make_unique<Output>(systemFiles().createNew(path));
@@ -70,10 +72,10 @@ void loadingAndRewriting(benchmark::State& state) {
     }
     const auto fileCount = static_cast<double>(corpus.files().size());
     state.counters["files"] = fileCount;
-    state.counters["bytes/file"] = benchmark::Counter(static_cast<double>(bytes) / fileCount,
-                                                      benchmark::Counter::kAvgIterations);
-    state.counters["s/file"] =
-        benchmark::Counter(fileCount, benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
+    state.counters["bytes/file"] =
+        benchmark::Counter(static_cast<double>(bytes) / fileCount, benchmark::Counter::kAvgIterations);
+    state.counters["s/file"] = benchmark::Counter(fileCount, benchmark::Counter::kIsIterationInvariantRate |
+                                                                 benchmark::Counter::kInvert);
 }
 
 BENCHMARK(loadingAndRewriting)

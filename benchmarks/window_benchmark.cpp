@@ -30,7 +30,8 @@ double milliseconds(const std::function<void()>& work) {
     QueryPerformanceCounter(&begin);
     work();
     QueryPerformanceCounter(&end);
-    return 1000.0 * static_cast<double>(end.QuadPart - begin.QuadPart) / static_cast<double>(frequency.QuadPart);
+    return 1000.0 * static_cast<double>(end.QuadPart - begin.QuadPart) /
+           static_cast<double>(frequency.QuadPart);
 }
 
 double median(std::vector<double> values) {
@@ -42,13 +43,16 @@ double median(std::vector<double> values) {
 std::string makeGame(int files) {
     std::array<char, MAX_PATH> temporary{};
     GetTempPathA(static_cast<DWORD>(temporary.size()), temporary.data());
-    const std::string base = std::string(temporary.data()) + "varrocade-bench-" + std::to_string(files) + "\\";
-    for (const char* folder : {"", "Data\\", "Data\\Vehicles\\", "Images\\", "Images\\Units\\", "Images\\Units\\Vehicles\\",
-                               "Images\\Units\\Vehicles\\Hulls\\", "Images\\Units\\Vehicles\\Turrets\\"}) {
+    const std::string base =
+        std::string(temporary.data()) + "varrocade-bench-" + std::to_string(files) + "\\";
+    for (const char* folder :
+         {"", "Data\\", "Data\\Vehicles\\", "Images\\", "Images\\Units\\", "Images\\Units\\Vehicles\\",
+          "Images\\Units\\Vehicles\\Hulls\\", "Images\\Units\\Vehicles\\Turrets\\"}) {
         CreateDirectoryA((base + folder).c_str(), nullptr);
     }
-    for (const char* picture : {"Images\\grid.png", "Images\\Units\\Vehicles\\Hulls\\German Panzer VI Tiger Ausf E hull.png",
-                                "Images\\Units\\Vehicles\\Turrets\\German Panzer VI Tiger Ausf E turret.png"}) {
+    for (const char* picture :
+         {"Images\\grid.png", "Images\\Units\\Vehicles\\Hulls\\German Panzer VI Tiger Ausf E hull.png",
+          "Images\\Units\\Vehicles\\Turrets\\German Panzer VI Tiger Ausf E turret.png"}) {
         CopyFileA((std::string("sample\\") + picture).c_str(), (base + picture).c_str(), FALSE);
     }
     for (int i = 0; i < files; ++i) {
@@ -65,8 +69,8 @@ HWND startEditor(const std::string& folder, PROCESS_INFORMATION& process) {
     program = program.substr(0, program.rfind('\\') + 1) + "VarrocadeDataEditor.exe";
     STARTUPINFOA start{};
     start.cb = sizeof(start);
-    if (CreateProcessA(program.c_str(), nullptr, nullptr, nullptr, FALSE, 0, nullptr, folder.c_str(), &start, &process) ==
-        FALSE) {
+    if (CreateProcessA(program.c_str(), nullptr, nullptr, nullptr, FALSE, 0, nullptr, folder.c_str(), &start,
+                       &process) == FALSE) {
         return nullptr;
     }
     WaitForInputIdle(process.hProcess, StartTimeout);
@@ -100,11 +104,13 @@ bool measure(int files) {
         refill.push_back(milliseconds([&] { SendMessageA(window, RefreshList, 0, 0); }));
         const int entry = round % files;
         std::string content;
-        reading.push_back(milliseconds([&] { readWholeFile(folder + names[static_cast<std::size_t>(entry)], content); }));
+        reading.push_back(
+            milliseconds([&] { readWholeFile(folder + names[static_cast<std::size_t>(entry)], content); }));
         // The selection is answered when the window has been painted.
         click.push_back(milliseconds([&] {
             SendMessageA(list, LB_SETCURSEL, static_cast<WPARAM>(entry), 0);
-            SendMessageA(window, WM_COMMAND, MAKEWPARAM(FileListId, LBN_SELCHANGE), reinterpret_cast<LPARAM>(list));
+            SendMessageA(window, WM_COMMAND, MAKEWPARAM(FileListId, LBN_SELCHANGE),
+                         reinterpret_cast<LPARAM>(list));
         }));
     }
     // The first click reads and decodes the pictures.

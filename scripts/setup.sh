@@ -59,7 +59,7 @@ installPackages() {
     local log=$BuildRoot/logs/packages.log
     mkdir -p "$BuildRoot/logs"
     if ! { asRoot apt-get update && asRoot env DEBIAN_FRONTEND=noninteractive \
-        apt-get install -y --no-install-recommends "${Missing[@]}"; } >"$log" 2>&1 </dev/null; then
+        apt-get -o Dpkg::Options::=--force-unsafe-io install -y --no-install-recommends "${Missing[@]}"; } >"$log" 2>&1 </dev/null; then
         tail -n 30 "$log" >&2
         fail "Packages could not be installed; the whole log: $log"
     fi
@@ -73,12 +73,13 @@ configurePreset() {
         -DCMAKE_CXX_COMPILER_LAUNCHER=ccache "$@")
 }
 
-# buildFolder FOLDER [TARGET...]
+# buildFolder FOLDER [CMAKE_ARGUMENT...]
 buildFolder() {
-    local folder=$1
-    shift
-    cmake --build "$BuildRoot/$folder" -j "$(nproc)" ${1:+--target "$@"}
+    cmake --build "$BuildRoot/$1" -j "$(nproc)" "${@:2}"
 }
+
+# cachedValue FOLDER NAME: a variable of a configured build.
+cachedValue() { sed -n "s/^$2:[A-Z]*=//p" "$BuildRoot/$1/CMakeCache.txt"; }
 
 # Debian's Wine does not look where its own fonts are: without them captions have letters for buttons, and dialogs
 # are measured with another font than the system's.

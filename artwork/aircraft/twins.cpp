@@ -83,6 +83,29 @@ void pe2(Relief& r) {
     }
 }
 
+void a20Armament(Relief& r) {
+    // guns in the solid nose
+    for (const auto& [x, y] : {std::array{-22.0, 700.0}, std::array{22.0, 700.0}, std::array{-12.0, 716.0},
+                               std::array{12.0, 716.0}}) {
+        r.add(Shape::capsule({x, y - 20}, {x, y + 14}, 6.0), tube({x, y - 20}, {x, y + 14}, 3.0, 3.0, 110.0),
+              paints::DarkSteel);
+    }
+    canopy(r, 300, 440, 40.0, 140.0, 3);
+    {
+        // the dorsal turret
+        const auto turret = r.place({.y = -60.0, .angle = 180.0, .z = 166.0});
+        r.add(Shape::circle({}, 48.0), flat(8.0).rounded(6.0, 6.0));
+        r.add(Shape::circle({}, 40.0), flat(30.0).rounded(38.0, 26.0),
+              {.colour = hex(0x4A5E66), .gloss = 1.0, .dirt = 0.05});
+        r.add(Shape::rect(-4, -40, 4, 40), raise(1.4));
+        for (const double x : {-14.0, 14.0}) {
+            const auto gun = r.place({.x = x, .z = 12});
+            machineGunBarrel(r, 24.0, 92.0, 3.2, 0.0, false);
+        }
+    }
+    starAndBar(r, {-640, 34}, 52.0);
+}
+
 void a20(Relief& r) {
     wingPair(r, {{0, -560}, {40, -548}, {280, -578}, {306, -604}, {296, -650}, {40, -680}, {0, -676}}, 130.0,
              8.0);
@@ -131,26 +154,7 @@ void a20(Relief& r) {
              100.0);
     bodyFrames(r, {-560, -470, -380, -290, 160, 380, 470, 560}, 72.0);
     fin(r, 0.0, -540, -726, 22.0, 210.0);
-    // guns in the solid nose
-    for (const auto& [x, y] : {std::array{-22.0, 700.0}, std::array{22.0, 700.0}, std::array{-12.0, 716.0},
-                               std::array{12.0, 716.0}}) {
-        r.add(Shape::capsule({x, y - 20}, {x, y + 14}, 6.0), tube({x, y - 20}, {x, y + 14}, 3.0, 3.0, 110.0),
-              paints::DarkSteel);
-    }
-    canopy(r, 300, 440, 40.0, 140.0, 3);
-    {
-        // the dorsal turret
-        const auto turret = r.place({.y = -60.0, .angle = 180.0, .z = 166.0});
-        r.add(Shape::circle({}, 48.0), flat(8.0).rounded(6.0, 6.0));
-        r.add(Shape::circle({}, 40.0), flat(30.0).rounded(38.0, 26.0),
-              {.colour = hex(0x4A5E66), .gloss = 1.0, .dirt = 0.05});
-        r.add(Shape::rect(-4, -40, 4, 40), raise(1.4));
-        for (const double x : {-14.0, 14.0}) {
-            const auto gun = r.place({.x = x, .z = 12});
-            machineGunBarrel(r, 24.0, 92.0, 3.2, 0.0, false);
-        }
-    }
-    starAndBar(r, {-640, 34}, 52.0);
+    a20Armament(r);
 }
 
 constexpr Developing Flying{.shadowLength = 60.0, .rim = 0.25};

@@ -398,6 +398,10 @@ Picture cloth(const Flag& flag) {
     return canvas.picture();
 }
 
+std::size_t pixelIndex(int x, int y, int width) {
+    return static_cast<std::size_t>(y) * static_cast<std::size_t>(width) + static_cast<std::size_t>(x);
+}
+
 struct Unpacked {
     Rgb colour;
     double alpha = 0.0;
@@ -419,7 +423,8 @@ Picture hang(const Picture& source, double phase, double swing, double inset) {
             double alpha = 0.0;
             for (int k = 0; k < Fine * Fine; ++k) {
                 const double x = px + (k % Fine + 0.5) / Fine;
-                const double y = py + (k / Fine + 0.5) / Fine;
+                const int line = k / Fine;
+                const double y = py + (line + 0.5) / Fine;
                 const double u = (x - inset) / w;
                 const double angle = (u * 1.35 - phase) * 2.0 * std::numbers::pi;
                 const double give = swing * smoothstep(0.0, 0.45, u);
@@ -460,8 +465,8 @@ void drawFlags(Album& album) {
                 const Picture one = hang(source, static_cast<double>(frame) / Frames, 2.6, 3.5);
                 for (int y = 0; y < PixelHeight; ++y) {
                     for (int x = 0; x < PixelWidth; ++x) {
-                        strip.pixels[static_cast<std::size_t>(y * strip.width + frame * PixelWidth + x)] =
-                            one.pixels[static_cast<std::size_t>(y * PixelWidth + x)];
+                        strip.pixels[pixelIndex(frame * PixelWidth + x, y, strip.width)] =
+                            one.pixels[pixelIndex(x, y, PixelWidth)];
                     }
                 }
             }

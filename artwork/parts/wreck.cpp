@@ -133,7 +133,8 @@ void brokenTrack(Relief& r, Vec2 centre, double angle, double width, int links, 
 void debris(Relief& r, Vec2 centre, double radius, int count, std::uint32_t seed) {
     Dice dice(seed);
     for (int i = 0; i < count; ++i) {
-        const Vec2 at = centre + bearing(dice.next(0.0, 360.0)) * (radius * std::sqrt(dice.next()));
+        const Vec2 way = bearing(dice.next(0.0, 360.0));
+        const Vec2 at = centre + way * (radius * std::sqrt(dice.next()));
         const double size = dice.next(1.2, 4.5);
         const auto placed = r.placeOn({.x = at.x, .y = at.y, .angle = dice.next(0.0, 360.0)});
         r.add(Shape::polygon({{-size, -size * 0.4},

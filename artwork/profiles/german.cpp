@@ -145,6 +145,36 @@ void panther(Relief& r) {
     splashMud(r, -344, 340, 74.0, Mud);
 }
 
+void stugOutside(Relief& r) {
+    r.add(Shape::polygon({{-102, 186}, {-96, 214}, {-92, 214}, {-94, 186}}), flat(10.0).rounded(1.0, 1.0));
+    {
+        const auto gun = r.place(pointingForward(-66, 206, 12.0, 3.0));
+        machineGunBarrel(r, 10.0, 76.0, 2.6, 0.0, true);
+        r.add(Shape::capsule({0, -40}, {0, 12}, 6.0), flat(2.0).rounded(3.0, 2.0), paints::DarkSteel);
+    }
+    for (int i = 0; i < 3; ++i) {
+        r.add(Shape::capsule({-146.0 + i * 8, 134.0}, {-152.0 + i * 8, 150.0}, 7.0),
+              flat(34.0).rounded(3.0, 3.0));
+    }
+    // skirts
+    for (int i = 0; i < 4; ++i) {
+        const double x = -196.0 + i * 102.0;
+        r.add(Shape::polygon({{x + (i == 0 ? 18.0 : 0.0), 62.0},
+                              {x, 128.0},
+                              {x + 100.0, 128.0},
+                              {x + 100.0 - (i == 3 ? 18.0 : 0.0), 62.0}}),
+              flat(38.0).rounded(1.2, 1.2));
+    }
+    balkenCross(r, {-46, 98}, 15.0);
+    digits(r, {50, 84}, 24, "12", hex(0x2A2A2A));
+    {
+        const auto spare = r.place({.x = 206, .y = 126, .z = 22});
+        roadWheel(r, {0, 0, 24}, WheelStyle::Rubber, 0.0);
+    }
+    aerial(r, {52, 150}, 120.0);
+    splashMud(r, -260, 260, 64.0, Mud);
+}
+
 void stug(Relief& r) {
     const auto placed = r.place(ground(60.0));
     const SideWheel drive{-222, 66, 34};
@@ -183,61 +213,10 @@ void stug(Relief& r) {
         r.add(Shape::symmetricSmooth({{0, 76}, {11, 74}, {15, 60}, {18, 34}, {24, 8}, {24, -20}, {0, -24}}),
               flat(20.0).rounded(18.0, 24.0).rough(0.6));
     }
-    r.add(Shape::polygon({{-102, 186}, {-96, 214}, {-92, 214}, {-94, 186}}), flat(10.0).rounded(1.0, 1.0));
-    {
-        const auto gun = r.place(pointingForward(-66, 206, 12.0, 3.0));
-        machineGunBarrel(r, 10.0, 76.0, 2.6, 0.0, true);
-        r.add(Shape::capsule({0, -40}, {0, 12}, 6.0), flat(2.0).rounded(3.0, 2.0), paints::DarkSteel);
-    }
-    for (int i = 0; i < 3; ++i) {
-        r.add(Shape::capsule({-146.0 + i * 8, 134.0}, {-152.0 + i * 8, 150.0}, 7.0),
-              flat(34.0).rounded(3.0, 3.0));
-    }
-    // skirts
-    for (int i = 0; i < 4; ++i) {
-        const double x = -196.0 + i * 102.0;
-        r.add(Shape::polygon({{x + (i == 0 ? 18.0 : 0.0), 62.0},
-                              {x, 128.0},
-                              {x + 100.0, 128.0},
-                              {x + 100.0 - (i == 3 ? 18.0 : 0.0), 62.0}}),
-              flat(38.0).rounded(1.2, 1.2));
-    }
-    balkenCross(r, {-46, 98}, 15.0);
-    digits(r, {50, 84}, 24, "12", hex(0x2A2A2A));
-    {
-        const auto spare = r.place({.x = 206, .y = 126, .z = 22});
-        roadWheel(r, {0, 0, 24}, WheelStyle::Rubber, 0.0);
-    }
-    aerial(r, {52, 150}, 120.0);
-    splashMud(r, -260, 260, 64.0, Mud);
+    stugOutside(r);
 }
 
-void halftrack(Relief& r) {
-    const auto placed = r.place(ground(0.0));
-    const SideWheel drive{-44, 58, 36};
-    const SideWheel idler{222, 44, 30};
-    const auto outer = wheelRow(3, 20, 190, 38, 31);
-    const auto inner = wheelRow(3, 62, 148, 38, 31);
-    std::vector<SideWheel> all(outer);
-    all.insert(all.end(), {drive, idler});
-    trackBelt(r, all, 7.0, 14.0);
-    sprocket(r, drive, 12);
-    roadWheel(r, idler, WheelStyle::Rubber, 2.0);
-    interleaved(r, inner, outer, WheelStyle::Rubber);
-    tyre(r, {-222, 44, 44}, 22.0, 4.0);
-    r.add(Shape::polygon({{-292, 50}, {-292, 62}, {-270, 62}, {-270, 50}}), flat(4.0).rounded(4.0, 4.0));
-    // bonnet, crew compartment: upper and lower plates meet in a ridge
-    r.add(Shape::polygon({{-272, 74}, {-240, 126}, {-104, 146}, {-104, 78}, {-170, 72}}),
-          slope({0, 78}, 4.0, {0, 140}, 12.0).rounded(2.0, 1.5));
-    r.add(Shape::polygon({{-104, 80}, {-104, 118}, {240, 118}, {286, 112}, {252, 62}, {-60, 70}}),
-          slope({0, 70}, 4.0, {0, 118}, 24.0).rounded(1.5, 1.2));
-    r.add(Shape::polygon({{-104, 118}, {-94, 148}, {-88, 174}, {246, 174}, {286, 112}, {240, 118}}),
-          slope({0, 118}, 24.0, {0, 174}, 6.0).rounded(1.5, 1.2));
-    weld(r, {{-104, 118}, {240, 118}}, 2.4);
-    gap(r, {{-96, 120}, {-90, 172}}, 1.4);
-    gap(r, {{60, 119}, {64, 173}}, 1.4);
-    r.add(Shape::roundRect(-84, 148, -52, 162, 2), raise(4.0).rounded(2, 2));
-    r.add(Shape::rect(-78, 154, -58, 157), raise(-4.0), paints::Dark);
+void halftrackOutside(Relief& r) {
     // wing and boxes
     r.add(Shape::smooth({{-284, 74},
                          {-270, 96},
@@ -274,6 +253,35 @@ void halftrack(Relief& r) {
     digits(r, {100, 134}, 20, "815", hex(0xE4E0D2));
     aerial(r, {-64, 174}, 130.0);
     splashMud(r, -270, 260, 60.0, Mud);
+}
+
+void halftrack(Relief& r) {
+    const auto placed = r.place(ground(0.0));
+    const SideWheel drive{-44, 58, 36};
+    const SideWheel idler{222, 44, 30};
+    const auto outer = wheelRow(3, 20, 190, 38, 31);
+    const auto inner = wheelRow(3, 62, 148, 38, 31);
+    std::vector<SideWheel> all(outer);
+    all.insert(all.end(), {drive, idler});
+    trackBelt(r, all, 7.0, 14.0);
+    sprocket(r, drive, 12);
+    roadWheel(r, idler, WheelStyle::Rubber, 2.0);
+    interleaved(r, inner, outer, WheelStyle::Rubber);
+    tyre(r, {-222, 44, 44}, 22.0, 4.0);
+    r.add(Shape::polygon({{-292, 50}, {-292, 62}, {-270, 62}, {-270, 50}}), flat(4.0).rounded(4.0, 4.0));
+    // bonnet, crew compartment: upper and lower plates meet in a ridge
+    r.add(Shape::polygon({{-272, 74}, {-240, 126}, {-104, 146}, {-104, 78}, {-170, 72}}),
+          slope({0, 78}, 4.0, {0, 140}, 12.0).rounded(2.0, 1.5));
+    r.add(Shape::polygon({{-104, 80}, {-104, 118}, {240, 118}, {286, 112}, {252, 62}, {-60, 70}}),
+          slope({0, 70}, 4.0, {0, 118}, 24.0).rounded(1.5, 1.2));
+    r.add(Shape::polygon({{-104, 118}, {-94, 148}, {-88, 174}, {246, 174}, {286, 112}, {240, 118}}),
+          slope({0, 118}, 24.0, {0, 174}, 6.0).rounded(1.5, 1.2));
+    weld(r, {{-104, 118}, {240, 118}}, 2.4);
+    gap(r, {{-96, 120}, {-90, 172}}, 1.4);
+    gap(r, {{60, 119}, {64, 173}}, 1.4);
+    r.add(Shape::roundRect(-84, 148, -52, 162, 2), raise(4.0).rounded(2, 2));
+    r.add(Shape::rect(-78, 154, -58, 157), raise(-4.0), paints::Dark);
+    halftrackOutside(r);
 }
 
 constexpr std::array<Sheet, 4> Sheets{

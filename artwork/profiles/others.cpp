@@ -17,6 +17,20 @@ Pose ground(double x) {
     return {.x = x, .y = -166.0};
 }
 
+void m1340Turret(Relief& r) {
+    r.add(Shape::roundRect(-110, 166, -86, 206, 8), flat(10.0).rounded(8.0, 8.0));
+    r.add(Shape::polygon({{-96, 152}, {-82, 216}, {30, 216}, {46, 152}}),
+          slope({0, 152}, 26.0, {0, 216}, 6.0).rounded(2.0, 2.0));
+    rivets(r, {{-88, 158}, {40, 158}}, 10.0, 1.6);
+    rivets(r, {{-78, 210}, {26, 210}}, 10.0, 1.6);
+    r.add(Shape::circle({-22, 184}, 9.0), raise(3.0).rounded(3.0, 3.0));
+    r.add(Shape::roundRect(-42, 215, 16, 224, 3), flat(10.0).rounded(3.0, 3.0));
+    r.stain(Shape::rect(8, 172, 30, 186), hex(0x9A2A26), 0.8);
+    r.stain(Shape::rect(18, 172, 20, 186), hex(0xE0DDD0), 0.8);
+    aerial(r, {48, 146}, 120.0, 0.2);
+    splashMud(r, -240, 230, 60.0, hex(0xA8926A));
+}
+
 void m1340(Relief& r) {
     const auto placed = r.place(ground(0.0));
     const SideWheel drive{-202, 62, 32};
@@ -71,17 +85,7 @@ void m1340(Relief& r) {
         const auto gun = r.place(pointingForward(-26, 186, 2.0));
         barrel(r, {{70.0, 8.0}, {98.0, 6.4}, {98.0, 5.2}, {170.0, 4.2}, {170.0, 4.8}, {178.0, 4.8}}, 0.0);
     }
-    r.add(Shape::roundRect(-110, 166, -86, 206, 8), flat(10.0).rounded(8.0, 8.0));
-    r.add(Shape::polygon({{-96, 152}, {-82, 216}, {30, 216}, {46, 152}}),
-          slope({0, 152}, 26.0, {0, 216}, 6.0).rounded(2.0, 2.0));
-    rivets(r, {{-88, 158}, {40, 158}}, 10.0, 1.6);
-    rivets(r, {{-78, 210}, {26, 210}}, 10.0, 1.6);
-    r.add(Shape::circle({-22, 184}, 9.0), raise(3.0).rounded(3.0, 3.0));
-    r.add(Shape::roundRect(-42, 215, 16, 224, 3), flat(10.0).rounded(3.0, 3.0));
-    r.stain(Shape::rect(8, 172, 30, 186), hex(0x9A2A26), 0.8);
-    r.stain(Shape::rect(18, 172, 20, 186), hex(0xE0DDD0), 0.8);
-    aerial(r, {48, 146}, 120.0, 0.2);
-    splashMud(r, -240, 230, 60.0, hex(0xA8926A));
+    m1340Turret(r);
 }
 
 void haGo(Relief& r) {
@@ -143,6 +147,16 @@ void haGo(Relief& r) {
     splashMud(r, -214, 206, 56.0, Mud);
 }
 
+void sevenTpTurret(Relief& r) {
+    r.add(Shape::roundRect(-86, 166, -66, 194, 5), flat(14.0).rounded(5.0, 5.0));
+    r.add(Shape::roundRect(-74, 150, 22, 208, 4), flat(28.0).rounded(22.0, 16.0));
+    r.add(Shape::roundRect(-40, 206, 4, 216, 4), flat(14.0).rounded(4.0, 4.0));
+    rivets(r, {{-66, 202}, {16, 202}}, 10.0, 1.5);
+    rivets(r, {{-66, 156}, {16, 156}}, 10.0, 1.5);
+    r.add(Shape::roundRect(-36, 180, -16, 186, 2), raise(4.0).rounded(2.0, 2.0));
+    splashMud(r, -230, 226, 56.0, Mud);
+}
+
 void sevenTp(Relief& r) {
     const auto placed = r.place(ground(0.0));
     const SideWheel drive{-196, 62, 32};
@@ -196,13 +210,7 @@ void sevenTp(Relief& r) {
         barrel(r, {{44.0, 5.4}, {96.0, 5.4}}, 0.0, paints::Steel);
         barrel(r, {{96.0, 2.6}, {106.0, 2.6}, {106.0, 3.6}, {112.0, 4.2}}, 0.0, paints::DarkSteel);
     }
-    r.add(Shape::roundRect(-86, 166, -66, 194, 5), flat(14.0).rounded(5.0, 5.0));
-    r.add(Shape::roundRect(-74, 150, 22, 208, 4), flat(28.0).rounded(22.0, 16.0));
-    r.add(Shape::roundRect(-40, 206, 4, 216, 4), flat(14.0).rounded(4.0, 4.0));
-    rivets(r, {{-66, 202}, {16, 202}}, 10.0, 1.5);
-    rivets(r, {{-66, 156}, {16, 156}}, 10.0, 1.5);
-    r.add(Shape::roundRect(-36, 180, -16, 186, 2), raise(4.0).rounded(2.0, 2.0));
-    splashMud(r, -230, 226, 56.0, Mud);
+    sevenTpTurret(r);
 }
 
 constexpr std::array<Sheet, 3> Sheets{{{.path = "Units/Vehicles/Profiles/Profile Italian Carro M13-40.png",

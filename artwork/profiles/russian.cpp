@@ -17,6 +17,23 @@ Pose ground(double x) {
     return {.x = x, .y = -166.0};
 }
 
+void t34Turret(Relief& r) {
+    // turret: walls leaning in, gun housing in front
+    r.add(Shape::polygon({{-172, 176}, {-174, 204}, {-140, 212}, {-126, 212}, {-126, 172}}),
+          flat(14.0).rounded(5.0, 6.0));
+    r.add(Shape::polygon({{-150, 164}, {-122, 222}, {4, 222}, {36, 168}, {10, 158}, {-136, 158}}),
+          slope({0, 160}, 30.0, {0, 222}, 4.0).rounded(3.0, 3.0));
+    r.add(Shape::polygon({{-150, 164}, {-122, 222}, {-98, 222}, {-118, 160}, {-136, 158}}),
+          slope({0, 160}, 24.0, {0, 222}, 2.0));
+    r.add(Shape::polygon({{-58, 222}, {-52, 230}, {0, 228}, {4, 222}}), flat(4.0).rounded(2.0, 2.0));
+    r.add(Shape::roundRect(-96, 221, -84, 238, 3), flat(6.0).rounded(3.0, 3.0));
+    r.add(Shape::roundRect(-70, 194, -54, 200, 2), flat(22.0).rounded(2.0, 2.0));
+    r.add(Shape::circle({-40, 186}, 4.0), raise(2.0).rounded(3.0, 2.0));
+    digits(r, {-86, 178}, 24, "17", hex(0xE0DDD0), 0.75);
+    star(r, {-14, 192}, 12.0, hex(0x9A2A26), 0.8);
+    splashMud(r, -300, 300, 70.0, Mud);
+}
+
 void t34(Relief& r) {
     const auto placed = r.place(ground(40.0));
     const SideWheel idler{-246, 62, 30};
@@ -63,20 +80,7 @@ void t34(Relief& r) {
         const auto gun = r.place(pointingForward(-66, 192, 8.0));
         barrel(r, {{90.0, 8.6}, {140.0, 7.6}, {140.0, 7.0}, {300.0, 6.0}, {300.0, 6.6}, {306.0, 6.6}}, 0.0);
     }
-    // turret: walls leaning in, gun housing in front
-    r.add(Shape::polygon({{-172, 176}, {-174, 204}, {-140, 212}, {-126, 212}, {-126, 172}}),
-          flat(14.0).rounded(5.0, 6.0));
-    r.add(Shape::polygon({{-150, 164}, {-122, 222}, {4, 222}, {36, 168}, {10, 158}, {-136, 158}}),
-          slope({0, 160}, 30.0, {0, 222}, 4.0).rounded(3.0, 3.0));
-    r.add(Shape::polygon({{-150, 164}, {-122, 222}, {-98, 222}, {-118, 160}, {-136, 158}}),
-          slope({0, 160}, 24.0, {0, 222}, 2.0));
-    r.add(Shape::polygon({{-58, 222}, {-52, 230}, {0, 228}, {4, 222}}), flat(4.0).rounded(2.0, 2.0));
-    r.add(Shape::roundRect(-96, 221, -84, 238, 3), flat(6.0).rounded(3.0, 3.0));
-    r.add(Shape::roundRect(-70, 194, -54, 200, 2), flat(22.0).rounded(2.0, 2.0));
-    r.add(Shape::circle({-40, 186}, 4.0), raise(2.0).rounded(3.0, 2.0));
-    digits(r, {-86, 178}, 24, "17", hex(0xE0DDD0), 0.75);
-    star(r, {-14, 192}, 12.0, hex(0x9A2A26), 0.8);
-    splashMud(r, -300, 300, 70.0, Mud);
+    t34Turret(r);
 }
 
 void t28(Relief& r) {
@@ -139,6 +143,31 @@ void t28(Relief& r) {
     splashMud(r, -370, 370, 60.0, Mud);
 }
 
+void bmp2Turret(Relief& r) {
+    r.add(Shape::polygon({{-86, 164}, {-56, 204}, {84, 206}, {118, 164}}),
+          slope({0, 164}, 32.0, {0, 206}, 4.0).rounded(2.0, 2.0));
+    r.add(Shape::polygon({{-66, 172}, {-70, 194}, {-44, 202}, {-34, 170}}), flat(24.0).rounded(4.0, 4.0));
+    for (int i = 0; i < 3; ++i) {
+        r.add(Shape::capsule({-38.0 + i * 9, 176.0}, {-46.0 + i * 9, 194.0}, 8.0),
+              flat(38.0).rounded(4.0, 4.0));
+    }
+    r.add(Shape::roundRect(-26, 204, 2, 222, 4), flat(10.0).rounded(5.0, 5.0));
+    r.add(Shape::circle({-12, 214}, 7.0), flat(20.0).rounded(3.0, 3.0), paints::Glass);
+    r.add(Shape::roundRect(40, 204, 66, 214, 3), flat(8.0).rounded(3.0, 3.0));
+    {
+        const auto tube = r.place(pointingForward(26, 238, 14.0, 2.0));
+        const Paint green{.colour = hex(0x62664A), .gloss = 0.1};
+        barrel(r, {{-68.0, 8.6}, {-62.0, 8.6}, {-62.0, 7.4}, {44.0, 7.4}, {44.0, 8.8}, {54.0, 8.8}}, 0.0,
+               green);
+        r.add(Shape::rect(-14, -8, 14, 4), flat(4.0).rounded(2.0, 2.0));
+    }
+    r.add(Shape::capsule({26, 206}, {26, 232}, 8.0), flat(6.0).rounded(3.0, 3.0), paints::Steel);
+    digits(r, {92, 134}, 22, "3", hex(0xE0DDD0));
+    digits(r, {4, 172}, 24, "317", hex(0xE0DDD0), 0.8);
+    aerial(r, {92, 196}, 120.0);
+    splashMud(r, -330, 330, 70.0, Mud);
+}
+
 void bmp2(Relief& r) {
     const auto placed = r.place(ground(0.0));
     const SideWheel drive{-284, 72, 29};
@@ -177,28 +206,7 @@ void bmp2(Relief& r) {
         barrel(r, {{76.0, 9.0}, {112.0, 7.0}, {112.0, 5.0}, {150.0, 4.2}, {150.0, 3.6}, {262.0, 3.1}}, 0.0);
         barrel(r, {{262.0, 5.4}, {285.0, 5.4}}, 0.0, paints::DarkSteel);
     }
-    r.add(Shape::polygon({{-86, 164}, {-56, 204}, {84, 206}, {118, 164}}),
-          slope({0, 164}, 32.0, {0, 206}, 4.0).rounded(2.0, 2.0));
-    r.add(Shape::polygon({{-66, 172}, {-70, 194}, {-44, 202}, {-34, 170}}), flat(24.0).rounded(4.0, 4.0));
-    for (int i = 0; i < 3; ++i) {
-        r.add(Shape::capsule({-38.0 + i * 9, 176.0}, {-46.0 + i * 9, 194.0}, 8.0),
-              flat(38.0).rounded(4.0, 4.0));
-    }
-    r.add(Shape::roundRect(-26, 204, 2, 222, 4), flat(10.0).rounded(5.0, 5.0));
-    r.add(Shape::circle({-12, 214}, 7.0), flat(20.0).rounded(3.0, 3.0), paints::Glass);
-    r.add(Shape::roundRect(40, 204, 66, 214, 3), flat(8.0).rounded(3.0, 3.0));
-    {
-        const auto tube = r.place(pointingForward(26, 238, 14.0, 2.0));
-        const Paint green{.colour = hex(0x62664A), .gloss = 0.1};
-        barrel(r, {{-68.0, 8.6}, {-62.0, 8.6}, {-62.0, 7.4}, {44.0, 7.4}, {44.0, 8.8}, {54.0, 8.8}}, 0.0,
-               green);
-        r.add(Shape::rect(-14, -8, 14, 4), flat(4.0).rounded(2.0, 2.0));
-    }
-    r.add(Shape::capsule({26, 206}, {26, 232}, 8.0), flat(6.0).rounded(3.0, 3.0), paints::Steel);
-    digits(r, {92, 134}, 22, "3", hex(0xE0DDD0));
-    digits(r, {4, 172}, 24, "317", hex(0xE0DDD0), 0.8);
-    aerial(r, {92, 196}, 120.0);
-    splashMud(r, -330, 330, 70.0, Mud);
+    bmp2Turret(r);
 }
 
 void gazMm(Relief& r) {

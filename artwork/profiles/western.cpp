@@ -158,6 +158,24 @@ void grant(Relief& r) {
     splashMud(r, -276, 270, 60.0, hex(0xB29E74));
 }
 
+void churchillTurret(Relief& r) {
+    r.add(Shape::roundRect(-196, 184, -172, 220, 6), flat(8.0).rounded(6.0, 6.0).rough(0.6));
+    r.add(Shape::polygon({{-182, 166}, {-178, 244}, {-30, 248}, {8, 240}, {14, 170}}),
+          flat(28.0).rounded(14.0, 12.0).rough(0.9));
+    r.add(Shape::roundRect(10, 172, 48, 222, 5), flat(20.0).rounded(5.0, 5.0));
+    r.add(Shape::roundRect(-92, 244, -26, 262, 6), flat(14.0).rounded(8.0, 8.0).rough(0.4));
+    for (const double x : {-78.0, -60.0, -42.0}) {
+        r.add(Shape::rect(x - 6, 252, x + 6, 256), flat(18.0), paints::Glass);
+    }
+    r.add(Shape::circle({-100, 208}, 11.0), raise(4.0).rounded(4.0, 3.0));
+    digits(r, {-72, 190}, 24, "6", hex(0x9A2A26));
+    r.stain(Shape::rect(-150, 190, -142, 208), White, 0.7);
+    r.stain(Shape::rect(-142, 190, -134, 208), hex(0x9A2A26), 0.7);
+    r.stain(Shape::rect(-134, 190, -126, 208), White, 0.7);
+    aerial(r, {0, 240}, 90.0);
+    splashMud(r, -370, 366, 70.0, Mud);
+}
+
 void churchill(Relief& r) {
     const auto placed = r.place(ground(10.0));
     const SideWheel front{-336, 86, 38};
@@ -206,21 +224,7 @@ void churchill(Relief& r) {
         barrel(r, {{84.0, 10.5}, {150.0, 8.6}, {150.0, 7.6}, {252.0, 6.2}}, 0.0);
         muzzleBrake(r, 282.0, 32.0, 10.5, 0.0);
     }
-    r.add(Shape::roundRect(-196, 184, -172, 220, 6), flat(8.0).rounded(6.0, 6.0).rough(0.6));
-    r.add(Shape::polygon({{-182, 166}, {-178, 244}, {-30, 248}, {8, 240}, {14, 170}}),
-          flat(28.0).rounded(14.0, 12.0).rough(0.9));
-    r.add(Shape::roundRect(10, 172, 48, 222, 5), flat(20.0).rounded(5.0, 5.0));
-    r.add(Shape::roundRect(-92, 244, -26, 262, 6), flat(14.0).rounded(8.0, 8.0).rough(0.4));
-    for (const double x : {-78.0, -60.0, -42.0}) {
-        r.add(Shape::rect(x - 6, 252, x + 6, 256), flat(18.0), paints::Glass);
-    }
-    r.add(Shape::circle({-100, 208}, 11.0), raise(4.0).rounded(4.0, 3.0));
-    digits(r, {-72, 190}, 24, "6", hex(0x9A2A26));
-    r.stain(Shape::rect(-150, 190, -142, 208), White, 0.7);
-    r.stain(Shape::rect(-142, 190, -134, 208), hex(0x9A2A26), 0.7);
-    r.stain(Shape::rect(-134, 190, -126, 208), White, 0.7);
-    aerial(r, {0, 240}, 90.0);
-    splashMud(r, -370, 366, 70.0, Mud);
+    churchillTurret(r);
 }
 
 void charB1(Relief& r) {

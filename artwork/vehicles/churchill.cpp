@@ -150,6 +150,16 @@ void drawHull(Relief& r) {
     stowage(r);
 }
 
+void turretRear(Relief& r) {
+    // rear bin
+    r.add(Shape::roundRect(-62.0, -140.0, 62.0, -104.0, 8.0), flat(60.0).rounded(3.0, 3.0));
+    gap(r, {{-54, -112}, {54, -112}}, 1.0);
+    for (const double side : {-1.0, 1.0}) {
+        const auto placed = r.placeOn({.x = side * 68.0, .y = 30.0});
+        liftingHook(r);
+    }
+}
+
 void drawTurret(Relief& r) {
     barrel(r, {{112.0, 10.5}, {150.0, 8.6}, {150.0, 7.6}, {252.0, 6.2}}, 38.0);
     muzzleBrake(r, 282.0, 32.0, 10.5, 38.0);
@@ -211,13 +221,7 @@ void drawTurret(Relief& r) {
         r.add(Shape::circle({}, 7.0), raise(4.0).rounded(3.0, 2.0));
         r.add(Shape::ellipse({0, 2}, 3.4, 3.4), raise(-5.0), paints::Dark);
     }
-    // rear bin
-    r.add(Shape::roundRect(-62.0, -140.0, 62.0, -104.0, 8.0), flat(60.0).rounded(3.0, 3.0));
-    gap(r, {{-54, -112}, {54, -112}}, 1.0);
-    for (const double side : {-1.0, 1.0}) {
-        const auto placed = r.placeOn({.x = side * 68.0, .y = 30.0});
-        liftingHook(r);
-    }
+    turretRear(r);
 }
 
 void drawProjector(Relief& r) {

@@ -3,10 +3,12 @@
 #include "app/application.h"
 #include "app/file_list.h"
 #include "app/main_window.h"
+#include "data/save_losses.h"
 #include "data/unit_reader.h"
 #include "editors/vehicle_editor.h"
 #include "platform/messages.h"
 #include "weapons/weapon_files.h"
+#include "weapons/weapon_losses.h"
 
 namespace varrocade {
 
@@ -26,8 +28,55 @@ bool openFile(const std::string& name) {
     return isRecordOpen();
 }
 
+namespace {
+
+/// The first lines of what a save would lose, for a box of a readable size.
+std::string lossSummary(const std::vector<SaveLoss>& losses) {
+    constexpr std::size_t mostLines = 12;
+    std::string text;
+    for (std::size_t i = 0; i < losses.size() && i < mostLines; ++i) {
+        text += "line " + lossText(losses[i]) + "\n";
+    }
+    if (losses.size() > mostLines) {
+        text += "and " + std::to_string(losses.size() - mostLines) + " more\n";
+    }
+    return text;
+}
+
+/// Before a file that was written by hand is replaced for the first time, tells what the game's layout has no
+/// place for. What is only spelt otherwise is no reason to ask.
+bool mayReplaceFile(Category category, const std::string& path) {
+    std::string content;
+    if (application().backups.hasKept(path) || !readWholeFile(path, content)) {
+        return true;
+    }
+    auto losses = category == Category::Weapons ? std::optional(weaponSaveLosses(content))
+                                                : unitSaveLosses(category, content);
+    if (!losses) {
+        return true;
+    }
+    std::erase_if(*losses, [](const SaveLoss& loss) { return loss.kind == LossKind::Respelt; });
+    if (losses->empty()) {
+        return true;
+    }
+    const Answer answer =
+        showMessage({.text = "This file was written by hand. Saving it in the game's layout loses:\n\n" +
+                             lossSummary(*losses) + "\nThe file as it is now is kept in the folder Backups.",
+                     .caption = "Hand-made file",
+                     .buttons = MessageButtons::OkCancel,
+                     .icon = MessageIcon::Warning});
+    return answer == Answer::Ok;
+}
+
+} // namespace
+
 SaveResult saveOpenRecord() {
     Application& app = application();
+    const std::string name =
+        app.openWeapon ? app.openWeapon->fileName : (app.openUnit ? app.openUnit->fileName.str() : "");
+    if (isRecordOpen() && !mayReplaceFile(app.category, dataFilePath(baseFolder(), app.category, name))) {
+        return SaveResult::Failed;
+    }
     if (app.openWeapon) {
         const SaveResult result =
             saveWeapon(systemFiles(), app.backups, baseFolder(), app.openWeapon->fileName, *app.openWeapon);
@@ -35,7 +84,8 @@ SaveResult saveOpenRecord() {
         return result;
     }
     if (app.openUnit) {
-        const SaveResult result = saveUnit(systemFiles(), app.backups, baseFolder(), app.category, *app.openUnit);
+        const SaveResult result =
+            saveUnit(systemFiles(), app.backups, baseFolder(), app.category, *app.openUnit);
         if (result == SaveResult::Saved) {
             // The file holds moved positions too.
             app.savedUnit = app.openUnit;

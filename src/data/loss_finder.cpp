@@ -173,7 +173,8 @@ void LossFinder::judgeEffective(std::uint32_t index, const std::vector<const Tra
     }
 }
 
-/// For an element some of whose values the saved file has: whether there they are the same, and in what words.
+/// For an element some of whose values the saved file has: whether there they are the same, and in what
+/// words.
 void LossFinder::judgeWritten(std::uint32_t index, const std::vector<const TracedValue*>& effective) {
     const TagNode& element = node(index);
     const std::vector<TagNode>& savedNodes = saved_.tree.nodes();

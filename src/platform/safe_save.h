@@ -23,9 +23,12 @@ public:
     /// `base` ends in a backslash and begins `path`.
     std::optional<FileFailure> keep(FileOperations& files, const std::string& base, const std::string& path);
 
+    /// Whether the former content of `path` was kept in this run already.
+    [[nodiscard]] bool hasKept(const std::string& path) const { return kept_.contains(path); }
+
     /// Writes a content that never reached `path` beside its backups, marked as unsaved.
-    std::optional<FileFailure> keepUnsaved(FileOperations& files, const std::string& base, const std::string& path,
-                                           std::string_view content);
+    std::optional<FileFailure> keepUnsaved(FileOperations& files, const std::string& base,
+                                           const std::string& path, std::string_view content);
 
 private:
     std::set<std::string, std::less<>> kept_;

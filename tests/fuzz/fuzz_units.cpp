@@ -1,4 +1,5 @@
-// Reads any bytes as a unit file, and checks that what each writer makes of the unit is read and written again.
+// Reads any bytes as a unit file, and checks that what each writer makes of the unit is read and written
+// again.
 
 #include "data/unit_reader.h"
 #include "data/unit_writers.h"

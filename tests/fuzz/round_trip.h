@@ -20,17 +20,19 @@ inline void require(bool holds, const char* what, std::string_view former, std::
     }
 }
 
-/// Whether all texts of a file are such that the format can carry them: a "//" would begin a comment when it is
-/// written on one line, and a tag would be taken for one of the file's own.
+/// Whether all texts of a file are such that the format can carry them: a "//" would begin a comment when it
+/// is written on one line, and a tag would be taken for one of the file's own.
 inline bool hasPlainTexts(std::string_view content) {
     TagTree tree;
     tree.parse(content);
     return std::none_of(tree.nodes().begin(), tree.nodes().end(), [](const TagNode& node) {
-        return node.text.find("//") != std::string_view::npos || node.text.find('<') != std::string_view::npos;
+        return node.text.find("//") != std::string_view::npos ||
+               node.text.find('<') != std::string_view::npos;
     });
 }
 
-/// Whether no line is so long that the reader takes it in pieces, which blanks at their borders would not survive.
+/// Whether no line is so long that the reader takes it in pieces, which blanks at their borders would not
+/// survive.
 inline bool hasShortLines(std::string_view text) {
     constexpr std::size_t pieceLength = 510;
     while (text.size() > pieceLength) {

@@ -98,7 +98,8 @@ TEST(CommandLine, RewritesTheSampleFolders) {
     const std::vector<std::string> written = folder.files();
     EXPECT_EQ(written.size(), sampleFiles().size());
     for (const SampleFile& file : sampleFiles()) {
-        const std::string below = "out\\" + std::string(categoryWord(file.category)) + "\\" + file.name + ".txt";
+        const std::string below =
+            "out\\" + std::string(categoryWord(file.category)) + "\\" + file.name + ".txt";
         if (file.category == Category::Infantry) {
             EXPECT_EQ(folder.read(below), squadFileText(readUnitText(file.content))) << file.name;
         }
@@ -128,7 +129,8 @@ TEST(CommandLine, GoesOnBehindAFileItCannotRewrite) {
     const Outcome vehicles = run({"rewrite", "vehicles", mixed.path() + "in", mixed.path() + "out"});
     EXPECT_EQ(vehicles.status, cli::CouldNot);
     EXPECT_NE(vehicles.complaints.find("a.txt: holds nothing"), std::string::npos);
-    EXPECT_EQ(vehicles.complaints.find("m.txt: cannot be read") == std::string::npos, static_cast<bool>(error));
+    EXPECT_EQ(vehicles.complaints.find("m.txt: cannot be read") == std::string::npos,
+              static_cast<bool>(error));
     EXPECT_EQ(mixed.read("out\\z.txt"), vehicleFileText(readUnitText("<squad><vehicle></vehicle></squad>")));
 }
 

@@ -26,7 +26,8 @@ TEST(Enumerations, HoldTheGamesNames) {
         {"TYPE_", unitTypeNames(), 18, "TYPE_ARMOURED_CAR", "TYPE_TANK"},
         {"QUALITY_", qualityNames(), 6, "QUALITY_ELITE", "QUALITY_RAW"},
         {"RELIABILITY_", reliabilityNames(), 7, "RELIABILITY_TERRIBLE", "RELIABILITY_EXCELLENT"},
-        {"STEERING_", steeringNames(), 9, "STEERING_CLUTCH_AND_BRAKE", "STEERING_TWIN_TRANSMISSION_WITH_REVERSE"},
+        {"STEERING_", steeringNames(), 9, "STEERING_CLUTCH_AND_BRAKE",
+         "STEERING_TWIN_TRANSMISSION_WITH_REVERSE"},
         {"JOB_", jobNames(), 10, "JOB_COMMANDER", "JOB_SQUAD_MG_ASSISTANT"},
         {"MOUNT_", mountNames(), 3, "MOUNT_FRONT", "MOUNT_REAR"},
         {NationalityPrefix, nationalityNames(), 39, "NATIONALITY_AMERICAN", "NATIONALITY_UKRAINIAN"},
@@ -60,8 +61,8 @@ TEST(Enumerations, KnowNationalUniforms) {
             EXPECT_EQ(uniform->ranks, "uniform_ranks_" + nation);
             const bool hasGame = uniform->game == "uniform_game_" + nation + "_tank_crew";
             EXPECT_TRUE(hasGame || uniform->game == "uniform_" + nation + "_tank_crew") << uniform->game;
-            const bool isWithoutGame = nation == "chinese" || nation == "finnish" || nation == "hungarian" ||
-                                       nation == "romanian";
+            const bool isWithoutGame =
+                nation == "chinese" || nation == "finnish" || nation == "hungarian" || nation == "romanian";
             EXPECT_NE(hasGame, isWithoutGame) << nation;
         }
     }
@@ -177,10 +178,18 @@ TEST(ImageNames, LoseTheirEndingInAnyCase) {
         bool isDefault;
     };
     const std::vector<Case> cases = {
-        {"hull.png", "hull", false},    {"hull.PnG", "hull", false},     {"hull", "hull", false},
-        {"hull.png.png", "hull.png", false}, {"hull.jpg", "hull.jpg", false}, {".png", "", false},
-        {"png", "png", false},          {"", "", false},                 {"Default", "Default", true},
-        {"DEFAULT.PNG", "DEFAULT", true}, {"default.png", "default", true}, {"Default.jpg", "Default.jpg", false},
+        {"hull.png", "hull", false},
+        {"hull.PnG", "hull", false},
+        {"hull", "hull", false},
+        {"hull.png.png", "hull.png", false},
+        {"hull.jpg", "hull.jpg", false},
+        {".png", "", false},
+        {"png", "png", false},
+        {"", "", false},
+        {"Default", "Default", true},
+        {"DEFAULT.PNG", "DEFAULT", true},
+        {"default.png", "default", true},
+        {"Default.jpg", "Default.jpg", false},
         {"Defaults", "Defaults", false},
     };
     for (const Case& c : cases) {

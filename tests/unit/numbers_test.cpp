@@ -61,11 +61,26 @@ TEST(Numbers, ReadsRealNumbersLeniently) {
     };
     constexpr double largest = std::numeric_limits<double>::max();
     const std::vector<Case> cases = {
-        {"", 0},          {".", 0},           {"7.92", 7.92},     {"  -0.5kg", -0.5},
-        {"+3.", 3},       {".25", 0.25},      {"-.25", -0.25},    {"1e3", 1000},
-        {"1E-2", 0.01},   {"2e", 2},          {"2e+", 2},         {"1,5", 1},
-        {"abc", 0},       {"nan", 0},         {"inf", 0},         {"-infinity", 0},
-        {"0x1p4", 0},     {"1e999", largest}, {"-1e999", -largest}, {"1e-999", 0},
+        {"", 0},
+        {".", 0},
+        {"7.92", 7.92},
+        {"  -0.5kg", -0.5},
+        {"+3.", 3},
+        {".25", 0.25},
+        {"-.25", -0.25},
+        {"1e3", 1000},
+        {"1E-2", 0.01},
+        {"2e", 2},
+        {"2e+", 2},
+        {"1,5", 1},
+        {"abc", 0},
+        {"nan", 0},
+        {"inf", 0},
+        {"-infinity", 0},
+        {"0x1p4", 0},
+        {"1e999", largest},
+        {"-1e999", -largest},
+        {"1e-999", 0},
         {"0.0000001", 1e-7},
     };
     for (const Case& c : cases) {
@@ -82,7 +97,8 @@ TEST(Numbers, ClampsRealNumbersToFloats) {
     EXPECT_EQ(toFloat("1e39"), std::numeric_limits<float>::max());
     EXPECT_EQ(toFloat("-1e300"), -std::numeric_limits<float>::max());
     EXPECT_EQ(toFloat("1e-300"), 0.0F);
-    EXPECT_EQ(toFloat("3.4028236e38"), std::numeric_limits<float>::max()) << "rounds beyond the largest float";
+    EXPECT_EQ(toFloat("3.4028236e38"), std::numeric_limits<float>::max())
+        << "rounds beyond the largest float";
 }
 
 TEST(Numbers, WritesFloatsAsTheGamesFilesHaveThem) {
@@ -91,15 +107,25 @@ TEST(Numbers, WritesFloatsAsTheGamesFilesHaveThem) {
         std::string_view text;
     };
     const std::vector<Case> cases = {
-        {0.0F, "0"},          {7.92F, "7.92"},     {120.0F, "120"},         {0.0106F, "0.0106"},
-        {123456.0F, "123456"}, {123456.7F, "123457"}, {1234567.0F, "1.23457e+06"}, {0.0001F, "0.0001"},
-        {0.00001F, "1e-05"},  {-2.5F, "-2.5"},     {1.0e30F, "1e+30"},
+        {0.0F, "0"},
+        {7.92F, "7.92"},
+        {120.0F, "120"},
+        {0.0106F, "0.0106"},
+        {123456.0F, "123456"},
+        {123456.7F, "123457"},
+        {1234567.0F, "1.23457e+06"},
+        {0.0001F, "0.0001"},
+        {0.00001F, "1e-05"},
+        {-2.5F, "-2.5"},
+        {1.0e30F, "1e+30"},
     };
     for (const Case& c : cases) {
         std::string text = "x";
         appendShortest(text, c.value);
         EXPECT_EQ(text, "x" + std::string(c.text));
-        EXPECT_EQ(toFloat(c.text), c.value == 1234567.0F ? 1234570.0F : c.value == 123456.7F ? 123457.0F : c.value);
+        EXPECT_EQ(toFloat(c.text), c.value == 1234567.0F  ? 1234570.0F
+                                   : c.value == 123456.7F ? 123457.0F
+                                                          : c.value);
     }
 }
 

@@ -81,7 +81,8 @@ TEST(RoundTrip, KeepsEveryRecord) {
         if (file.category == Category::Weapons) {
             EXPECT_TRUE(second.weapon == first.weapon) << file.name;
         } else {
-            EXPECT_TRUE(asInFile(file.category, second.unit) == asInFile(file.category, first.unit)) << file.name;
+            EXPECT_TRUE(asInFile(file.category, second.unit) == asInFile(file.category, first.unit))
+                << file.name;
         }
         EXPECT_TRUE(second.diagnostics.empty()) << file.name << ": " << second.diagnostics.front();
     }

@@ -33,7 +33,9 @@ public:
         return !fails() && systemFiles().replace(from, to);
     }
     bool remove(const std::string& path) override { return !fails() && systemFiles().remove(path); }
-    bool createFolder(const std::string& path) override { return !fails() && systemFiles().createFolder(path); }
+    bool createFolder(const std::string& path) override {
+        return !fails() && systemFiles().createFolder(path);
+    }
     std::string lastError() override { return "the disk is full"; }
 
     [[nodiscard]] bool hasFailed() const { return failing_ > 0 && operations_ >= failing_; }
@@ -41,7 +43,8 @@ public:
 private:
     class FaultyOutput : public OutputFile {
     public:
-        FaultyOutput(FaultyFiles& files, std::unique_ptr<OutputFile> file) : files_(files), file_(std::move(file)) {}
+        FaultyOutput(FaultyFiles& files, std::unique_ptr<OutputFile> file)
+            : files_(files), file_(std::move(file)) {}
         std::size_t write(std::string_view bytes) override {
             if (files_.fails()) {
                 return 0;
@@ -77,8 +80,8 @@ SquadRecord newSquad() {
 }
 
 std::size_t count(const std::vector<std::string>& names, std::string_view start) {
-    return static_cast<std::size_t>(
-        std::count_if(names.begin(), names.end(), [&](const std::string& name) { return name.starts_with(start); }));
+    return static_cast<std::size_t>(std::count_if(
+        names.begin(), names.end(), [&](const std::string& name) { return name.starts_with(start); }));
 }
 
 } // namespace
@@ -97,7 +100,8 @@ TEST(Saving, KeepsTheOldFileWhicheverStepFails) {
         const std::vector<std::string> names = folder.files();
         succeeded = !files.hasFailed();
         EXPECT_EQ(result == SaveResult::Saved, succeeded) << "operation " << failing;
-        EXPECT_EQ(folder.read(UnitFile), succeeded ? squadFileText(newSquad()) : OldText) << "operation " << failing;
+        EXPECT_EQ(folder.read(UnitFile), succeeded ? squadFileText(newSquad()) : OldText)
+            << "operation " << failing;
         // Beside the unit there is at most its backup, and that is whole.
         const std::size_t kept = count(names, "Backups\\Data\\Infantry\\Squad ");
         EXPECT_EQ(names.size(), 1 + kept) << "operation " << failing << " left something: " << names.back();
@@ -114,7 +118,8 @@ TEST(Saving, KeepsTheOldFileWhicheverStepFails) {
             EXPECT_EQ(MessageRecorder::shown()[0].caption, "Couldn't save file");
         }
     }
-    // Folders, the old content, and each of two files created, written in pieces, flushed, closed and put in place.
+    // Folders, the old content, and each of two files created, written in pieces, flushed, closed and put in
+    // place.
     EXPECT_GT(failing, 20);
 }
 
@@ -130,7 +135,8 @@ TEST(Saving, LeavesNothingBehindWhereThereWasNoFile) {
         const SaveResult result = saveWeapon(files, backups, folder.path(), "W", weapon);
         succeeded = !files.hasFailed();
         EXPECT_EQ(result, succeeded ? SaveResult::Saved : SaveResult::Failed) << "operation " << failing;
-        EXPECT_EQ(folder.files(), succeeded ? std::vector<std::string>{"Data\\Weapons\\W.txt"} : std::vector<std::string>())
+        EXPECT_EQ(folder.files(),
+                  succeeded ? std::vector<std::string>{"Data\\Weapons\\W.txt"} : std::vector<std::string>())
             << "operation " << failing;
         EXPECT_EQ(MessageRecorder::shown().size(), succeeded ? 0U : 1U) << "operation " << failing;
     }
@@ -148,7 +154,8 @@ TEST(Saving, SaysWhatFailed) {
     EXPECT_EQ(folder.read("file.txt"), "content");
     EXPECT_FALSE(saveFile(systemFiles(), path, ""));
     EXPECT_EQ(folder.read("file.txt"), "");
-    const std::optional<FileFailure> nowhere = saveFile(systemFiles(), folder.path() + "no\\file.txt", "content");
+    const std::optional<FileFailure> nowhere =
+        saveFile(systemFiles(), folder.path() + "no\\file.txt", "content");
     ASSERT_TRUE(nowhere);
     EXPECT_FALSE(nowhere->reason.empty());
 }
@@ -179,8 +186,10 @@ TEST(Saving, DoesNothingForARecordOfAnotherKind) {
     const TemporaryFolder folder;
     const MessageRecorder messages;
     BackupKeeper backups;
-    EXPECT_EQ(saveUnit(systemFiles(), backups, folder.path(), Category::Vehicles, newSquad()), SaveResult::NothingToSave);
-    EXPECT_EQ(saveUnit(systemFiles(), backups, folder.path(), Category::Aircraft, newSquad()), SaveResult::NothingToSave);
+    EXPECT_EQ(saveUnit(systemFiles(), backups, folder.path(), Category::Vehicles, newSquad()),
+              SaveResult::NothingToSave);
+    EXPECT_EQ(saveUnit(systemFiles(), backups, folder.path(), Category::Aircraft, newSquad()),
+              SaveResult::NothingToSave);
     EXPECT_TRUE(folder.files().empty());
     EXPECT_TRUE(MessageRecorder::shown().empty());
 }
@@ -191,22 +200,27 @@ TEST(Backups, AreMadeOncePerRunAndFile) {
     folder.write("Data\\Infantry\\Other.txt", "other");
     SquadRecord record = newSquad();
     BackupKeeper firstRun;
-    ASSERT_EQ(saveUnit(systemFiles(), firstRun, folder.path(), Category::Infantry, record), SaveResult::Saved);
+    ASSERT_EQ(saveUnit(systemFiles(), firstRun, folder.path(), Category::Infantry, record),
+              SaveResult::Saved);
     record.comment = "newer";
-    ASSERT_EQ(saveUnit(systemFiles(), firstRun, folder.path(), Category::Infantry, record), SaveResult::Saved);
+    ASSERT_EQ(saveUnit(systemFiles(), firstRun, folder.path(), Category::Infantry, record),
+              SaveResult::Saved);
     EXPECT_EQ(count(folder.files(), "Backups\\"), 1U);
     record.fileName = "Other";
-    ASSERT_EQ(saveUnit(systemFiles(), firstRun, folder.path(), Category::Infantry, record), SaveResult::Saved);
+    ASSERT_EQ(saveUnit(systemFiles(), firstRun, folder.path(), Category::Infantry, record),
+              SaveResult::Saved);
     EXPECT_EQ(count(folder.files(), "Backups\\Data\\Infantry\\Other "), 1U);
     // A file that is new in this run has no former content; saving it again does not make one.
     record.fileName = "Third";
-    ASSERT_EQ(saveUnit(systemFiles(), firstRun, folder.path(), Category::Infantry, record), SaveResult::Saved);
+    ASSERT_EQ(saveUnit(systemFiles(), firstRun, folder.path(), Category::Infantry, record),
+              SaveResult::Saved);
     EXPECT_EQ(count(folder.files(), "Backups\\"), 2U);
     // The next run keeps what it finds, also within the same second.
     for (std::size_t run = 2; run < 5; ++run) {
         BackupKeeper nextRun;
         record.fileName = "Squad";
-        ASSERT_EQ(saveUnit(systemFiles(), nextRun, folder.path(), Category::Infantry, record), SaveResult::Saved);
+        ASSERT_EQ(saveUnit(systemFiles(), nextRun, folder.path(), Category::Infantry, record),
+                  SaveResult::Saved);
         EXPECT_EQ(count(folder.files(), "Backups\\Data\\Infantry\\Squad "), run);
     }
 }

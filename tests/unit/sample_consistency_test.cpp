@@ -31,7 +31,9 @@ public:
             note(user, path);
         }
     }
-    void note(std::string_view user, const std::string& what) { missing_.insert(what + " of " + std::string(user)); }
+    void note(std::string_view user, const std::string& what) {
+        missing_.insert(what + " of " + std::string(user));
+    }
     void expectNone() const {
         std::string all;
         for (const std::string& line : missing_) {
@@ -103,8 +105,9 @@ void ammo(Missing& missing, std::string_view user, const std::vector<AmmoLoadRec
             continue;
         }
         const std::vector<AmmoTypeRecord>& types = found->second.ammoTypes;
-        if (std::none_of(types.begin(), types.end(),
-                         [&](const AmmoTypeRecord& type) { return type.flavour == flavourOf(load.flavour); })) {
+        if (std::none_of(types.begin(), types.end(), [&](const AmmoTypeRecord& type) {
+                return type.flavour == flavourOf(load.flavour);
+            })) {
             missing.note(user, load.weaponType.str() + " with " + load.flavour.str());
         }
     }
@@ -123,7 +126,8 @@ void men(Missing& missing, std::string_view user, const std::vector<CrewManRecor
             weapon(missing, user, personal);
         }
         ammo(missing, user, man.ammo);
-        EXPECT_NE(std::find(jobs.begin(), jobs.end(), man.job.view()), jobs.end()) << user << ": " << man.job.view();
+        EXPECT_NE(std::find(jobs.begin(), jobs.end(), man.job.view()), jobs.end())
+            << user << ": " << man.job.view();
     }
 }
 
@@ -151,7 +155,8 @@ TEST(Sample, HasThePicturesOfItsUnits) {
         if (record.vehicle) {
             vehicle(user, "Profiles", record.vehicle->profileImage);
             for (const ComponentRecord& component : record.vehicle->components) {
-                vehicle(user, component.kind == ComponentKind::Hull ? "Hulls" : "Turrets", component.viewImage);
+                vehicle(user, component.kind == ComponentKind::Hull ? "Hulls" : "Turrets",
+                        component.viewImage);
                 vehicle(user, "Destroyed", component.destroyedImage);
             }
         }

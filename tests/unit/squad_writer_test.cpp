@@ -74,8 +74,9 @@ SquadRecord fullAircraft() {
     aircraft.ammo = {{.weaponType = "WEAPON_HMG_X", .rounds = 700},
                      {.weaponType = "WEAPON_HMG_X", .flavour = "FLAVOUR_HE", .rounds = 70},
                      {.weaponType = "WEAPON_BOMB_X", .flavour = "FLAVOUR_BOMB_HE", .rounds = 2}};
-    aircraft.rotorBlades = {{.image = "main rotor", .offsetX = 1, .offsetY = -2, .diameter = 1050, .clockwise = false},
-                            {.image = "tail rotor"}};
+    aircraft.rotorBlades = {
+        {.image = "main rotor", .offsetX = 1, .offsetY = -2, .diameter = 1050, .clockwise = false},
+        {.image = "tail rotor"}};
     return record;
 }
 
@@ -108,9 +109,10 @@ TEST(AircraftWriter, WritesLittleForAPlainOne) {
     SquadRecord record;
     record.aircraft.emplace();
     const std::string text = aircraftFileText(record).value_or("");
-    EXPECT_EQ(linesBetween(text, "<comment>", "</aircraft>"),
-              Lines({"\t\t<comment></comment>", "\t\t<speed>0</speed>", "\t</description>", "\t<availability>",
-                     "\t</availability>", "", "\t<armament>", "\t</armament>", "</aircraft>"}));
+    EXPECT_EQ(
+        linesBetween(text, "<comment>", "</aircraft>"),
+        Lines({"\t\t<comment></comment>", "\t\t<speed>0</speed>", "\t</description>", "\t<availability>",
+               "\t</availability>", "", "\t<armament>", "\t</armament>", "</aircraft>"}));
     EXPECT_EQ(aircraftFileText(SquadRecord()), std::nullopt);
     // What the files have no place for.
     record.aircraft->weapons = {{.type = "X", .mount = "left wing", .offsetAngle = 3}};
@@ -136,11 +138,13 @@ TEST(SquadWriter, LeavesOutDefaultFlavours) {
         const char* line;
     };
     const std::vector<Case> cases = {
-        {{"WEAPON_RIFLE_X", "FLAVOUR_BALL", 5}, "\t\t<ammo><for>WEAPON_RIFLE_X</for><rounds>5</rounds></ammo>"},
+        {{"WEAPON_RIFLE_X", "FLAVOUR_BALL", 5},
+         "\t\t<ammo><for>WEAPON_RIFLE_X</for><rounds>5</rounds></ammo>"},
         {{"WEAPON_RIFLE_X", "FLAVOUR_AP", 5},
          "\t\t<ammo><for>WEAPON_RIFLE_X</for><flavour>FLAVOUR_AP</flavour><rounds>5</rounds></ammo>"},
         {{"WEAPON_GRENADE_SMOKE_X", "FLAVOUR_GRENADE_SMOKE", 1},
-         "\t\t<ammo><for>WEAPON_GRENADE_SMOKE_X</for><flavour>FLAVOUR_GRENADE_SMOKE</flavour><rounds>1</rounds></ammo>"},
+         "\t\t<ammo><for>WEAPON_GRENADE_SMOKE_X</for><flavour>FLAVOUR_GRENADE_SMOKE</flavour><rounds>1</"
+         "rounds></ammo>"},
         {{"WEAPON_MORTAR_X", "", 9}, "\t\t<ammo><for>WEAPON_MORTAR_X</for><rounds>9</rounds></ammo>"},
     };
     for (const Case& c : cases) {
@@ -162,9 +166,10 @@ TEST(SquadWriter, WritesCarriagesOfAntiTankGunsOnly) {
         const char* element;
         bool hasCarriage;
     };
-    for (const Case& c : {Case{HeavyWeaponKind::Mortar, "mortar", false}, Case{HeavyWeaponKind::Hmg, "hmg", false},
-                          Case{HeavyWeaponKind::AtGun, "atgun", true},
-                          Case{HeavyWeaponKind::RecoillessRifle, "recoilless_rifle", false}}) {
+    for (const Case& c :
+         {Case{HeavyWeaponKind::Mortar, "mortar", false}, Case{HeavyWeaponKind::Hmg, "hmg", false},
+          Case{HeavyWeaponKind::AtGun, "atgun", true},
+          Case{HeavyWeaponKind::RecoillessRifle, "recoilless_rifle", false}}) {
         HeavyWeaponRecord weapon;
         weapon.kind = c.kind;
         weapon.antiAircraft = true;
@@ -172,8 +177,8 @@ TEST(SquadWriter, WritesCarriagesOfAntiTankGunsOnly) {
         weapon.trailLength = 3.125;
         Lines lines = {"\t<" + std::string(c.element) + ">", "\t</" + std::string(c.element) + ">"};
         if (c.hasCarriage) {
-            lines.insert(lines.begin() + 1,
-                         {"\t\t<AA>yes</AA>", "\t\t<mass>800</mass>", "\t\t<trail_length>3.12</trail_length>"});
+            lines.insert(lines.begin() + 1, {"\t\t<AA>yes</AA>", "\t\t<mass>800</mass>",
+                                             "\t\t<trail_length>3.12</trail_length>"});
         }
         EXPECT_EQ(heavyWeaponLines(weapon, c.element), lines);
     }
@@ -197,7 +202,8 @@ TEST(SquadWriter, WritesUniformsWithoutComparingThem) {
     record.uniformProfile = "uniform_german_vehicle_crew";
     record.uniformGame = "Default";
     const Lines images = {"\t\t<comment></comment>", "\t\t<uniform_game>Default.png</uniform_game>",
-                          "\t\t<uniform_profile>uniform_german_vehicle_crew.png</uniform_profile>", "\t</description>"};
+                          "\t\t<uniform_profile>uniform_german_vehicle_crew.png</uniform_profile>",
+                          "\t</description>"};
     EXPECT_EQ(linesBetween(squadFileText(record), "<comment>", "</description>"), images);
     record.namedUniform = true;
     record.uniformName = "Winter";

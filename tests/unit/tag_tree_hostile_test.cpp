@@ -43,8 +43,8 @@ std::string nestedInEachOther(std::size_t levels) {
     return document;
 }
 
-/// Every level's content stands in two elements, its sibling and one that begins in it but ends later: the tree
-/// doubles with each level.
+/// Every level's content stands in two elements, its sibling and one that begins in it but ends later: the
+/// tree doubles with each level.
 std::string doubling(std::size_t levels) {
     std::string document;
     std::string ends;
@@ -84,7 +84,8 @@ TEST(HostileFile, NestsDeep) {
     EXPECT_EQ(depthOf(tree), levels);
     EXPECT_EQ(tree.root().childCount, 1U);
     // Unit rules at every level: vehicles in squads in squads.
-    const SquadRecord record = readUnitText(repeated("<squad><vehicle><hull>", levels) + "</hull></vehicle></squad>");
+    const SquadRecord record =
+        readUnitText(repeated("<squad><vehicle><hull>", levels) + "</hull></vehicle></squad>");
     EXPECT_FALSE(record.vehicle && record.vehicle->components.size() > MaxSquadMembers);
     EXPECT_TRUE(watch.inTime());
 }
@@ -180,7 +181,8 @@ TEST(TruncatedFile, LosesAllAsItsRootIsNotClosed) {
             // Copied to a block of its own, so that a look beyond its end is found out.
             const std::vector<char> cut(file.content.begin(),
                                         file.content.begin() + static_cast<std::ptrdiff_t>(length));
-            ASSERT_EQ(entriesIn(file.category, {cut.data(), cut.size()}), 0U) << file.name << " cut at " << length;
+            ASSERT_EQ(entriesIn(file.category, {cut.data(), cut.size()}), 0U)
+                << file.name << " cut at " << length;
         }
     }
 }

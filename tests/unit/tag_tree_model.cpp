@@ -92,7 +92,8 @@ void describeNode(const TagTree& tree, std::uint32_t index, std::string& out) {
         return;
     }
     out += '{';
-    for (std::uint32_t child = node.firstChild; child != TagNode::None; child = tree.nodes()[child].nextSibling) {
+    for (std::uint32_t child = node.firstChild; child != TagNode::None;
+         child = tree.nodes()[child].nextSibling) {
         if (child != node.firstChild) {
             out += ' ';
         }
@@ -127,7 +128,8 @@ bool parseModel(std::string_view cleaned, std::size_t mostNodes, ModelNode& root
 
 bool isSameTree(const TagTree& tree, const ModelNode& model) {
     std::uint32_t next = 1;
-    return tree.root().parent == TagNode::None && isSameNode(tree, 0, model, next) && next == tree.nodes().size();
+    return tree.root().parent == TagNode::None && isSameNode(tree, 0, model, next) &&
+           next == tree.nodes().size();
 }
 
 std::string differenceFromModel(std::string_view document) {

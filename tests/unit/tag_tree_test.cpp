@@ -94,8 +94,8 @@ TEST(TagTree, ReadsLongLinesInPieces) {
 }
 
 TEST(TagTree, TellsTheLineOfAnElement) {
-    const std::string content = "// one\r\n\r\n<a>\r<b>4</b>\n\t<c>5</c>// c\r\n<d\r\n>" + std::string(600, ' ') +
-                                "7</d>\r\n</a>";
+    const std::string content =
+        "// one\r\n\r\n<a>\r<b>4</b>\n\t<c>5</c>// c\r\n<d\r\n>" + std::string(600, ' ') + "7</d>\r\n</a>";
     TagTree tree;
     tree.parse(content);
     ASSERT_EQ(describe(tree), "{a{b=4 c=5 d=7}}");
@@ -140,11 +140,13 @@ public:
 
 private:
     static constexpr auto Tokens = std::to_array<const char*>(
-        {"<a>", "</a>", "<b>", "</b>", "<ab>", "</ab>", "<c>",  "</c>", "<>", "</>", "x", "yz", " ",  "\t",
-         "//",  "\n",   "\r",  "\r\n", "<",    ">",     "</",   "/",    "<a", "a>",  "<\n/\n/a>"});
+        {"<a>", "</a>", "<b>", "</b>", "<ab>", "</ab>", "<c>", "</c>", "<>", "</>", "x",  "yz",       " ",
+         "\t",  "//",   "\n",  "\r",   "\r\n", "<",     ">",   "</",   "/",  "<a",  "a>", "<\n/\n/a>"});
     static constexpr auto Names = std::to_array<const char*>({"a", "b", "ab", "c", "d", "e", "a b", ""});
 
-    std::size_t below(std::size_t bound) { return std::uniform_int_distribution<std::size_t>(0, bound - 1)(random_); }
+    std::size_t below(std::size_t bound) {
+        return std::uniform_int_distribution<std::size_t>(0, bound - 1)(random_);
+    }
 
     void appendElements(std::string& document, std::size_t depth) {
         for (std::size_t count = 1 + below(3); count > 0; --count) {

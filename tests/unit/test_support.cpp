@@ -62,8 +62,8 @@ std::vector<std::string> linesOf(std::string_view text) {
 
 std::vector<std::string> linesBetween(std::string_view text, std::string_view first, std::string_view last) {
     const std::vector<std::string> lines = linesOf(text);
-    const auto begin =
-        std::find_if(lines.begin(), lines.end(), [&](const std::string& line) { return startsLine(line, first); });
+    const auto begin = std::find_if(lines.begin(), lines.end(),
+                                    [&](const std::string& line) { return startsLine(line, first); });
     const auto end =
         std::find_if(begin, lines.end(), [&](const std::string& line) { return startsLine(line, last); });
     return end == lines.end() ? std::vector<std::string>() : std::vector<std::string>(begin, end + 1);
@@ -112,7 +112,8 @@ TemporaryFolder::~TemporaryFolder() {
 
 std::string TemporaryFolder::nativePath(std::string_view below) const {
     std::string path = path_ + std::string(below);
-    std::replace(path.begin(), path.end(), '\\', static_cast<char>(std::filesystem::path::preferred_separator));
+    std::replace(path.begin(), path.end(), '\\',
+                 static_cast<char>(std::filesystem::path::preferred_separator));
     return path;
 }
 

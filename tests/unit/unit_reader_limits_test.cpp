@@ -21,7 +21,8 @@ ReadUnit readWithDiagnostics(std::string_view content) {
     return read;
 }
 
-/// `before`, the lines of `entry` a number of times, then one entry too many on a line of its own, then `after`.
+/// `before`, the lines of `entry` a number of times, then one entry too many on a line of its own, then
+/// `after`.
 struct LimitCase {
     const char* what;
     std::string before;
@@ -40,16 +41,20 @@ std::string withEntries(const LimitCase& c, bool withTooMany) {
     return content + (withTooMany ? c.tooMany + "\n" : "") + c.after;
 }
 
-const std::string FullMan = "<man><job>JOB_DRIVER</job><language>xx</language><body_armour>yes</body_armour>"
-                            "<weapon><type>LEAK</type></weapon><ammo><for>LEAK</for><rounds>9</rounds></ammo></man>";
+const std::string FullMan =
+    "<man><job>JOB_DRIVER</job><language>xx</language><body_armour>yes</body_armour>"
+    "<weapon><type>LEAK</type></weapon><ammo><for>LEAK</for><rounds>9</rounds></ammo></man>";
 const std::string FullTurret =
-    "<turret><width>9</width><diameter>9</diameter><image_view>LEAK</image_view><rotate_left>9</rotate_left><AA>yes</AA>"
-    "<armour><front>9@9</front><top>9</top></armour><smoke_discharger><angle>9</angle><ammo>9</ammo></smoke_discharger>"
+    "<turret><width>9</width><diameter>9</diameter><image_view>LEAK</image_view><rotate_left>9</"
+    "rotate_left><AA>yes</AA>"
+    "<armour><front>9@9</front><top>9</top></armour><smoke_discharger><angle>9</angle><ammo>9</ammo></"
+    "smoke_discharger>"
     "<weapon><type>LEAK</type><offsetX>9</offsetX></weapon><ammo><for>LEAK</for><rounds>9</rounds></ammo>" +
     FullMan + "</turret>";
-const std::string FullGun = "<atgun><image_view_gun>LEAK</image_view_gun><mass>9</mass><moveable>no</moveable>"
-                            "<rotate_left>9</rotate_left><weapon><type>LEAK</type></weapon>"
-                            "<ammo><for>LEAK</for><rounds>9</rounds></ammo></atgun>";
+const std::string FullGun =
+    "<atgun><image_view_gun>LEAK</image_view_gun><mass>9</mass><moveable>no</moveable>"
+    "<rotate_left>9</rotate_left><weapon><type>LEAK</type></weapon>"
+    "<ammo><for>LEAK</for><rounds>9</rounds></ammo></atgun>";
 
 } // namespace
 
@@ -59,15 +64,15 @@ TEST(UnitLimits, LeaveOutWhatFindsNoRoomWithAllItHolds) {
          "<turret><armour></armour><smoke_discharger></smoke_discharger><weapon></weapon><ammo></ammo>"
          "<man><weapon></weapon><ammo></ammo></man></turret>",
          MaxSquadMembers, FullTurret, "</vehicle></squad>", "more than 13 components"},
-        {"infantrymen", "<squad>", "<man><weapon></weapon><ammo></ammo></man>", MaxSquadMembers, FullMan, "</squad>",
-         "more than 13 infantrymen"},
+        {"infantrymen", "<squad>", "<man><weapon></weapon><ammo></ammo></man>", MaxSquadMembers, FullMan,
+         "</squad>", "more than 13 infantrymen"},
         {"infantrymen beside a heavy weapon", "<squad><hmg><weapon></weapon><ammo></ammo></hmg>",
          "<man><ammo></ammo></man>", MaxSquadMembers, FullMan, "</squad>", "more than 13 infantrymen"},
         {"availability points", "<squad><availability>", "<data></data>", MaxAvailabilityPoints,
          "<data><month>9</month><year>9</year><number>9</number></data>", "</availability></squad>",
          "more than 255 availability points"},
-        {"a second heavy weapon", "<squad>", "<mortar><weapon></weapon><ammo></ammo></mortar>", 1, FullGun, "</squad>",
-         "a second heavy weapon"},
+        {"a second heavy weapon", "<squad>", "<mortar><weapon></weapon><ammo></ammo></mortar>", 1, FullGun,
+         "</squad>", "a second heavy weapon"},
     };
     for (const LimitCase& c : cases) {
         const ReadUnit full = readWithDiagnostics(withEntries(c, false));
@@ -75,8 +80,8 @@ TEST(UnitLimits, LeaveOutWhatFindsNoRoomWithAllItHolds) {
         const ReadUnit tooFull = readWithDiagnostics(withEntries(c, true));
         EXPECT_TRUE(tooFull.record == full.record) << c.what;
         ASSERT_EQ(tooFull.diagnostics.size(), 1U) << c.what;
-        EXPECT_EQ(tooFull.diagnostics[0], "ERROR: unit: line " + std::to_string(c.limit + 2) + ": " + c.complaint +
-                                              ": left out");
+        EXPECT_EQ(tooFull.diagnostics[0],
+                  "ERROR: unit: line " + std::to_string(c.limit + 2) + ": " + c.complaint + ": left out");
     }
 }
 
@@ -95,8 +100,11 @@ TEST(UnitLimits, HoldForQuarterlyAvailabilityToo) {
 
 TEST(UnitLimits, CutLongTexts) {
     const std::string longText(300, 'x');
-    const SquadRecord record = readUnitText("<squad><description><long_name>" + longText + "</long_name><language>deu"
-                                            "</language><uniform_game>" + longText + ".png</uniform_game>"
+    const SquadRecord record = readUnitText("<squad><description><long_name>" + longText +
+                                            "</long_name><language>deu"
+                                            "</language><uniform_game>" +
+                                            longText +
+                                            ".png</uniform_game>"
                                             "</description></squad>");
     EXPECT_EQ(record.longName, longText.substr(0, 255));
     EXPECT_EQ(record.uniformGame, longText.substr(0, 255));
@@ -104,15 +112,18 @@ TEST(UnitLimits, CutLongTexts) {
 }
 
 TEST(UnitLimits, CallUnknownElementsOfEveryHeavyWeaponAMortar) {
-    const std::string line = "\xF0\x9F\x92\xA5 ERROR: Game: createSquadOnSide() Unknown tag <%s> in <mortar>...</mortar>";
+    const std::string line =
+        "\xF0\x9F\x92\xA5 ERROR: Game: createSquadOnSide() Unknown tag <%s> in <mortar>...</mortar>";
     for (const std::string weapon : {"mortar", "hmg", "atgun", "recoilless_rifle"}) {
-        const ReadUnit read = readWithDiagnostics("<squad><" + weapon + "><crew>2</crew><mass>5</mass><type>x</type></" +
-                                                  weapon + "></squad>");
+        const ReadUnit read = readWithDiagnostics(
+            "<squad><" + weapon + "><crew>2</crew><mass>5</mass><type>x</type></" + weapon + "></squad>");
         EXPECT_EQ(read.diagnostics, Diagnostics({line, line})) << weapon;
         EXPECT_EQ(read.record.heavyWeapon.value().mass, 5);
     }
-    EXPECT_TRUE(readWithDiagnostics("<squad><x></x><man><y>1</y></man><vehicle><hull><z></z></hull></vehicle></squad>")
-                    .diagnostics.empty()) << "elsewhere unknown elements are passed over silently";
+    EXPECT_TRUE(readWithDiagnostics(
+                    "<squad><x></x><man><y>1</y></man><vehicle><hull><z></z></hull></vehicle></squad>")
+                    .diagnostics.empty())
+        << "elsewhere unknown elements are passed over silently";
 }
 
 TEST(UnitLimits, BoundTheDiagnostics) {

@@ -23,13 +23,30 @@ ComponentRecord fullHull() {
     hull.width = 301;
     hull.length = 602;
     hull.height = 103;
-    hull.armour = {.upperFront = {80, 55}, .lowerFront = {60, 55}, .upperLeft = {40, 40}, .upperRight = {41, 40},
-                   .lowerLeft = {42, 0},   .lowerRight = {43, 5},  .upperRear = {30, 0},  .lowerRear = {30, 10},
-                   .frontSpaced = 5,       .sideSpaced = 6,        .rearSpaced = 7,       .top = 16,
+    hull.armour = {.upperFront = {80, 55},
+                   .lowerFront = {60, 55},
+                   .upperLeft = {40, 40},
+                   .upperRight = {41, 40},
+                   .lowerLeft = {42, 0},
+                   .lowerRight = {43, 5},
+                   .upperRear = {30, 0},
+                   .lowerRear = {30, 10},
+                   .frontSpaced = 5,
+                   .sideSpaced = 6,
+                   .rearSpaced = 7,
+                   .top = 16,
                    .bottom = 0};
     hull.smokeDischargers = {{.offsetX = -1, .offsetY = 2, .reload = 30, .ammo = 3},
-                             {.directional = true, .angleGiven = true, .elevationGiven = true, .angle = 0,
-                              .elevation = 45, .offsetX = 4, .offsetY = 5, .speed = 6, .reload = 7, .ammo = 8}};
+                             {.directional = true,
+                              .angleGiven = true,
+                              .elevationGiven = true,
+                              .angle = 0,
+                              .elevation = 45,
+                              .offsetX = 4,
+                              .offsetY = 5,
+                              .speed = 6,
+                              .reload = 7,
+                              .ammo = 8}};
     CrewManRecord driver;
     driver.job = "JOB_DRIVER";
     driver.language = "de";
@@ -61,10 +78,11 @@ ComponentRecord fullTurret() {
     turret.armour.bottom = 2;
     turret.armour.mantlet = 100;
     turret.smokeDischargers = {{.directional = true, .elevationGiven = true, .elevation = 1, .speed = 2}};
-    turret.weapons = {{.type = "WEAPON_RPG_X", .offsetX = 7},
-                      {.type = "WEAPON_HMG_MG34", .mount = "coaxial", .offsetX = 1, .offsetY = 2, .offsetAngle = 3},
-                      {.type = "WEAPON_FLAMETHROWER_X", .offsetY = -4},
-                      {.type = "WEAPON_CANNON_75_KWK42_L70"}};
+    turret.weapons = {
+        {.type = "WEAPON_RPG_X", .offsetX = 7},
+        {.type = "WEAPON_HMG_MG34", .mount = "coaxial", .offsetX = 1, .offsetY = 2, .offsetAngle = 3},
+        {.type = "WEAPON_FLAMETHROWER_X", .offsetY = -4},
+        {.type = "WEAPON_CANNON_75_KWK42_L70"}};
     turret.ammo = {{.weaponType = "WEAPON_HMG_MG34", .rounds = 4200},
                    {.weaponType = "WEAPON_CANNON_75_KWK42_L70", .flavour = "FLAVOUR_APCBC", .rounds = 40},
                    {.weaponType = "WEAPON_CANNON_75_KWK42_L70", .flavour = "FLAVOUR_HE", .rounds = 39}};
@@ -185,7 +203,8 @@ TEST(VehicleWriter, OrdersComponentsInThreePasses) {
     for (const std::string& line :
          linesOf(textOf({component(K::Turret), component(K::Hull), component(K::FixedWeapon),
                          component(K::Superstructure), component(K::Turret), component(K::Hull)}))) {
-        if (line.empty() || (line.starts_with("\t\t<") && !line.starts_with("\t\t</")) || line == "\t</vehicle>") {
+        if (line.empty() || (line.starts_with("\t\t<") && !line.starts_with("\t\t</")) ||
+            line == "\t</vehicle>") {
             order.push_back(line);
         }
     }
@@ -218,23 +237,30 @@ TEST(VehicleWriter, WritesPlatesInAsFewLinesAsPossible) {
         {{.upperFront = a, .lowerFront = a}, joined({{"\t\t\t\t<front>45</front>"}, noSide, noRear})},
         {{.upperFront = b, .lowerFront = b}, joined({{"\t\t\t\t<front>45@30</front>"}, noSide, noRear})},
         {{.upperFront = a, .lowerFront = b},
-         joined({{"\t\t\t\t<upper_front>45</upper_front>", "\t\t\t\t<lower_front>45@30</lower_front>"}, noSide, noRear})},
+         joined({{"\t\t\t\t<upper_front>45</upper_front>", "\t\t\t\t<lower_front>45@30</lower_front>"},
+                 noSide,
+                 noRear})},
         {{.upperFront = {45, -5}, .lowerFront = {45, -5}, .frontSpaced = 1},
-         joined({{"\t\t\t\t<front>45@-5</front>", "\t\t\t\t<front_spaced>1</front_spaced>"}, noSide, noRear})},
+         joined(
+             {{"\t\t\t\t<front>45@-5</front>", "\t\t\t\t<front_spaced>1</front_spaced>"}, noSide, noRear})},
         {{.upperLeft = b, .upperRight = b, .lowerLeft = b, .lowerRight = b, .sideSpaced = 2},
          joined({noFront, {"\t\t\t\t<side>45@30</side>", "\t\t\t\t<side_spaced>2</side_spaced>"}, noRear})},
         {{.upperLeft = b, .upperRight = b, .lowerLeft = a, .lowerRight = a},
-         joined({noFront, {"\t\t\t\t<upper_side>45@30</upper_side>", "\t\t\t\t<lower_side>45</lower_side>"}, noRear})},
+         joined({noFront,
+                 {"\t\t\t\t<upper_side>45@30</upper_side>", "\t\t\t\t<lower_side>45</lower_side>"},
+                 noRear})},
         {{.upperLeft = b, .upperRight = a, .lowerLeft = b, .lowerRight = a},
          joined({noFront,
                  {"\t\t\t\t<upper_left>45@30</upper_left>", "\t\t\t\t<upper_right>45</upper_right>",
                   "\t\t\t\t<lower_left>45@30</lower_left>", "\t\t\t\t<lower_right>45</lower_right>"},
                  noRear})},
         {{.upperRear = a, .lowerRear = b, .rearSpaced = 3, .bottom = 0, .mantlet = 9},
-         joined({noFront, noSide,
+         joined({noFront,
+                 noSide,
                  {"\t\t\t\t<upper_rear>45</upper_rear>", "\t\t\t\t<lower_rear>45@30</lower_rear>",
                   "\t\t\t\t<rear_spaced>3</rear_spaced>", none, "\t\t\t\t<bottom>0</bottom>"}})},
-        {{.frontSpaced = -1, .sideSpaced = 0, .rearSpaced = -9, .bottom = -7}, joined({noFront, noSide, noRear})},
+        {{.frontSpaced = -1, .sideSpaced = 0, .rearSpaced = -9, .bottom = -7},
+         joined({noFront, noSide, noRear})},
     };
     for (const Case& c : cases) {
         EXPECT_EQ(armourLines(c.armour), c.lines);
@@ -267,7 +293,8 @@ TEST(VehicleWriter, KeepsTheAsymmetriesOfTurningParts) {
 
 TEST(VehicleWriter, WritesAWeaponThatFitsTwoPassesOnce) {
     ComponentRecord turret = component(ComponentKind::Turret);
-    for (const char* type : {"OTHER", "WEAPON_HMG_X", "X_WEAPON_FLAMETHROWER", "WEAPON_HMG_AND_WEAPON_CANNON_X"}) {
+    for (const char* type :
+         {"OTHER", "WEAPON_HMG_X", "X_WEAPON_FLAMETHROWER", "WEAPON_HMG_AND_WEAPON_CANNON_X"}) {
         turret.weapons.push_back({.type = type});
         turret.ammo.push_back({.weaponType = type});
     }
@@ -291,7 +318,8 @@ TEST(VehicleWriter, LeavesOutNationalUniforms) {
         SquadRecord record;
         Lines lines;
     };
-    const auto uniform = [](const char* nationality, const char* profile, const char* game, const char* ranks) {
+    const auto uniform = [](const char* nationality, const char* profile, const char* game,
+                            const char* ranks) {
         SquadRecord record;
         record.nationality = nationality;
         record.uniformProfile = profile;
@@ -312,19 +340,30 @@ TEST(VehicleWriter, LeavesOutNationalUniforms) {
                            "\t\t<uniform_game>uniform_game_german_tank_crew.png</uniform_game>",
                            "\t\t<uniform_ranks>uniform_ranks_german.png</uniform_ranks>"};
     const std::vector<Case> cases = {
-        {"the nation's own, but for the blank line of its ranks", uniform(german, profile, game, ranks), {""}},
+        {"the nation's own, but for the blank line of its ranks",
+         uniform(german, profile, game, ranks),
+         {""}},
         {"without ranks", uniform(german, profile, game, ""), {}},
         {"another nation's", uniform("NATIONALITY_RUSSIAN", profile, game, ranks), foreign},
         {"of a nation without uniforms", uniform("NATIONALITY_DUTCH", profile, game, ranks), foreign},
-        {"another case of letters", uniform(german, "Uniform_german_vehicle_crew", "", ""),
+        {"another case of letters",
+         uniform(german, "Uniform_german_vehicle_crew", "", ""),
          {"\t\t<uniform_profile>Uniform_german_vehicle_crew.png</uniform_profile>"}},
-        {"only the profile may be called default", uniform(german, "Default", "Default", "Default"),
-         {"", "\t\t<uniform_game>Default.png</uniform_game>", "\t\t<uniform_ranks>Default.png</uniform_ranks>"}},
-        {"a default profile in a nation without uniforms", uniform("NATIONALITY_DUTCH", "Default", "", ""), {}},
-        {"a named one", named(uniform(german, "p", "g", "r"), "Winter", true),
+        {"only the profile may be called default",
+         uniform(german, "Default", "Default", "Default"),
+         {"", "\t\t<uniform_game>Default.png</uniform_game>",
+          "\t\t<uniform_ranks>Default.png</uniform_ranks>"}},
+        {"a default profile in a nation without uniforms",
+         uniform("NATIONALITY_DUTCH", "Default", "", ""),
+         {}},
+        {"a named one",
+         named(uniform(german, "p", "g", "r"), "Winter", true),
          {"", "\t\t<uniform>Winter</uniform>", "\t\t<uniform_ranks>r.png</uniform_ranks>"}},
-        {"a named one of no name", named(uniform(german, "", "", ranks), "", true), {"", "\t\t<uniform></uniform>"}},
-        {"a name that does not count", named(uniform(german, "p", "", ""), "Winter", false),
+        {"a named one of no name",
+         named(uniform(german, "", "", ranks), "", true),
+         {"", "\t\t<uniform></uniform>"}},
+        {"a name that does not count",
+         named(uniform(german, "p", "", ""), "Winter", false),
          {"", "\t\t<uniform_profile>p.png</uniform_profile>"}},
     };
     for (const Case& c : cases) {

@@ -109,7 +109,8 @@ TEST(WeaponFile, OpensBlocksForAnyOfTheirValues) {
     };
     const std::vector<Case> cases = {
         {[](WeaponRecord& w) { w.shootSound = "s"; }, "shoot", "\t\t<sound_shoot>s</sound_shoot>"},
-        {[](WeaponRecord& w) { w.tracerImage = "Tracer"; }, "shoot", "\t\t<tracer_image>Tracer.png</tracer_image>"},
+        {[](WeaponRecord& w) { w.tracerImage = "Tracer"; }, "shoot",
+         "\t\t<tracer_image>Tracer.png</tracer_image>"},
         {[](WeaponRecord& w) { w.range = -1; }, "shoot", "\t\t<range>-1</range>"},
         {[](WeaponRecord& w) { w.rateOfFire = 1; }, "shoot", "\t\t<rof>1</rof>"},
         {[](WeaponRecord& w) { w.muzzleFlash = false; }, "shoot", "\t\t<muzzle_flash>no</muzzle_flash>"},
@@ -120,12 +121,14 @@ TEST(WeaponFile, OpensBlocksForAnyOfTheirValues) {
         {[](WeaponRecord& w) { w.magazineCapacity = 2; }, "magazine", "\t\t<capacity>2</capacity>"},
         {[](WeaponRecord& w) { w.singleShot = true; }, "magazine", "\t\t<single_shot>yes</single_shot>"},
         {[](WeaponRecord& w) { w.reloadSound = "r"; }, "magazine", "\t\t<sound_reload>r</sound_reload>"},
-        {[](WeaponRecord& w) { w.ejectClipSound = "e"; }, "magazine", "\t\t<sound_eject_clip>e</sound_eject_clip>"},
+        {[](WeaponRecord& w) { w.ejectClipSound = "e"; }, "magazine",
+         "\t\t<sound_eject_clip>e</sound_eject_clip>"},
         {[](WeaponRecord& w) { w.period = "WW1"; }, "usage", "\t\t<period>WW1</period>"},
         {[](WeaponRecord& w) { w.countries = "Dutch"; }, "usage", "\t\t<countries>Dutch</countries>"},
         {[](WeaponRecord& w) { w.comments = "c"; }, "comments", "\tc"},
         {[](WeaponRecord& w) { w.calibre = 120; }, "dimensions", "\t\t<calibre>120</calibre>"},
-        {[](WeaponRecord& w) { w.numberOfBarrels = 2; }, "dimensions", "\t\t<number_barrels>2</number_barrels>"},
+        {[](WeaponRecord& w) { w.numberOfBarrels = 2; }, "dimensions",
+         "\t\t<number_barrels>2</number_barrels>"},
     };
     for (const Case& c : cases) {
         WeaponRecord weapon;
@@ -145,25 +148,39 @@ TEST(WeaponFile, WritesAmmunitionByItsFlavour) {
     using F = AmmoFlavour;
     using W = WeaponType;
     const std::vector<Case> cases = {
-        {{.flavour = F::Ap, .era = HeatEra::Modern}, W::Cannon,
+        {{.flavour = F::Ap, .era = HeatEra::Modern},
+         W::Cannon,
          "<type><flavour>FLAVOUR_AP</flavour><speed>0</speed><mass>0</mass><name></name></type>"},
-        {{.flavour = F::Heatfs}, W::Cannon,
+        {{.flavour = F::Heatfs},
+         W::Cannon,
          "<type><flavour>FLAVOUR_HEATFS</flavour><speed>0</speed><mass>0</mass><name></name></type>"},
-        {{.flavour = F::RpgHeat, .era = static_cast<HeatEra>(77)}, W::Rpg,
-         "<type><flavour>FLAVOUR_RPG_HEAT</flavour><speed>0</speed><mass>0</mass><era>HEAT_ERA_LATE</era><name></name></type>"},
-        {{.flavour = F::Atgm, .guided = static_cast<GuidanceMode>(77)}, W::Rpg,
-         "<type><flavour>FLAVOUR_ATGM</flavour><speed>0</speed><mass>0</mass><guided>GUIDED_MANUAL</guided><name></name></type>"},
-        {{.flavour = F::GrenadeHeat, .speed = 9, .mass = 0.5F}, W::Grenade,
+        {{.flavour = F::RpgHeat, .era = static_cast<HeatEra>(77)},
+         W::Rpg,
+         "<type><flavour>FLAVOUR_RPG_HEAT</flavour><speed>0</speed><mass>0</mass><era>HEAT_ERA_LATE</"
+         "era><name></name></type>"},
+        {{.flavour = F::Atgm, .guided = static_cast<GuidanceMode>(77)},
+         W::Rpg,
+         "<type><flavour>FLAVOUR_ATGM</flavour><speed>0</speed><mass>0</mass><guided>GUIDED_MANUAL</"
+         "guided><name></name></type>"},
+        {{.flavour = F::GrenadeHeat, .speed = 9, .mass = 0.5F},
+         W::Grenade,
          "<type><flavour>FLAVOUR_GRENADE_HEAT</flavour><mass>0.5</mass><name></name></type>"},
-        {{.flavour = F::MortarSmoke, .highExplosive = 2}, W::Mortar,
+        {{.flavour = F::MortarSmoke, .highExplosive = 2},
+         W::Mortar,
          "<type><flavour>FLAVOUR_MORTAR_SMOKE</flavour><speed>0</speed><mass>0</mass><name></name></type>"},
-        {{.flavour = F::Smoke, .highExplosive = 2}, W::Cannon,
-         "<type><flavour>FLAVOUR_SMOKE</flavour><speed>0</speed><mass>0</mass><HE>2</HE><name></name></type>"},
-        {{.flavour = F::ArtillerySmoke, .highExplosive = 2}, W::Artillery,
-         "<type><flavour>FLAVOUR_ARTILLERY_SMOKE</flavour><speed>0</speed><mass>0</mass><HE>2</HE><name></name></type>"},
-        {{.flavour = F::Ball, .highExplosive = -1, .explodeIn = -1}, W::Rifle,
+        {{.flavour = F::Smoke, .highExplosive = 2},
+         W::Cannon,
+         "<type><flavour>FLAVOUR_SMOKE</flavour><speed>0</speed><mass>0</mass><HE>2</HE><name></name></"
+         "type>"},
+        {{.flavour = F::ArtillerySmoke, .highExplosive = 2},
+         W::Artillery,
+         "<type><flavour>FLAVOUR_ARTILLERY_SMOKE</flavour><speed>0</speed><mass>0</mass><HE>2</HE><name></"
+         "name></type>"},
+        {{.flavour = F::Ball, .highExplosive = -1, .explodeIn = -1},
+         W::Rifle,
          "<type><flavour>FLAVOUR_BALL</flavour><speed>0</speed><mass>0</mass><name></name></type>"},
-        {{.flavour = static_cast<F>(200)}, W::Rifle,
+        {{.flavour = static_cast<F>(200)},
+         W::Rifle,
          "<type><flavour>FLAVOUR_NONE</flavour><speed>0</speed><mass>0</mass><name></name></type>"},
     };
     for (const Case& c : cases) {
@@ -175,8 +192,10 @@ TEST(WeaponFile, WritesAmmunitionByItsFlavour) {
 }
 
 TEST(WeaponFile, StartsFromTheDefaults) {
-    for (const char* content : {"", "<weapon></weapon>", "<weapon><calibre>5</calibre><capacity>7</capacity></weapon>",
-                                "<gun><name>X</name></gun>", "<weapon><ammo><x><flavour>FLAVOUR_AP</flavour></x></ammo></weapon>"}) {
+    for (const char* content :
+         {"", "<weapon></weapon>", "<weapon><calibre>5</calibre><capacity>7</capacity></weapon>",
+          "<gun><name>X</name></gun>",
+          "<weapon><ammo><x><flavour>FLAVOUR_AP</flavour></x></ammo></weapon>"}) {
         const WeaponRecord weapon = readWeaponText(content);
         WeaponRecord expected;
         expected.fileName = "weapon";
@@ -194,12 +213,12 @@ TEST(WeaponFile, BringsNumbersIntoRange) {
         int barrels;
         int range;
     };
-    for (const Case& c : {Case{"0", 1, 0, 0}, Case{"-5", 1, 251, -5}, Case{"1", 1, 1, 1}, Case{"258", 258, 2, 258},
-                          Case{"40000", 32767, 64, 32767}, Case{"x", 1, 0, 0}}) {
+    for (const Case& c : {Case{"0", 1, 0, 0}, Case{"-5", 1, 251, -5}, Case{"1", 1, 1, 1},
+                          Case{"258", 258, 2, 258}, Case{"40000", 32767, 64, 32767}, Case{"x", 1, 0, 0}}) {
         const std::string text = c.text;
-        const WeaponRecord weapon = inWeapon("<magazine><capacity>" + text + "</capacity></magazine><shoot><range>" + text +
-                                             "</range></shoot><dimensions><number_barrels>" + text +
-                                             "</number_barrels></dimensions>");
+        const WeaponRecord weapon = inWeapon(
+            "<magazine><capacity>" + text + "</capacity></magazine><shoot><range>" + text +
+            "</range></shoot><dimensions><number_barrels>" + text + "</number_barrels></dimensions>");
         EXPECT_EQ(weapon.magazineCapacity, c.capacity) << text;
         EXPECT_EQ(weapon.numberOfBarrels, c.barrels) << text;
         EXPECT_EQ(weapon.range, c.range) << text;
@@ -211,9 +230,10 @@ TEST(WeaponFile, CutsTheEndingsOfTracerImages) {
         const char* text;
         const char* name;
     };
-    for (const Case& c : {Case{"Tracer.png", "Tracer"}, Case{"Tracer.PNG", "Tracer"}, Case{"Tracer.Png", "Tracer.Png"},
-                          Case{"png", "png"}, Case{"abc", "abc"}, Case{"", ""}, Case{".png", ""},
-                          Case{"a.png.bak", "a.png"}, Case{"Tracer", "Tracer"}}) {
+    for (const Case& c :
+         {Case{"Tracer.png", "Tracer"}, Case{"Tracer.PNG", "Tracer"}, Case{"Tracer.Png", "Tracer.Png"},
+          Case{"png", "png"}, Case{"abc", "abc"}, Case{"", ""}, Case{".png", ""}, Case{"a.png.bak", "a.png"},
+          Case{"Tracer", "Tracer"}}) {
         const std::string element = "<tracer_image>" + std::string(c.text) + "</tracer_image>";
         EXPECT_EQ(inWeapon("<shoot>" + element + "</shoot>").tracerImage, c.name) << c.text;
         EXPECT_EQ(ammoType(element).tracerImage, c.name) << c.text;
@@ -222,8 +242,10 @@ TEST(WeaponFile, CutsTheEndingsOfTracerImages) {
 
 TEST(WeaponFile, LeavesFieldsAtUnknownWords) {
     const WeaponRecord weapon = inWeapon(
-        "<shoot><muzzle_flash>no</muzzle_flash><muzzle_flash>maybe</muzzle_flash><reload>RELOAD_AUTOMATIC</reload>"
-        "<reload>RELOAD_BY_HAND</reload></shoot><magazine><single_shot>yes</single_shot><single_shot>no</single_shot></magazine>"
+        "<shoot><muzzle_flash>no</muzzle_flash><muzzle_flash>maybe</muzzle_flash><reload>RELOAD_AUTOMATIC</"
+        "reload>"
+        "<reload>RELOAD_BY_HAND</reload></shoot><magazine><single_shot>yes</single_shot><single_shot>no</"
+        "single_shot></magazine>"
         "<ammo><type><era>HEAT_ERA_MODERN</era><era>x</era><guided>GUIDED_FAF</guided><guided></guided>"
         "<smoke_trail>yes</smoke_trail><smoke_trail>no</smoke_trail></type></ammo>");
     EXPECT_FALSE(weapon.muzzleFlash);
@@ -232,21 +254,25 @@ TEST(WeaponFile, LeavesFieldsAtUnknownWords) {
     EXPECT_EQ(weapon.ammoTypes.at(0).era, HeatEra::Modern);
     EXPECT_EQ(weapon.ammoTypes.at(0).guided, GuidanceMode::FireAndForget);
     EXPECT_TRUE(weapon.ammoTypes.at(0).smokeTrail);
-    EXPECT_TRUE(inWeapon("<shoot><muzzle_flash>no</muzzle_flash><muzzle_flash>yes</muzzle_flash></shoot>").muzzleFlash);
+    EXPECT_TRUE(inWeapon("<shoot><muzzle_flash>no</muzzle_flash><muzzle_flash>yes</muzzle_flash></shoot>")
+                    .muzzleFlash);
 }
 
 TEST(WeaponFile, TellsOfUnknownTypes) {
     WeaponReadReport report;
-    const WeaponRecord weapon =
-        readWeapon("<weapon><type>WEAPON_BOW</type><name>B</name><type>WEAPON_SMG</type><type>WEAPON_NONE</type></weapon>",
-                   "weapon", report);
+    const WeaponRecord weapon = readWeapon("<weapon><type>WEAPON_BOW</type><name>B</name><type>WEAPON_SMG</"
+                                           "type><type>WEAPON_NONE</type></weapon>",
+                                           "weapon", report);
     EXPECT_EQ(weapon.type, WeaponType::Smg) << "keeps its type";
-    const std::string line = "\xF0\x9F\x92\xA5 ERROR: WeaponDataList: getListEntryForWeapon() unknown <type> in '";
+    const std::string line =
+        "\xF0\x9F\x92\xA5 ERROR: WeaponDataList: getListEntryForWeapon() unknown <type> in '";
     EXPECT_EQ(report.diagnostics, Diagnostics({line + "WEAPON_BOW'", line + "WEAPON_NONE'"}));
-    EXPECT_EQ(report.unknownTypes, Lines({"WEAPON_NONE"})) << "a box only once there is a name for its caption";
+    EXPECT_EQ(report.unknownTypes, Lines({"WEAPON_NONE"}))
+        << "a box only once there is a name for its caption";
 
     const TemporaryFolder folder;
-    folder.write("Data\\Weapons\\W.txt", "<weapon><name>WEAPON_X</name><type>WEAPON_BOW</type><type>WEAPON_LMG</type></weapon>");
+    folder.write("Data\\Weapons\\W.txt",
+                 "<weapon><name>WEAPON_X</name><type>WEAPON_BOW</type><type>WEAPON_LMG</type></weapon>");
     const MessageRecorder messages;
     const std::optional<WeaponRecord> loaded = loadWeapon(folder.path(), "W");
     ASSERT_TRUE(loaded);
@@ -267,10 +293,11 @@ TEST(WeaponFile, LeavesOutAmmunitionThatFindsNoRoom) {
     const WeaponRecord full = readWeaponText(content + "</ammo></weapon>");
     EXPECT_EQ(full.ammoTypes.size(), MaxAmmoTypes);
     WeaponReadReport report;
-    const WeaponRecord tooFull =
-        readWeapon(content + "<type><name>LEAK</name><mass>9</mass></type>\n</ammo></weapon>", "weapon", report);
+    const WeaponRecord tooFull = readWeapon(
+        content + "<type><name>LEAK</name><mass>9</mass></type>\n</ammo></weapon>", "weapon", report);
     EXPECT_TRUE(tooFull == full);
-    EXPECT_EQ(report.diagnostics, Diagnostics({"ERROR: weapon: line 257: more than 255 ammunition types: left out"}));
+    EXPECT_EQ(report.diagnostics,
+              Diagnostics({"ERROR: weapon: line 257: more than 255 ammunition types: left out"}));
 }
 
 TEST(WeaponNames, AreTheGames) {
@@ -279,13 +306,26 @@ TEST(WeaponNames, AreTheGames) {
         int value;
     };
     const std::vector<Type> types = {
-        {"WEAPON_NONE", 0},         {"WEAPON_RIFLE", 16},   {"WEAPON_PISTOL", 17},
-        {"WEAPON_CARBINE", 18},     {"WEAPON_SHOTGUN", 19}, {"WEAPON_AT_RIFLE", 20},
-        {"WEAPON_BOMB", 21},        {"WEAPON_SMG", 24},     {"WEAPON_LMG", 25},
-        {"WEAPON_HMG", 26},         {"WEAPON_GRENADE", 32}, {"WEAPON_GRENADE_LAUNCHER", 34},
-        {"WEAPON_RPG", 49},         {"WEAPON_RECOILLESS_RIFLE", 50}, {"WEAPON_FLAMETHROWER_PORTABLE", 64},
-        {"WEAPON_FLAMETHROWER_TANK", 65}, {"WEAPON_MORTAR", 80}, {"WEAPON_CANNON", 128},
-        {"WEAPON_MLRS", 144},       {"WEAPON_ARTILLERY", 248},
+        {"WEAPON_NONE", 0},
+        {"WEAPON_RIFLE", 16},
+        {"WEAPON_PISTOL", 17},
+        {"WEAPON_CARBINE", 18},
+        {"WEAPON_SHOTGUN", 19},
+        {"WEAPON_AT_RIFLE", 20},
+        {"WEAPON_BOMB", 21},
+        {"WEAPON_SMG", 24},
+        {"WEAPON_LMG", 25},
+        {"WEAPON_HMG", 26},
+        {"WEAPON_GRENADE", 32},
+        {"WEAPON_GRENADE_LAUNCHER", 34},
+        {"WEAPON_RPG", 49},
+        {"WEAPON_RECOILLESS_RIFLE", 50},
+        {"WEAPON_FLAMETHROWER_PORTABLE", 64},
+        {"WEAPON_FLAMETHROWER_TANK", 65},
+        {"WEAPON_MORTAR", 80},
+        {"WEAPON_CANNON", 128},
+        {"WEAPON_MLRS", 144},
+        {"WEAPON_ARTILLERY", 248},
     };
     std::set<int> values;
     for (const Type& type : types) {
@@ -320,21 +360,25 @@ TEST(FlavourNames, AreTheGames) {
         const char* name;
         int value;
     };
-    for (const Older& older : {Older{"FLAVOUR_AP_HE", 130}, Older{"FLAVOUR_APC_HE", 132}, Older{"FLAVOUR_APCBC_HE", 134},
-                               Older{"FLAVOUR_BALL_AT_RIFLE", 18}, Older{"FLAVOUR_RPG", 81}, Older{"FLAVOUR_NONE", 0},
-                               Older{"FLAVOUR_XYZ", 0}, Older{"", 0}}) {
+    for (const Older& older :
+         {Older{"FLAVOUR_AP_HE", 130}, Older{"FLAVOUR_APC_HE", 132}, Older{"FLAVOUR_APCBC_HE", 134},
+          Older{"FLAVOUR_BALL_AT_RIFLE", 18}, Older{"FLAVOUR_RPG", 81}, Older{"FLAVOUR_NONE", 0},
+          Older{"FLAVOUR_XYZ", 0}, Older{"", 0}}) {
         EXPECT_EQ(static_cast<int>(flavourOf(older.name)), older.value) << older.name;
     }
     struct Shown {
         int value;
         const char* name;
     };
-    for (const Shown& shown : {Shown{1, ""}, Shown{64, ""}, Shown{35, "Molotov cocktail"}, Shown{18, "AP"},
-                               Shown{81, "HEAT"}, Shown{134, "APCBC"}, Shown{193, "Bomb HE"}, Shown{133, "Unknown"}}) {
+    for (const Shown& shown :
+         {Shown{1, ""}, Shown{64, ""}, Shown{35, "Molotov cocktail"}, Shown{18, "AP"}, Shown{81, "HEAT"},
+          Shown{134, "APCBC"}, Shown{193, "Bomb HE"}, Shown{133, "Unknown"}}) {
         EXPECT_EQ(displayNameOf(static_cast<AmmoFlavour>(shown.value)), shown.name) << shown.value;
     }
-    EXPECT_EQ(ammoLine(ammoType("<flavour>FLAVOUR_APC_HE</flavour>")).substr(0, 36), "<type><flavour>FLAVOUR_APC</flavour>");
-    EXPECT_EQ(ammoLine(ammoType("<flavour>?</flavour>")).substr(0, 37), "<type><flavour>FLAVOUR_NONE</flavour>");
+    EXPECT_EQ(ammoLine(ammoType("<flavour>FLAVOUR_APC_HE</flavour>")).substr(0, 36),
+              "<type><flavour>FLAVOUR_APC</flavour>");
+    EXPECT_EQ(ammoLine(ammoType("<flavour>?</flavour>")).substr(0, 37),
+              "<type><flavour>FLAVOUR_NONE</flavour>");
 }
 
 } // namespace varrocade::tests
