@@ -24,6 +24,13 @@ double edgeShare(const Form& form, double distance) {
     return form.edge == Form::Edge::Chamfer ? t : 1.0 - std::sqrt(std::max(0.0, 1.0 - t * t));
 }
 
+std::vector<unsigned char> halfCovered(std::vector<unsigned char> cover) {
+    for (auto& cell : cover) {
+        cell = cell >= 128 ? 1 : 0;
+    }
+    return cover;
+}
+
 double tubeHeight(const Form& form, Vec2 p) {
     const Vec2 axis = form.to - form.from;
     const double span = dot(axis, axis);
@@ -176,11 +183,7 @@ Relief::Mask Relief::rasterise(const Shape& shape, bool distances) const {
         std::copy_n(rows + y * stride, w, mask.cover.begin() + static_cast<std::ptrdiff_t>(y * w));
     }
     if (distances) {
-        std::vector<unsigned char> inside(mask.cover);
-        for (auto& cell : inside) {
-            cell = cell >= 128 ? 1 : 0;
-        }
-        mask.distance = distanceInside(inside, mask.width, mask.height);
+        mask.distance = distanceInside(halfCovered(mask.cover), mask.width, mask.height);
     }
     return mask;
 }

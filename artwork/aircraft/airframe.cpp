@@ -98,6 +98,17 @@ void exhaustStain(Relief& r, Vec2 from, double length, double width) {
     }
 }
 
+void exhaustStubs(Relief& r, double x, double y, double pitch, int count, double stain) {
+    for (const double side : {-1.0, 1.0}) {
+        for (int i = 0; i < count; ++i) {
+            const double at = y + i * pitch;
+            r.add(Shape::capsule({side * (x - 8.0), at}, {side * x, at - 9.0}, 8.0),
+                  flat(112.0).rounded(4.0, 4.0), paints::Rust);
+        }
+        exhaustStain(r, {side * (x - 4.0), y}, stain, 22.0);
+    }
+}
+
 void fin(Relief& r, double x, double front, double rear, double width, double z) {
     const double w = width / 2.0;
     r.add(Shape::smooth({{x, front},

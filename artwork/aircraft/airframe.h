@@ -31,6 +31,9 @@ void canopy(Relief& r, double from, double to, double halfWidth, double z, int f
 void propeller(Relief& r, Vec2 hub, double radius, double spinner);
 /// Paint burnt and smeared behind an exhaust.
 void exhaustStain(Relief& r, Vec2 from, double length, double width);
+/// A row of exhaust stubs along both sides of a nose, and the stain behind them. `x` of their outer ends, `y`
+/// of the rearmost.
+void exhaustStubs(Relief& r, double x, double y, double pitch, int count, double stain);
 /// A fin seen from above.
 void fin(Relief& r, double x, double front, double rear, double width, double z);
 

@@ -27,7 +27,7 @@ void splinter(Relief& r, Rgb colour) {
 }
 
 /// The Stuka's cranked wing: flat inboard, rising outboard. `span` is half the whole.
-void stuka(Relief& r, double span, bool cannon) {
+void stukaWings(Relief& r, double span, bool cannon) {
     // tailplane with its struts
     wingPair(r, {{0, -470}, {30, -455}, {232, -470}, {244, -484}, {236, -540}, {30, -560}, {0, -556}}, 130.0,
              7.0);
@@ -63,6 +63,10 @@ void stuka(Relief& r, double span, bool cannon) {
                    paints::DarkSteel);
         }
     }
+}
+
+void stuka(Relief& r, double span, bool cannon) {
+    stukaWings(r, span, cannon);
     fuselage(r,
              {{-566, 16},
               {-480, 26},
@@ -85,13 +89,7 @@ void stuka(Relief& r, double span, bool cannon) {
             machineGunBarrel(r, 0.0, 58.0, 2.6, 0.0, true);
         }
     }
-    for (const double side : {-1.0, 1.0}) {
-        for (int i = 0; i < 6; ++i) {
-            r.add(Shape::capsule({side * 52.0, 320.0 + i * 22.0}, {side * 60.0, 312.0 + i * 22.0}, 8.0),
-                  flat(110.0).rounded(4.0, 4.0), paints::Rust);
-        }
-        exhaustStain(r, {side * 56.0, 320.0}, 260.0, 22.0);
-    }
+    exhaustStubs(r, 60.0, 320.0, 22.0, 6, 260.0);
     r.add(Shape::roundRect(-22, 330, 22, 470, 10), raise(4.0).rounded(8.0, 4.0));
     splinter(r, hex(0x3C4534));
     for (const double side : {-1.0, 1.0}) {
@@ -152,12 +150,8 @@ void il2(Relief& r) {
         const auto gun = r.place({.y = -58.0, .angle = 172.0, .z = 168.0});
         machineGunBarrel(r, 0.0, 84.0, 3.2, 0.0, true);
     }
+    exhaustStubs(r, 63.0, 300.0, 22.0, 6, 260.0);
     for (const double side : {-1.0, 1.0}) {
-        for (int i = 0; i < 6; ++i) {
-            r.add(Shape::capsule({side * 54.0, 300.0 + i * 22.0}, {side * 63.0, 292.0 + i * 22.0}, 8.0),
-                  flat(112.0).rounded(4.0, 4.0), paints::Rust);
-        }
-        exhaustStain(r, {side * 59.0, 300.0}, 260.0, 22.0);
         redStarMark(r, {side * 540.0, 30.0}, 46.0);
     }
     r.add(Shape::roundRect(-20, 420, 20, 492, 12), raise(5.0).rounded(10.0, 5.0));
@@ -282,13 +276,7 @@ void typhoon(Relief& r) {
     // the chin radiator below the nose
     r.add(Shape::roundRect(-34, 380, 34, 430, 12), raise(-14.0).rounded(10.0, 10.0));
     canopy(r, -10, 134, 37.0, 136.0, 1);
-    for (const double side : {-1.0, 1.0}) {
-        for (int i = 0; i < 6; ++i) {
-            r.add(Shape::capsule({side * 52.0, 270.0 + i * 18.0}, {side * 60.0, 262.0 + i * 18.0}, 7.0),
-                  flat(112.0).rounded(3.5, 3.5), paints::Rust);
-        }
-        exhaustStain(r, {side * 56.0, 270.0}, 240.0, 24.0);
-    }
+    exhaustStubs(r, 60.0, 270.0, 18.0, 6, 240.0);
     propeller(r, {0, 436}, 200.0, 33.0);
 }
 
@@ -344,13 +332,7 @@ void hurricane(Relief& r) {
         r.add(Shape::capsule({x * 0.5, -360}, {x, -60}, 2.0), raise(1.2).rounded(1.0, 1.0));
     }
     canopy(r, -20, 104, 34.0, 126.0, 4);
-    for (const double side : {-1.0, 1.0}) {
-        for (int i = 0; i < 3; ++i) {
-            r.add(Shape::capsule({side * 43.0, 270.0 + i * 34.0}, {side * 51.0, 258.0 + i * 34.0}, 9.0),
-                  flat(108.0).rounded(4.0, 4.0), paints::Rust);
-        }
-        exhaustStain(r, {side * 47.0, 268.0}, 220.0, 22.0);
-    }
+    exhaustStubs(r, 51.0, 270.0, 34.0, 3, 220.0);
     // tropical filter
     r.add(Shape::roundRect(-17, 380, 17, 440, 12), raise(-20.0).rounded(8.0, 8.0));
     propeller(r, {0, 446}, 166.0, 29.0);

@@ -50,6 +50,22 @@ void wheelOf(Relief& r, const Towed& gun) {
     }
 }
 
+void shieldOf(Relief& r, const Towed& gun) {
+    const double back = -gun.shieldFront + gun.shieldLean;
+    r.add(Shape::polygon({{-gun.shieldFront - 3, gun.shieldFoot},
+                          {-gun.shieldFront + 3, gun.shieldFoot},
+                          {back + 3, gun.shieldTop},
+                          {back - 3, gun.shieldTop}}),
+          flat(26.0).rounded(1.2, 1.2));
+    // the bent wing towards the beholder
+    r.add(Shape::polygon({{-gun.shieldFront + 2, gun.shieldFoot + 8},
+                          {-gun.shieldFront + 24, gun.shieldFoot + 12},
+                          {back + 24, gun.shieldTop - 8},
+                          {back + 2, gun.shieldTop - 2}}),
+          flat(24.0).rounded(1.2, 1.2));
+    rivets(r, {{-gun.shieldFront + 7, gun.shieldFoot + 14}, {back + 8, gun.shieldTop - 8}}, 10.0, 1.4);
+}
+
 void towed(Relief& r, const Towed& gun) {
     // trail, spade
     r.add(Shape::polygon({{0, gun.wheel + 4},
@@ -97,19 +113,7 @@ void towed(Relief& r, const Towed& gun) {
         handwheel(r, gun.wheel * 0.24);
     }
     if (gun.shieldTop > 0.0) {
-        const double back = -gun.shieldFront + gun.shieldLean;
-        r.add(Shape::polygon({{-gun.shieldFront - 3, gun.shieldFoot},
-                              {-gun.shieldFront + 3, gun.shieldFoot},
-                              {back + 3, gun.shieldTop},
-                              {back - 3, gun.shieldTop}}),
-              flat(26.0).rounded(1.2, 1.2));
-        // the bent wing towards the beholder
-        r.add(Shape::polygon({{-gun.shieldFront + 2, gun.shieldFoot + 8},
-                              {-gun.shieldFront + 24, gun.shieldFoot + 12},
-                              {back + 24, gun.shieldTop - 8},
-                              {back + 2, gun.shieldTop - 2}}),
-              flat(24.0).rounded(1.2, 1.2));
-        rivets(r, {{-gun.shieldFront + 7, gun.shieldFoot + 14}, {back + 8, gun.shieldTop - 8}}, 10.0, 1.4);
+        shieldOf(r, gun);
     }
     wheelOf(r, gun);
 }

@@ -259,9 +259,7 @@ void headphones(Relief& r) {
     }
 }
 
-} // namespace
-
-void drawHeadgear(Relief& r, const UniformLook& look) {
+void putOn(Relief& r, const UniformLook& look) {
     switch (look.head) {
     case Headgear::FieldCap:
         fieldCap(r, look.headColour);
@@ -315,6 +313,12 @@ void drawHeadgear(Relief& r, const UniformLook& look) {
         japaneseTanker(r, look.headColour);
         break;
     }
+}
+
+} // namespace
+
+void drawHeadgear(Relief& r, const UniformLook& look) {
+    putOn(r, look);
     if ((look.features & Goggles) != 0) {
         goggles(r);
     }

@@ -168,6 +168,17 @@ void gun(Relief& r) {
     bolts(r, {-54, 70}, {54, 70}, 8, 1.8);
 }
 
+/// The heavy anti-aircraft machine gun on its pintle.
+void roofMachineGun(Relief& r) {
+    const auto placed = r.place({.x = 28.0, .y = -44.0, .angle = -4.0, .z = 104.0});
+    r.add(Shape::roundRect(-4.0, -44.0, 4.0, 12.0, 2.0), flat(4.0).rounded(2.0, 2.0), paints::DarkSteel);
+    r.add(Shape::roundRect(4.0, -22.0, 21.0, -6.0, 2.0), flat(3.0).rounded(2.0, 2.0),
+          {.colour = hex(0x4E5034), .gloss = 0.1});
+    machineGunBarrel(r, 12.0, 88.0, 2.4, 3.0, false);
+    machineGunBarrel(r, 12.0, 26.0, 3.4, 3.0, true);
+    r.add(Shape::line({{-3.5, -44}, {-3.5, -50}, {3.5, -50}, {3.5, -44}}, 2.0), flat(3.0), paints::DarkSteel);
+}
+
 void drawTurret(Relief& r) {
     gun(r);
     // cast, rounded everywhere; the bustle holds the radio
@@ -221,17 +232,7 @@ void drawTurret(Relief& r) {
         r.add(Shape::circle({}, 5.5), raise(3.0).rounded(2.0, 1.5));
         r.add(Shape::circle({}, 2.8), raise(-4.0), paints::Dark);
     }
-    {
-        // the heavy anti-aircraft machine gun on its pintle
-        const auto placed = r.place({.x = 28.0, .y = -44.0, .angle = -4.0, .z = 104.0});
-        r.add(Shape::roundRect(-4.0, -44.0, 4.0, 12.0, 2.0), flat(4.0).rounded(2.0, 2.0), paints::DarkSteel);
-        r.add(Shape::roundRect(4.0, -22.0, 21.0, -6.0, 2.0), flat(3.0).rounded(2.0, 2.0),
-              {.colour = hex(0x4E5034), .gloss = 0.1});
-        machineGunBarrel(r, 12.0, 88.0, 2.4, 3.0, false);
-        machineGunBarrel(r, 12.0, 26.0, 3.4, 3.0, true);
-        r.add(Shape::line({{-3.5, -44}, {-3.5, -50}, {3.5, -50}, {3.5, -44}}, 2.0), flat(3.0),
-              paints::DarkSteel);
-    }
+    roofMachineGun(r);
 }
 
 void damageHull(Relief& r) {

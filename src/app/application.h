@@ -1,6 +1,6 @@
 #pragma once
-// The state of the running program: folders, mode, category, the open record, the drawing objects. It stands here
-// and nowhere else.
+// The state of the running program: folders, mode, category, the open record, the drawing objects. It stands
+// here and nowhere else.
 
 #include "app/undo_history.h"
 #include "app/unit_display.h"

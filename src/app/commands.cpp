@@ -72,7 +72,8 @@ void exitProgram() {
 void toggleDestroyed() {
     Application& app = application();
     app.showDestroyed = !app.showDestroyed;
-    CheckMenuItem(app.menu, IDM_SHOW_DESTROYED, MF_BYCOMMAND | (app.showDestroyed ? MF_CHECKED : MF_UNCHECKED));
+    CheckMenuItem(app.menu, IDM_SHOW_DESTROYED,
+                  MF_BYCOMMAND | (app.showDestroyed ? MF_CHECKED : MF_UNCHECKED));
     displayChanged();
     redrawNow();
 }

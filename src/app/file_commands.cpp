@@ -197,12 +197,12 @@ void deleteFile() {
     if (name.empty() || !isRecordOpen() || !mayLeavePositions()) {
         return;
     }
-    const Answer answer =
-        showMessage({.text = app.category == Category::Weapons ? "Are you sure you want to delete this weapon?"
-                                                               : "Are you sure you want to delete this squad?",
-                     .caption = "Delete",
-                     .buttons = MessageButtons::YesNo,
-                     .icon = MessageIcon::Question});
+    const Answer answer = showMessage({.text = app.category == Category::Weapons
+                                                   ? "Are you sure you want to delete this weapon?"
+                                                   : "Are you sure you want to delete this squad?",
+                                       .caption = "Delete",
+                                       .buttons = MessageButtons::YesNo,
+                                       .icon = MessageIcon::Question});
     if (answer != Answer::Yes) {
         return;
     }

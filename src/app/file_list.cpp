@@ -64,14 +64,16 @@ void typeAhead(HWND list, char typed, DWORD time) {
     const std::string wanted = isRepeat ? buffer.substr(0, 1) : buffer;
     const LRESULT current = SendMessageA(list, LB_GETCURSEL, 0, 0);
     const LRESULT start = wanted.size() > 1 && current > 0 ? current - 1 : current;
-    const LRESULT found = SendMessageA(list, LB_FINDSTRING, static_cast<WPARAM>(wanted.size() > 1 && current <= 0 ? -1 : start),
-                                       reinterpret_cast<LPARAM>(wanted.c_str()));
+    const LRESULT found =
+        SendMessageA(list, LB_FINDSTRING, static_cast<WPARAM>(wanted.size() > 1 && current <= 0 ? -1 : start),
+                     reinterpret_cast<LPARAM>(wanted.c_str()));
     if (found >= 0 && found != current) {
         selectIndex(list, found);
     }
 }
 
-LRESULT CALLBACK listProcedure(HWND list, UINT message, WPARAM parameter, LPARAM detail, UINT_PTR, DWORD_PTR) {
+LRESULT CALLBACK listProcedure(HWND list, UINT message, WPARAM parameter, LPARAM detail, UINT_PTR,
+                               DWORD_PTR) {
     constexpr WPARAM firstPrintable = ' ';
     if (message == WM_CHAR && parameter >= firstPrintable) {
         typeAhead(list, static_cast<char>(parameter), static_cast<DWORD>(GetMessageTime()));
@@ -85,9 +87,10 @@ LRESULT CALLBACK listProcedure(HWND list, UINT message, WPARAM parameter, LPARAM
 }
 
 /// Arrow keys in the filter move through the list.
-LRESULT CALLBACK filterProcedure(HWND filter, UINT message, WPARAM parameter, LPARAM detail, UINT_PTR, DWORD_PTR) {
-    const bool isListKey =
-        message == WM_KEYDOWN && (parameter == VK_UP || parameter == VK_DOWN || parameter == VK_PRIOR || parameter == VK_NEXT);
+LRESULT CALLBACK filterProcedure(HWND filter, UINT message, WPARAM parameter, LPARAM detail, UINT_PTR,
+                                 DWORD_PTR) {
+    const bool isListKey = message == WM_KEYDOWN && (parameter == VK_UP || parameter == VK_DOWN ||
+                                                     parameter == VK_PRIOR || parameter == VK_NEXT);
     if (isListKey) {
         return SendMessageA(listWindow(), message, parameter, detail);
     }
@@ -99,13 +102,13 @@ LRESULT CALLBACK filterProcedure(HWND filter, UINT message, WPARAM parameter, LP
 void createFileList(HWND parent) {
     const HINSTANCE instance = application().instance;
     const auto child = [&](DWORD exStyle, const char* className, DWORD style, int id) {
-        return CreateWindowExA(exStyle, className, "", WS_CHILD | WS_VISIBLE | WS_TABSTOP | style, 0, 0, 0, 0, parent,
-                               reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), instance, nullptr);
+        return CreateWindowExA(exStyle, className, "", WS_CHILD | WS_VISIBLE | WS_TABSTOP | style, 0, 0, 0, 0,
+                               parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), instance, nullptr);
     };
     HWND filter = child(WS_EX_CLIENTEDGE, "EDIT", ES_AUTOHSCROLL, IDC_FILTER);
     HWND list = child(WS_EX_CLIENTEDGE, "LISTBOX",
-                      LBS_OWNERDRAWFIXED | LBS_HASSTRINGS | LBS_NOTIFY | LBS_DISABLENOSCROLL | LBS_NOINTEGRALHEIGHT |
-                          WS_VSCROLL,
+                      LBS_OWNERDRAWFIXED | LBS_HASSTRINGS | LBS_NOTIFY | LBS_DISABLENOSCROLL |
+                          LBS_NOINTEGRALHEIGHT | WS_VSCROLL,
                       IDC_FILE_LIST);
     SetWindowSubclass(list, listProcedure, 0, 0);
     SetWindowSubclass(filter, filterProcedure, 0, 0);
@@ -148,9 +151,9 @@ void applyFilter() {
 
 bool selectEntry(const std::string& name) {
     HWND list = listWindow();
-    const LRESULT index =
-        name.empty() ? LB_ERR
-                     : SendMessageA(list, LB_FINDSTRINGEXACT, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(name.c_str()));
+    const LRESULT index = name.empty() ? LB_ERR
+                                       : SendMessageA(list, LB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
+                                                      reinterpret_cast<LPARAM>(name.c_str()));
     SendMessageA(list, LB_SETCURSEL, static_cast<WPARAM>(index), 0);
     return index >= 0;
 }
@@ -192,7 +195,8 @@ void drawListEntry(const DRAWITEMSTRUCT& item) {
     place.left += objects.scaled(gap);
     if (app.category != Category::Weapons) {
         const LONG top = place.top + (height - objects.scaled(flagHeight)) / 2;
-        const RECT flag{place.left, top, place.left + objects.scaled(flagWidth), top + objects.scaled(flagHeight)};
+        const RECT flag{place.left, top, place.left + objects.scaled(flagWidth),
+                        top + objects.scaled(flagHeight)};
         paintFlag(item.hDC, flag, nationalityOfName(name), imageBases(), app.pictures);
         place.left += objects.scaled(flagWidth + gap + 2);
     }

@@ -49,8 +49,9 @@ std::string stringResource(UINT id, int capacity) {
 }
 
 void createButton(HWND parent, const ButtonRow& row) {
-    CreateWindowExA(0, "BUTTON", row.text, WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_PUSHBUTTON, 0, 0, 0, 0, parent,
-                    reinterpret_cast<HMENU>(static_cast<INT_PTR>(row.id)), application().instance, nullptr);
+    CreateWindowExA(0, "BUTTON", row.text, WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_PUSHBUTTON, 0, 0, 0, 0,
+                    parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(row.id)), application().instance,
+                    nullptr);
 }
 
 void move(HWND window, int id, const Place& place) {
@@ -87,8 +88,8 @@ void layOut(HWND window) {
     const int barWidth = GetSystemMetrics(SM_CXVSCROLL);
     details.x = right - details.width - DetailsButtonMargin - MulDiv(barWidth, USER_DEFAULT_SCREEN_DPI, dpi);
     move(window, IDC_EDIT_DETAILS, details);
-    SetWindowPos(GetDlgItem(window, IDC_SHEET_SCROLL), nullptr, client.right - barWidth, 0, barWidth, client.bottom,
-                 SWP_NOZORDER | SWP_NOACTIVATE);
+    SetWindowPos(GetDlgItem(window, IDC_SHEET_SCROLL), nullptr, client.right - barWidth, 0, barWidth,
+                 client.bottom, SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 LRESULT create(HWND window) {
@@ -102,7 +103,8 @@ LRESULT create(HWND window) {
     }
     createButton(window, {IDC_EDIT_DETAILS, "Details..."});
     CreateWindowExA(0, "SCROLLBAR", "", WS_CHILD | SBS_VERT, 0, 0, 0, 0, window,
-                    reinterpret_cast<HMENU>(static_cast<INT_PTR>(IDC_SHEET_SCROLL)), application().instance, nullptr);
+                    reinterpret_cast<HMENU>(static_cast<INT_PTR>(IDC_SHEET_SCROLL)), application().instance,
+                    nullptr);
     setFonts(window);
     updateButtons();
     return 0;
@@ -183,8 +185,8 @@ LRESULT command(HWND window, WPARAM parameter) {
         return 0;
     default:
         // A button that is clicked takes the keyboard with it; the list is where it is wanted.
-        if (runCommand(id) && notification == BN_CLICKED && IsChild(window, GetFocus()) && id <= IDC_WEAPONS &&
-            id >= IDC_VEHICLES) {
+        if (runCommand(id) && notification == BN_CLICKED && IsChild(window, GetFocus()) &&
+            id <= IDC_WEAPONS && id >= IDC_VEHICLES) {
             SetFocus(GetDlgItem(window, IDC_FILE_LIST));
         }
         return 0;
@@ -277,10 +279,11 @@ HWND createMainWindow() {
     const FrameMetrics metrics{.frame = GetSystemMetrics(SM_CXSIZEFRAME),
                                .caption = GetSystemMetrics(SM_CYCAPTION),
                                .menu = GetSystemMetrics(SM_CYMENU)};
-    const Place place = firstWindowPlace(work.right - work.left, work.bottom - work.top, metrics,
-                                         application().drawing.dpi);
-    return CreateWindowExA(0, className.c_str(), title.c_str(), WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, place.x, place.y,
-                           place.width, place.height, nullptr, nullptr, application().instance, nullptr);
+    const Place place =
+        firstWindowPlace(work.right - work.left, work.bottom - work.top, metrics, application().drawing.dpi);
+    return CreateWindowExA(0, className.c_str(), title.c_str(), WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
+                           place.x, place.y, place.width, place.height, nullptr, nullptr,
+                           application().instance, nullptr);
 }
 
 void showOpenRecord() {

@@ -16,8 +16,8 @@ namespace varrocade {
 namespace {
 
 // The steps of the way from the profile to the mod, each of which may have to be created.
-constexpr std::array<std::string_view, 3> ModFolderSteps = {"\\AppData\\Roaming\\Quorlin Games\\", "Varrocade\\",
-                                                            "Mod\\"};
+constexpr std::array<std::string_view, 3> ModFolderSteps = {"\\AppData\\Roaming\\Quorlin Games\\",
+                                                            "Varrocade\\", "Mod\\"};
 constexpr std::string_view ProgramModFolder = "Mod\\";
 
 std::string profileFolder() {
@@ -46,7 +46,8 @@ void showMode() {
     const UINT enabled = app.modMode ? MF_ENABLED : MF_GRAYED;
     CheckMenuItem(app.menu, IDM_MOD_MODE, MF_BYCOMMAND | checked);
     EnableMenuItem(app.menu, IDM_EDIT_MOD, MF_BYCOMMAND | enabled);
-    const std::string title = "Varrocade Data Editor" + (app.modMode ? " - Mod Mode from: " + app.modFolder : "");
+    const std::string title =
+        "Varrocade Data Editor" + (app.modMode ? " - Mod Mode from: " + app.modFolder : "");
     SetWindowTextA(app.window, title.c_str());
     SendMessageA(app.window, RefreshListMessage, 0, 0);
 }
@@ -63,7 +64,8 @@ bool offerNewMod() {
     const Answer answer = showMessage(
         {.text = "This will create a new mod (starting with the default WW2 settings) in the folder:\n\n" +
                  application().modFolder +
-                 "\n\nWhen you next run the game this mod will be used. To return to the orignal game with no mod, "
+                 "\n\nWhen you next run the game this mod will be used. To return to the orignal game with "
+                 "no mod, "
                  "just rename or move this folder",
          .caption = "Create New Mod",
          .buttons = MessageButtons::OkCancel,
@@ -104,7 +106,8 @@ bool createModFolder() {
     for (const std::string_view step : ModFolderSteps) {
         folder += step;
         if (!systemFiles().createFolder(folder)) {
-            showMessage({.text = folder, .caption = "Failed to create directory", .icon = MessageIcon::Error});
+            showMessage(
+                {.text = folder, .caption = "Failed to create directory", .icon = MessageIcon::Error});
             return false;
         }
     }

@@ -39,8 +39,9 @@ void readChoice(HWND window, NameDialog& dialog) {
     if (dialog.kind == NameDialogKind::NewSquad) {
         const LRESULT chosen = SendDlgItemMessageA(window, IDC_NEW_NATIONALITY, CB_GETCURSEL, 0, 0);
         const auto names = nationalityNames();
-        dialog.choice.nationality =
-            chosen >= 0 && static_cast<std::size_t>(chosen) < names.size() ? names[static_cast<std::size_t>(chosen)] : "";
+        dialog.choice.nationality = chosen >= 0 && static_cast<std::size_t>(chosen) < names.size()
+                                        ? names[static_cast<std::size_t>(chosen)]
+                                        : "";
     }
 }
 

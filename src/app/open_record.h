@@ -15,8 +15,8 @@ bool openFile(const std::string& name);
 /// Writes the open record to its file.
 SaveResult saveOpenRecord();
 
-/// Writes the open unit among the backups when it differs from its file, so that changes that were kept in memory
-/// only are not lost when another file is opened.
+/// Writes the open unit among the backups when it differs from its file, so that changes that were kept in
+/// memory only are not lost when another file is opened.
 void keepUnsavedUnit();
 
 /// Notes a change of the open unit that can be undone under this name, and shows it.

@@ -54,11 +54,11 @@ LONG WINAPI endOnCrash(EXCEPTION_POINTERS* exception) {
 }
 
 int runMessageLoop() {
-    const HACCEL accelerators =
-        LoadAcceleratorsA(application().instance, MAKEINTRESOURCEA(IDR_ACCELERATORS));
+    const HACCEL accelerators = LoadAcceleratorsA(application().instance, MAKEINTRESOURCEA(IDR_ACCELERATORS));
     MSG message{};
     while (GetMessageA(&message, nullptr, 0, 0) > 0) {
-        if (TranslateAcceleratorA(application().window, accelerators, &message) == 0 && !isWindowNavigation(message)) {
+        if (TranslateAcceleratorA(application().window, accelerators, &message) == 0 &&
+            !isWindowNavigation(message)) {
             TranslateMessage(&message);
             DispatchMessageA(&message);
         }
@@ -66,8 +66,8 @@ int runMessageLoop() {
     return static_cast<int>(message.wParam);
 }
 
-/// What is released while GDI+ is still running. The mark of the dischargers and the grid stay to the end of the
-/// process.
+/// What is released while GDI+ is still running. The mark of the dischargers and the grid stay to the end of
+/// the process.
 void releaseRecordsAndDrawing() {
     Application& app = application();
     closeRecord();
@@ -75,7 +75,8 @@ void releaseRecordsAndDrawing() {
     app.display = {};
     app.pictures.clear();
     DrawingObjects& drawing = app.drawing;
-    for (GdiObject<HFONT>* font : {&drawing.smallFont, &drawing.normalFont, &drawing.boldFont, &drawing.largeFont}) {
+    for (GdiObject<HFONT>* font :
+         {&drawing.smallFont, &drawing.normalFont, &drawing.boldFont, &drawing.largeFont}) {
         font->reset();
     }
     for (GdiObject<HBRUSH>& brush : drawing.greenBrushes) {
@@ -84,8 +85,9 @@ void releaseRecordsAndDrawing() {
     for (GdiObject<HBRUSH>* brush : {&drawing.beigeBrush, &drawing.whiteBrush, &drawing.highlightBrush}) {
         brush->reset();
     }
-    for (GdiObject<HPEN>* pen : {&drawing.redPen, &drawing.greenPen, &drawing.blackPen, &drawing.paleGreenPen,
-                                 &drawing.yellowPen, &drawing.whitePen, &drawing.bluePen, &drawing.secondGreenPen}) {
+    for (GdiObject<HPEN>* pen :
+         {&drawing.redPen, &drawing.greenPen, &drawing.blackPen, &drawing.paleGreenPen, &drawing.yellowPen,
+          &drawing.whitePen, &drawing.bluePen, &drawing.secondGreenPen}) {
         pen->reset();
     }
     drawing.weaponMark.reset();
@@ -127,7 +129,8 @@ int startApplication(HINSTANCE instance, int showCommand) {
     app.programFolder = currentFolder();
     readOptions();
     const GdiPlusSession gdiPlus;
-    app.drawing = createDrawingObjects(instance, std::string(image_folder::Grid), static_cast<int>(GetDpiForSystem()));
+    app.drawing =
+        createDrawingObjects(instance, std::string(image_folder::Grid), static_cast<int>(GetDpiForSystem()));
     const INITCOMMONCONTROLSEX controls{sizeof(INITCOMMONCONTROLSEX), ICC_STANDARD_CLASSES};
     InitCommonControlsEx(&controls);
     if (createMainWindow() == nullptr) {

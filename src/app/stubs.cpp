@@ -56,7 +56,8 @@ void checkVoiceFiles() {
 }
 
 void reduceImageSizes() {
-    confirmThenAnnounce("Reduce image sizes", "Are you sure you want to reduce the sizes\nof the vehicle's images?");
+    confirmThenAnnounce("Reduce image sizes",
+                        "Are you sure you want to reduce the sizes\nof the vehicle's images?");
 }
 
 void generateThumbnails() {
@@ -65,15 +66,17 @@ void generateThumbnails() {
 }
 
 void generateSpreadsheets() {
-    confirmThenAnnounce("Generate unit spreadsheets",
-                        "This will create the tab separated .csv files:\n\n    Vehicles.csv\n    Infantry.csv\n    AT "
-                        "Guns.csv\n\ncontaining the unit data");
+    confirmThenAnnounce(
+        "Generate unit spreadsheets",
+        "This will create the tab separated .csv files:\n\n    Vehicles.csv\n    Infantry.csv\n    AT "
+        "Guns.csv\n\ncontaining the unit data");
 }
 
 void generatePngUsage() {
-    confirmThenAnnounce("Create PNG usage files",
-                        "This will create a .txt file showing which vehicle PNGs are not being used, and which PNGs are "
-                        "used by which vehicles");
+    confirmThenAnnounce(
+        "Create PNG usage files",
+        "This will create a .txt file showing which vehicle PNGs are not being used, and which PNGs are "
+        "used by which vehicles");
 }
 
 } // namespace varrocade

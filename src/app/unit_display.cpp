@@ -51,7 +51,8 @@ void paintPicture(HDC device, const RECT& area, UnitDisplay& display) {
         display.pictureSize = size;
         const RECT whole{0, 0, size.cx, size.cy};
         if (display.hasDrawing) {
-            paintDrawing(display.picture->device(), whole, display.drawing, app.drawing, application().pictures);
+            paintDrawing(display.picture->device(), whole, display.drawing, app.drawing,
+                         application().pictures);
         } else {
             FillRect(display.picture->device(), &whole, app.drawing.beigeBrush.get());
         }

@@ -17,7 +17,8 @@ int scaled(int length, int dpi) {
 Place firstWindowPlace(int workWidth, int workHeight, const FrameMetrics& metrics, int dpi) {
     const int height = workHeight;
     const int pictureWidth =
-        ((height - (2 * metrics.frame + 8) - metrics.caption - metrics.menu) * PictureAspectWidth) / PictureAspectHeight;
+        ((height - (2 * metrics.frame + 8) - metrics.caption - metrics.menu) * PictureAspectWidth) /
+        PictureAspectHeight;
     const int width = pictureWidth + 2 * (metrics.frame + scaled(BandWidth / 2, dpi));
     return {(workWidth - width) / 2, (workHeight - height) / 2, width, height};
 }

@@ -41,7 +41,8 @@ void followTyping(HWND dialog, ArmourDialog& context) {
         return;
     }
     for (std::size_t i = 0; i < PlateCount; ++i) {
-        port.setText(IDC_PLATES + 3 * static_cast<int>(i) + 2, effectiveText(context.armour.*plateRows()[i].member));
+        port.setText(IDC_PLATES + 3 * static_cast<int>(i) + 2,
+                     effectiveText(context.armour.*plateRows()[i].member));
     }
     InvalidateRect(GetDlgItem(dialog, IDC_ARMOUR_DRAWING), nullptr, TRUE);
 }
@@ -60,10 +61,11 @@ struct Spot {
 class PlatePainter {
 public:
     PlatePainter(HDC device, double thicknessScale, double height)
-        : device_(device), thicknessScale_(thicknessScale), height_(height), brush_(CreateSolidBrush(PlateColour)) {}
+        : device_(device), thicknessScale_(thicknessScale), height_(height),
+          brush_(CreateSolidBrush(PlateColour)) {}
 
-    /// `side` is -1 for a plate that faces left and 1 for one that faces right; `upwards` is 1 for an upper plate
-    /// and -1 for a lower one.
+    /// `side` is -1 for a plate that faces left and 1 for one that faces right; `upwards` is 1 for an upper
+    /// plate and -1 for a lower one.
     void paint(Spot from, const ArmourPlate& plate, int side, int upwards) const {
         const double angle = std::min(std::abs(plate.angle), 80) * std::numbers::pi / 180;
         const double lean = std::tan(angle) * height_ * -side;
@@ -95,9 +97,9 @@ private:
     GdiObject<HBRUSH> brush_;
 };
 
-void paintCut(HDC device, const RECT& area, const char* title, const ArmourRecord& armour, const ArmourPlate& leftUpper,
-              const ArmourPlate& leftLower, const ArmourPlate& rightUpper, const ArmourPlate& rightLower,
-              double thicknessScale) {
+void paintCut(HDC device, const RECT& area, const char* title, const ArmourRecord& armour,
+              const ArmourPlate& leftUpper, const ArmourPlate& leftLower, const ArmourPlate& rightUpper,
+              const ArmourPlate& rightLower, double thicknessScale) {
     const double height = (area.bottom - area.top) * 0.26;
     const double middle = (area.top + area.bottom) / 2.0 + height * 0.3;
     const double inset = (area.right - area.left) * 0.08;
@@ -128,8 +130,8 @@ void drawArmour(const DRAWITEMSTRUCT& item, const ArmourDialog& context) {
     RECT lower = item.rcItem;
     lower.top = upper.bottom;
     const double scale = (item.rcItem.right - item.rcItem.left) * 0.08 / thickest;
-    paintCut(item.hDC, upper, "front (left) to rear", armour, armour.upperFront, armour.lowerFront, armour.upperRear,
-             armour.lowerRear, scale);
+    paintCut(item.hDC, upper, "front (left) to rear", armour, armour.upperFront, armour.lowerFront,
+             armour.upperRear, armour.lowerRear, scale);
     paintCut(item.hDC, lower, "left to right", armour, armour.upperLeft, armour.lowerLeft, armour.upperRight,
              armour.lowerRight, scale);
 }
@@ -178,7 +180,8 @@ INT_PTR CALLBACK armourProcedure(HWND dialog, UINT message, WPARAM parameter, LP
     case WM_INITDIALOG:
         fillDialog(dialog, *context);
         if (context->kind == ComponentKind::FixedWeapon) {
-            DialogPort(dialog).setText(IDC_NOT_STORED, "The armour of a fixed weapon is not stored in the file.");
+            DialogPort(dialog).setText(IDC_NOT_STORED,
+                                       "The armour of a fixed weapon is not stored in the file.");
         }
         return TRUE;
     case WM_DRAWITEM:

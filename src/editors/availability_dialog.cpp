@@ -42,7 +42,8 @@ void beginDragging(HWND timeline, AvailabilityContext& context, int x, int y) {
         return;
     }
     context.dragScale = scaleOf(timeline, context);
-    context.dragged = timelinePointNear(context.points, context.dragScale, x, y, context.drawing.scaled(Reach));
+    context.dragged =
+        timelinePointNear(context.points, context.dragScale, x, y, context.drawing.scaled(Reach));
     if (context.dragged) {
         SetCapture(timeline);
         refreshEntries(context.dialog, *context.list, static_cast<int>(*context.dragged));
@@ -82,7 +83,8 @@ void prepareAvailability(HWND dialog, ListDialog& list) {
     AvailabilityContext& context = contextOf(list);
     context.dialog = dialog;
     context.list = &list;
-    SetWindowSubclass(GetDlgItem(dialog, IDC_TIMELINE), timelineProcedure, 0, reinterpret_cast<DWORD_PTR>(&context));
+    SetWindowSubclass(GetDlgItem(dialog, IDC_TIMELINE), timelineProcedure, 0,
+                      reinterpret_cast<DWORD_PTR>(&context));
 }
 
 void followAvailability(HWND dialog, ListDialog&) {
@@ -114,7 +116,8 @@ INT_PTR CALLBACK availabilityProcedure(HWND dialog, UINT message, WPARAM paramet
 } // namespace
 
 bool editAvailability(HWND owner, EditContext& edit, const DrawingObjects& drawing) {
-    AvailabilityContext context{.drawing = drawing, .points = edit.record.availability, .dragged = {}, .dragScale = {}};
+    AvailabilityContext context{
+        .drawing = drawing, .points = edit.record.availability, .dragged = {}, .dragScale = {}};
     VectorListModel<AvailabilityPoint> model(context.points, availabilityShape());
     ListDialog list{.model = model,
                     .caption = "Availability",

@@ -32,7 +32,8 @@ struct ComponentDialog {
 
 constexpr std::string_view GenericPrefix = "Image-";
 
-constexpr auto HullImages = std::to_array<ImageSource>({{image_folder::Hulls}, {image_folder::Units, GenericPrefix}});
+constexpr auto HullImages =
+    std::to_array<ImageSource>({{image_folder::Hulls}, {image_folder::Units, GenericPrefix}});
 constexpr auto TurretImages =
     std::to_array<ImageSource>({{image_folder::Turrets}, {image_folder::Units, GenericPrefix}});
 constexpr auto DestroyedImages = std::to_array<ImageSource>({{image_folder::Destroyed}});
@@ -42,7 +43,8 @@ void fillDialog(HWND dialog, const ComponentDialog& context) {
     const ComponentRecord& component = context.component();
     const bool hasHullImages =
         component.kind == ComponentKind::Hull || component.kind == ComponentKind::Superstructure;
-    const std::span<const ImageSource> sources = hasHullImages ? std::span<const ImageSource>(HullImages) : TurretImages;
+    const std::span<const ImageSource> sources =
+        hasHullImages ? std::span<const ImageSource>(HullImages) : TurretImages;
     port.setChoices(IDC_VIEW_IMAGE, imageChoices(context.edit.imageBases, sources));
     if (GetDlgItem(dialog, IDC_DESTROYED_IMAGE) != nullptr) {
         port.setChoices(IDC_DESTROYED_IMAGE, imageChoices(context.edit.imageBases, DestroyedImages));

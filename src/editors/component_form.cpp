@@ -73,7 +73,8 @@ void readImages(FormPort& port, Component& component) {
     }
 }
 
-std::optional<ComponentFormError> readFields(FormPort& port, std::span<const Field> fields, Component& component) {
+std::optional<ComponentFormError> readFields(FormPort& port, std::span<const Field> fields,
+                                             Component& component) {
     if (auto error = readForm<Component>(port, fields, component)) {
         return ComponentFormError{error->control, error->message, "Error"};
     }
@@ -112,7 +113,8 @@ std::optional<ComponentFormError> readRotateSpeed(FormPort& port, Component& com
     }
     const auto time = rotateTimeOf(text);
     if (!time) {
-        return ComponentFormError{IDC_ROTATE_SPEED, "The rotate speed must be greater than zero", "Rotate speed"};
+        return ComponentFormError{IDC_ROTATE_SPEED, "The rotate speed must be greater than zero",
+                                  "Rotate speed"};
     }
     component.rotateTime = *time;
     return std::nullopt;

@@ -1,5 +1,6 @@
 #pragma once
-// The fields and checks of the "Hull", "Superstructure", "Turret" and "Fixed Weapon" dialogs, without any window.
+// The fields and checks of the "Hull", "Superstructure", "Turret" and "Fixed Weapon" dialogs, without any
+// window.
 
 #include "editors/form.h"
 
@@ -26,7 +27,8 @@ void enableTraverse(FormPort& port);
 /// Takes the dialog's fields over into the component; an error leaves it as it was.
 std::optional<ComponentFormError> readComponentForm(FormPort& port, ComponentRecord& component);
 
-/// The rotate speed, in degrees a second with one decimal, of a full circle in so many seconds; "0.0" for none.
+/// The rotate speed, in degrees a second with one decimal, of a full circle in so many seconds; "0.0" for
+/// none.
 std::string rotateSpeedText(std::int32_t rotateTime);
 
 /// The seconds of a full circle at a speed; nothing for a speed of 0 or less.

@@ -60,8 +60,8 @@ struct PersonalWeaponsContext {
 };
 
 void fillWeaponChoices(HWND dialog, const PersonalWeaponsContext& context) {
-    DialogPort(dialog).setChoices(IDC_WEAPON_TYPE,
-                                  weaponChoices(context.edit.catalogue, context.edit.record, context.showAll));
+    DialogPort(dialog).setChoices(
+        IDC_WEAPON_TYPE, weaponChoices(context.edit.catalogue, context.edit.record, context.showAll));
 }
 
 void preparePersonalWeapons(HWND dialog, ListDialog& list) {

@@ -40,7 +40,8 @@ std::optional<FormError> readDriveForm(FormPort& port, VehicleRecord& vehicle) {
     if (copy.revolutionLimit < copy.idleRevolutions) {
         return FormError{IDC_RPM_LIMIT, "The revolution limit must not be below the idle revolutions"};
     }
-    const auto mount = std::find(EngineMountNames.begin(), EngineMountNames.end(), port.text(IDC_ENGINE_MOUNT));
+    const auto mount =
+        std::find(EngineMountNames.begin(), EngineMountNames.end(), port.text(IDC_ENGINE_MOUNT));
     if (mount != EngineMountNames.end()) {
         copy.engineMount = static_cast<EngineMount>(mount - EngineMountNames.begin());
     }

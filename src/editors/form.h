@@ -1,6 +1,6 @@
 #pragma once
-// The form engine: a dialog's fields are rows of a table, which fills the controls from a record and reads them
-// back into it. It speaks to the controls through a port, so that forms are tested without windows.
+// The form engine: a dialog's fields are rows of a table, which fills the controls from a record and reads
+// them back into it. It speaks to the controls through a port, so that forms are tested without windows.
 
 #include "data/fixed_string.h"
 
@@ -47,8 +47,8 @@ struct NumberRange {
 /// One field of a form: a control, the member of the record that it shows, and how.
 template <typename Record>
 struct FormField {
-    using Member = std::variant<Text Record::*, LanguageCode Record::*, std::int32_t Record::*, std::uint16_t Record::*,
-                                std::uint8_t Record::*, bool Record::*>;
+    using Member = std::variant<Text Record::*, LanguageCode Record::*, std::int32_t Record::*,
+                                std::uint16_t Record::*, std::uint8_t Record::*, bool Record::*>;
 
     int control;
     std::string_view label; ///< for messages
@@ -96,8 +96,8 @@ void fillForm(FormPort& port, std::span<const FormField<Record>> fields, const R
     }
 }
 
-/// Reads the controls of a form into a record. Fields are read in order; at the first one that cannot be taken the
-/// record is left half read, so callers read into a copy.
+/// Reads the controls of a form into a record. Fields are read in order; at the first one that cannot be
+/// taken the record is left half read, so callers read into a copy.
 template <typename Record>
 std::optional<FormError> readForm(FormPort& port, std::span<const FormField<Record>> fields, Record& record) {
     for (const FormField<Record>& field : fields) {

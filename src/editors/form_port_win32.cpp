@@ -38,7 +38,8 @@ std::string DialogPort::text(int control) {
 void DialogPort::setText(int control, std::string_view text) {
     HWND window = GetDlgItem(dialog_, control);
     const std::string words(text);
-    const bool isPureList = isComboBox(window) && (GetWindowLongA(window, GWL_STYLE) & CBS_DROPDOWNLIST) == CBS_DROPDOWNLIST;
+    const bool isPureList =
+        isComboBox(window) && (GetWindowLongA(window, GWL_STYLE) & CBS_DROPDOWNLIST) == CBS_DROPDOWNLIST;
     if (isPureList) {
         const LRESULT index = SendMessageA(window, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
                                            reinterpret_cast<LPARAM>(words.c_str()));
@@ -84,7 +85,8 @@ void DialogPort::focus(int control) {
 void completeChoice(HWND dialog, int control) {
     HWND box = GetDlgItem(dialog, control);
     const LRESULT chosen = SendMessageA(box, CB_GETCURSEL, 0, 0);
-    const LRESULT length = chosen < 0 ? -1 : SendMessageA(box, CB_GETLBTEXTLEN, static_cast<WPARAM>(chosen), 0);
+    const LRESULT length =
+        chosen < 0 ? -1 : SendMessageA(box, CB_GETLBTEXTLEN, static_cast<WPARAM>(chosen), 0);
     if (length >= 0) {
         std::string text(static_cast<std::size_t>(length) + 1, '\0');
         SendMessageA(box, CB_GETLBTEXT, static_cast<WPARAM>(chosen), reinterpret_cast<LPARAM>(text.data()));
@@ -93,8 +95,8 @@ void completeChoice(HWND dialog, int control) {
 }
 
 INT_PTR runDialog(HWND owner, int dialogTemplate, DLGPROC procedure, void* context) {
-    const INT_PTR result = DialogBoxParamA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(dialogTemplate), owner, procedure,
-                                           reinterpret_cast<LPARAM>(context));
+    const INT_PTR result = DialogBoxParamA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(dialogTemplate), owner,
+                                           procedure, reinterpret_cast<LPARAM>(context));
     return result > 0 ? result : 0;
 }
 

@@ -24,7 +24,8 @@ private:
     HWND dialog_;
 };
 
-/// Puts what was chosen from a drop-down list into its edit part, which it reaches only after the notification.
+/// Puts what was chosen from a drop-down list into its edit part, which it reaches only after the
+/// notification.
 void completeChoice(HWND dialog, int control);
 
 /// Runs a modal dialog whose procedure finds `context` as its user data from WM_INITDIALOG on.

@@ -7,7 +7,8 @@
 
 namespace varrocade {
 
-std::vector<std::string> imageChoices(std::span<const std::string> bases, std::span<const ImageSource> sources) {
+std::vector<std::string> imageChoices(std::span<const std::string> bases,
+                                      std::span<const ImageSource> sources) {
     std::vector<std::string> choices;
     std::set<std::string, std::less<>> seen;
     for (const ImageSource& source : sources) {

@@ -13,8 +13,9 @@ struct ImageSource {
     std::string_view prefix = {};
 };
 
-/// The names, without ".png", of the pictures in `sources` below each of `bases`, as the folders list them, each
-/// name once.
-std::vector<std::string> imageChoices(std::span<const std::string> bases, std::span<const ImageSource> sources);
+/// The names, without ".png", of the pictures in `sources` below each of `bases`, as the folders list them,
+/// each name once.
+std::vector<std::string> imageChoices(std::span<const std::string> bases,
+                                      std::span<const ImageSource> sources);
 
 } // namespace varrocade

@@ -182,7 +182,8 @@ bool takeShownEntry(HWND dialog, ListDialog& list) {
     DialogPort port(dialog);
     if (const auto error = list.model.read(shownIndex(list), port)) {
         port.focus(error->control);
-        showMessage({.text = error->message, .caption = std::string(list.caption), .icon = MessageIcon::Information});
+        showMessage(
+            {.text = error->message, .caption = std::string(list.caption), .icon = MessageIcon::Information});
         return false;
     }
     return true;

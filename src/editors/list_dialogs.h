@@ -1,6 +1,6 @@
 #pragma once
-// The dialogs that edit what a component or a vehicle has several of. Each works on a copy, which OK takes over
-// (true); where the drawing shows the entries, it follows at once.
+// The dialogs that edit what a component or a vehicle has several of. Each works on a copy, which OK takes
+// over (true); where the drawing shows the entries, it follows at once.
 
 #include "editors/edit_context.h"
 

@@ -1,5 +1,6 @@
 #pragma once
-// A list of entries of which the chosen one is shown in a form: crew, exhaust pipes, ammunition and their like.
+// A list of entries of which the chosen one is shown in a form: crew, exhaust pipes, ammunition and their
+// like.
 
 #include "editors/form.h"
 
@@ -53,7 +54,8 @@ struct ListShape {
 template <typename Entry>
 class VectorListModel : public ListModel {
 public:
-    VectorListModel(std::vector<Entry>& entries, const ListShape<Entry>& shape) : entries_(entries), shape_(shape) {}
+    VectorListModel(std::vector<Entry>& entries, const ListShape<Entry>& shape)
+        : entries_(entries), shape_(shape) {}
 
     [[nodiscard]] std::size_t count() const override { return entries_.size(); }
     [[nodiscard]] std::string line(std::size_t index) const override {
@@ -89,7 +91,9 @@ public:
         shape_.mirror(twin);
         entries_.push_back(std::move(twin));
     }
-    void erase(std::size_t index) override { entries_.erase(entries_.begin() + static_cast<std::ptrdiff_t>(index)); }
+    void erase(std::size_t index) override {
+        entries_.erase(entries_.begin() + static_cast<std::ptrdiff_t>(index));
+    }
     void swap(std::size_t index, std::size_t other) override { std::swap(entries_[index], entries_[other]); }
     void enable(FormPort& port, bool enabled) override {
         for (const FormField<Entry>& field : shape_.fields) {

@@ -35,7 +35,8 @@ void computeCurves(FormPort& port, PenetrationDialog& context) {
     }
     const double factor = angleFactor(formAngle(port));
     for (const AmmoTypeRecord& ammo : context.weapon->ammoTypes) {
-        PenetrationCurve curve = penetrationCurve(projectileOf(*context.weapon, ammo), formDrag(port, ammo.flavour));
+        PenetrationCurve curve =
+            penetrationCurve(projectileOf(*context.weapon, ammo), formDrag(port, ammo.flavour));
         for (double& value : curve) {
             value *= factor;
         }
@@ -60,8 +61,8 @@ void chooseWeapon(HWND dialog, PenetrationDialog& context) {
                          ? &entries[static_cast<std::size_t>(chosen)].weapon
                          : nullptr;
     context.shell = 0;
-    DialogPort(dialog).setChoices(IDC_PEN_SHELL,
-                                  context.weapon != nullptr ? shellTypes(*context.weapon) : std::vector<std::string>());
+    DialogPort(dialog).setChoices(IDC_PEN_SHELL, context.weapon != nullptr ? shellTypes(*context.weapon)
+                                                                           : std::vector<std::string>());
     SendDlgItemMessageA(dialog, IDC_PEN_SHELL, CB_SETCURSEL, 0, 0);
     recalculate(dialog, context);
 }
@@ -104,7 +105,8 @@ void drawCurve(HDC device, const RECT& area, int margin, const PenetrationCurve&
     std::vector<POINT> points;
     for (int x = curveX(area, margin, 0); x <= curveX(area, margin, CurveEnd); ++x) {
         const int range = std::clamp(
-            MulDiv(x - area.left - margin, CurveEnd, std::max<int>(1, area.right - area.left - 2 * margin)), 0, CurveEnd);
+            MulDiv(x - area.left - margin, CurveEnd, std::max<int>(1, area.right - area.left - 2 * margin)),
+            0, CurveEnd);
         const double share = curve[static_cast<std::size_t>(range)] / greatest;
         points.push_back({x, area.bottom - margin - static_cast<LONG>(std::lround(share * height))});
     }
@@ -144,13 +146,15 @@ void drawCurves(const DRAWITEMSTRUCT& item, const PenetrationDialog& context) {
 }
 
 /// The mouse reads the chosen curve.
-LRESULT CALLBACK curvesProcedure(HWND curves, UINT message, WPARAM parameter, LPARAM detail, UINT_PTR, DWORD_PTR data) {
+LRESULT CALLBACK curvesProcedure(HWND curves, UINT message, WPARAM parameter, LPARAM detail, UINT_PTR,
+                                 DWORD_PTR data) {
     if (message == WM_MOUSEMOVE) {
         auto& context = *reinterpret_cast<PenetrationDialog*>(data);
         RECT area{};
         GetClientRect(curves, &area);
         const int margin = context.drawing.scaled(CurveMargin);
-        const int range = MulDiv(GET_X_LPARAM(detail) - margin, CurveEnd, std::max<int>(1, area.right - 2 * margin));
+        const int range =
+            MulDiv(GET_X_LPARAM(detail) - margin, CurveEnd, std::max<int>(1, area.right - 2 * margin));
         context.pointedRange = range >= 0 && range <= CurveEnd ? range : -1;
         InvalidateRect(curves, nullptr, FALSE);
         return 0;
@@ -189,7 +193,8 @@ void fillDialog(HWND dialog, PenetrationDialog& context) {
     const auto first = std::find(weapons.begin(), weapons.end(), FirstPenetrationWeapon);
     const auto index = first == weapons.end() ? 0 : first - weapons.begin();
     SendDlgItemMessageA(dialog, IDC_PEN_WEAPON, CB_SETCURSEL, static_cast<WPARAM>(index), 0);
-    SetWindowSubclass(GetDlgItem(dialog, IDC_CURVES), curvesProcedure, 0, reinterpret_cast<DWORD_PTR>(&context));
+    SetWindowSubclass(GetDlgItem(dialog, IDC_CURVES), curvesProcedure, 0,
+                      reinterpret_cast<DWORD_PTR>(&context));
     chooseWeapon(dialog, context);
 }
 

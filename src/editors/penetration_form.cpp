@@ -97,10 +97,12 @@ void showPenetration(FormPort& port, const WeaponRecord* weapon, std::size_t she
 }
 
 std::string penetrationTable(FormPort& port, const WeaponRecord& weapon, std::size_t shell) {
-    std::string table = weapon.name + "\t" + shellTypes(weapon)[shell] + "\t" + port.text(IDC_PEN_ANGLE) + " degrees\r\n";
+    std::string table =
+        weapon.name + "\t" + shellTypes(weapon)[shell] + "\t" + port.text(IDC_PEN_ANGLE) + " degrees\r\n";
     table += "Range\tPenetration\tVelocity\r\n";
     for (std::size_t row = 0; row < PenetrationRanges.size(); ++row) {
-        table += grouped(PenetrationRanges[row]) + " m\t" + port.text(IDC_PENETRATION_ROWS + static_cast<int>(row)) + "\t" +
+        table += grouped(PenetrationRanges[row]) + " m\t" +
+                 port.text(IDC_PENETRATION_ROWS + static_cast<int>(row)) + "\t" +
                  port.text(IDC_VELOCITY_ROWS + static_cast<int>(row)) + "\r\n";
     }
     return table;

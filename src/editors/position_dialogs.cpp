@@ -9,7 +9,8 @@ namespace varrocade {
 
 namespace {
 
-/// The drawing shows the record, so the entries stand in it while they are edited; Cancel puts the former back.
+/// The drawing shows the record, so the entries stand in it while they are edited; Cancel puts the former
+/// back.
 template <typename Entry>
 bool editInPlace(HWND owner, EditContext& edit, std::vector<Entry>& entries, const ListShape<Entry>& shape,
                  std::string_view caption, int dialogTemplate, DLGPROC procedure) {

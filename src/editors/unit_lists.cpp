@@ -32,7 +32,8 @@ constexpr auto ExhaustFields = std::to_array<FormField<ExhaustPipeRecord>>({
 });
 
 std::string exhaustLine(std::size_t place, const ExhaustPipeRecord& pipe) {
-    return numbered(place, offsetText(pipe.offsetX, pipe.offsetY) + ", " + std::to_string(pipe.angle) + " degrees");
+    return numbered(place,
+                    offsetText(pipe.offsetX, pipe.offsetY) + ", " + std::to_string(pipe.angle) + " degrees");
 }
 
 void mirrorExhaust(ExhaustPipeRecord& pipe) {
@@ -132,7 +133,8 @@ constexpr auto AmmunitionFields = std::to_array<FormField<AmmoLoadRecord>>({
 });
 
 std::string ammunitionLine(std::size_t place, const AmmoLoadRecord& ammo) {
-    std::string text = grouped(ammo.rounds) + " for " + (ammo.weaponType.empty() ? "(no weapon)" : weaponWord(ammo.weaponType));
+    std::string text = grouped(ammo.rounds) + " for " +
+                       (ammo.weaponType.empty() ? "(no weapon)" : weaponWord(ammo.weaponType));
     if (!ammo.flavour.empty()) {
         text += ", " + flavourWord(ammo.flavour);
     }
@@ -149,7 +151,8 @@ constexpr auto AvailabilityFields = std::to_array<FormField<AvailabilityPoint>>(
 
 std::string availabilityLine(std::size_t, const AvailabilityPoint& point) {
     const std::string month = std::to_string(point.month);
-    return std::to_string(point.year) + "-" + (month.size() < 2 ? "0" : "") + month + ":  " + grouped(point.number);
+    return std::to_string(point.year) + "-" + (month.size() < 2 ? "0" : "") + month + ":  " +
+           grouped(point.number);
 }
 
 } // namespace
@@ -170,7 +173,8 @@ const ListShape<SmokeDischargerRecord>& smokeDischargerShape() {
 }
 
 const ListShape<CrewManRecord>& crewShape() {
-    static const ListShape<CrewManRecord> shape{.fields = CrewFields, .line = crewLine, .most = MaxSquadMembers};
+    static const ListShape<CrewManRecord> shape{
+        .fields = CrewFields, .line = crewLine, .most = MaxSquadMembers};
     return shape;
 }
 
@@ -207,9 +211,10 @@ void enableDischarger(FormPort& port) {
 }
 
 void sortByDate(std::vector<AvailabilityPoint>& points) {
-    std::stable_sort(points.begin(), points.end(), [](const AvailabilityPoint& a, const AvailabilityPoint& b) {
-        return std::tie(a.year, a.month) < std::tie(b.year, b.month);
-    });
+    std::stable_sort(points.begin(), points.end(),
+                     [](const AvailabilityPoint& a, const AvailabilityPoint& b) {
+                         return std::tie(a.year, a.month) < std::tie(b.year, b.month);
+                     });
 }
 
 } // namespace varrocade

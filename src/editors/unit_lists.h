@@ -1,6 +1,6 @@
 #pragma once
-// How the lists inside a unit are shown and edited: exhaust pipes, smoke dischargers, crew, weapons, ammunition,
-// availability. Without any window.
+// How the lists inside a unit are shown and edited: exhaust pipes, smoke dischargers, crew, weapons,
+// ammunition, availability. Without any window.
 
 #include "editors/list_model.h"
 

@@ -42,7 +42,8 @@ void showImage(FormPort& port, const ImageField& field, const SquadRecord& recor
     port.setText(field.control, name.empty() ? DefaultImageName : name.view());
 }
 
-/// "Default" is the empty name; a record that already says "Default" keeps it, so that nothing changes unasked.
+/// "Default" is the empty name; a record that already says "Default" keeps it, so that nothing changes
+/// unasked.
 void readImage(FormPort& port, const ImageField& field, SquadRecord& record) {
     const std::string chosen = port.text(field.control);
     Text& name = record.*field.member;
@@ -66,7 +67,8 @@ void fillVehicleForm(FormPort& port, const SquadRecord& record) {
     fillForm<VehicleRecord>(port, VehicleFields, vehicle);
     port.setText(IDC_LANGUAGE, record.language.empty() ? DefaultImageName : record.language.view());
     port.setLimit(IDC_PROFILE_IMAGE, Text::MaxLength);
-    port.setText(IDC_PROFILE_IMAGE, vehicle.profileImage.empty() ? DefaultImageName : vehicle.profileImage.view());
+    port.setText(IDC_PROFILE_IMAGE,
+                 vehicle.profileImage.empty() ? DefaultImageName : vehicle.profileImage.view());
     for (const ImageField& field : NewMethodImages) {
         showImage(port, field, record);
     }

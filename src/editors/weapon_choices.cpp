@@ -23,9 +23,9 @@ std::string_view periodOf(const SquadRecord& record) {
     if (record.availability.empty()) {
         return {};
     }
-    const auto first =
-        std::min_element(record.availability.begin(), record.availability.end(),
-                         [](const AvailabilityPoint& a, const AvailabilityPoint& b) { return a.year < b.year; });
+    const auto first = std::min_element(
+        record.availability.begin(), record.availability.end(),
+        [](const AvailabilityPoint& a, const AvailabilityPoint& b) { return a.year < b.year; });
     for (const Era& era : Eras) {
         if (first->year <= era.lastYear) {
             return era.period;
@@ -34,7 +34,8 @@ std::string_view periodOf(const SquadRecord& record) {
     return LastEra;
 }
 
-std::vector<std::string> weaponChoices(const WeaponCatalogue& catalogue, const SquadRecord& record, bool all) {
+std::vector<std::string> weaponChoices(const WeaponCatalogue& catalogue, const SquadRecord& record,
+                                       bool all) {
     WeaponFilter filter;
     if (!all) {
         filter.nationality = record.nationality;

@@ -57,7 +57,8 @@ std::string modSettingsText(const ModSettings& settings) {
 
 ModSettings loadModSettings(const std::string& modFolder) {
     std::string content;
-    return readWholeFile(modFolder + std::string(ModFileName), content) ? readModSettings(content) : ModSettings{};
+    return readWholeFile(modFolder + std::string(ModFileName), content) ? readModSettings(content)
+                                                                        : ModSettings{};
 }
 
 std::optional<FileFailure> saveModSettings(FileOperations& files, const std::string& modFolder,

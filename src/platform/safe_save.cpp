@@ -53,12 +53,13 @@ std::string withoutEndingBackslash(std::string_view path) {
 }
 
 /// Where the backup of `path` goes: its path below the base folder, with a mark and the time in its name.
-std::string backupPath(FileOperations& files, const std::string& base, std::string_view path, std::string_view mark) {
+std::string backupPath(FileOperations& files, const std::string& base, std::string_view path,
+                       std::string_view mark) {
     const std::string_view below = path.starts_with(base) ? path.substr(base.size()) : path;
     const std::size_t name = below.rfind('\\') + 1;
     const std::size_t dot = below.find('.', name);
-    const std::string stem = base + std::string(BackupFolder) + std::string(below.substr(0, dot)) + std::string(mark) +
-                             " " + timeStamp();
+    const std::string stem = base + std::string(BackupFolder) + std::string(below.substr(0, dot)) +
+                             std::string(mark) + " " + timeStamp();
     const std::string ending(dot == std::string_view::npos ? std::string_view() : below.substr(dot));
     std::string backup = stem + ending;
     for (int attempt = 2; files.exists(backup) && attempt < MaxNameAttempts; ++attempt) {
@@ -67,8 +68,9 @@ std::string backupPath(FileOperations& files, const std::string& base, std::stri
     return backup;
 }
 
-std::optional<FileFailure> writeBackup(FileOperations& files, const std::string& base, const std::string& path,
-                                       std::string_view mark, std::string_view content) {
+std::optional<FileFailure> writeBackup(FileOperations& files, const std::string& base,
+                                       const std::string& path, std::string_view mark,
+                                       std::string_view content) {
     const std::string backup = backupPath(files, base, path, mark);
     if (auto failure = createFolders(files, backup.substr(0, backup.rfind('\\') + 1))) {
         return failure;

@@ -1,6 +1,6 @@
 #pragma once
-// The numbers of the program's resources and controls. Macros, since the resource compiler reads this file too.
-// NOLINTBEGIN(cppcoreguidelines-macro-usage)
+// The numbers of the program's resources and controls. Macros, since the resource compiler reads this file
+// too. NOLINTBEGIN(cppcoreguidelines-macro-usage)
 
 #define IDS_TITLE 103
 #define IDS_WINDOW_CLASS 109

@@ -23,7 +23,8 @@ std::string degrees(std::int32_t value) {
 }
 
 std::string plateText(const ArmourPlate& plate) {
-    return plate.angle == 0 ? std::to_string(plate.thickness) : std::to_string(plate.thickness) + " @ " + degrees(plate.angle);
+    return plate.angle == 0 ? std::to_string(plate.thickness)
+                            : std::to_string(plate.thickness) + " @ " + degrees(plate.angle);
 }
 
 std::string optionalThickness(std::int32_t value) {
@@ -74,8 +75,8 @@ SheetSection driveSection(const VehicleRecord& vehicle) {
 SheetSection armourSection(const VehicleRecord& vehicle) {
     SheetSection section{.heading = {"Armour (mm @ angle from the vertical)"}};
     SheetTable table;
-    table.rows.push_back({"", "Upper front", "Lower front", "Upper side", "Lower side", "Upper rear", "Lower rear",
-                          "Top", "Bottom", "Mantlet"});
+    table.rows.push_back({"", "Upper front", "Lower front", "Upper side", "Lower side", "Upper rear",
+                          "Lower rear", "Top", "Bottom", "Mantlet"});
     const auto sides = [](const ArmourPlate& left, const ArmourPlate& right) {
         return left == right ? plateText(left) : plateText(left) + " / " + plateText(right);
     };
@@ -88,19 +89,22 @@ SheetSection armourSection(const VehicleRecord& vehicle) {
         const ArmourRecord& armour = component.armour;
         table.rows.push_back({std::to_string(i + 1) + ". " + std::string(kindName(component.kind)),
                               plateText(armour.upperFront), plateText(armour.lowerFront),
-                              sides(armour.upperLeft, armour.upperRight), sides(armour.lowerLeft, armour.lowerRight),
-                              plateText(armour.upperRear), plateText(armour.lowerRear), std::to_string(armour.top),
+                              sides(armour.upperLeft, armour.upperRight),
+                              sides(armour.lowerLeft, armour.lowerRight), plateText(armour.upperRear),
+                              plateText(armour.lowerRear), std::to_string(armour.top),
                               optionalThickness(armour.bottom), optionalThickness(armour.mantlet)});
         const std::array<std::pair<std::string_view, std::int32_t>, 3> spaced = {
             {{"front", armour.frontSpaced}, {"side", armour.sideSpaced}, {"rear", armour.rearSpaced}}};
         std::string text;
         for (const auto& [where, thickness] : spaced) {
             if (thickness > 0) {
-                text += (text.empty() ? "" : ", ") + std::string(where) + " " + std::to_string(thickness) + " mm";
+                text +=
+                    (text.empty() ? "" : ", ") + std::string(where) + " " + std::to_string(thickness) + " mm";
             }
         }
         if (!text.empty()) {
-            section.notes.push_back({std::string(kindName(component.kind)) + ", spaced armour: " + text + "."});
+            section.notes.push_back(
+                {std::string(kindName(component.kind)) + ", spaced armour: " + text + "."});
         }
     }
     section.tables.push_back(std::move(table));
@@ -126,16 +130,18 @@ SheetSection weaponsSection(const VehicleRecord& vehicle) {
         const ComponentRecord& component = vehicle.components[i];
         std::string place = std::to_string(i + 1) + ". " + std::string(kindName(component.kind));
         for (const WeaponMountRecord& weapon : component.weapons) {
-            table.rows.push_back({place, weaponWord(weapon.type), ammoFor(component.ammo, weapon.type),
-                                  traverseText(component),
-                                  component.rotateTime > 0 ? std::to_string(component.rotateTime) + " s" : "-"});
+            table.rows.push_back(
+                {place, weaponWord(weapon.type), ammoFor(component.ammo, weapon.type),
+                 traverseText(component),
+                 component.rotateTime > 0 ? std::to_string(component.rotateTime) + " s" : "-"});
             place.clear();
         }
     }
     for (const ComponentRecord& component : vehicle.components) {
         if (!component.smokeDischargers.empty()) {
             section.notes.push_back({std::string(kindName(component.kind)) + ": " +
-                                     std::to_string(component.smokeDischargers.size()) + " smoke dischargers."});
+                                     std::to_string(component.smokeDischargers.size()) +
+                                     " smoke dischargers."});
         }
     }
     if (table.rows.size() > 1) {
@@ -172,7 +178,9 @@ SheetSection crewSection(const VehicleRecord& vehicle) {
 
 SheetSection uniformSection(const SquadRecord& record) {
     SheetSection section{.heading = {"Crew uniforms"}};
-    const auto imageText = [](const Text& name) { return name.empty() ? std::string("Default") : name.str(); };
+    const auto imageText = [](const Text& name) {
+        return name.empty() ? std::string("Default") : name.str();
+    };
     if (record.namedUniform) {
         section.pairs.push_back({"Uniform", imageText(record.uniformName)});
     } else {

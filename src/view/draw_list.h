@@ -94,8 +94,8 @@ struct DrawOptions {
     bool showDestroyed = false;
 };
 
-/// The drawing of a vehicle. All its pictures are drawn at one scale, the one at which the hull's picture is as
-/// long as the hull.
+/// The drawing of a vehicle. All its pictures are drawn at one scale, the one at which the hull's picture is
+/// as long as the hull.
 DrawList drawVehicle(const VehicleRecord& vehicle, const DrawOptions& options, PictureSizes& sizes);
 
 /// The drawing of a heavy weapon: its base and the gun on it.
@@ -104,8 +104,8 @@ DrawList drawHeavyWeapon(const HeavyWeaponRecord& weapon, const DrawOptions& opt
 /// The drawing of an aircraft with its rotors.
 DrawList drawAircraft(const AircraftRecord& aircraft, const DrawOptions& options, PictureSizes& sizes);
 
-/// Where the drawing of `list` goes in an area of the screen: a scale at which a metre is a whole number of pixels,
-/// and the pixel of the point (0, 0).
+/// Where the drawing of `list` goes in an area of the screen: a scale at which a metre is a whole number of
+/// pixels, and the pixel of the point (0, 0).
 struct Fit {
     int pixelsPerMetre = 100;
     int originX = 0;

@@ -35,7 +35,8 @@ public:
         }
         list_.missingPictures.push_back(below);
         const double size = width > 0 ? width : UnknownSize;
-        place(PlaceholderItem{"Missing: " + std::string(name) + std::string(ImageEnding), centre, size, size, 0, false});
+        place(PlaceholderItem{"Missing: " + std::string(name) + std::string(ImageEnding), centre, size, size,
+                              0, false});
     }
 
     DrawList take() { return std::move(list_); }
@@ -68,8 +69,8 @@ DrawList drawAircraft(const AircraftRecord& aircraft, const DrawOptions& options
     PictureStack stack(options, sizes);
     stack.add(aircraft.image, {}, AirScale);
     for (const RotorBladesRecord& rotor : aircraft.rotorBlades) {
-        stack.add(rotor.image, {static_cast<double>(rotor.offsetX), static_cast<double>(rotor.offsetY)}, AirScale,
-                  rotor.diameter);
+        stack.add(rotor.image, {static_cast<double>(rotor.offsetX), static_cast<double>(rotor.offsetY)},
+                  AirScale, rotor.diameter);
     }
     return stack.take();
 }

@@ -153,19 +153,22 @@ private:
             const double width = picture->size.width * centimetresPerPixel_;
             const double height = picture->size.height * centimetresPerPixel_;
             add(PictureItem{picture->path, pivot, width, height, angle});
-            // The barrel needs the front half only; the rear half is empty, there to put the pivot in the middle.
+            // The barrel needs the front half only; the rear half is empty, there to put the pivot in the
+            // middle.
             const Point front{pivot.x + std::sin(radians(angle)) * height / 4,
                               pivot.y + std::cos(radians(angle)) * height / 4};
             cover(front, width, height / 2, angle);
             return;
         }
-        // A fixed weapon without a picture of its own is a part of the hull's; a short line shows its direction.
+        // A fixed weapon without a picture of its own is a part of the hull's; a short line shows its
+        // direction.
         const double size = isTurret ? sizeOr(component.diameter) : UnknownSize * BarrelShare;
         if (isTurret || !component.viewImage.empty()) {
-            add(PlaceholderItem{labelOf(component, isTurret ? "Turret" : "Fixed Weapon"), pivot, size, size, angle,
-                                true});
+            add(PlaceholderItem{labelOf(component, isTurret ? "Turret" : "Fixed Weapon"), pivot, size, size,
+                                angle, true});
         }
-        const Point muzzle{pivot.x + std::sin(radians(angle)) * size, pivot.y + std::cos(radians(angle)) * size};
+        const Point muzzle{pivot.x + std::sin(radians(angle)) * size,
+                           pivot.y + std::cos(radians(angle)) * size};
         add(LineItem{pivot, muzzle, Ink::Blue});
         cover(pivot, size, size, angle);
     }
@@ -197,8 +200,9 @@ private:
     static double sizeOr(std::int32_t size) { return size > 0 ? size : UnknownSize; }
 
     static std::string labelOf(const ComponentRecord& component, std::string_view kind) {
-        return component.viewImage.empty() ? std::string(kind) + ": no picture"
-                                           : "Missing: " + component.viewImage.str() + std::string(ImageEnding);
+        return component.viewImage.empty()
+                   ? std::string(kind) + ": no picture"
+                   : "Missing: " + component.viewImage.str() + std::string(ImageEnding);
     }
 
     void add(DrawItem item) { list_.items.push_back(std::move(item)); }
@@ -213,7 +217,8 @@ private:
             list_.least = list_.greatest = centre;
             isFirst_ = false;
         }
-        list_.least = {std::min(list_.least.x, centre.x - halfWidth), std::min(list_.least.y, centre.y - halfHeight)};
+        list_.least = {std::min(list_.least.x, centre.x - halfWidth),
+                       std::min(list_.least.y, centre.y - halfHeight)};
         list_.greatest = {std::max(list_.greatest.x, centre.x + halfWidth),
                           std::max(list_.greatest.y, centre.y + halfHeight)};
     }
@@ -243,8 +248,10 @@ Fit fitInto(const DrawList& list, int width, int height, int margin) {
     const double scale = std::min(freeX / extentX, freeY / extentY) * 100;
     Fit fit;
     fit.pixelsPerMetre = std::clamp(static_cast<int>(scale), leastScale, greatestScale);
-    fit.originX = static_cast<int>(std::lround(width / 2.0 - fit.length((list.least.x + list.greatest.x) / 2)));
-    fit.originY = static_cast<int>(std::lround(height / 2.0 + fit.length((list.least.y + list.greatest.y) / 2)));
+    fit.originX =
+        static_cast<int>(std::lround(width / 2.0 - fit.length((list.least.x + list.greatest.x) / 2)));
+    fit.originY =
+        static_cast<int>(std::lround(height / 2.0 + fit.length((list.least.y + list.greatest.y) / 2)));
     return fit;
 }
 

@@ -15,9 +15,9 @@ constexpr COLORREF paletteColour(COLORREF colour) {
 }
 
 GdiObject<HFONT> font(int height, int weight, int dpi) {
-    return GdiObject<HFONT>(CreateFontA(MulDiv(height, dpi, USER_DEFAULT_SCREEN_DPI), 0, 0, 0, weight, FALSE, FALSE,
-                                        FALSE, ANSI_CHARSET, OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY,
-                                        VARIABLE_PITCH | FF_DONTCARE, "Arial"));
+    return GdiObject<HFONT>(CreateFontA(MulDiv(height, dpi, USER_DEFAULT_SCREEN_DPI), 0, 0, 0, weight, FALSE,
+                                        FALSE, FALSE, ANSI_CHARSET, OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS,
+                                        DEFAULT_QUALITY, VARIABLE_PITCH | FF_DONTCARE, "Arial"));
 }
 
 GdiObject<HBRUSH> brush(COLORREF colour) {

@@ -84,7 +84,8 @@ struct DrawingObjects {
     [[nodiscard]] int scaled(int length) const { return MulDiv(length, dpi, 96); }
 };
 
-/// Creates everything, in the order of the members, for a screen of `dpi`. `gridPath` is the ground's picture.
+/// Creates everything, in the order of the members, for a screen of `dpi`. `gridPath` is the ground's
+/// picture.
 DrawingObjects createDrawingObjects(HINSTANCE instance, const std::string& gridPath, int dpi);
 
 /// The fonts again for another screen.

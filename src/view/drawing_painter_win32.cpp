@@ -35,7 +35,8 @@ HPEN penOf(const DrawingObjects& objects, Ink ink) {
 /// One drawing on one device. Pictures go through GDI+, text and lines through GDI.
 class DrawingPainter {
 public:
-    DrawingPainter(HDC device, const RECT& area, const Fit& fit, const DrawingObjects& objects, PictureCache& pictures)
+    DrawingPainter(HDC device, const RECT& area, const Fit& fit, const DrawingObjects& objects,
+                   PictureCache& pictures)
         : device_(device), area_(area), fit_(fit), objects_(objects), pictures_(pictures) {}
 
     void paintGround() const {
@@ -67,7 +68,8 @@ public:
     void operator()(const PictureItem& item) const {
         Gdiplus::Bitmap* bitmap = pictures_.picture(item.path);
         if (bitmap == nullptr) {
-            (*this)(PlaceholderItem{"Unreadable: " + item.path, item.centre, item.width, item.height, item.angle, false});
+            (*this)(PlaceholderItem{"Unreadable: " + item.path, item.centre, item.width, item.height,
+                                    item.angle, false});
             return;
         }
         Gdiplus::Graphics graphics(device_);
@@ -91,9 +93,11 @@ public:
         const int centreX = rounded(x(item.centre));
         const int centreY = rounded(y(item.centre));
         if (item.isRound) {
-            Ellipse(device_, centreX - halfWidth, centreY - halfHeight, centreX + halfWidth, centreY + halfHeight);
+            Ellipse(device_, centreX - halfWidth, centreY - halfHeight, centreX + halfWidth,
+                    centreY + halfHeight);
         } else {
-            Rectangle(device_, centreX - halfWidth, centreY - halfHeight, centreX + halfWidth, centreY + halfHeight);
+            Rectangle(device_, centreX - halfWidth, centreY - halfHeight, centreX + halfWidth,
+                      centreY + halfHeight);
         }
         text(item.label, centreX, centreY);
     }
@@ -115,7 +119,8 @@ public:
     void operator()(const MarkItem& item) const {
         const bool isExhaust = item.shape == MarkItem::Shape::Exhaust;
         const Selection pen(device_, isExhaust ? objects_.redPen.get() : objects_.yellowPen.get());
-        const Selection brush(device_, isExhaust ? GetStockObject(BLACK_BRUSH) : GetStockObject(DKGRAY_BRUSH));
+        const Selection brush(device_,
+                              isExhaust ? GetStockObject(BLACK_BRUSH) : GetStockObject(DKGRAY_BRUSH));
         constexpr int radius = 4;
         constexpr int arrowLength = 18;
         constexpr int barbLength = 6;
@@ -185,7 +190,8 @@ private:
 } // namespace
 
 MemoryBitmap::MemoryBitmap(HDC screen, int width, int height)
-    : device_(CreateCompatibleDC(screen)), bitmap_(CreateCompatibleBitmap(screen, std::max(1, width), std::max(1, height))),
+    : device_(CreateCompatibleDC(screen)),
+      bitmap_(CreateCompatibleBitmap(screen, std::max(1, width), std::max(1, height))),
       former_(SelectObject(device_, bitmap_)) {}
 
 MemoryBitmap::~MemoryBitmap() {
@@ -196,7 +202,8 @@ MemoryBitmap::~MemoryBitmap() {
 
 void paintDrawing(HDC device, const RECT& area, const DrawList& list, const DrawingObjects& objects,
                   PictureCache& pictures) {
-    const Fit fit = fitInto(list, area.right - area.left, area.bottom - area.top, objects.scaled(PaintMargin));
+    const Fit fit =
+        fitInto(list, area.right - area.left, area.bottom - area.top, objects.scaled(PaintMargin));
     const int saved = SaveDC(device);
     IntersectClipRect(device, area.left, area.top, area.right, area.bottom);
     const DrawingPainter painter(device, area, fit, objects, pictures);

@@ -29,8 +29,9 @@ SheetTable armamentTable(std::span<const WeaponMountRecord> weapons, std::span<c
     table.rows.push_back({"Weapon", "Ammunition", "Place"});
     for (const WeaponMountRecord& weapon : weapons) {
         const bool hasPlace = weapon.offsetX != 0 || weapon.offsetY != 0;
-        table.rows.push_back({weaponWord(weapon.type), ammoFor(ammo, weapon.type),
-                              hasPlace ? std::to_string(weapon.offsetX) + ", " + std::to_string(weapon.offsetY) : "-"});
+        table.rows.push_back(
+            {weaponWord(weapon.type), ammoFor(ammo, weapon.type),
+             hasPlace ? std::to_string(weapon.offsetX) + ", " + std::to_string(weapon.offsetY) : "-"});
     }
     return table;
 }
@@ -59,10 +60,9 @@ SheetSection heavyWeaponSection(const HeavyWeaponRecord& heavy) {
     constexpr std::array<std::string_view, 4> kinds = {"Mortar", "Heavy machine gun", "Anti-tank gun",
                                                        "Recoilless rifle"};
     SheetSection section{.heading = {std::string(kinds[static_cast<std::size_t>(heavy.kind)])}};
-    const std::string traverse = heavy.limitedTraverse
-                                     ? std::to_string(heavy.rotateLeft) + "\xB0 left, " +
-                                           std::to_string(heavy.rotateRight) + "\xB0 right"
-                                     : "all round";
+    const std::string traverse = heavy.limitedTraverse ? std::to_string(heavy.rotateLeft) + "\xB0 left, " +
+                                                             std::to_string(heavy.rotateRight) + "\xB0 right"
+                                                       : "all round";
     section.pairs = {{"Traverse", traverse},
                      {"Moveable", yesNo(heavy.moveable)},
                      {"Shoots aircraft", yesNo(heavy.antiAircraft)},
@@ -119,16 +119,17 @@ DataSheet weaponSheet(const WeaponRecord& weapon) {
     const auto whole = [](std::int32_t value, std::string_view unit) {
         return value == 0 ? std::string("-") : grouped(value) + " " + std::string(unit);
     };
-    figures.pairs = {{"Calibre", realText(weapon.calibre, "mm")},
-                     {"Barrel length", whole(weapon.barrelLength, "mm")},
-                     {"Barrels", std::to_string(weapon.numberOfBarrels)},
-                     {"Range", whole(weapon.range, "m")},
-                     {"Rate of fire", whole(weapon.rateOfFire, "rounds/min")},
-                     {"Magazine", grouped(weapon.magazineCapacity)},
-                     {"Reload", weapon.reload == ReloadMode::None ? "-" : displayName(nameOf(weapon.reload), "RELOAD_")},
-                     {"Single shot", yesNo(weapon.singleShot)},
-                     {"Period", weapon.period.empty() ? "-" : weapon.period},
-                     {"Countries", weapon.countries.empty() ? "-" : weapon.countries}};
+    figures.pairs = {
+        {"Calibre", realText(weapon.calibre, "mm")},
+        {"Barrel length", whole(weapon.barrelLength, "mm")},
+        {"Barrels", std::to_string(weapon.numberOfBarrels)},
+        {"Range", whole(weapon.range, "m")},
+        {"Rate of fire", whole(weapon.rateOfFire, "rounds/min")},
+        {"Magazine", grouped(weapon.magazineCapacity)},
+        {"Reload", weapon.reload == ReloadMode::None ? "-" : displayName(nameOf(weapon.reload), "RELOAD_")},
+        {"Single shot", yesNo(weapon.singleShot)},
+        {"Period", weapon.period.empty() ? "-" : weapon.period},
+        {"Countries", weapon.countries.empty() ? "-" : weapon.countries}};
     sheet.sections.push_back(std::move(figures));
     SheetSection ammunition{.heading = {"Ammunition"}};
     SheetTable table;

@@ -11,8 +11,8 @@
 
 namespace varrocade {
 
-/// Decoded pictures, the least recently used of which go when they take more than a bound of memory. A picture
-/// whose file changed is to be forgotten by its path.
+/// Decoded pictures, the least recently used of which go when they take more than a bound of memory. A
+/// picture whose file changed is to be forgotten by its path.
 class PictureCache : public PictureSizes {
 public:
     /// The picture of a file, ready to draw; null when there is none. Valid until the next call.

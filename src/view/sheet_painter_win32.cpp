@@ -95,7 +95,8 @@ private:
             textLeft += flagWidth + objects_.scaled(Margin);
         }
         const int buttonWidth = objects_.scaled(100);
-        const int titleHeight = brokenText(title.text, textLeft, right_ - buttonWidth, y_, objects_.largeFont.get(), Ink);
+        const int titleHeight =
+            brokenText(title.text, textLeft, right_ - buttonWidth, y_, objects_.largeFont.get(), Ink);
         text(title.subtitle, textLeft, y_ + titleHeight, objects_.normalFont.get(), FadedInk);
         y_ += std::max(titleHeight + lineHeight(objects_.normalFont.get()), objects_.scaled(FlagHeight)) +
               objects_.scaled(SectionGap);
@@ -136,8 +137,8 @@ private:
                 const int x = left_ + static_cast<int>(column) * columnWidth;
                 text(pair.label, x, y_, objects_.normalFont.get(), FadedInk);
                 const int right = x + columnWidth - objects_.scaled(8);
-                height = std::max(height, brokenText(pair.value.empty() ? "-" : pair.value, x + labelWidth, right, y_,
-                                                     objects_.normalFont.get(), Ink));
+                height = std::max(height, brokenText(pair.value.empty() ? "-" : pair.value, x + labelWidth,
+                                                     right, y_, objects_.normalFont.get(), Ink));
             }
             y_ += height;
         }
@@ -175,8 +176,8 @@ private:
             int x = left_;
             int height = lineHeight(objects_.smallFont.get());
             for (std::size_t column = 0; column < row.size() && column < widths.size(); ++column) {
-                height = std::max(height, brokenText(row[column], x, x + widths[column] + objects_.scaled(2), y_,
-                                                     objects_.smallFont.get(), isHead ? FadedInk : Ink));
+                height = std::max(height, brokenText(row[column], x, x + widths[column] + objects_.scaled(2),
+                                                     y_, objects_.smallFont.get(), isHead ? FadedInk : Ink));
                 x += widths[column] + gap;
             }
             y_ += height;

@@ -32,12 +32,13 @@ int TimelineScale::yOf(std::uint16_t number) const {
 
 AvailabilityPoint TimelineScale::pointAt(int x, int y) const {
     const int months = monthsOf(*this);
-    const int index = std::clamp(static_cast<int>(std::lround(static_cast<double>(x) * months / std::max(1, width))), 0,
-                                 months - 1);
+    const int index = std::clamp(
+        static_cast<int>(std::lround(static_cast<double>(x) * months / std::max(1, width))), 0, months - 1);
     const double share = static_cast<double>(height - y) / std::max(1, height - TopMargin);
     const double number = std::clamp(share * greatest, 0.0, static_cast<double>(UINT16_MAX));
     return {static_cast<std::uint8_t>(index % MonthsPerYear + 1),
-            static_cast<std::uint16_t>(firstYear + index / MonthsPerYear), static_cast<std::uint16_t>(std::lround(number))};
+            static_cast<std::uint16_t>(firstYear + index / MonthsPerYear),
+            static_cast<std::uint16_t>(std::lround(number))};
 }
 
 TimelineScale timelineScale(std::span<const AvailabilityPoint> points, int width, int height) {
@@ -58,13 +59,15 @@ TimelineScale timelineScale(std::span<const AvailabilityPoint> points, int width
     return scale;
 }
 
-std::vector<TimelineStep> timelineSteps(std::span<const AvailabilityPoint> points, const TimelineScale& scale) {
+std::vector<TimelineStep> timelineSteps(std::span<const AvailabilityPoint> points,
+                                        const TimelineScale& scale) {
     std::vector<std::size_t> order(points.size());
     for (std::size_t i = 0; i < order.size(); ++i) {
         order[i] = i;
     }
-    std::stable_sort(order.begin(), order.end(),
-                     [&](std::size_t a, std::size_t b) { return monthIndex(points[a]) < monthIndex(points[b]); });
+    std::stable_sort(order.begin(), order.end(), [&](std::size_t a, std::size_t b) {
+        return monthIndex(points[a]) < monthIndex(points[b]);
+    });
     std::vector<TimelineStep> steps;
     for (std::size_t i = 0; i < order.size(); ++i) {
         const AvailabilityPoint& point = points[order[i]];
@@ -82,8 +85,8 @@ std::vector<TimelineStep> timelineSteps(std::span<const AvailabilityPoint> point
     return steps;
 }
 
-std::optional<std::size_t> timelinePointNear(std::span<const AvailabilityPoint> points, const TimelineScale& scale, int x,
-                                             int y, int reach) {
+std::optional<std::size_t> timelinePointNear(std::span<const AvailabilityPoint> points,
+                                             const TimelineScale& scale, int x, int y, int reach) {
     std::optional<std::size_t> nearest;
     int best = reach * reach + 1;
     for (const TimelineStep& step : timelineSteps(points, scale)) {

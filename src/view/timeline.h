@@ -41,11 +41,12 @@ struct TimelineStep {
 TimelineScale timelineScale(std::span<const AvailabilityPoint> points, int width, int height);
 
 /// The steps in the order of their dates. The last one goes on to the end of the timeline.
-std::vector<TimelineStep> timelineSteps(std::span<const AvailabilityPoint> points, const TimelineScale& scale);
+std::vector<TimelineStep> timelineSteps(std::span<const AvailabilityPoint> points,
+                                        const TimelineScale& scale);
 
 /// The point whose step begins nearest to a pixel, within `reach` pixels.
-std::optional<std::size_t> timelinePointNear(std::span<const AvailabilityPoint> points, const TimelineScale& scale, int x,
-                                             int y, int reach);
+std::optional<std::size_t> timelinePointNear(std::span<const AvailabilityPoint> points,
+                                             const TimelineScale& scale, int x, int y, int reach);
 
 /// Every how many years a label fits.
 int timelineLabelStep(const TimelineScale& scale, int labelWidth);

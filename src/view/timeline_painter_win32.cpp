@@ -46,7 +46,8 @@ TimelineScale paintTimeline(HDC device, const RECT& area, std::span<const Availa
     FillRect(device, &ground, objects.whiteBrush.get());
     const std::vector<TimelineStep> steps = timelineSteps(points, scale);
     for (std::size_t i = 0; i < steps.size(); ++i) {
-        const RECT band{area.left + steps[i].left, area.top + steps[i].top, area.left + steps[i].right, ground.bottom};
+        const RECT band{area.left + steps[i].left, area.top + steps[i].top, area.left + steps[i].right,
+                        ground.bottom};
         FillRect(device, &band, objects.greenBrushes[i % objects.greenBrushes.size()].get());
     }
     paintYears(device, area, scale, objects);
@@ -62,7 +63,8 @@ TimelineScale paintTimeline(HDC device, const RECT& area, std::span<const Availa
         const bool isInside = scale.height - step.top >= size.cy;
         SetTextColor(device, isInside ? RGB(255, 255, 255) : RGB(40, 34, 24));
         TextOutA(device, area.left + step.left + objects.scaled(2),
-                 area.top + (isInside ? step.top + 1 : step.top - size.cy), number.data(), static_cast<int>(number.size()));
+                 area.top + (isInside ? step.top + 1 : step.top - size.cy), number.data(),
+                 static_cast<int>(number.size()));
     }
     FrameRect(device, &ground, static_cast<HBRUSH>(GetStockObject(GRAY_BRUSH)));
     return scale;

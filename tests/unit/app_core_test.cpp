@@ -46,7 +46,8 @@ TEST(FileNames, RefuseWhatFilesCannotBeCalled) {
 }
 
 TEST(FileNames, NewUnitsCanBeWritten) {
-    for (const Category category : {Category::Vehicles, Category::AtGuns, Category::Infantry, Category::Aircraft}) {
+    for (const Category category :
+         {Category::Vehicles, Category::AtGuns, Category::Infantry, Category::Aircraft}) {
         EXPECT_TRUE(unitFileText(category, newUnit(category, "German X", "NATIONALITY_GERMAN")).has_value());
     }
     EXPECT_EQ(newUnit(Category::Aircraft, "German X", "NATIONALITY_GERMAN").type, "TYPE_PLANE");
@@ -67,12 +68,13 @@ TEST(Positions, QuestionNamesWhatWouldBeLost) {
         bool exhaust;
         std::string_view question;
     };
-    for (const Case& row : {Case{Category::Vehicles, true, true, "Save your changes to weapon and exhaust positions?"},
-                            Case{Category::Vehicles, true, false, "Save your changes to weapon positions?"},
-                            Case{Category::Vehicles, false, true, "Save your changes to exhaust positions?"},
-                            Case{Category::Vehicles, false, false, ""},
-                            Case{Category::Aircraft, true, true, "Save your changes to weapon positions?"},
-                            Case{Category::Aircraft, false, true, ""}, Case{Category::Infantry, true, true, ""}}) {
+    for (const Case& row :
+         {Case{Category::Vehicles, true, true, "Save your changes to weapon and exhaust positions?"},
+          Case{Category::Vehicles, true, false, "Save your changes to weapon positions?"},
+          Case{Category::Vehicles, false, true, "Save your changes to exhaust positions?"},
+          Case{Category::Vehicles, false, false, ""},
+          Case{Category::Aircraft, true, true, "Save your changes to weapon positions?"},
+          Case{Category::Aircraft, false, true, ""}, Case{Category::Infantry, true, true, ""}}) {
         EXPECT_EQ(unsavedPositionsQuestion(true, row.category, row.weapon, row.exhaust), row.question);
     }
     EXPECT_EQ(unsavedPositionsQuestion(false, Category::Vehicles, true, true), "");
@@ -111,7 +113,8 @@ TEST(UndoHistory, GoesBackAndForthAndForgetsWhatWasUndone) {
 }
 
 TEST(ModSettings, ReadsWhatItWrote) {
-    ModSettings settings{.name = "Desert", .author = "Someone", .comment = "Sand", .firstYear = 1940, .lastYear = 1943};
+    ModSettings settings{
+        .name = "Desert", .author = "Someone", .comment = "Sand", .firstYear = 1940, .lastYear = 1943};
     EXPECT_EQ(readModSettings(modSettingsText(settings)), settings);
     EXPECT_EQ(readModSettings(""), ModSettings{});
 }

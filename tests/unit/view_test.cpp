@@ -87,8 +87,9 @@ TEST(DrawVehicle, ShowsMissingPicturesAsPlaceholdersAndListsThem) {
     ASSERT_EQ(holders.size(), 2U);
     EXPECT_EQ(holders[0].label, "Missing: hull.png");
     EXPECT_DOUBLE_EQ(holders[0].width, 300);
-    EXPECT_EQ(list.missingPictures, (std::vector<std::string>{"Images\\Units\\Vehicles\\Hulls\\hull.png",
-                                                             "Images\\Units\\Vehicles\\Turrets\\turret.png"}));
+    EXPECT_EQ(list.missingPictures,
+              (std::vector<std::string>{"Images\\Units\\Vehicles\\Hulls\\hull.png",
+                                        "Images\\Units\\Vehicles\\Turrets\\turret.png"}));
 }
 
 TEST(DrawVehicle, FitsTheAreaWithWholePixelsAMetre) {
@@ -121,8 +122,10 @@ TEST(Timeline, StepsFollowTheDatesAndReachToTheEnd) {
 }
 
 TEST(Timeline, SpansOtherYearsThanTheWars) {
-    EXPECT_EQ(timelineScale(std::vector<AvailabilityPoint>{{1, 1916, 1}, {2, 1918, 3}}, 100, 50).lastYear, 1918);
-    const TimelineScale both = timelineScale(std::vector<AvailabilityPoint>{{1, 1944, 1}, {2, 1966, 3}}, 100, 50);
+    EXPECT_EQ(timelineScale(std::vector<AvailabilityPoint>{{1, 1916, 1}, {2, 1918, 3}}, 100, 50).lastYear,
+              1918);
+    const TimelineScale both =
+        timelineScale(std::vector<AvailabilityPoint>{{1, 1944, 1}, {2, 1966, 3}}, 100, 50);
     EXPECT_EQ(both.firstYear, 1939);
     EXPECT_EQ(both.lastYear, 1966);
 }
