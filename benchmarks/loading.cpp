@@ -31,6 +31,7 @@ void readFiles() {
 }
 
 void loadingUnits(benchmark::State& state) {
+    corpus();
     for (auto iteration : state) {
         loadUnits();
     }
@@ -38,6 +39,7 @@ void loadingUnits(benchmark::State& state) {
 }
 
 void readingFilesOnly(benchmark::State& state) {
+    corpus();
     for (auto iteration : state) {
         readFiles();
     }

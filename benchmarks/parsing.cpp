@@ -41,6 +41,7 @@ void report(benchmark::State& state) {
 }
 
 void parsingTagTree(benchmark::State& state) {
+    corpus();
     for (auto iteration : state) {
         parseTagTrees();
     }
@@ -48,6 +49,7 @@ void parsingTagTree(benchmark::State& state) {
 }
 
 void parsingXml(benchmark::State& state) {
+    corpus();
     for (auto iteration : state) {
         parseXml();
     }

@@ -123,6 +123,7 @@ void rotor(Relief& r, int blades, double radius, double width, double hub) {
 void mi24Rotor(Relief& r) {
     rotor(r, 5, 864.0, 58.0, 40.0);
 }
+
 void ka52Rotor(Relief& r) {
     rotor(r, 3, 724.0, 53.0, 34.0);
 }

@@ -101,6 +101,7 @@ void stuka(Relief& r, double span, bool cannon) {
 void ju87d(Relief& r) {
     stuka(r, 688.0, false);
 }
+
 void ju87g(Relief& r) {
     stuka(r, 748.0, true);
 }

@@ -95,6 +95,7 @@ void azerbaijani(Canvas& c) {
 void belgian(Canvas& c) {
     columns(c, {Black, Yellow, Red});
 }
+
 void british(Canvas& c) {
     unionJack(c, W, H);
 }
@@ -268,6 +269,7 @@ void pakistani(Canvas& c) {
 void polish(Canvas& c) {
     rows(c, {White, Red});
 }
+
 void romanian(Canvas& c) {
     columns(c, {Blue, Yellow, Red});
 }

@@ -75,9 +75,11 @@ void flame(Canvas& c, double x, double top, double bottom, double halfWidth) {
 void white(Canvas& c) {
     streak(c, 4, 2, 47, 2.6, hex(0xFFFFF0), hex(0xF4D66A));
 }
+
 void red(Canvas& c) {
     streak(c, 4, 2, 47, 2.6, hex(0xFFE9D8), hex(0xEE3524));
 }
+
 void green(Canvas& c) {
     streak(c, 4, 2, 47, 2.6, hex(0xF2FFE4), hex(0x44D640));
 }

@@ -112,12 +112,15 @@ constexpr Paint DarkGreyPaint{.colour = hex(0x53575A), .gloss = 0.15};
 void threeInchBase(Relief& r) {
     mortarBase(r, 44.0, 40.0, paints::Hull);
 }
+
 void threeInchTube(Relief& r) {
     mortarTube(r, 6.4, 60.0);
 }
+
 void grw34Base(Relief& r) {
     mortarBase(r, 54.0, 36.0, DarkGreyPaint);
 }
+
 void grw34Tube(Relief& r) {
     mortarTube(r, 6.6, 54.0);
 }

@@ -141,6 +141,7 @@ void pak40(Relief& r) {
               .shieldFront = 42,
               .shieldLean = 30});
 }
+
 void sixPounder(Relief& r) {
     const auto placed = r.place(standing(0, 0.72));
     towed(r, {.bore = 80,
@@ -158,6 +159,7 @@ void sixPounder(Relief& r) {
     const auto lain = r.place(pointingForward(0, 80, 0.0));
     barrel(r, {{226.0, 7.6}, {245.0, 7.4}}, 0.0);
 }
+
 void zis3(Relief& r) {
     const auto placed = r.place(standing(-4, 0.6));
     towed(r, {.bore = 96,
@@ -175,6 +177,7 @@ void zis3(Relief& r) {
               .shieldLean = 34,
               .recuperatorAbove = true});
 }
+
 void m42(Relief& r) {
     const auto placed = r.place(standing(6, 0.7));
     towed(r, {.bore = 72,
@@ -192,6 +195,7 @@ void m42(Relief& r) {
               .shieldFront = 30,
               .shieldLean = 18});
 }
+
 void m3(Relief& r) {
     const auto placed = r.place(standing(-20, 0.82));
     towed(r, {.bore = 70,
@@ -207,6 +211,7 @@ void m3(Relief& r) {
               .shieldFront = 26,
               .shieldLean = 14});
 }
+
 void hotchkiss(Relief& r) {
     const auto placed = r.place(standing(0, 0.88));
     towed(r, {.bore = 60,
@@ -225,6 +230,7 @@ void hotchkiss(Relief& r) {
               .shieldFront = 26,
               .shieldLean = 14});
 }
+
 void breda47(Relief& r) {
     const auto placed = r.place(standing(-26, 1.0));
     towed(r, {.bore = 56,
@@ -238,6 +244,7 @@ void breda47(Relief& r) {
               .trailWidth = 10,
               .shieldTop = 0});
 }
+
 void type92(Relief& r) {
     const auto placed = r.place(standing(-42, 1.25));
     towed(r, {.bore = 58,
@@ -330,6 +337,7 @@ void threeInch(Relief& r) {
     const auto placed = r.place(standing(-26, 0.95));
     mortar(r, paints::Hull);
 }
+
 void grw34(Relief& r) {
     const auto placed = r.place(standing(-26, 0.95));
     mortar(r, {.colour = hex(0x53575A), .gloss = 0.15});

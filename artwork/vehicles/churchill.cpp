@@ -150,7 +150,34 @@ void drawHull(Relief& r) {
     stowage(r);
 }
 
-void turretRear(Relief& r) {
+void turretFittings(Relief& r) {
+    {
+        const auto placed = r.placeOn({.x = 40.0, .y = -32.0});
+        cupola(r, 34.0, 16.0, 8, true);
+    }
+    {
+        const auto placed = r.placeOn({.x = -42.0, .y = -10.0});
+        hatchSplit(r, 56.0, 50.0, 3.4);
+    }
+    for (const double side : {-1.0, 1.0}) {
+        const auto placed = r.placeOn({.x = side * 40.0, .y = 44.0, .angle = side * 4.0});
+        r.add(Shape::circle({}, 10.0), raise(2.5).rounded(2.0, 2.0));
+        periscope(r, 14.0, 8.0, 6.0);
+    }
+    {
+        const auto placed = r.placeOn({.x = 0.0, .y = -70.0});
+        ventDome(r, 13.0);
+    }
+    {
+        const auto placed = r.placeOn({.x = -60.0, .y = -74.0});
+        antennaBase(r);
+    }
+    {
+        // two-inch bomb thrower
+        const auto placed = r.placeOn({.x = 50.0, .y = 64.0, .angle = 8.0});
+        r.add(Shape::circle({}, 7.0), raise(4.0).rounded(3.0, 2.0));
+        r.add(Shape::ellipse({0, 2}, 3.4, 3.4), raise(-5.0), paints::Dark);
+    }
     // rear bin
     r.add(Shape::roundRect(-62.0, -140.0, 62.0, -104.0, 8.0), flat(60.0).rounded(3.0, 3.0));
     gap(r, {{-54, -112}, {54, -112}}, 1.0);
@@ -194,34 +221,7 @@ void drawTurret(Relief& r) {
           tube({-1e4, 80}, {1e4, 80}, 18.0, 18.0, 40.0).rough(0.5));
     r.add(Shape::roundRect(-15.0, 88.0, 15.0, 116.0, 6.0),
           tube({0, 86}, {0, 118}, 17.0, 12.0, 38.0).rough(0.4));
-    {
-        const auto placed = r.placeOn({.x = 40.0, .y = -32.0});
-        cupola(r, 34.0, 16.0, 8, true);
-    }
-    {
-        const auto placed = r.placeOn({.x = -42.0, .y = -10.0});
-        hatchSplit(r, 56.0, 50.0, 3.4);
-    }
-    for (const double side : {-1.0, 1.0}) {
-        const auto placed = r.placeOn({.x = side * 40.0, .y = 44.0, .angle = side * 4.0});
-        r.add(Shape::circle({}, 10.0), raise(2.5).rounded(2.0, 2.0));
-        periscope(r, 14.0, 8.0, 6.0);
-    }
-    {
-        const auto placed = r.placeOn({.x = 0.0, .y = -70.0});
-        ventDome(r, 13.0);
-    }
-    {
-        const auto placed = r.placeOn({.x = -60.0, .y = -74.0});
-        antennaBase(r);
-    }
-    {
-        // two-inch bomb thrower
-        const auto placed = r.placeOn({.x = 50.0, .y = 64.0, .angle = 8.0});
-        r.add(Shape::circle({}, 7.0), raise(4.0).rounded(3.0, 2.0));
-        r.add(Shape::ellipse({0, 2}, 3.4, 3.4), raise(-5.0), paints::Dark);
-    }
-    turretRear(r);
+    turretFittings(r);
 }
 
 void drawProjector(Relief& r) {

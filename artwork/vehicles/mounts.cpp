@@ -23,12 +23,15 @@ void ballMount(Relief& r, double radius, double reach, double barrelRadius, bool
 void bowMg34(Relief& r) {
     ballMount(r, 12.0, 48.0, 2.4, true);
 }
+
 void bowDt(Relief& r) {
     ballMount(r, 13.0, 46.0, 3.4, false);
 }
+
 void bowBrowning(Relief& r) {
     ballMount(r, 13.0, 50.0, 2.6, true);
 }
+
 void bowType97(Relief& r) {
     ballMount(r, 14.0, 44.0, 3.0, true);
 }

@@ -198,6 +198,32 @@ TEST_F(DetailsTest, UniformMethodEnablesItsLists) {
     EXPECT_EQ(tigerText().find("<uniform>"), std::string::npos);
 }
 
+TEST_F(DetailsTest, HandMadeFileIsReplacedOnlyWhenToldTo) {
+    const std::string layout = tigerText();
+    const std::string before =
+        withReplaced(layout, "\t</vehicle>", "\t\t<paint>grey</paint>\r\n\t</vehicle>");
+    game.write(dataFile(Tiger), before);
+    startWith(Tiger);
+    Window details = openDetails();
+    details.setText(IDC_WEIGHT, "1");
+    finish(details);
+    Window box = editor->waitForDialog("Hand-made file");
+    EXPECT_NE(contentOf(box).text.find("paint"), std::string::npos) << contentOf(box);
+    finish(box, IDCANCEL);
+    EXPECT_EQ(tigerText(), before);
+    EXPECT_FALSE(game.exists("Backups"));
+
+    details = openDetails();
+    EXPECT_EQ(details.control(IDC_WEIGHT).text(), "1") << "the change is not lost";
+    finish(details);
+    box = editor->waitForDialog("Hand-made file");
+    finish(box, IDOK);
+    EXPECT_EQ(tigerText(), withReplaced(layout, "56900", "1"));
+    EXPECT_EQ(game.backups(dataFile(Tiger)), std::vector<std::string>{before});
+    finish(openDetails());
+    EXPECT_TRUE(editor->dialogs().empty()) << "told once";
+}
+
 TEST_F(DetailsTest, CancellingChangesNothing) {
     startWith(Tiger);
     const std::string before = tigerText();
