@@ -92,7 +92,7 @@ private:
     /// The picture that shows a component as it is to be shown now.
     std::optional<FoundPicture> pictureOf(const ComponentRecord& component, std::string_view viewFolder) {
         if (options_.showDestroyed && !component.destroyedImage.empty()) {
-            if (const auto picture = find(component.destroyedImage, image_folder::Destroyed)) {
+            if (auto picture = find(component.destroyedImage, image_folder::Destroyed)) {
                 return picture;
             }
             noteMissing(component.destroyedImage, image_folder::Destroyed);
@@ -100,7 +100,7 @@ private:
         if (component.viewImage.empty()) {
             return std::nullopt;
         }
-        const auto picture = find(component.viewImage, viewFolder);
+        auto picture = find(component.viewImage, viewFolder);
         if (!picture) {
             noteMissing(component.viewImage, viewFolder);
         }
