@@ -69,14 +69,14 @@ std::vector<TimelineStep> timelineSteps(std::span<const AvailabilityPoint> point
         return monthIndex(points[a]) < monthIndex(points[b]);
     });
     std::vector<TimelineStep> steps;
-    for (std::size_t i = 0; i < order.size(); ++i) {
-        const AvailabilityPoint& point = points[order[i]];
+    for (const std::size_t index : order) {
+        const AvailabilityPoint& point = points[index];
         TimelineStep step;
         step.left = scale.xOf(point.year, std::max<int>(1, point.month));
         step.right = scale.width;
         step.top = scale.yOf(point.number);
         step.number = point.number;
-        step.point = order[i];
+        step.point = index;
         if (!steps.empty()) {
             steps.back().right = step.left;
         }
