@@ -14,7 +14,7 @@ bool isComboBox(HWND control) {
 }
 
 /// Records hold LF-free texts on one line; edits of several lines show CR LF.
-std::string onOneLine(std::string text) {
+std::string onOneLine(std::string_view text) {
     std::string line;
     for (const char c : text) {
         if (c == '\n') {
@@ -32,7 +32,7 @@ std::string DialogPort::text(int control) {
     HWND window = GetDlgItem(dialog_, control);
     std::string text(static_cast<std::size_t>(GetWindowTextLengthA(window)) + 1, '\0');
     text.resize(static_cast<std::size_t>(GetWindowTextA(window, text.data(), static_cast<int>(text.size()))));
-    return onOneLine(std::move(text));
+    return onOneLine(text);
 }
 
 void DialogPort::setText(int control, std::string_view text) {

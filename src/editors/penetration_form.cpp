@@ -61,6 +61,7 @@ void fillPenetrationDefaults(FormPort& port) {
         port.setText(DragControls[i], number(classes[i].coefficient));
     }
     std::vector<std::string> angles;
+    angles.reserve(OfferedAngles.size());
     for (const int angle : OfferedAngles) {
         angles.push_back(std::to_string(angle));
     }
