@@ -51,6 +51,7 @@ INT_PTR CALLBACK addComponentProcedure(HWND dialog, UINT message, WPARAM paramet
     auto* context = dialogContext<VehicleEditor>(dialog, message, pointer);
     if (message == WM_INITDIALOG) {
         std::vector<std::string> names;
+        names.reserve(NewComponents.size());
         for (const NewComponent& row : NewComponents) {
             names.emplace_back(row.name);
         }
