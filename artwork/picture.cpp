@@ -2,13 +2,14 @@
 
 #include <algorithm>
 #include <cairo.h>
+#include <cmath>
 
 namespace artwork {
 
 std::uint32_t packPixel(Rgb colour, double alpha) {
     const double a = clamp01(alpha);
     const auto channel = [](double v, double limit) {
-        return static_cast<std::uint32_t>(std::clamp(v, 0.0, limit) * 255.0 + 0.5);
+        return static_cast<std::uint32_t>(std::lround(std::clamp(v, 0.0, limit) * 255.0));
     };
     return (channel(a, 1.0) << 24) | (channel(colour.r * a, a) << 16) | (channel(colour.g * a, a) << 8) |
            channel(colour.b * a, a);
