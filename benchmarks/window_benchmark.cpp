@@ -43,8 +43,7 @@ double median(std::vector<double> values) {
 std::string makeGame(int files) {
     std::array<char, MAX_PATH> temporary{};
     GetTempPathA(static_cast<DWORD>(temporary.size()), temporary.data());
-    const std::string base =
-        std::string(temporary.data()) + "varrocade-bench-" + std::to_string(files) + "\\";
+    std::string base = std::string(temporary.data()) + "varrocade-bench-" + std::to_string(files) + "\\";
     for (const char* folder :
          {"", "Data\\", "Data\\Vehicles\\", "Images\\", "Images\\Units\\", "Images\\Units\\Vehicles\\",
           "Images\\Units\\Vehicles\\Hulls\\", "Images\\Units\\Vehicles\\Turrets\\"}) {
