@@ -7,7 +7,7 @@ namespace varrocade {
 namespace {
 
 // Eight bytes of signature, the length and name of the first chunk, then width and height, high byte first
-// (PNG specification, 5.2 and 11.2.2).
+// (PNG standard, 5.2 and 11.2.2).
 constexpr std::string_view Signature = "\x89PNG\r\n\x1A\n";
 constexpr std::size_t HeaderNamePlace = 12;
 constexpr std::size_t WidthPlace = 16;
