@@ -16,4 +16,8 @@ ContestResult parsingContest(std::size_t rounds);
 /// Reading unit files into records against only opening and reading the files.
 ContestResult loadingContest(std::size_t rounds);
 
+/// The same from the disk, as after a start of the machine: the system's copies of the files in memory are
+/// dropped before each turn, and the clock on the wall counts.
+ContestResult coldLoadingContest(std::size_t rounds);
+
 } // namespace varrocade::benchmarks

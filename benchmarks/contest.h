@@ -9,7 +9,7 @@
 namespace varrocade::benchmarks {
 
 struct ContestResult {
-    double first; ///< median seconds of processor time a round
+    double first; ///< median seconds a round
     double second;
     double ratio; ///< median of the rounds' ratios, first to second
 };
@@ -20,16 +20,19 @@ inline double median(std::vector<double> values) {
     return *middle;
 }
 
-template <typename Work>
-double processorSeconds(Work work) {
-    const std::clock_t start = std::clock();
-    work();
-    return static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
-}
+/// How long the contestants take is measured in processor time, which others on the machine do not add to.
+struct ProcessorClock {
+    template <typename Work>
+    double operator()(Work work) const {
+        const std::clock_t start = std::clock();
+        work();
+        return static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
+    }
+};
 
 /// Lets two contestants take turns for a number of rounds, the one that begins changing each time.
-template <typename First, typename Second>
-ContestResult contest(std::size_t rounds, First first, Second second) {
+template <typename First, typename Second, typename Clock = ProcessorClock>
+ContestResult contest(std::size_t rounds, First first, Second second, Clock secondsOf = {}) {
     std::vector<double> firstTimes;
     std::vector<double> secondTimes;
     std::vector<double> ratios;
@@ -37,8 +40,8 @@ ContestResult contest(std::size_t rounds, First first, Second second) {
     second();
     for (std::size_t round = 0; round < rounds; ++round) {
         const bool firstBegins = round % 2 == 0;
-        const double early = firstBegins ? processorSeconds(first) : processorSeconds(second);
-        const double late = firstBegins ? processorSeconds(second) : processorSeconds(first);
+        const double early = firstBegins ? secondsOf(first) : secondsOf(second);
+        const double late = firstBegins ? secondsOf(second) : secondsOf(first);
         firstTimes.push_back(firstBegins ? early : late);
         secondTimes.push_back(firstBegins ? late : early);
         ratios.push_back(firstTimes.back() / std::max(secondTimes.back(), 1e-9));

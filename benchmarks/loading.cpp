@@ -3,7 +3,11 @@
 #include "data/unit_reader.h"
 #include "platform/file_operations.h"
 
+#include <chrono>
+
 #include <benchmark/benchmark.h>
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace varrocade::benchmarks {
 
@@ -49,10 +53,37 @@ void readingFilesOnly(benchmark::State& state) {
 BENCHMARK(loadingUnits)->Unit(benchmark::kMillisecond);
 BENCHMARK(readingFilesOnly)->Unit(benchmark::kMillisecond);
 
+/// Only what is on the disk already can be dropped from memory.
+void dropFromMemory(const std::string& path) {
+    const int file = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    if (file >= 0) {
+        ::fsync(file);
+        ::posix_fadvise(file, 0, 0, POSIX_FADV_DONTNEED);
+        ::close(file);
+    }
+}
+
+/// The clock on the wall, of work that begins with all files on the disk only.
+struct ColdClock {
+    template <typename Work>
+    double operator()(Work work) const {
+        for (const FilesOnDisk::File& file : corpus().files()) {
+            dropFromMemory(file.path);
+        }
+        const auto start = std::chrono::steady_clock::now();
+        work();
+        return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+    }
+};
+
 } // namespace
 
 ContestResult loadingContest(std::size_t rounds) {
     return contest(rounds, loadUnits, readFiles);
+}
+
+ContestResult coldLoadingContest(std::size_t rounds) {
+    return contest(rounds, loadUnits, readFiles, ColdClock());
 }
 
 } // namespace varrocade::benchmarks

@@ -7,9 +7,6 @@ namespace varrocade {
 
 namespace {
 
-/// The game reads lines with a buffer of this many characters at a time.
-constexpr std::size_t PieceLength = 510;
-
 constexpr std::array<bool, 256> stopTable() {
     std::array<bool, 256> stops{};
     stops['\r'] = stops['\n'] = stops['/'] = true;
@@ -47,7 +44,8 @@ void forEachPiece(std::string_view content, Take take) {
     std::size_t line = 1;
     while (at != end) {
         const char* const pieceBegin = at;
-        const char* const limit = static_cast<std::size_t>(end - at) > PieceLength ? at + PieceLength : end;
+        const char* const limit =
+            static_cast<std::size_t>(end - at) > LinePieceLength ? at + LinePieceLength : end;
         const char* pieceEnd = nullptr;
         while (at != limit && *at != '\r' && *at != '\n') {
             if (*at == '/' && pieceEnd == nullptr && at + 1 != limit && at[1] == '/') {
@@ -115,6 +113,18 @@ std::size_t lineOfOffset(std::string_view fileContent, std::size_t cleanedOffset
         return cleanedLength <= cleanedOffset;
     });
     return found;
+}
+
+std::size_t lineAt(std::string_view fileContent, std::size_t offset) {
+    std::size_t line = 1;
+    for (std::size_t i = 0; i < offset; ++i) {
+        const bool isPair =
+            fileContent[i] == '\r' && i + 1 < fileContent.size() && fileContent[i + 1] == '\n';
+        if (fileContent[i] == '\n' || (fileContent[i] == '\r' && !isPair)) {
+            ++line;
+        }
+    }
+    return line;
 }
 
 } // namespace varrocade

@@ -15,7 +15,9 @@ namespace varrocade {
 
 /// A file's content with its tree, and with what its reader did once that has filled the trace.
 struct TracedFile {
-    explicit TracedFile(std::string_view fileContent) : content(fileContent) { tree.parse(fileContent); }
+    explicit TracedFile(std::string_view fileContent) : content(fileContent) {
+        tree.parseCleaned(fileContent);
+    }
 
     std::string_view content;
     TagTree tree;

@@ -58,7 +58,7 @@ class NestingCheck {
 public:
     NestingCheck(const LineMap& lines, const TagTree& tree, LossList& losses)
         : lines_(lines), tree_(tree), losses_(losses), closings_(tree.nodes().size(), NotSearched),
-          budget_(WorkPerCharacter * tree.cleaned().size() + LeastWork) {}
+          budget_(WorkPerCharacter * tree.content().size() + LeastWork) {}
 
     void run() {
         const std::vector<TagNode>& nodes = tree_.nodes();
@@ -89,7 +89,7 @@ private:
             const TagNode& node = tree_.nodes()[index];
             const std::size_t opening = openingOf(node);
             const std::string closingTag = "</" + std::string(node.name) + ">";
-            closing = tree_.cleaned().find(closingTag, opening);
+            closing = tree_.content().find(closingTag, opening);
             const std::size_t work = closing - opening + closingTag.size();
             budget_ -= std::min(budget_, work);
         }
@@ -99,13 +99,13 @@ private:
     void checkLevel(std::uint32_t index) {
         const TagNode& node = tree_.nodes()[index];
         const bool isRoot = index == 0;
-        const std::size_t end = isRoot ? tree_.cleaned().size() : closingOf(index);
+        const std::size_t end = isRoot ? tree_.content().size() : closingOf(index);
         std::size_t cursor = isRoot ? 0 : openingOf(node) + node.name.size() + 2;
         if (node.lastChild != TagNode::None) {
             cursor = closingOf(node.lastChild) + tree_.nodes()[node.lastChild].name.size() + 3;
         }
         if (cursor < end) {
-            report(tree_.cleaned().substr(cursor, end - cursor), cursor,
+            report(tree_.content().substr(cursor, end - cursor), cursor,
                    isRoot ? std::string() : " in " + tagText(node.name));
         }
     }

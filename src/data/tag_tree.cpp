@@ -1,7 +1,8 @@
 #include "data/tag_tree.h"
 
+#include "data/plain_tags.h"
+
 #include <algorithm>
-#include <cstring>
 #include <utility>
 
 namespace varrocade {
@@ -9,91 +10,6 @@ namespace varrocade {
 namespace {
 
 using Nodes = std::vector<TagNode>;
-
-/// The fast parser gives up on files that nest deeper; no file of the game nests deeper than six levels.
-constexpr std::uint32_t MaxPlainDepth = 32;
-
-std::uint32_t addNode(Nodes& nodes, std::uint32_t parent, std::string_view name) {
-    const auto index = static_cast<std::uint32_t>(nodes.size());
-    TagNode node;
-    node.name = name;
-    node.parent = parent;
-    nodes.push_back(node);
-    TagNode& above = nodes[parent];
-    if (above.lastChild == TagNode::None) {
-        above.firstChild = index;
-    } else {
-        nodes[above.lastChild].nextSibling = index;
-    }
-    above.lastChild = index;
-    ++above.childCount;
-    return index;
-}
-
-bool startsWithClosingTag(std::string_view text, std::string_view name) {
-    return text.size() >= name.size() + 3 && text[1] == '/' && text[name.size() + 2] == '>' &&
-           std::memcmp(text.data() + 2, name.data(), name.size()) == 0;
-}
-
-/// Whether an open element has this name; such an element ends at the inner one's closing tag, which the
-/// fast parser leaves to the general one. Also true when the nesting is too deep to look.
-bool isOpen(const Nodes& nodes, std::uint32_t node, std::string_view name) {
-    for (std::uint32_t depth = 0; node != 0; node = nodes[node].parent) {
-        if (++depth > MaxPlainDepth || nodes[node].name == name) {
-            return true;
-        }
-    }
-    return false;
-}
-
-/// Parses a well-formed document in one pass from front to back. Every `<` it passes begins an opening tag or
-/// closes the innermost open element, so that the first closing tag of a name is the one found here.
-/// Returns false at the first thing that is not so; `nodes` is then to be thrown away.
-bool parseWellFormed(std::string_view text, Nodes& nodes) {
-    std::uint32_t open = 0;
-    std::size_t at = 0;
-    const std::size_t size = text.size();
-    while (at < size) {
-        if (text[at] != '<') {
-            return false;
-        }
-        if (at + 1 < size && text[at + 1] == '/') {
-            if (open == 0 || !startsWithClosingTag(text.substr(at), nodes[open].name)) {
-                return false;
-            }
-            at += nodes[open].name.size() + 3;
-            open = nodes[open].parent;
-            continue;
-        }
-        std::size_t tagEnd = at + 1;
-        while (tagEnd < size && text[tagEnd] != '>' && text[tagEnd] != '<') {
-            ++tagEnd;
-        }
-        if (tagEnd + 1 >= size || text[tagEnd] != '>') {
-            return false;
-        }
-        const std::string_view name = text.substr(at + 1, tagEnd - at - 1);
-        if (isOpen(nodes, open, name)) {
-            return false;
-        }
-        const std::uint32_t node = addNode(nodes, open, name);
-        at = tagEnd + 1;
-        if (text[at] == '<') {
-            open = node;
-            continue;
-        }
-        std::size_t textEnd = at + 1;
-        while (textEnd < size && text[textEnd] != '<') {
-            ++textEnd;
-        }
-        if (!startsWithClosingTag(text.substr(textEnd), name)) {
-            return false;
-        }
-        nodes[node].text = text.substr(at, textEnd - at);
-        at = textEnd + name.size() + 3;
-    }
-    return open == 0;
-}
 
 /// All closing tags of a text, to find the first one of a name at or after a position in logarithmic time.
 /// A name is hashed from its last character to its first, since the names of hostile files (`</</</</a>`)
@@ -233,27 +149,32 @@ private:
 } // namespace
 
 void TagTree::parse(std::string_view fileContent) {
-    cleaned_.clear();
+    nodes_.clear();
+    content_.assign(fileContent.size() < TagNode::None ? fileContent : std::string_view());
+    isVerbatim_ = parsePlainly(content_, nodes_);
+    if (!isVerbatim_) {
+        parseCleaned(fileContent);
+    }
+}
+
+void TagTree::parseCleaned(std::string_view fileContent) {
+    isVerbatim_ = false;
+    content_.clear();
     nodes_.assign(1, TagNode{});
     if (fileContent.size() >= TagNode::None) {
         return;
     }
-    cleanTaggedText(fileContent, cleaned_);
-    const std::string_view text = cleaned_;
-    if (text.empty()) {
-        return;
-    }
-    if (text[0] != '<') {
+    cleanTaggedText(fileContent, content_);
+    const std::string_view text = content_;
+    if (!text.empty() && text[0] != '<') {
         nodes_[0].text = text;
-        return;
-    }
-    // Lines of the game's files have some thirty characters an element.
-    constexpr std::size_t charactersPerElement = 24;
-    nodes_.reserve(text.size() / charactersPerElement + 8);
-    if (!parseWellFormed(text, nodes_)) {
-        nodes_.assign(1, TagNode{});
+    } else if (!text.empty()) {
         GeneralParser(text, nodes_).run();
     }
+}
+
+std::size_t TagTree::lineOf(std::string_view part, std::string_view fileContent) const {
+    return isVerbatim_ ? lineAt(content_, offsetOf(part)) : lineOfOffset(fileContent, offsetOf(part));
 }
 
 } // namespace varrocade

@@ -10,8 +10,7 @@
 
 namespace varrocade {
 
-/// One element. Names and texts are parts of the tree's cleaned content; nodes name each other by their
-/// index.
+/// One element. Names and texts are parts of the tree's content; nodes name each other by their index.
 struct TagNode {
     static constexpr std::uint32_t None = UINT32_MAX;
 
@@ -39,23 +38,47 @@ public:
     /// concerned without a message: a missing closing tag drops that element and its later siblings.
     void parse(std::string_view fileContent);
 
+    /// The same tree, with all its parts in `content()` without comments, indentation and line ends: for
+    /// those who look at what lies between the elements. Slower.
+    void parseCleaned(std::string_view fileContent);
+
     [[nodiscard]] const std::vector<TagNode>& nodes() const { return nodes_; }
     [[nodiscard]] const TagNode& root() const { return nodes_.front(); }
-    /// The content without comments, indentation and line ends, which the nodes' names and texts are parts
-    /// of.
-    [[nodiscard]] std::string_view cleaned() const { return cleaned_; }
-    /// Where a part of the cleaned content begins, such as a node's name.
+    /// What the nodes' names and texts are parts of: the file as it stands, or what cleaning leaves of it.
+    [[nodiscard]] std::string_view content() const { return content_; }
+    /// Where a part of the content begins, such as a node's name.
     [[nodiscard]] std::size_t offsetOf(std::string_view part) const {
-        return static_cast<std::size_t>(part.data() - cleaned_.data());
+        return static_cast<std::size_t>(part.data() - content_.data());
     }
+    /// The line (from 1) on which a part stands in the file that was parsed. Costs a pass over the file: for
+    /// messages only.
+    [[nodiscard]] std::size_t lineOf(std::string_view part, std::string_view fileContent) const;
 
 private:
-    std::string cleaned_;
+    std::string content_;
     std::vector<TagNode> nodes_;
+    bool isVerbatim_ = false;
 };
 
+/// Appends an element to its parent's children and returns its index.
+inline std::uint32_t addNode(std::vector<TagNode>& nodes, std::uint32_t parent, std::string_view name) {
+    const auto index = static_cast<std::uint32_t>(nodes.size());
+    TagNode& node = nodes.emplace_back();
+    node.name = name;
+    node.parent = parent;
+    TagNode& above = nodes[parent];
+    if (above.lastChild == TagNode::None) {
+        above.firstChild = index;
+    } else {
+        nodes[above.lastChild].nextSibling = index;
+    }
+    above.lastChild = index;
+    ++above.childCount;
+    return index;
+}
+
 /// Strips comments, line ends and each line's leading and trailing blanks. CR LF, LF and a lone CR end a
-/// line; a line of more than 510 characters is cleaned in pieces of that length, as the game's own reader
+/// line; a line of more than `LinePieceLength` characters is cleaned in pieces, as the game's own reader
 /// does.
 void cleanTaggedText(std::string_view fileContent, std::string& cleaned);
 
@@ -70,5 +93,11 @@ std::vector<KeptPiece> keptPieces(std::string_view fileContent);
 /// The line (from 1) of the file on which the character at `cleanedOffset` of the cleaned content stands.
 /// Cleans again, so it costs as much as reading: for messages only.
 std::size_t lineOfOffset(std::string_view fileContent, std::size_t cleanedOffset);
+
+/// The line (from 1) on which the character at an offset of a file stands.
+std::size_t lineAt(std::string_view fileContent, std::size_t offset);
+
+/// The game's buffer for a line: a longer one is cleaned in pieces of this many characters.
+inline constexpr std::size_t LinePieceLength = 510;
 
 } // namespace varrocade

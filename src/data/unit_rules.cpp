@@ -1,371 +1,15 @@
 #include "data/unit_rules.h"
 
 #include "data/elements.h"
-#include "data/engine_table.h"
-#include "data/enumerations.h"
-#include "data/image_names.h"
-#include "data/numbers.h"
+#include "data/unit_rule_actions.h"
 
-#include <algorithm>
 #include <array>
-#include <concepts>
-#include <cstring>
-#include <limits>
-#include <optional>
-#include <type_traits>
-#include <utility>
+#include <cstdint>
+#include <vector>
 
 namespace varrocade::unit_rules {
 
 namespace {
-
-using Apply = void (*)(Reading&, std::string_view);
-
-constexpr std::string_view Yes = "yes";
-
-// The object that a rule's member belongs to; null while there is none.
-SquadRecord* target(Reading& reading, const SquadRecord*) {
-    return &reading.record;
-}
-VehicleRecord* target(Reading& reading, const VehicleRecord*) {
-    return reading.record.vehicle ? &*reading.record.vehicle : nullptr;
-}
-AircraftRecord* target(Reading& reading, const AircraftRecord*) {
-    return reading.record.aircraft ? &*reading.record.aircraft : nullptr;
-}
-ArmourRecord* target(Reading& reading, const ArmourRecord*) {
-    return reading.component != nullptr ? &reading.component->armour : nullptr;
-}
-AvailabilityPoint* target(Reading& reading, const AvailabilityPoint*) {
-    return reading.point;
-}
-ComponentRecord* target(Reading& reading, const ComponentRecord*) {
-    return reading.component;
-}
-CrewManRecord* target(Reading& reading, const CrewManRecord*) {
-    return reading.man;
-}
-WeaponMountRecord* target(Reading& reading, const WeaponMountRecord*) {
-    return reading.weapon;
-}
-AmmoLoadRecord* target(Reading& reading, const AmmoLoadRecord*) {
-    return reading.ammo;
-}
-SmokeDischargerRecord* target(Reading& reading, const SmokeDischargerRecord*) {
-    return reading.discharger;
-}
-ExhaustPipeRecord* target(Reading& reading, const ExhaustPipeRecord*) {
-    return reading.exhaustPipe;
-}
-HeavyWeaponRecord* target(Reading& reading, const HeavyWeaponRecord*) {
-    return reading.heavyWeapon;
-}
-RotorBladesRecord* target(Reading& reading, const RotorBladesRecord*) {
-    return reading.rotorBlades;
-}
-
-template <typename Member>
-struct MemberOf;
-template <typename Record, typename Field>
-struct MemberOf<Field Record::*> {
-    using Owner = Record;
-};
-
-template <auto Member>
-using OwnerOf = typename MemberOf<decltype(Member)>::Owner;
-template <auto Member>
-using FieldOf = std::remove_cvref_t<decltype(std::declval<OwnerOf<Member>&>().*Member)>;
-
-/// The object whose list or reference a rule changes.
-template <auto Member>
-auto* ownerOf(Reading& reading) {
-    const OwnerOf<Member>* kind = nullptr;
-    return target(reading, kind);
-}
-
-/// The object whose member a rule is about to set.
-template <auto Member, ValueKind Kind = kindOfField<FieldOf<Member>>()>
-auto* targetOf(Reading& reading) {
-    auto* object = ownerOf<Member>(reading);
-    if (reading.trace != nullptr && object != nullptr) {
-        reading.trace->note<Member>(*object, std::same_as<OwnerOf<Member>, SquadRecord>, Kind);
-    }
-    return object;
-}
-
-/// The element made an entry; `alone`: and put away the former one.
-void noteEntry(Reading& reading, bool alone = false) {
-    if (reading.trace != nullptr) {
-        reading.trace->noteEntry(reading.node->name, alone);
-    }
-}
-
-void judge(Reading& reading, bool understood) {
-    if (reading.trace != nullptr) {
-        reading.trace->judge(understood);
-    }
-}
-
-void convert(std::string_view text, bool& field) {
-    field = text == Yes;
-}
-void convert(std::string_view text, double& field) {
-    field = toReal(text);
-}
-template <std::integral Integer>
-void convert(std::string_view text, Integer& field) {
-    field = toClamped<Integer>(text);
-}
-template <std::size_t Capacity>
-void convert(std::string_view text, FixedString<Capacity>& field) {
-    field = text;
-}
-/// A thickness alone, or a thickness, "@" and an angle.
-void convert(std::string_view text, ArmourPlate& field) {
-    const std::size_t at = text.find('@');
-    field.thickness = toInteger(text);
-    field.angle = at == std::string_view::npos ? 0 : toInteger(text.substr(at + 1));
-}
-
-/// Sets members from the element's text, by their types.
-template <auto... Members>
-void set(Reading& reading, std::string_view text) {
-    const auto setOne = [&]<auto Member>() {
-        if (auto* object = targetOf<Member>(reading)) {
-            convert(text, object->*Member);
-        }
-    };
-    (setOne.template operator()<Members>(), ...);
-}
-
-template <auto Member>
-void setImage(Reading& reading, std::string_view text) {
-    if (auto* object = targetOf<Member, ValueKind::Image>(reading)) {
-        object->*Member = imageNameOf(text);
-    }
-}
-
-template <auto Member>
-void setUniformImage(Reading& reading, std::string_view text) {
-    SquadRecord* record = targetOf<Member, ValueKind::Image>(reading);
-    record->*Member = isDefaultImage(text) ? DefaultImageName : imageNameOf(text);
-}
-
-void setUniformName(Reading& reading, std::string_view text) {
-    SquadRecord* record = targetOf<&SquadRecord::uniformName>(reading);
-    record->namedUniform = true;
-    record->uniformName = text;
-    if (isDefaultImage(text)) {
-        record->uniformName.clear();
-        judge(reading, true);
-    }
-}
-
-void setQuality(Reading& reading, std::string_view text) {
-    const auto names = qualityNames();
-    const bool known = std::find(names.begin(), names.end(), text) != names.end();
-    judge(reading, known);
-    targetOf<&SquadRecord::quality>(reading)->quality =
-        !known ? QualityRegular : (text == QualityRaw ? QualityUntrained : text);
-}
-
-// ---- availability
-
-void addPoint(Reading& reading, std::string_view) {
-    std::vector<AvailabilityPoint>& points = reading.record.availability;
-    reading.point = nullptr;
-    if (points.size() >= MaxAvailabilityPoints) {
-        reportLeftOut(reading, "more than 255 availability points");
-        return;
-    }
-    reading.point = &points.emplace_back();
-    noteEntry(reading);
-}
-
-// ---- vehicle
-
-/// The entries of a component that is no longer the current one, or no longer there.
-void forgetComponentEntries(Reading& reading) {
-    reading.man = nullptr;
-    reading.weapon = nullptr;
-    reading.ammo = nullptr;
-    reading.discharger = nullptr;
-}
-
-void createVehicle(Reading& reading, std::string_view) {
-    reading.record.vehicle.emplace();
-    noteEntry(reading, true);
-    reading.component = nullptr;
-    reading.exhaustPipe = nullptr;
-    forgetComponentEntries(reading);
-}
-
-void setEngineMount(Reading& reading, std::string_view text) {
-    if (VehicleRecord* vehicle = targetOf<&VehicleRecord::engineMount>(reading)) {
-        const auto names = mountNames();
-        judge(reading, std::find(names.begin(), names.end(), text) != names.end());
-        vehicle->engineMount = text == MountFront    ? EngineMount::Front
-                               : text == MountMiddle ? EngineMount::Middle
-                                                     : EngineMount::Rear;
-    }
-}
-
-/// The older form names the engine in the element itself, by its name or by an identifier of the engine
-/// table.
-void setFlatEngine(Reading& reading, std::string_view text) {
-    if (text.empty() || !reading.record.vehicle) {
-        return;
-    }
-    VehicleRecord& vehicle = *targetOf<&VehicleRecord::engineName>(reading);
-    if (!text.starts_with(EnginePrefix)) {
-        vehicle.engineName = text;
-        return;
-    }
-    const EngineRow* row = findEngine(text);
-    vehicle.engineName = row != nullptr ? row->name : std::string_view();
-    judge(reading, row != nullptr);
-    if (row != nullptr) {
-        targetOf<&VehicleRecord::horsepower>(reading)->horsepower = row->horsepower;
-    }
-}
-
-template <ComponentKind Kind>
-void addComponent(Reading& reading, std::string_view) {
-    reading.component = nullptr;
-    forgetComponentEntries(reading);
-    if (!reading.record.vehicle) {
-        return;
-    }
-    std::vector<ComponentRecord>& components = reading.record.vehicle->components;
-    if (components.size() >= MaxSquadMembers) {
-        reportLeftOut(reading, "more than 13 components");
-        return;
-    }
-    components.reserve(MaxSquadMembers);
-    reading.component = &components.emplace_back();
-    reading.component->kind = Kind;
-    noteEntry(reading);
-}
-
-/// Appends to a list of the object that is being filled, and makes the new entry the current one.
-template <auto List, auto Current>
-void append(Reading& reading, std::string_view) {
-    auto* object = ownerOf<List>(reading);
-    reading.*Current = object != nullptr ? &(object->*List).emplace_back() : nullptr;
-    if (object != nullptr) {
-        noteEntry(reading);
-    }
-}
-
-/// A man's entries begin afresh, so that what a refused man holds goes nowhere.
-template <auto List>
-void addMan(Reading& reading, std::string_view text) {
-    append<List, &Reading::man>(reading, text);
-    reading.ammo = nullptr;
-}
-
-template <auto Member>
-void setLimit(Reading& reading, std::string_view text) {
-    set<Member>(reading, text);
-    if (auto* object = targetOf<Member>(reading)) {
-        // A fixed weapon's limits always apply, without a flag.
-        if constexpr (std::same_as<typename MemberOf<decltype(Member)>::Owner, ComponentRecord>) {
-            object->limitedTraverse = object->kind == ComponentKind::Turret;
-        } else {
-            object->limitedTraverse = true;
-        }
-    }
-}
-
-/// The older limits count from straight ahead: to the left negative, to the right positive.
-template <auto Member>
-void setLimitFromNegative(Reading& reading, std::string_view text) {
-    setLimit<Member>(reading, text);
-    if (auto* object = targetOf<Member>(reading)) {
-        const std::int32_t value = object->*Member;
-        const bool negatable = value != std::numeric_limits<std::int32_t>::min();
-        object->*Member = std::max(0, negatable ? -value : std::numeric_limits<std::int32_t>::max());
-    }
-}
-
-template <auto Member>
-void setLimitFromPositive(Reading& reading, std::string_view text) {
-    setLimit<Member>(reading, text);
-    if (auto* object = targetOf<Member>(reading)) {
-        object->*Member = std::max(0, object->*Member);
-    }
-}
-
-template <auto Member, bool SmokeDischargerRecord::*Given = nullptr>
-void setDirection(Reading& reading, std::string_view text) {
-    set<Member>(reading, text);
-    if (reading.discharger != nullptr) {
-        reading.discharger->directional = true;
-        if constexpr (Given != nullptr) {
-            reading.discharger->*Given = true;
-        }
-    }
-}
-
-// ---- squads on foot, heavy weapons, aircraft
-
-void addInfantryman(Reading& reading, std::string_view) {
-    reading.man = nullptr;
-    reading.ammo = nullptr;
-    if (reading.record.infantrymen.size() >= MaxSquadMembers) {
-        reportLeftOut(reading, "more than 13 infantrymen");
-        return;
-    }
-    reading.man = &reading.record.infantrymen.emplace_back();
-    noteEntry(reading);
-}
-
-void addPersonalWeapon(Reading& reading, std::string_view text) {
-    if (reading.man != nullptr) {
-        reading.man->weapons.emplace_back(text);
-        if (reading.trace != nullptr) {
-            reading.trace->noteItem(fieldId<&CrewManRecord::weapons>(), reading.man->weapons.back());
-        }
-    }
-}
-
-template <HeavyWeaponKind Kind>
-void createHeavyWeapon(Reading& reading, std::string_view) {
-    reading.heavyWeapon = nullptr;
-    reading.weapon = nullptr;
-    reading.ammo = nullptr;
-    if (reading.record.heavyWeapon) {
-        reportLeftOut(reading, "a second heavy weapon");
-        return;
-    }
-    reading.heavyWeapon = &reading.record.heavyWeapon.emplace();
-    reading.heavyWeapon->kind = Kind;
-    noteEntry(reading);
-    reading.record.heavyWeaponPlace = reading.record.infantrymen.size();
-}
-
-void createAircraft(Reading& reading, std::string_view) {
-    reading.record.aircraft.emplace();
-    noteEntry(reading, true);
-    reading.weapon = nullptr;
-    reading.ammo = nullptr;
-    reading.rotorBlades = nullptr;
-}
-
-/// Into -180 to 180, in whole turns.
-void setNormalisedAngle(Reading& reading, std::string_view text) {
-    if (WeaponMountRecord* weapon = targetOf<&WeaponMountRecord::offsetAngle>(reading)) {
-        constexpr std::int32_t fullTurn = 360;
-        constexpr std::int32_t halfTurn = 180;
-        std::int32_t angle = toInteger(text) % fullTurn;
-        if (angle > halfTurn) {
-            angle -= fullTurn;
-        } else if (angle < -halfTurn) {
-            angle += fullTurn;
-        }
-        weapon->offsetAngle = angle;
-    }
-}
 
 using P = Place;
 using Squad = SquadRecord;
@@ -621,6 +265,7 @@ constexpr auto PlainRules = std::to_array<Rule>({
 class RuleIndex {
 public:
     RuleIndex() {
+        slots_.fill(Free);
         add(PlainRules);
         add(DescriptionRules(P::SquadDescription));
         add(DescriptionRules(P::AircraftDescription));
@@ -635,10 +280,10 @@ public:
 
     [[nodiscard]] const Rule* find(Place parent, std::string_view name) const {
         for (std::size_t slot = slotOf(parent, name);; slot = (slot + 1) % Slots) {
-            const Rule& rule = rules_[slot];
-            if (rule.element.empty()) {
+            if (slots_[slot] == Free) {
                 return nullptr;
             }
+            const Rule& rule = rules_[slots_[slot]];
             if (rule.parent == parent && rule.element == name) {
                 return &rule;
             }
@@ -647,6 +292,7 @@ public:
 
 private:
     static constexpr std::size_t Slots = 1024;
+    static constexpr std::uint16_t Free = UINT16_MAX;
 
     static std::size_t slotOf(Place parent, std::string_view name) {
         const std::size_t first = static_cast<unsigned char>(name.empty() ? '\0' : name.front());
@@ -661,14 +307,16 @@ private:
     void add(const Rules& rules) {
         for (const Rule& rule : rules) {
             std::size_t slot = slotOf(rule.parent, rule.element);
-            while (!rules_[slot].element.empty()) {
+            while (slots_[slot] != Free) {
                 slot = (slot + 1) % Slots;
             }
-            rules_[slot] = rule;
+            slots_[slot] = static_cast<std::uint16_t>(rules_.size());
+            rules_.push_back(rule);
         }
     }
 
-    std::array<Rule, Slots> rules_{};
+    std::vector<Rule> rules_;
+    std::array<std::uint16_t, Slots> slots_;
 };
 
 const RuleIndex& ruleIndex() {
@@ -705,7 +353,7 @@ void reportLeftOut(Reading& reading, std::string_view what) {
     if (reading.diagnostics.size() >= MaxDiagnostics || reading.node == nullptr) {
         return;
     }
-    const std::size_t line = lineOfOffset(reading.fileContent, reading.tree.offsetOf(reading.node->name));
+    const std::size_t line = reading.tree.lineOf(reading.node->name, reading.fileContent);
     report(reading, "ERROR: " + reading.record.fileName.str() + ": line " + std::to_string(line) + ": " +
                         std::string(what) + ": left out");
 }

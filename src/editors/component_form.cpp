@@ -42,12 +42,12 @@ constexpr auto SightFields = std::to_array<Field>({
     {IDC_NIGHT_VISION, "Infrared night vision", &Component::nightVision},
 });
 
-struct ImageField {
+struct ComponentImage {
     int control;
     Text Component::*member;
 };
 
-constexpr auto Images = std::to_array<ImageField>({
+constexpr auto Images = std::to_array<ComponentImage>({
     {IDC_VIEW_IMAGE, &Component::viewImage},
     {IDC_DESTROYED_IMAGE, &Component::destroyedImage},
 });
@@ -57,7 +57,7 @@ bool hasDestroyedImage(ComponentKind kind) {
 }
 
 void fillImages(FormPort& port, const Component& component) {
-    for (const ImageField& image : Images) {
+    for (const ComponentImage& image : Images) {
         if (image.control == IDC_VIEW_IMAGE || hasDestroyedImage(component.kind)) {
             port.setLimit(image.control, Text::MaxLength);
             port.setText(image.control, component.*image.member);
@@ -66,7 +66,7 @@ void fillImages(FormPort& port, const Component& component) {
 }
 
 void readImages(FormPort& port, Component& component) {
-    for (const ImageField& image : Images) {
+    for (const ComponentImage& image : Images) {
         if (image.control == IDC_VIEW_IMAGE || hasDestroyedImage(component.kind)) {
             component.*image.member = imageNameOf(port.text(image.control));
         }

@@ -14,7 +14,7 @@ namespace {
 
 constexpr double DefaultCentimetresPerPixel = 1.0;
 /// The size of a part whose file names none, so that its placeholder can be seen.
-constexpr double UnknownSize = 100;
+constexpr double UnknownPartSize = 100;
 constexpr double BarrelShare = 0.25;
 
 double radians(double degrees) {
@@ -162,7 +162,7 @@ private:
         }
         // A fixed weapon without a picture of its own is a part of the hull's; a short line shows its
         // direction.
-        const double size = isTurret ? sizeOr(component.diameter) : UnknownSize * BarrelShare;
+        const double size = isTurret ? sizeOr(component.diameter) : UnknownPartSize * BarrelShare;
         if (isTurret || !component.viewImage.empty()) {
             add(PlaceholderItem{labelOf(component, isTurret ? "Turret" : "Fixed Weapon"), pivot, size, size,
                                 angle, true});
@@ -197,7 +197,7 @@ private:
         }
     }
 
-    static double sizeOr(std::int32_t size) { return size > 0 ? size : UnknownSize; }
+    static double sizeOr(std::int32_t size) { return size > 0 ? size : UnknownPartSize; }
 
     static std::string labelOf(const ComponentRecord& component, std::string_view kind) {
         return component.viewImage.empty()

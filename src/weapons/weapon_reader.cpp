@@ -179,10 +179,9 @@ void addAmmoType(Reading& reading, std::string_view) {
     if (reading.trace != nullptr) {
         reading.trace->noteLeftOut("more than 255 ammunition types");
     }
-    report(reading,
-           "ERROR: " + reading.weapon.fileName + ": line " +
-               std::to_string(lineOfOffset(reading.fileContent, reading.tree.offsetOf(reading.node->name))) +
-               ": more than 255 ammunition types: left out");
+    report(reading, "ERROR: " + reading.weapon.fileName + ": line " +
+                        std::to_string(reading.tree.lineOf(reading.node->name, reading.fileContent)) +
+                        ": more than 255 ammunition types: left out");
 }
 
 using Weapon = WeaponRecord;

@@ -10,23 +10,6 @@ namespace varrocade::tests {
 
 namespace {
 
-struct Outcome {
-    int status;
-    std::string output;
-    std::string complaints;
-};
-
-Outcome run(const std::vector<std::string>& arguments) {
-    ::testing::internal::CaptureStdout();
-    ::testing::internal::CaptureStderr();
-    Outcome outcome{cli::runCommandLine(arguments), {}, {}};
-    outcome.output = ::testing::internal::GetCapturedStdout();
-    outcome.complaints = ::testing::internal::GetCapturedStderr();
-    // A test's own output has the line ends of the system.
-    std::erase(outcome.output, '\r');
-    return outcome;
-}
-
 const std::string LooseSquad = "<squad><description><comment>c</comment></description>\n<man></man></squad>";
 
 std::string cleanSquad() {
@@ -57,29 +40,29 @@ TEST(CommandLine, RefusesWhatItDoesNotUnderstand) {
         {"rewrite", "infantry", in, folder.path() + "missing\\out.txt"},
     };
     for (const std::vector<std::string>& call : calls) {
-        const Outcome outcome = run(call);
+        const CommandOutcome outcome = runCommand(call);
         EXPECT_EQ(outcome.status, cli::CouldNot) << outcome.complaints;
         EXPECT_TRUE(outcome.output.empty());
         EXPECT_FALSE(outcome.complaints.empty());
     }
     EXPECT_EQ(folder.files(), std::vector<std::string>{"in.txt"});
-    EXPECT_NE(run({}).complaints.find("rewrite [--explain] CATEGORY IN OUT"), std::string::npos);
+    EXPECT_NE(runCommand({}).complaints.find("rewrite [--explain] CATEGORY IN OUT"), std::string::npos);
 }
 
 TEST(CommandLine, RewritesAFile) {
     const TemporaryFolder folder;
     folder.write("in.txt", LooseSquad);
     const std::string in = folder.path() + "in.txt";
-    EXPECT_EQ(run({"rewrite", "infantry", in, folder.path() + "out.txt"}).status, cli::Done);
+    EXPECT_EQ(runCommand({"rewrite", "infantry", in, folder.path() + "out.txt"}).status, cli::Done);
     EXPECT_EQ(folder.read("out.txt"), cleanSquad());
     EXPECT_EQ(folder.read("in.txt"), LooseSquad);
     // In place, and over what is there.
-    EXPECT_EQ(run({"rewrite", "atguns", in, in}).status, cli::Done);
+    EXPECT_EQ(runCommand({"rewrite", "atguns", in, in}).status, cli::Done);
     EXPECT_EQ(folder.read("in.txt"), cleanSquad());
     EXPECT_EQ(folder.files().size(), 2U);
     // Where a folder stands in the way.
     std::filesystem::create_directory(folder.nativePath("folder.txt"));
-    EXPECT_EQ(run({"rewrite", "infantry", in, folder.path() + "folder.txt"}).status, cli::CouldNot);
+    EXPECT_EQ(runCommand({"rewrite", "infantry", in, folder.path() + "folder.txt"}).status, cli::CouldNot);
     EXPECT_EQ(folder.files().size(), 2U) << "a temporary file was left";
 }
 
@@ -91,8 +74,8 @@ TEST(CommandLine, RewritesTheSampleFolders) {
         const std::string in = categoryFolder(SampleBase, category);
         const std::string out = folder.path() + "out\\" + word;
         const bool isOdd = static_cast<int>(category) % 2 == 1;
-        const Outcome outcome =
-            run({"rewrite", word, isOdd ? in : in.substr(0, in.size() - 1), isOdd ? out : out + "\\"});
+        const CommandOutcome outcome =
+            runCommand({"rewrite", word, isOdd ? in : in.substr(0, in.size() - 1), isOdd ? out : out + "\\"});
         EXPECT_EQ(outcome.status, cli::Done) << outcome.complaints;
     }
     const std::vector<std::string> written = folder.files();
@@ -114,7 +97,8 @@ TEST(CommandLine, GoesOnBehindAFileItCannotRewrite) {
     // This one stands in its own way.
     folder.write("in\\c.txt", LooseSquad);
     folder.write("out\\c.txt\\file", "");
-    const Outcome outcome = run({"rewrite", "infantry", folder.path() + "in", folder.path() + "out"});
+    const CommandOutcome outcome =
+        runCommand({"rewrite", "infantry", folder.path() + "in", folder.path() + "out"});
     EXPECT_EQ(outcome.status, cli::CouldNot);
     EXPECT_NE(outcome.complaints.find("c.txt"), std::string::npos);
     EXPECT_EQ(folder.read("out\\a.txt"), cleanSquad());
@@ -126,7 +110,8 @@ TEST(CommandLine, GoesOnBehindAFileItCannotRewrite) {
     mixed.write("in\\z.txt", "<squad><vehicle></vehicle></squad>");
     std::error_code error;
     std::filesystem::create_symlink("nowhere", mixed.nativePath("in\\m.txt"), error);
-    const Outcome vehicles = run({"rewrite", "vehicles", mixed.path() + "in", mixed.path() + "out"});
+    const CommandOutcome vehicles =
+        runCommand({"rewrite", "vehicles", mixed.path() + "in", mixed.path() + "out"});
     EXPECT_EQ(vehicles.status, cli::CouldNot);
     EXPECT_NE(vehicles.complaints.find("a.txt: holds nothing"), std::string::npos);
     EXPECT_EQ(vehicles.complaints.find("m.txt: cannot be read") == std::string::npos,
@@ -137,7 +122,8 @@ TEST(CommandLine, GoesOnBehindAFileItCannotRewrite) {
 TEST(CommandLine, TellsWhatAFileHoldsTooMuch) {
     const TemporaryFolder folder;
     folder.write("gun.txt", "<squad>\n<hmg></hmg>\n<hmg></hmg>\n</squad>");
-    const Outcome outcome = run({"rewrite", "atguns", folder.path() + "gun.txt", folder.path() + "out.txt"});
+    const CommandOutcome outcome =
+        runCommand({"rewrite", "atguns", folder.path() + "gun.txt", folder.path() + "out.txt"});
     EXPECT_EQ(outcome.status, cli::Done);
     EXPECT_EQ(outcome.complaints, "varrocade-data: ERROR: gun: line 3: a second heavy weapon: left out\n");
 }
@@ -145,12 +131,12 @@ TEST(CommandLine, TellsWhatAFileHoldsTooMuch) {
 TEST(CommandLine, PrintsHowAFileParses) {
     const TemporaryFolder folder;
     folder.write("tree.txt", "<a>\r\n\t<b> two words </b>// comment\r\n\t<c><d></d></c>\r\n</a>\r\n<e>1</e>");
-    const Outcome outcome = run({"tree", folder.path() + "tree.txt"});
+    const CommandOutcome outcome = runCommand({"tree", folder.path() + "tree.txt"});
     EXPECT_EQ(outcome.status, cli::Done);
     EXPECT_EQ(outcome.output, "a\n  b =  two words \n  c\n    d\ne = 1\n");
     folder.write("empty.txt", "");
-    EXPECT_EQ(run({"tree", folder.path() + "empty.txt"}).status, cli::Done);
-    EXPECT_TRUE(run({"tree", folder.path() + "empty.txt"}).output.empty());
+    EXPECT_EQ(runCommand({"tree", folder.path() + "empty.txt"}).status, cli::Done);
+    EXPECT_TRUE(runCommand({"tree", folder.path() + "empty.txt"}).output.empty());
 }
 
 } // namespace varrocade::tests

@@ -36,23 +36,6 @@ Projectile panther() {
     return {.flavour = AmmoFlavour::Apcbc, .calibre = 75, .muzzleVelocity = 935, .mass = 6.8};
 }
 
-struct Outcome {
-    int status;
-    std::string output;
-    std::string complaints;
-};
-
-Outcome run(const std::vector<std::string>& arguments) {
-    ::testing::internal::CaptureStdout();
-    ::testing::internal::CaptureStderr();
-    Outcome outcome{cli::runCommandLine(arguments), {}, {}};
-    outcome.output = ::testing::internal::GetCapturedStdout();
-    outcome.complaints = ::testing::internal::GetCapturedStderr();
-    // A test's own output has the line ends of the system.
-    std::erase(outcome.output, '\r');
-    return outcome;
-}
-
 constexpr std::string_view Gun =
     "<weapon><name>WEAPON_CANNON_75</name><type>WEAPON_CANNON</type>"
     "<dimensions><calibre>75</calibre></dimensions><ammo>"
@@ -309,16 +292,16 @@ TEST(PenetrationCommand, PrintsSevenLines) {
     folder.write("gun.txt", Gun);
     const std::string gun = folder.path() + "gun.txt";
     // 127.5 * cos(60 / 57.296) is 63.75, 450.5 * 2.71828^(-0.1 r / 1000) falls as the table has it.
-    const Outcome heat = run({"penetration", gun, "0", "60", "10"});
+    const CommandOutcome heat = runCommand({"penetration", gun, "0", "60", "10"});
     EXPECT_EQ(heat.status, cli::Done);
     EXPECT_EQ(heat.output, "0 m\t64 mm\t450 m/s\n100 m\t64 mm\t446 m/s\n200 m\t64 mm\t442 m/s\n"
                            "300 m\t64 mm\t437 m/s\n400 m\t64 mm\t433 m/s\n500 m\t64 mm\t429 m/s\n"
                            "1000 m\t64 mm\t408 m/s\n");
-    const Outcome lenient = run({"penetration", gun, "2", "upright", "none"});
+    const CommandOutcome lenient = runCommand({"penetration", gun, "2", "upright", "none"});
     EXPECT_EQ(lenient.status, cli::Done);
     EXPECT_TRUE(lenient.output.starts_with("0 m\t152 mm\t935 m/s\n")) << lenient.output;
     EXPECT_TRUE(lenient.output.ends_with("\n1000 m\t152 mm\t935 m/s\n")) << lenient.output;
-    EXPECT_TRUE(run({"penetration", gun, "1", "0", "0"}).output.starts_with("0 m\t0.0 mm\t540 m/s\n"));
+    EXPECT_TRUE(runCommand({"penetration", gun, "1", "0", "0"}).output.starts_with("0 m\t0.0 mm\t540 m/s\n"));
 }
 
 TEST(PenetrationCommand, RefusesWhatItDoesNotUnderstand) {
@@ -345,7 +328,7 @@ TEST(PenetrationCommand, RefusesWhatItDoesNotUnderstand) {
     for (const std::vector<std::string>& call : calls) {
         std::vector<std::string> arguments = {"penetration"};
         arguments.insert(arguments.end(), call.begin(), call.end());
-        const Outcome outcome = run(arguments);
+        const CommandOutcome outcome = runCommand(arguments);
         EXPECT_EQ(outcome.status, cli::CouldNot) << outcome.complaints;
         EXPECT_TRUE(outcome.output.empty());
         EXPECT_FALSE(outcome.complaints.empty());
@@ -376,13 +359,13 @@ TEST(PenetrationCommand, PrintsAMatrix) {
     const std::string expected = heading + heat + a + "3000\n" + heat + upper + "-\n" + heat + lower +
                                  "3000\n" + heat + mantlet + "-\n" + shot + a + "3000\n" + shot + upper +
                                  "75\n" + shot + lower + "1314\n" + shot + mantlet + "956\n";
-    const Outcome matrix = run({"penetration", "--matrix", folder.path()});
+    const CommandOutcome matrix = runCommand({"penetration", "--matrix", folder.path()});
     EXPECT_EQ(matrix.status, cli::Done) << matrix.complaints;
     EXPECT_EQ(matrix.output, expected);
     // A folder without its backslash, and with a file that is no weapon.
     folder.write("Data\\Weapons\\broken.txt", "nothing");
-    const Outcome broken =
-        run({"penetration", "--matrix", folder.path().substr(0, folder.path().size() - 1)});
+    const CommandOutcome broken =
+        runCommand({"penetration", "--matrix", folder.path().substr(0, folder.path().size() - 1)});
     EXPECT_EQ(broken.status, cli::Findings);
     EXPECT_EQ(broken.output, expected);
     EXPECT_NE(broken.complaints.find("broken.txt"), std::string::npos) << broken.complaints;

@@ -25,8 +25,7 @@ bool parseModel(std::string_view cleaned, std::size_t mostNodes, ModelNode& root
 /// Whether the parser's tree is the model's, down to the links between the nodes.
 bool isSameTree(const TagTree& tree, const ModelNode& model);
 
-/// Parses a document and compares the tree with the model's; the document with an unfinished tag behind it
-/// too, which leaves the tree as it is but cannot be parsed in one pass from front to back. Says what
+/// Parses a document, as it stands and cleaned first, and compares both trees with the model's. Says what
 /// differs, or nothing. Documents whose ranges overlap into too large a tree are only parsed.
 std::string differenceFromModel(std::string_view document);
 

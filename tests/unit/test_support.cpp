@@ -1,5 +1,6 @@
 #include "test_support.h"
 
+#include "cli/command_line.h"
 #include "platform/file_operations.h"
 
 #include <algorithm>
@@ -94,6 +95,16 @@ const std::vector<SampleFile>& sampleFiles() {
 SquadRecord readUnitText(std::string_view content) {
     Diagnostics diagnostics;
     return readUnit(content, "unit", diagnostics);
+}
+
+CommandOutcome runCommand(const std::vector<std::string>& arguments) {
+    ::testing::internal::CaptureStdout();
+    ::testing::internal::CaptureStderr();
+    CommandOutcome outcome{cli::runCommandLine(arguments), {}, {}};
+    outcome.output = ::testing::internal::GetCapturedStdout();
+    outcome.complaints = ::testing::internal::GetCapturedStderr();
+    std::erase(outcome.output, '\r');
+    return outcome;
 }
 
 TemporaryFolder::TemporaryFolder() {

@@ -40,6 +40,14 @@ const std::vector<SampleFile>& sampleFiles();
 /// Reads a unit without looking at its diagnostics.
 SquadRecord readUnitText(std::string_view content);
 
+/// What `varrocade-data` did: its exit status, and what it printed, with line ends of one character.
+struct CommandOutcome {
+    int status;
+    std::string output;
+    std::string complaints;
+};
+CommandOutcome runCommand(const std::vector<std::string>& arguments);
+
 /// A folder of its own for a test, gone with it.
 class TemporaryFolder {
 public:
