@@ -136,6 +136,9 @@ std::optional<FileFailure> BackupKeeper::keepUnsaved(FileOperations& files, cons
 std::optional<FileFailure> replaceDataFile(FileOperations& files, BackupKeeper& backups,
                                            const std::string& base, const std::string& path,
                                            std::string_view content) {
+    if (path.size() > MaxDataPathLength) {
+        return FileFailure{path, "the path is longer than the game can open"};
+    }
     const std::string folder = withoutEndingBackslash(std::string_view(path).substr(0, path.rfind('\\') + 1));
     if (!folder.empty()) {
         if (auto failure = createFolders(files, folder + "\\")) {

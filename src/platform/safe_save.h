@@ -4,6 +4,7 @@
 
 #include "platform/file_operations.h"
 
+#include <cstddef>
 #include <optional>
 #include <set>
 #include <string>
@@ -37,6 +38,9 @@ private:
 /// Creates every folder of `path` (which ends in a backslash) that does not exist yet.
 /// On failure the folder that could not be created.
 std::optional<FileFailure> createFolders(FileOperations& files, const std::string& path);
+
+/// The longest path that the game opens; backups and temporary files may be longer.
+inline constexpr std::size_t MaxDataPathLength = 259;
 
 /// Backs up, then saves: what every writer of the editor's data files goes through.
 std::optional<FileFailure> replaceDataFile(FileOperations& files, BackupKeeper& backups,

@@ -4,10 +4,28 @@
 
 #include <array>
 #include <cstdio>
+#include <string>
 
 namespace varrocade {
 
 namespace {
+
+/// The path in the system's own characters. A path beyond the classic limit, which backups and temporary
+/// files may reach, is given in the form that has no limit.
+std::wstring nativePath(const std::string& path) {
+    const int count = static_cast<int>(path.size());
+    std::wstring wide(path.size(), L'\0');
+    wide.resize(
+        static_cast<std::size_t>(MultiByteToWideChar(CP_ACP, 0, path.data(), count, wide.data(), count)));
+    // A folder needs room for a file of eight and three characters in it.
+    constexpr std::size_t longestFolder = MAX_PATH - 13;
+    if (wide.size() < longestFolder || wide.starts_with(L"\\\\")) {
+        return wide;
+    }
+    std::wstring full(wide.size() + MAX_PATH, L'\0');
+    full.resize(GetFullPathNameW(wide.c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr));
+    return L"\\\\?\\" + full;
+}
 
 class FileHandle {
 public:
@@ -50,19 +68,28 @@ class Win32Files : public FileOperations {
 public:
     bool read(const std::string& path, std::string& content) override { return readWholeFile(path, content); }
     bool exists(const std::string& path) override {
-        return GetFileAttributesA(path.c_str()) != INVALID_FILE_ATTRIBUTES;
+        return GetFileAttributesW(nativePath(path).c_str()) != INVALID_FILE_ATTRIBUTES;
     }
     std::unique_ptr<OutputFile> createNew(const std::string& path) override {
-        HANDLE handle =
-            CreateFileA(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr);
+        HANDLE handle = CreateFileW(nativePath(path).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
+                                    FILE_ATTRIBUTE_NORMAL, nullptr);
         return handle == INVALID_HANDLE_VALUE ? nullptr : std::make_unique<Win32OutputFile>(handle);
     }
     bool replace(const std::string& from, const std::string& to) override {
-        return MoveFileExA(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
+        const std::wstring target = nativePath(to);
+        // Wine replaces read-only files too.
+        const DWORD attributes = GetFileAttributesW(target.c_str());
+        if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0) {
+            SetLastError(ERROR_ACCESS_DENIED);
+            return false;
+        }
+        return MoveFileExW(nativePath(from).c_str(), target.c_str(),
+                           MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
     }
-    bool remove(const std::string& path) override { return DeleteFileA(path.c_str()) != 0; }
+    bool remove(const std::string& path) override { return DeleteFileW(nativePath(path).c_str()) != 0; }
     bool createFolder(const std::string& path) override {
-        return CreateDirectoryA(path.c_str(), nullptr) != 0 || GetLastError() == ERROR_ALREADY_EXISTS;
+        return CreateDirectoryW(nativePath(path).c_str(), nullptr) != 0 ||
+               GetLastError() == ERROR_ALREADY_EXISTS;
     }
     std::string lastError() override {
         std::array<char, 512> text{};
@@ -85,8 +112,9 @@ FileOperations& systemFiles() {
 }
 
 bool readWholeFile(const std::string& path, std::string& content) {
-    const FileHandle file(CreateFileA(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
-                                      OPEN_EXISTING, FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
+    const FileHandle file(CreateFileW(nativePath(path).c_str(), GENERIC_READ,
+                                      FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING,
+                                      FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
     LARGE_INTEGER size{};
     if (!file.valid() || GetFileSizeEx(file.get(), &size) == 0) {
         return false;
@@ -111,8 +139,9 @@ bool readWholeFile(const std::string& path, std::string& content) {
 }
 
 bool readFileBeginning(const std::string& path, std::size_t length, std::string& content) {
-    const FileHandle file(CreateFileA(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
-                                      OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+    const FileHandle file(CreateFileW(nativePath(path).c_str(), GENERIC_READ,
+                                      FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING,
+                                      FILE_ATTRIBUTE_NORMAL, nullptr));
     content.resize(length);
     DWORD got = 0;
     const bool isRead =
