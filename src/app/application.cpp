@@ -40,9 +40,9 @@ bool isUnitModified() {
     return app.openUnit && app.savedUnit && *app.openUnit != *app.savedUnit;
 }
 
-void closeRecord() {
+void closeRecord(const std::string& base) {
     Application& app = application();
-    keepUnsavedUnit();
+    keepUnsavedUnit(base);
     app.openUnit.reset();
     app.savedUnit.reset();
     app.history.clear();

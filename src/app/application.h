@@ -72,7 +72,8 @@ std::string openFileName();
 /// Whether the open unit differs from its file.
 bool isUnitModified();
 
-/// Drops the open record and with it the unsaved positions.
-void closeRecord();
+/// Drops the open record and with it the unsaved positions. What was changed in it only here is kept among
+/// the backups of the base folder that it came from.
+void closeRecord(const std::string& base = baseFolder());
 
 } // namespace varrocade

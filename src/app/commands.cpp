@@ -166,6 +166,9 @@ void updateMenu(HMENU menu) {
     const std::string redo = "&Redo " + std::string(history.redoName()) + "\tCtrl+Y";
     ModifyMenuA(menu, IDM_UNDO, MF_BYCOMMAND | MF_STRING, IDM_UNDO, undo.c_str());
     ModifyMenuA(menu, IDM_REDO, MF_BYCOMMAND | MF_STRING, IDM_REDO, redo.c_str());
+    CheckMenuRadioItem(menu, IDC_VEHICLES, IDC_WEAPONS,
+                       static_cast<UINT>(IDC_VEHICLES + static_cast<int>(application().category)),
+                       MF_BYCOMMAND);
     for (const Command& command : Commands) {
         EnableMenuItem(menu, static_cast<UINT>(command.id),
                        MF_BYCOMMAND | (command.isEnabled() ? MF_ENABLED : MF_GRAYED));

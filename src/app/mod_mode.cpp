@@ -74,7 +74,7 @@ bool offerNewMod() {
         return false;
     }
     if (createModFolder()) {
-        closeRecord();
+        closeRecord(application().programFolder);
         showOpenRecord();
         editModSettings();
     }

@@ -102,15 +102,15 @@ bool canEditOpenRecord() {
     return app.category == Category::Vehicles && app.openUnit && app.openUnit->vehicle;
 }
 
-void keepUnsavedUnit() {
+void keepUnsavedUnit(const std::string& base) {
     Application& app = application();
     if (!isUnitModified()) {
         return;
     }
     const std::optional<std::string> text = unitFileText(app.category, *app.openUnit);
-    const std::string path = dataFilePath(baseFolder(), app.category, app.openUnit->fileName);
+    const std::string path = dataFilePath(base, app.category, app.openUnit->fileName);
     if (text) {
-        if (const auto failure = app.backups.keepUnsaved(systemFiles(), baseFolder(), path, *text)) {
+        if (const auto failure = app.backups.keepUnsaved(systemFiles(), base, path, *text)) {
             debugLine("ERROR: " + failure->path + ": " + failure->reason);
         }
     }

@@ -17,7 +17,7 @@ SaveResult saveOpenRecord();
 
 /// Writes the open unit among the backups when it differs from its file, so that changes that were kept in
 /// memory only are not lost when another file is opened.
-void keepUnsavedUnit();
+void keepUnsavedUnit(const std::string& base);
 
 /// Notes a change of the open unit that can be undone under this name, and shows it.
 void unitChanged(std::string_view change);
