@@ -12,7 +12,7 @@ namespace {
 
 constexpr double GroundScale = 1.0; ///< centimetres a pixel
 constexpr double AirScale = 2.0;    ///< aircraft pictures are drawn at half the scale
-constexpr double UnknownWidth = 200;
+constexpr double UnknownPictureSize = 200;
 
 class PictureStack {
 public:
@@ -34,7 +34,7 @@ public:
             }
         }
         list_.missingPictures.push_back(below);
-        const double size = width > 0 ? width : UnknownWidth;
+        const double size = width > 0 ? width : UnknownPictureSize;
         place(PlaceholderItem{"Missing: " + std::string(name) + std::string(ImageEnding), centre, size, size,
                               0, false});
     }
