@@ -10,6 +10,7 @@
 #include "app/stubs.h"
 #include "editors/form_port_win32.h"
 #include "editors/penetration_dialog.h"
+#include "editors/penetration_form.h"
 #include "resources/resource.h"
 
 #include <algorithm>
@@ -100,9 +101,21 @@ INT_PTR CALLBACK aboutProcedure(HWND dialog, UINT message, WPARAM parameter, LPA
     return message == WM_INITDIALOG ? TRUE : FALSE;
 }
 
-void penetrationCalculations() {
+PenetrationTools penetrationTools() {
     const Application& app = application();
-    calculatePenetration(app.window, app.catalogue, app.drawing);
+    return {.catalogue = app.catalogue,
+            .drawing = app.drawing,
+            .vehicleBases = imageBases(),
+            .openUnit = isVehicleOpen() ? &*app.openUnit : nullptr};
+}
+
+void penetrationCalculations() {
+    calculatePenetration(application().window, penetrationTools());
+}
+
+void canItPenetrate() {
+    const Application& app = application();
+    askWhatPenetrates(app.window, penetrationTools(), {.weapon = firstPenetrationWeapon(app.catalogue)});
 }
 
 void showAbout() {
@@ -129,6 +142,7 @@ constexpr auto Commands = std::to_array<Command>({
     {IDM_MOD_MODE, switchModMode, always},
     {IDM_EDIT_MOD, editModSettings, inModMode},
     {IDM_PENETRATION, penetrationCalculations, always},
+    {IDM_CAN_PENETRATE, canItPenetrate, always},
     {IDM_REDUCE_IMAGES, reduceImageSizes, isVehicleOpen},
     {IDM_GENERATE_THUMBNAILS, generateThumbnails, always},
     {IDM_PNG_USAGE, generatePngUsage, always},

@@ -22,12 +22,8 @@ struct ComponentDialog {
     std::size_t index;
 
     [[nodiscard]] ComponentRecord& component() const { return edit.record.vehicle->components[index]; }
-    /// "2. Turret", to name the component in captions and in the list of changes.
-    [[nodiscard]] std::string title() const {
-        ComponentRecord plain;
-        plain.kind = component().kind;
-        return componentLine(index + 1, plain);
-    }
+    /// Names the component in captions and in the list of changes.
+    [[nodiscard]] std::string title() const { return componentTitle(index + 1, component().kind); }
 };
 
 constexpr std::string_view GenericPrefix = "Image-";

@@ -11,8 +11,6 @@ namespace {
 
 using Vehicle = VehicleRecord;
 
-constexpr NumberRange NotNegative = {.least = 0};
-
 constexpr auto DriveFields = std::to_array<FormField<Vehicle>>({
     {IDC_ENGINE, "Engine", &Vehicle::engineName},
     {IDC_HORSEPOWER, "Horsepower", &Vehicle::horsepower, NotNegative},

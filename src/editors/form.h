@@ -44,6 +44,8 @@ struct NumberRange {
     bool zeroForOtherTexts = false;
 };
 
+inline constexpr NumberRange NotNegative = {.least = 0};
+
 /// One field of a form: a control, the member of the record that it shows, and how.
 template <typename Record>
 struct FormField {

@@ -1,5 +1,6 @@
 #include "editors/penetration_dialog.h"
 
+#include "editors/clipboard_win32.h"
 #include "editors/form_port_win32.h"
 #include "editors/penetration_form.h"
 #include "resources/resource.h"
@@ -10,7 +11,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstring>
 #include <memory>
 
 namespace varrocade {
@@ -18,8 +18,7 @@ namespace varrocade {
 namespace {
 
 struct PenetrationDialog {
-    const WeaponCatalogue& catalogue;
-    const DrawingObjects& drawing;
+    const PenetrationTools& tools;
     const WeaponRecord* weapon = nullptr;
     std::size_t shell = 0;
     /// A curve each ammunition type of the weapon, for the angle and drag in the form.
@@ -56,7 +55,7 @@ void recalculate(HWND dialog, PenetrationDialog& context) {
 
 void chooseWeapon(HWND dialog, PenetrationDialog& context) {
     const LRESULT chosen = SendDlgItemMessageA(dialog, IDC_PEN_WEAPON, CB_GETCURSEL, 0, 0);
-    const auto& entries = context.catalogue.entries();
+    const auto& entries = context.tools.catalogue.entries();
     context.weapon = chosen >= 0 && static_cast<std::size_t>(chosen) < entries.size()
                          ? &entries[static_cast<std::size_t>(chosen)].weapon
                          : nullptr;
@@ -117,7 +116,7 @@ void drawPointed(HDC device, const RECT& area, int margin, const PenetrationDial
     if (context.pointedRange < 0 || context.shell >= context.curves.size()) {
         return;
     }
-    const Selection pen(device, context.drawing.redPen.get());
+    const Selection pen(device, context.tools.drawing.redPen.get());
     const int x = curveX(area, margin, context.pointedRange);
     MoveToEx(device, x, area.top + margin / 2, nullptr);
     LineTo(device, x, area.bottom - margin);
@@ -129,7 +128,7 @@ void drawPointed(HDC device, const RECT& area, int margin, const PenetrationDial
 }
 
 void drawCurves(const DRAWITEMSTRUCT& item, const PenetrationDialog& context) {
-    const DrawingObjects& drawing = context.drawing;
+    const DrawingObjects& drawing = context.tools.drawing;
     FillRect(item.hDC, &item.rcItem, drawing.beigeBrush.get());
     const Selection font(item.hDC, drawing.smallFont.get());
     SetBkMode(item.hDC, TRANSPARENT);
@@ -152,7 +151,7 @@ LRESULT CALLBACK curvesProcedure(HWND curves, UINT message, WPARAM parameter, LP
         auto& context = *reinterpret_cast<PenetrationDialog*>(data);
         RECT area{};
         GetClientRect(curves, &area);
-        const int margin = context.drawing.scaled(CurveMargin);
+        const int margin = context.tools.drawing.scaled(CurveMargin);
         const int range =
             MulDiv(GET_X_LPARAM(detail) - margin, CurveEnd, std::max<int>(1, area.right - 2 * margin));
         context.pointedRange = range >= 0 && range <= CurveEnd ? range : -1;
@@ -162,40 +161,29 @@ LRESULT CALLBACK curvesProcedure(HWND curves, UINT message, WPARAM parameter, LP
     return DefSubclassProc(curves, message, parameter, detail);
 }
 
-// ---- the clipboard
-
-void copyToClipboard(HWND owner, const std::string& text) {
-    if (OpenClipboard(owner) == FALSE) {
-        return;
-    }
-    EmptyClipboard();
-    HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, text.size() + 1);
-    if (void* bytes = memory != nullptr ? GlobalLock(memory) : nullptr) {
-        std::memcpy(bytes, text.c_str(), text.size() + 1);
-        GlobalUnlock(memory);
-        // The system owns the memory from now on.
-        if (SetClipboardData(CF_TEXT, memory) == nullptr) {
-            GlobalFree(memory);
-        }
-    }
-    CloseClipboard();
-}
-
 // ---- the dialog
 
 void fillDialog(HWND dialog, PenetrationDialog& context) {
     DialogPort port(dialog);
     context.isFilling = true;
-    const std::vector<std::string> weapons = penetrationWeapons(context.catalogue);
-    port.setChoices(IDC_PEN_WEAPON, weapons);
+    port.setChoices(IDC_PEN_WEAPON, penetrationWeapons(context.tools.catalogue));
     fillPenetrationDefaults(port);
     context.isFilling = false;
-    const auto first = std::find(weapons.begin(), weapons.end(), FirstPenetrationWeapon);
-    const auto index = first == weapons.end() ? 0 : first - weapons.begin();
-    SendDlgItemMessageA(dialog, IDC_PEN_WEAPON, CB_SETCURSEL, static_cast<WPARAM>(index), 0);
+    SendDlgItemMessageA(dialog, IDC_PEN_WEAPON, CB_SETCURSEL, firstPenetrationWeapon(context.tools.catalogue),
+                        0);
     SetWindowSubclass(GetDlgItem(dialog, IDC_CURVES), curvesProcedure, 0,
                       reinterpret_cast<DWORD_PTR>(&context));
     chooseWeapon(dialog, context);
+}
+
+/// The same shot at a vehicle.
+void askPlates(HWND dialog, const PenetrationDialog& context) {
+    DialogPort port(dialog);
+    const LRESULT weapon = SendDlgItemMessageA(dialog, IDC_PEN_WEAPON, CB_GETCURSEL, 0, 0);
+    askWhatPenetrates(dialog, context.tools,
+                      {.weapon = static_cast<std::size_t>(std::max<LRESULT>(0, weapon)),
+                       .shell = context.shell,
+                       .drags = formDrags(port)});
 }
 
 void handleCommand(HWND dialog, PenetrationDialog& context, int control, int notification) {
@@ -211,6 +199,8 @@ void handleCommand(HWND dialog, PenetrationDialog& context, int control, int not
     } else if (control == IDC_COPY_TABLE && context.shell < context.curves.size()) {
         DialogPort port(dialog);
         copyToClipboard(dialog, penetrationTable(port, *context.weapon, context.shell));
+    } else if (control == IDC_CAN_PENETRATE) {
+        askPlates(dialog, context);
     } else if (!context.isFilling && (notification == EN_CHANGE || notification == CBN_EDITCHANGE)) {
         recalculate(dialog, context);
     }
@@ -239,8 +229,8 @@ INT_PTR CALLBACK penetrationProcedure(HWND dialog, UINT message, WPARAM paramete
 
 } // namespace
 
-void calculatePenetration(HWND owner, const WeaponCatalogue& catalogue, const DrawingObjects& drawing) {
-    PenetrationDialog context{.catalogue = catalogue, .drawing = drawing};
+void calculatePenetration(HWND owner, const PenetrationTools& tools) {
+    PenetrationDialog context{.tools = tools};
     runDialog(owner, IDD_PENETRATION, penetrationProcedure, &context);
 }
 

@@ -1,14 +1,12 @@
 #pragma once
 
-#include "weapons/weapon_catalogue.h"
+#include "editors/can_penetrate_dialog.h"
 
 #include <windows.h>
 
 namespace varrocade {
 
-struct DrawingObjects;
-
 /// Opens the "Penetration Calculation" dialog. It reads weapons and changes nothing.
-void calculatePenetration(HWND owner, const WeaponCatalogue& catalogue, const DrawingObjects& drawing);
+void calculatePenetration(HWND owner, const PenetrationTools& tools);
 
 } // namespace varrocade

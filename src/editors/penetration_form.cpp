@@ -5,6 +5,7 @@
 #include "view/sheet_text.h"
 #include "weapons/weapon_names.h"
 
+#include <algorithm>
 #include <array>
 
 namespace varrocade {
@@ -43,6 +44,14 @@ std::vector<std::string> penetrationWeapons(const WeaponCatalogue& catalogue) {
     return names;
 }
 
+std::size_t firstPenetrationWeapon(const WeaponCatalogue& catalogue) {
+    const auto& entries = catalogue.entries();
+    const auto first = std::find_if(entries.begin(), entries.end(), [](const CatalogueEntry& entry) {
+        return entry.weapon.fileName == FirstPenetrationWeapon;
+    });
+    return first == entries.end() ? 0 : static_cast<std::size_t>(first - entries.begin());
+}
+
 std::vector<std::string> shellTypes(const WeaponRecord& weapon) {
     std::vector<std::string> names;
     for (const AmmoTypeRecord& ammo : weapon.ammoTypes) {
@@ -56,9 +65,9 @@ std::vector<std::string> shellTypes(const WeaponRecord& weapon) {
 }
 
 void fillPenetrationDefaults(FormPort& port) {
-    const auto classes = dragClasses();
-    for (std::size_t i = 0; i < DragControls.size() && i < classes.size(); ++i) {
-        port.setText(DragControls[i], number(classes[i].coefficient));
+    const DragTexts drags = defaultDragTexts();
+    for (std::size_t i = 0; i < DragControls.size(); ++i) {
+        port.setText(DragControls[i], drags[i]);
     }
     std::vector<std::string> angles;
     angles.reserve(OfferedAngles.size());
@@ -67,6 +76,14 @@ void fillPenetrationDefaults(FormPort& port) {
     }
     port.setChoices(IDC_PEN_ANGLE, angles);
     port.setText(IDC_PEN_ANGLE, "0");
+}
+
+DragTexts formDrags(FormPort& port) {
+    DragTexts texts;
+    for (std::size_t i = 0; i < DragControls.size(); ++i) {
+        texts[i] = port.text(DragControls[i]);
+    }
+    return texts;
 }
 
 double formDrag(FormPort& port, AmmoFlavour flavour) {

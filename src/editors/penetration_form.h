@@ -2,6 +2,7 @@
 // What the "Penetration Calculation" dialog shows, without any window.
 
 #include "analysis/penetration.h"
+#include "editors/can_penetrate_form.h"
 #include "editors/form.h"
 #include "weapons/weapon_catalogue.h"
 
@@ -18,6 +19,9 @@ inline constexpr std::string_view FirstPenetrationWeapon = "WEAPON_CANNON_75_KWK
 /// The file names of the weapons in the catalogue's order.
 std::vector<std::string> penetrationWeapons(const WeaponCatalogue& catalogue);
 
+/// The place of `FirstPenetrationWeapon`, or 0.
+std::size_t firstPenetrationWeapon(const WeaponCatalogue& catalogue);
+
 /// The ammunition types of a weapon as the list shows them, in file order.
 std::vector<std::string> shellTypes(const WeaponRecord& weapon);
 
@@ -27,6 +31,9 @@ void fillPenetrationDefaults(FormPort& port);
 /// The figures of the weapon and of the chosen ammunition type, and the seven rows of results from the drag
 /// coefficients and the angle in the form. Dashes without a weapon or an ammunition type.
 void showPenetration(FormPort& port, const WeaponRecord* weapon, std::size_t shell);
+
+/// The drag coefficients as they stand in the form.
+DragTexts formDrags(FormPort& port);
 
 /// The drag coefficient that the form holds for a flavour; a text that is no number is 0.
 double formDrag(FormPort& port, AmmoFlavour flavour);

@@ -12,8 +12,6 @@ namespace varrocade {
 
 namespace {
 
-constexpr NumberRange AtLeastZero = {.least = 0};
-
 std::string numbered(std::size_t place, const std::string& text) {
     return std::to_string(place) + ". " + text;
 }
@@ -54,9 +52,9 @@ constexpr auto DischargerFields = std::to_array<FormField<Discharger>>({
     {IDC_ANGLE, "Angle", &Discharger::angle, {-360, 360}},
     {IDC_ELEVATION_GIVEN, "Elevation given", &Discharger::elevationGiven},
     {IDC_ELEVATION, "Elevation", &Discharger::elevation, {-90, 90}},
-    {IDC_SPEED, "Speed", &Discharger::speed, AtLeastZero},
-    {IDC_ROUNDS, "Rounds", &Discharger::ammo, AtLeastZero},
-    {IDC_RELOAD, "Reload", &Discharger::reload, AtLeastZero},
+    {IDC_SPEED, "Speed", &Discharger::speed, NotNegative},
+    {IDC_ROUNDS, "Rounds", &Discharger::ammo, NotNegative},
+    {IDC_RELOAD, "Reload", &Discharger::reload, NotNegative},
 });
 
 std::string dischargerLine(std::size_t place, const Discharger& discharger) {
@@ -129,7 +127,7 @@ std::string personalWeaponLine(std::size_t place, const PersonalWeapon& weapon) 
 constexpr auto AmmunitionFields = std::to_array<FormField<AmmoLoadRecord>>({
     {IDC_WEAPON_TYPE, "For", &AmmoLoadRecord::weaponType},
     {IDC_FLAVOUR, "Flavour", &AmmoLoadRecord::flavour},
-    {IDC_ROUNDS, "Rounds", &AmmoLoadRecord::rounds, AtLeastZero},
+    {IDC_ROUNDS, "Rounds", &AmmoLoadRecord::rounds, NotNegative},
 });
 
 std::string ammunitionLine(std::size_t place, const AmmoLoadRecord& ammo) {

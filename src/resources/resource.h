@@ -38,6 +38,7 @@
 #define IDD_AMMUNITION 242
 #define IDD_AVAILABILITY 243
 #define IDD_PERSONAL_WEAPONS 244
+#define IDD_CAN_PENETRATE 250
 
 // The main window's controls.
 #define IDC_FILE_LIST 1001
@@ -76,6 +77,7 @@
 #define IDM_REDO 32805
 #define IDM_SAVE 32806
 #define IDM_GAME_FOLDER 32807
+#define IDM_CAN_PENETRATE 32820
 
 // Controls of the "Details" dialog.
 #define IDC_NATIONALITY 1200
@@ -208,6 +210,17 @@
 #define IDC_VELOCITY_ROWS 1119
 #define IDC_CURVES 1130
 #define IDC_COPY_TABLE 1131
+#define IDC_CAN_PENETRATE 1132
+
+// Controls of the "Can It Penetrate?" dialog.
+#define IDC_TARGET_VEHICLE 1400
+#define IDC_SHOT_WEAPON 1401
+#define IDC_SHOT_SHELL 1402
+#define IDC_SHOT_DRAG 1403
+#define IDC_SHOT_DRAG_CLASS 1404
+#define IDC_PLATE_TABLE 1405
+#define IDC_PLATE_OUTLINE 1406
+#define IDC_POINTED_PLATE 1407
 
 // Controls of the dialogs that ask for a name.
 #define IDC_NEW_NAME 1230

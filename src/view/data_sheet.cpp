@@ -87,9 +87,8 @@ SheetSection armourSection(const VehicleRecord& vehicle) {
             continue;
         }
         const ArmourRecord& armour = component.armour;
-        table.rows.push_back({std::to_string(i + 1) + ". " + std::string(kindName(component.kind)),
-                              plateText(armour.upperFront), plateText(armour.lowerFront),
-                              sides(armour.upperLeft, armour.upperRight),
+        table.rows.push_back({componentTitle(i + 1, component.kind), plateText(armour.upperFront),
+                              plateText(armour.lowerFront), sides(armour.upperLeft, armour.upperRight),
                               sides(armour.lowerLeft, armour.lowerRight), plateText(armour.upperRear),
                               plateText(armour.lowerRear), std::to_string(armour.top),
                               optionalThickness(armour.bottom), optionalThickness(armour.mantlet)});
@@ -215,8 +214,12 @@ SheetSection availabilitySection(const SquadRecord& record) {
 
 } // namespace
 
+std::string componentTitle(std::size_t place, ComponentKind kind) {
+    return std::to_string(place) + ". " + std::string(kindName(kind));
+}
+
 std::string componentLine(std::size_t place, const ComponentRecord& component) {
-    std::string line = std::to_string(place) + ". " + std::string(kindName(component.kind));
+    std::string line = componentTitle(place, component.kind);
     if (!component.crew.empty()) {
         line += " (crew " + std::to_string(component.crew.size()) + ")";
     }

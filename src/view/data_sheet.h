@@ -61,6 +61,9 @@ DataSheet weaponSheet(const WeaponRecord& weapon);
 void addSquadSections(DataSheet& sheet, const SquadRecord& record);
 void addAircraftSections(DataSheet& sheet, const AircraftRecord& aircraft);
 
+/// A component's place in the vehicle (from 1) and its kind: "2. Turret".
+std::string componentTitle(std::size_t place, ComponentKind kind);
+
 /// The line that names a component in lists: its place in the vehicle (from 1), its kind and its crew.
 std::string componentLine(std::size_t place, const ComponentRecord& component);
 

@@ -1,4 +1,5 @@
 #include "cli/command_line.h"
+#include "command_outcome.h"
 #include "data/unit_writers.h"
 #include "test_support.h"
 
