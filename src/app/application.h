@@ -43,6 +43,7 @@ struct Application {
     bool weaponPosChanged = false;
     bool exhaustPosChanged = false;
     bool showDestroyed = false;
+    bool showMarks = true; ///< of weapons, exhaust pipes, dischargers and crew in the drawing
 
     std::optional<SquadRecord> savedUnit; ///< the open unit as its file holds it
     UndoHistory history;

@@ -1,12 +1,14 @@
 #include "app/commands.h"
 
 #include "app/application.h"
+#include "app/drawing_window.h"
 #include "app/file_commands.h"
 #include "app/file_list.h"
 #include "app/game_folder.h"
 #include "app/main_window.h"
 #include "app/mod_mode.h"
 #include "app/open_record.h"
+#include "app/part_selection.h"
 #include "app/stubs.h"
 #include "editors/form_port_win32.h"
 #include "editors/penetration_dialog.h"
@@ -77,6 +79,21 @@ void toggleDestroyed() {
                   MF_BYCOMMAND | (app.showDestroyed ? MF_CHECKED : MF_UNCHECKED));
     displayChanged();
     redrawNow();
+}
+
+void toggleMarks() {
+    Application& app = application();
+    app.showMarks = !app.showMarks;
+    displayChanged();
+    redrawNow();
+}
+
+void putBack() {
+    putPartBack();
+}
+
+bool hasDrawing() {
+    return application().display.hasDrawing;
 }
 
 void findInList() {
@@ -159,6 +176,10 @@ constexpr auto Commands = std::to_array<Command>({
     {IDM_SAVE, saveRecord, canSave},
     {IDM_UNDO, undoChange, canUndo},
     {IDM_REDO, redoChange, canRedo},
+    {IDM_EDIT_PART, editSelectedPart, canEditSelectedPart},
+    {IDM_PUT_BACK, putBack, always},
+    {IDM_WHOLE_UNIT, resetView, hasDrawing},
+    {IDM_SHOW_MARKS, toggleMarks, always},
     {IDM_GAME_FOLDER, browseForGameFolder, always},
 });
 
@@ -183,6 +204,7 @@ void updateMenu(HMENU menu) {
     CheckMenuRadioItem(menu, IDC_VEHICLES, IDC_WEAPONS,
                        static_cast<UINT>(IDC_VEHICLES + static_cast<int>(application().category)),
                        MF_BYCOMMAND);
+    CheckMenuItem(menu, IDM_SHOW_MARKS, MF_BYCOMMAND | (application().showMarks ? MF_CHECKED : MF_UNCHECKED));
     for (const Command& command : Commands) {
         EnableMenuItem(menu, static_cast<UINT>(command.id),
                        MF_BYCOMMAND | (command.isEnabled() ? MF_ENABLED : MF_GRAYED));

@@ -2,12 +2,15 @@
 
 #include "app/application.h"
 #include "app/commands.h"
+#include "app/drawing_window.h"
 #include "app/file_commands.h"
 #include "app/file_list.h"
 #include "app/open_record.h"
 #include "app/positions.h"
 #include "app/window_layout.h"
 #include "resources/resource.h"
+
+#include <windowsx.h>
 
 #include <array>
 
@@ -88,6 +91,9 @@ void layOut(HWND window) {
     const int barWidth = GetSystemMetrics(SM_CXVSCROLL);
     details.x = right - details.width - DetailsButtonMargin - MulDiv(barWidth, USER_DEFAULT_SCREEN_DPI, dpi);
     move(window, IDC_EDIT_DETAILS, details);
+    const Place drawing = picturePlace(client.right, client.bottom, dpi);
+    SetWindowPos(GetDlgItem(window, IDC_DRAWING), nullptr, drawing.x, drawing.y, drawing.width,
+                 drawing.height, SWP_NOZORDER | SWP_NOACTIVATE);
     SetWindowPos(GetDlgItem(window, IDC_SHEET_SCROLL), nullptr, client.right - barWidth, 0, barWidth,
                  client.bottom, SWP_NOZORDER | SWP_NOACTIVATE);
 }
@@ -101,6 +107,7 @@ LRESULT create(HWND window) {
     for (const ButtonRow& row : FileButtons) {
         createButton(window, row);
     }
+    createDrawingWindow(window);
     createButton(window, {IDC_EDIT_DETAILS, "Details..."});
     CreateWindowExA(0, "SCROLLBAR", "", WS_CHILD | SBS_VERT, 0, 0, 0, 0, window,
                     reinterpret_cast<HMENU>(static_cast<INT_PTR>(IDC_SHEET_SCROLL)), application().instance,
@@ -136,6 +143,17 @@ void scroll(HWND window, int wheel) {
     GetClientRect(window, &client);
     scrollSheet(-MulDiv(wheel, application().drawing.scaled(WheelStep), WHEEL_DELTA), client.bottom);
     redrawNow();
+}
+
+/// The wheel zooms the drawing about the mouse, and scrolls the sheet everywhere else.
+void wheel(HWND window, WPARAM parameter, LPARAM detail) {
+    const POINT pixel{GET_X_LPARAM(detail), GET_Y_LPARAM(detail)};
+    const int delta = GET_WHEEL_DELTA_WPARAM(parameter);
+    if (isOverDrawing(pixel)) {
+        zoomDrawing(pixel, delta > 0 ? 1 : -1);
+    } else {
+        scroll(window, delta);
+    }
 }
 
 void moveToOtherScreen(HWND window, int dpi, const RECT& suggested) {
@@ -219,7 +237,7 @@ LRESULT CALLBACK mainWindowProcedure(HWND window, UINT message, WPARAM parameter
         drawListEntry(*reinterpret_cast<const DRAWITEMSTRUCT*>(detail));
         return TRUE;
     case WM_MOUSEWHEEL:
-        scroll(window, GET_WHEEL_DELTA_WPARAM(parameter));
+        wheel(window, parameter, detail);
         return 0;
     case WM_VSCROLL: {
         RECT client{};
@@ -263,7 +281,7 @@ bool registerClass(const std::string& className) {
     windowClass.hbrBackground = reinterpret_cast<HBRUSH>(static_cast<INT_PTR>(COLOR_WINDOW + 1));
     windowClass.lpszMenuName = MAKEINTRESOURCEA(IDR_MENU);
     windowClass.lpszClassName = className.c_str();
-    return RegisterClassExA(&windowClass) != 0;
+    return RegisterClassExA(&windowClass) != 0 && registerDrawingWindow(instance);
 }
 
 } // namespace
@@ -289,6 +307,11 @@ HWND createMainWindow() {
 void showOpenRecord() {
     UnitDisplay& display = application().display;
     display.scroll = 0;
+    display.ownFit.reset();
+    display.turns.clear();
+    display.selected = {};
+    display.movedPart = {};
+    display.drag.reset();
     displayChanged();
     updateButtons();
     redrawNow();
@@ -303,6 +326,7 @@ void redrawNow() {
     const RECT area = displayArea(window);
     InvalidateRect(window, &area, FALSE);
     UpdateWindow(window);
+    redrawDrawing();
 }
 
 bool isWindowNavigation(MSG& message) {

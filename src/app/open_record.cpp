@@ -7,6 +7,7 @@
 #include "data/unit_reader.h"
 #include "editors/vehicle_editor.h"
 #include "platform/messages.h"
+#include "view/part_positions.h"
 #include "weapons/weapon_files.h"
 #include "weapons/weapon_losses.h"
 
@@ -124,13 +125,29 @@ void unitChanged(std::string_view change) {
     redrawSelectedEntry();
 }
 
+namespace {
+
+/// After going to another state: shows it, and asks for its positions to be saved when they are not those of
+/// the file.
+void stateChanged() {
+    Application& app = application();
+    if (app.savedUnit) {
+        const MovedPositions moved = movedPositions(*app.savedUnit, *app.openUnit);
+        app.weaponPosChanged = moved.weapons;
+        app.exhaustPosChanged = moved.exhausts;
+    }
+    displayChanged();
+    redrawNow();
+    redrawSelectedEntry();
+}
+
+} // namespace
+
 void undoChange() {
     Application& app = application();
     if (app.openUnit && app.history.canUndo()) {
         app.openUnit = app.history.undo();
-        displayChanged();
-        redrawNow();
-        redrawSelectedEntry();
+        stateChanged();
     }
 }
 
@@ -138,17 +155,12 @@ void redoChange() {
     Application& app = application();
     if (app.openUnit && app.history.canRedo()) {
         app.openUnit = app.history.redo();
-        displayChanged();
-        redrawNow();
-        redrawSelectedEntry();
+        stateChanged();
     }
 }
 
-void editOpenRecord() {
+void withEditContext(const std::function<bool(EditContext&)>& work) {
     Application& app = application();
-    if (!canEditOpenRecord()) {
-        return;
-    }
     EditContext edit{.record = *app.openUnit,
                      .catalogue = app.catalogue,
                      .imageBases = imageBases(),
@@ -158,12 +170,19 @@ void editOpenRecord() {
                              redrawNow();
                          },
                      .changed = unitChanged};
-    if (editVehicle(app.window, edit, app.drawing)) {
+    if (work(edit)) {
         saveOpenRecord();
     }
     displayChanged();
     redrawNow();
     redrawSelectedEntry();
+}
+
+void editOpenRecord() {
+    if (canEditOpenRecord()) {
+        withEditContext(
+            [](EditContext& edit) { return editVehicle(application().window, edit, application().drawing); });
+    }
 }
 
 } // namespace varrocade

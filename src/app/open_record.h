@@ -2,7 +2,9 @@
 // The one open unit or weapon: loading, saving, editing it.
 
 #include "data/unit_writers.h"
+#include "editors/edit_context.h"
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -24,6 +26,9 @@ void unitChanged(std::string_view change);
 
 void undoChange();
 void redoChange();
+
+/// Lets an editor work on the open unit, saves the unit when that is what the editor returns, and shows it.
+void withEditContext(const std::function<bool(EditContext&)>& work);
 
 /// Opens the editor of the open record's kind and saves what the user keeps.
 void editOpenRecord();

@@ -24,6 +24,13 @@ void UndoHistory::note(std::string_view change, const SquadRecord& record) {
     present_ = states_.size() - 1;
 }
 
+void UndoHistory::amend(const SquadRecord& record) {
+    if (canUndo()) {
+        states_.resize(present_ + 1);
+        states_[present_].record = record;
+    }
+}
+
 std::string_view UndoHistory::undoName() const {
     return canUndo() ? std::string_view(states_[present_].change) : std::string_view();
 }

@@ -21,6 +21,9 @@ public:
     /// undone can no longer be redone.
     void note(std::string_view change, const SquadRecord& record);
 
+    /// The last change goes on and leads to this state.
+    void amend(const SquadRecord& record);
+
     [[nodiscard]] bool canUndo() const { return present_ > 0; }
     [[nodiscard]] bool canRedo() const { return present_ + 1 < states_.size(); }
     /// The names of the changes that undo and redo would take back and do again; empty when there is none.

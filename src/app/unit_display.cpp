@@ -2,6 +2,7 @@
 
 #include "app/application.h"
 #include "app/window_layout.h"
+#include "view/part_positions.h"
 
 #include <algorithm>
 
@@ -13,20 +14,19 @@ RECT asRect(const Place& place) {
     return {place.x, place.y, place.x + place.width, place.y + place.height};
 }
 
-void composeDisplay(UnitDisplay& display) {
+void composeDrawing(UnitDisplay& display) {
     Application& app = application();
-    display.isStale = false;
-    display.picture.reset();
+    display.isDrawingStale = false;
+    display.pictureSize = {};
     display.drawing = {};
     display.hasDrawing = false;
-    display.sheet = {};
-    if (app.openWeapon) {
-        display.sheet = weaponSheet(*app.openWeapon);
-    }
     if (!app.openUnit) {
         return;
     }
-    const DrawOptions options{.bases = imageBases(), .showDestroyed = app.showDestroyed};
+    const DrawOptions options{.bases = imageBases(),
+                              .showDestroyed = app.showDestroyed,
+                              .showMarks = app.showMarks,
+                              .turns = display.turns};
     const SquadRecord& unit = *app.openUnit;
     display.hasDrawing = unit.vehicle || unit.heavyWeapon || unit.aircraft;
     if (unit.vehicle) {
@@ -36,28 +36,20 @@ void composeDisplay(UnitDisplay& display) {
     } else if (unit.aircraft) {
         display.drawing = drawAircraft(*unit.aircraft, options, app.pictures);
     }
-    display.sheet = unitSheet(*app.openUnit, display.drawing.missingPictures);
 }
 
-/// The drawing is painted once for each state and size; painting again only copies it.
-void paintPicture(HDC device, const RECT& area, UnitDisplay& display) {
+/// Makes anew what the record or the view has changed.
+void composeDisplay(UnitDisplay& display) {
     const Application& app = application();
-    const SIZE size{area.right - area.left, area.bottom - area.top};
-    if (size.cx <= 0 || size.cy <= 0) {
-        return;
+    if (display.isStale || display.isDrawingStale) {
+        composeDrawing(display);
     }
-    if (!display.picture || display.pictureSize.cx != size.cx || display.pictureSize.cy != size.cy) {
-        display.picture = std::make_unique<MemoryBitmap>(device, size.cx, size.cy);
-        display.pictureSize = size;
-        const RECT whole{0, 0, size.cx, size.cy};
-        if (display.hasDrawing) {
-            paintDrawing(display.picture->device(), whole, display.drawing, app.drawing,
-                         application().pictures);
-        } else {
-            FillRect(display.picture->device(), &whole, app.drawing.beigeBrush.get());
-        }
+    if (display.isStale) {
+        display.isStale = false;
+        display.sheet = app.openWeapon ? weaponSheet(*app.openWeapon)
+                        : app.openUnit ? unitSheet(*app.openUnit, display.drawing.missingPictures)
+                                       : DataSheet{};
     }
-    BitBlt(device, area.left, area.top, size.cx, size.cy, display.picture->device(), 0, 0, SRCCOPY);
 }
 
 void paintHint(HDC device, const RECT& area, const DrawingObjects& objects) {
@@ -71,20 +63,45 @@ void paintHint(HDC device, const RECT& area, const DrawingObjects& objects) {
 
 } // namespace
 
+void paintUnit(HDC device, const RECT& client) {
+    Application& app = application();
+    UnitDisplay& display = app.display;
+    const SIZE size{client.right, client.bottom};
+    if (size.cx <= 0 || size.cy <= 0) {
+        return;
+    }
+    composeDisplay(display);
+    // Painted once for each state and size; painting again only copies it.
+    if (!display.picture || display.pictureSize.cx != size.cx || display.pictureSize.cy != size.cy) {
+        display.picture = std::make_unique<MemoryBitmap>(device, size.cx, size.cy);
+        display.pictureSize = size;
+        display.shownFit = display.ownFit.value_or(fitInto(display.drawing, size.cx,
+                                                           size.cy - app.drawing.scaled(ScaleHeight),
+                                                           app.drawing.scaled(DrawingMargin)));
+        if (display.hasDrawing) {
+            const DrawingView view{.fit = display.shownFit,
+                                   .selected = display.selected,
+                                   .caption = display.caption.empty()
+                                                  ? positionText(*app.openUnit, display.selected)
+                                                  : display.caption};
+            paintDrawing(display.picture->device(), client, display.drawing, view, app.drawing, app.pictures);
+        } else {
+            FillRect(display.picture->device(), &client, app.drawing.beigeBrush.get());
+        }
+    }
+    BitBlt(device, 0, 0, size.cx, size.cy, display.picture->device(), 0, 0, SRCCOPY);
+}
+
 void paintDisplay(HDC device, const RECT& client) {
     Application& app = application();
     UnitDisplay& display = app.display;
-    if (display.isStale) {
-        composeDisplay(display);
-    }
-    const RECT picture = asRect(picturePlace(client.right, client.bottom, app.drawing.dpi));
+    composeDisplay(display);
     RECT sheet = asRect(sheetPlace(client.right, client.bottom, app.drawing.dpi));
     // The scroll bar's place is kept free whether it is there or not, so that the text does not jump.
     RECT barPlace = sheet;
     sheet.right -= GetSystemMetrics(SM_CXVSCROLL);
     barPlace.left = sheet.right;
     FillRect(device, &barPlace, app.drawing.beigeBrush.get());
-    paintPicture(device, picture, display);
     const int width = sheet.right - sheet.left;
     if (width <= 0 || sheet.bottom <= 0) {
         return;

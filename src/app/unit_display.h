@@ -7,21 +7,53 @@
 #include <windows.h>
 
 #include <memory>
+#include <optional>
+#include <string>
+#include <vector>
 
 namespace varrocade {
+
+enum class DragKind { Pan, Move, Turn };
+
+/// The mouse holds something of the drawing.
+struct Drag {
+    DragKind kind = DragKind::Pan;
+    bool hasBegun = false; ///< the mouse went further than a click does
+    POINT start{};
+    POINT lastPixel{};
+    Point grab; ///< from the position of what is moved to where the mouse took hold of it
+    double startTurn = 0;
+    double startDirection = 0;
+    std::optional<SquadRecord> before; ///< the unit and its unsaved positions before a move
+    bool weaponPosChanged = false;
+    bool exhaustPosChanged = false;
+};
 
 struct UnitDisplay {
     DrawList drawing;
     DataSheet sheet;
     bool hasDrawing = false;
-    bool isStale = true; ///< the record changed since drawing and sheet were made
-    int scroll = 0;      ///< pixels that the sheet is scrolled down
-    int sheetHeight = 0; ///< pixels of the whole sheet
+    bool isStale = true;        ///< the record changed since drawing and sheet were made
+    bool isDrawingStale = true; ///< the same of the drawing alone
+    int scroll = 0;             ///< pixels that the sheet is scrolled down
+    int sheetHeight = 0;        ///< pixels of the whole sheet
     std::unique_ptr<MemoryBitmap> picture;
     SIZE pictureSize{};
+
+    std::optional<Fit> ownFit; ///< the user's own view of the drawing
+    Fit shownFit;
+    std::vector<double> turns; ///< how far each component is turned for looking at
+    UnitPart selected;
+    UnitPart movedPart;  ///< the selected part, while it can be put back with one key
+    std::string caption; ///< beside the selected part, while it is dragged
+    std::string toldName;
+    std::optional<Drag> drag;
 };
 
-/// Paints the areas to the right of the list; what has not changed comes from memory.
+/// Paints the drawing into the whole of its window.
+void paintUnit(HDC device, const RECT& client);
+
+/// Paints the data sheet into the main window.
 void paintDisplay(HDC device, const RECT& client);
 
 /// Scrolls the sheet by pixels, as far as there is something to see.

@@ -94,7 +94,8 @@ bool editCrew(HWND owner, EditContext& edit, ComponentRecord& component) {
                     .context = &context,
                     .command = crewCommand,
                     .prepare = prepareCrew,
-                    .follow = followCrew};
+                    .follow = followCrew,
+                    .first = edit.firstShown};
     if (runDialog(owner, IDD_CREW, crewProcedure, &list) == 0 || context.crew == component.crew) {
         return false;
     }

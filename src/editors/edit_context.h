@@ -3,6 +3,7 @@
 #include "data/unit_record.h"
 #include "weapons/weapon_catalogue.h"
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -19,6 +20,8 @@ struct EditContext {
     void (*redraw)();
     /// Shows it, and remembers it as a step that can be undone under this name.
     void (*changed)(std::string_view what);
+    /// Which entry a dialog that is a list begins with.
+    std::size_t firstShown = 0;
 };
 
 } // namespace varrocade

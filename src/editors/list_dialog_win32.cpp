@@ -208,7 +208,7 @@ INT_PTR handleListDialog(HWND dialog, UINT message, WPARAM parameter, LPARAM poi
         if (list->prepare != nullptr) {
             list->prepare(dialog, *list);
         }
-        refreshEntries(dialog, *list, list->model.count() == 0 ? -1 : 0);
+        refreshEntries(dialog, *list, std::min(static_cast<int>(list->first), lastIndex(*list)));
         return TRUE;
     }
     if (message == WM_COMMAND && list != nullptr) {

@@ -25,6 +25,7 @@ struct ListDialog {
     /// Follows the form after it was filled or changed: choices and texts that depend on what it holds.
     void (*follow)(HWND dialog, ListDialog& list) = nullptr;
 
+    std::size_t first = 0;  ///< the entry to begin with
     int shown = -1;         ///< the entry that the form shows
     bool isFilling = false; ///< the form is being filled: what its controls report is no change of the user's
 };

@@ -19,7 +19,8 @@ bool editInPlace(HWND owner, EditContext& edit, std::vector<Entry>& entries, con
     ListDialog list{.model = model,
                     .caption = caption,
                     .preview = [](void* context) { static_cast<EditContext*>(context)->redraw(); },
-                    .context = &edit};
+                    .context = &edit,
+                    .first = edit.firstShown};
     if (runDialog(owner, dialogTemplate, procedure, &list) != 0) {
         return entries != former;
     }

@@ -126,7 +126,8 @@ bool editWeapons(HWND owner, EditContext& edit, ComponentRecord& component) {
                     .caption = "Weapons",
                     .context = &context,
                     .command = weaponsCommand,
-                    .prepare = prepareWeapons};
+                    .prepare = prepareWeapons,
+                    .first = edit.firstShown};
     if (runDialog(owner, IDD_WEAPONS, weaponsProcedure, &list) == 0 || context.component == component) {
         return false;
     }

@@ -54,6 +54,7 @@
 #define IDC_FILTER 1140
 #define IDC_EDIT_DETAILS 1141
 #define IDC_SHEET_SCROLL 1142
+#define IDC_DRAWING 1143
 
 // Menu commands.
 #define IDM_ABOUT 104
@@ -77,6 +78,10 @@
 #define IDM_REDO 32805
 #define IDM_SAVE 32806
 #define IDM_GAME_FOLDER 32807
+#define IDM_EDIT_PART 32808
+#define IDM_PUT_BACK 32809
+#define IDM_WHOLE_UNIT 32810
+#define IDM_SHOW_MARKS 32811
 #define IDM_CAN_PENETRATE 32820
 
 // Controls of the "Details" dialog.

@@ -6,8 +6,10 @@
 #include "data/category.h"
 #include "data/unit_record.h"
 #include "platform/png_size.h"
+#include "view/unit_part.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <variant>
@@ -21,6 +23,14 @@ struct Point {
     bool operator==(const Point&) const = default;
 };
 
+/// A colour of 8 bits a channel.
+struct Colour {
+    std::uint8_t red = 0;
+    std::uint8_t green = 0;
+    std::uint8_t blue = 0;
+    bool operator==(const Colour&) const = default;
+};
+
 /// The colours of the drawing; the painter has a pen for each.
 enum class Ink { Black, White, Red, Green, PaleGreen, Yellow, Blue };
 
@@ -31,6 +41,10 @@ struct PictureItem {
     double width = 0;
     double height = 0;
     double angle = 0;
+    UnitPart part = {};
+    /// The diameter of what the picture shows around its centre, where most of the picture is empty;
+    /// otherwise 0.
+    double roundSize = 0;
 };
 
 /// Stands where a picture is missing: a labelled outline of the size that the picture would have.
@@ -41,6 +55,7 @@ struct PlaceholderItem {
     double height = 0;
     double angle = 0;
     bool isRound = false;
+    UnitPart part = {};
 };
 
 /// The outline of a part that has no picture of its own.
@@ -48,23 +63,54 @@ struct OutlineItem {
     Point centre;
     double width = 0;
     double height = 0;
+    UnitPart part = {};
 };
 
 struct LineItem {
     Point from;
     Point to;
     Ink ink = Ink::Black;
+    UnitPart part = {};
+};
+
+/// The sector that something may be turned in, clockwise from one angle to another.
+struct SectorItem {
+    Point centre;
+    double radius = 0;
+    double from = 0;
+    double to = 0;
+    UnitPart part = {};
 };
 
 /// A mark of a fixed size on the screen, whatever the scale.
 struct MarkItem {
-    enum class Shape { Exhaust, SmokeDischarger };
+    enum class Shape { Exhaust, SmokeDischarger, Weapon, CrewMan };
     Shape shape = Shape::Exhaust;
     Point centre;
-    std::optional<double> direction; ///< an arrow in this direction
+    std::optional<double> direction = {}; ///< an arrow in this direction
+    UnitPart part = {};
+    double elevation = 0;    ///< how far the arrow points up from the ground, which makes it shorter
+    std::string letter = {}; ///< inside the mark
 };
 
-using DrawItem = std::variant<PictureItem, PlaceholderItem, OutlineItem, LineItem, MarkItem>;
+/// Words of a fixed size on the screen below a point, `width` wide before they are broken.
+struct LabelItem {
+    std::string text;
+    Point top;
+    double width = 0;
+    UnitPart part = {};
+    bool isBold = false;
+};
+
+/// A filled shape: a polygon.
+struct ShapeItem {
+    std::vector<Point> corners;
+    Colour fill;
+    UnitPart part = {};
+};
+
+using DrawItem = std::variant<PictureItem, PlaceholderItem, OutlineItem, LineItem, SectorItem, MarkItem,
+                              LabelItem, ShapeItem>;
 
 struct DrawList {
     std::vector<DrawItem> items; ///< from bottom to top
@@ -84,6 +130,9 @@ public:
     virtual ~PictureSizes() = default;
     /// Nothing when there is no such picture.
     virtual std::optional<PictureSize> sizeOf(const std::string& path) = 0;
+    /// Whether the picture shows something at a place, given as shares of its width and height from its upper
+    /// left corner.
+    virtual bool isSolidAt(const std::string& path, double x, double y) = 0;
 };
 
 /// Where the pictures come from and how the unit is shown.
@@ -92,6 +141,10 @@ struct DrawOptions {
     /// the game's.
     std::vector<std::string> bases;
     bool showDestroyed = false;
+    /// Marks for weapons, exhaust pipes, dischargers and crew, and the sectors of traverse.
+    bool showMarks = true;
+    /// How far each component is turned from its rest, for looking at.
+    std::vector<double> turns = {};
 };
 
 /// The drawing of a vehicle. All its pictures are drawn at one scale, the one at which the hull's picture is
@@ -104,20 +157,10 @@ DrawList drawHeavyWeapon(const HeavyWeaponRecord& weapon, const DrawOptions& opt
 /// The drawing of an aircraft with its rotors.
 DrawList drawAircraft(const AircraftRecord& aircraft, const DrawOptions& options, PictureSizes& sizes);
 
-/// Where the drawing of `list` goes in an area of the screen: a scale at which a metre is a whole number of
-/// pixels, and the pixel of the point (0, 0).
-struct Fit {
-    int pixelsPerMetre = 100;
-    int originX = 0;
-    int originY = 0;
+/// The part at a point: marks within `reach` centimetres first, the nearest of them, then what lies on top.
+UnitPart partAt(const DrawList& list, Point point, double reach, PictureSizes& sizes);
 
-    /// The pixel of a point; y grows downwards on the screen.
-    [[nodiscard]] double screenX(double x) const { return originX + x * pixelsPerMetre / 100; }
-    [[nodiscard]] double screenY(double y) const { return originY - y * pixelsPerMetre / 100; }
-    [[nodiscard]] double length(double centimetres) const { return centimetres * pixelsPerMetre / 100; }
-};
-
-/// Fits a drawing into an area of `width` by `height` pixels with `margin` pixels left free on each side.
-Fit fitInto(const DrawList& list, int width, int height, int margin);
+/// The items that belong to a part, from bottom to top.
+std::vector<const DrawItem*> itemsOf(const DrawList& list, const UnitPart& part);
 
 } // namespace varrocade

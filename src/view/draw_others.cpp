@@ -1,7 +1,7 @@
 // The drawings of heavy weapons and of aircraft: their records have no sizes, so the pictures' own count.
 
 #include "data/image_names.h"
-#include "view/draw_list.h"
+#include "view/drawing_angles.h"
 #include "view/image_folders.h"
 
 #include <algorithm>
@@ -19,7 +19,8 @@ public:
     PictureStack(const DrawOptions& options, PictureSizes& sizes) : options_(options), sizes_(sizes) {}
 
     /// Puts a picture on the drawing; `width` stretches it to a size in centimetres where that is known.
-    void add(std::string_view name, Point centre, double centimetresPerPixel, double width = 0) {
+    void add(std::string_view name, Point centre, double centimetresPerPixel, UnitPart part,
+             double width = 0) {
         if (name.empty()) {
             return;
         }
@@ -29,15 +30,23 @@ public:
         for (const std::string& base : options_.bases) {
             if (const auto size = sizes_.sizeOf(base + below)) {
                 const double scale = width > 0 ? width / size->width : centimetresPerPixel;
-                place(PictureItem{base + below, centre, size->width * scale, size->height * scale, 0});
+                place(PictureItem{base + below, centre, size->width * scale, size->height * scale, 0, part});
                 return;
             }
         }
         list_.missingPictures.push_back(below);
         const double size = width > 0 ? width : UnknownPictureSize;
         place(PlaceholderItem{"Missing: " + std::string(name) + std::string(ImageEnding), centre, size, size,
-                              0, false});
+                              0, false, part});
     }
+
+    /// A sector of traverse that reaches over what has been drawn.
+    void sector(double left, double right, UnitPart part) {
+        const double radius = std::max(UnknownPictureSize, list_.greatest.y);
+        list_.items.push_back(SectorItem{{}, radius, left, right, part});
+    }
+
+    void mark(MarkItem item) { list_.items.push_back(std::move(item)); }
 
     DrawList take() { return std::move(list_); }
 
@@ -60,17 +69,29 @@ private:
 
 DrawList drawHeavyWeapon(const HeavyWeaponRecord& weapon, const DrawOptions& options, PictureSizes& sizes) {
     PictureStack stack(options, sizes);
-    stack.add(weapon.baseImage, {}, GroundScale);
-    stack.add(weapon.gunImage, {}, GroundScale);
+    const UnitPart whole{PartKind::HeavyWeapon};
+    stack.add(weapon.baseImage, {}, GroundScale, whole);
+    if (options.showMarks && weapon.limitedTraverse && weapon.rotateLeft + weapon.rotateRight > 0) {
+        stack.sector(-weapon.rotateLeft, weapon.rotateRight, whole);
+    }
+    stack.add(weapon.gunImage, {}, GroundScale, whole);
     return stack.take();
 }
 
 DrawList drawAircraft(const AircraftRecord& aircraft, const DrawOptions& options, PictureSizes& sizes) {
     PictureStack stack(options, sizes);
-    stack.add(aircraft.image, {}, AirScale);
-    for (const RotorBladesRecord& rotor : aircraft.rotorBlades) {
+    stack.add(aircraft.image, {}, AirScale, {PartKind::Aircraft});
+    for (std::size_t i = 0; i < aircraft.rotorBlades.size(); ++i) {
+        const RotorBladesRecord& rotor = aircraft.rotorBlades[i];
         stack.add(rotor.image, {static_cast<double>(rotor.offsetX), static_cast<double>(rotor.offsetY)},
-                  AirScale, rotor.diameter);
+                  AirScale, {PartKind::Rotor, 0, i}, rotor.diameter);
+    }
+    for (std::size_t i = 0; options.showMarks && i < aircraft.weapons.size(); ++i) {
+        const WeaponMountRecord& weapon = aircraft.weapons[i];
+        stack.mark({.shape = MarkItem::Shape::Weapon,
+                    .centre = {static_cast<double>(weapon.offsetX), static_cast<double>(weapon.offsetY)},
+                    .direction = weapon.offsetAngle,
+                    .part = {PartKind::Weapon, 0, i}});
     }
     return stack.take();
 }

@@ -1,11 +1,11 @@
+#include "data/enumerations.h"
 #include "data/image_names.h"
-#include "view/draw_list.h"
+#include "view/drawing_angles.h"
 #include "view/image_folders.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <numbers>
 #include <span>
 
 namespace varrocade {
@@ -17,9 +17,9 @@ constexpr double DefaultCentimetresPerPixel = 1.0;
 constexpr double UnknownPartSize = 100;
 constexpr double BarrelShare = 0.25;
 
-double radians(double degrees) {
-    return degrees * std::numbers::pi / 180;
-}
+/// Crew men stand side by side; the files do not say where.
+constexpr double ManSpacing = 40;
+constexpr std::size_t MenInRow = 4;
 
 class VehicleDrawing {
 public:
@@ -29,16 +29,19 @@ public:
     }
 
     DrawList draw() {
-        drawKind(ComponentKind::Hull);
-        drawKind(ComponentKind::Superstructure);
-        drawMarks(vehicle_.exhaustPipes);
-        for (const ComponentRecord& component : vehicle_.components) {
-            if (component.kind == ComponentKind::Turret || component.kind == ComponentKind::FixedWeapon) {
-                drawComponent(component);
-            }
+        drawKinds({ComponentKind::Hull});
+        drawKinds({ComponentKind::Superstructure});
+        for (std::size_t i = 0; options_.showMarks && i < vehicle_.components.size(); ++i) {
+            drawSector(i);
         }
-        for (const ComponentRecord& component : vehicle_.components) {
-            drawDischargers(component);
+        drawKinds({ComponentKind::Turret, ComponentKind::FixedWeapon});
+        if (options_.showMarks) {
+            drawExhausts();
+            for (std::size_t i = 0; i < vehicle_.components.size(); ++i) {
+                drawCrew(i);
+                drawDischargers(i);
+                drawWeapons(i);
+            }
         }
         return std::move(list_);
     }
@@ -107,57 +110,68 @@ private:
         return picture;
     }
 
-    void drawKind(ComponentKind kind) {
-        for (const ComponentRecord& component : vehicle_.components) {
-            if (component.kind == kind) {
-                drawComponent(component);
+    void drawKinds(std::initializer_list<ComponentKind> kinds) {
+        for (std::size_t i = 0; i < vehicle_.components.size(); ++i) {
+            if (std::find(kinds.begin(), kinds.end(), vehicle_.components[i].kind) != kinds.end()) {
+                drawComponent(i);
             }
         }
     }
 
-    void drawComponent(const ComponentRecord& component) {
-        const Point centre{static_cast<double>(component.offsetX), static_cast<double>(component.offsetY)};
+    [[nodiscard]] static UnitPart partOf(std::size_t component) {
+        return {PartKind::Component, component, 0};
+    }
+
+    [[nodiscard]] double directionOf(std::size_t component) const {
+        return angleOf(vehicle_.components[component], turnOf(options_.turns, component));
+    }
+
+    void drawComponent(std::size_t place) {
+        const ComponentRecord& component = vehicle_.components[place];
         switch (component.kind) {
         case ComponentKind::Hull:
-            drawHull(component);
+            drawHull(place);
             break;
         case ComponentKind::Superstructure:
-            add(OutlineItem{centre, sizeOr(component.width), sizeOr(component.length)});
-            cover(centre, sizeOr(component.width), sizeOr(component.length), 0);
+            add(OutlineItem{pivotOf(component), sizeOr(component.width), sizeOr(component.length),
+                            partOf(place)});
+            cover(pivotOf(component), sizeOr(component.width), sizeOr(component.length), 0);
             break;
         case ComponentKind::Turret:
         case ComponentKind::FixedWeapon:
-            drawTurning(component, centre);
+            drawTurning(place);
             break;
         }
     }
 
-    void drawHull(const ComponentRecord& hull) {
+    void drawHull(std::size_t place) {
+        const ComponentRecord& hull = vehicle_.components[place];
         const auto picture = pictureOf(hull, image_folder::Hulls);
         const double width = picture ? picture->size.width * centimetresPerPixel_ : sizeOr(hull.width);
         const double length = picture ? picture->size.height * centimetresPerPixel_ : sizeOr(hull.length);
         if (picture) {
-            add(PictureItem{picture->path, {}, width, length, 0});
+            add(PictureItem{picture->path, {}, width, length, 0, partOf(place)});
         } else {
-            add(PlaceholderItem{labelOf(hull, "Hull"), {}, width, length, 0, false});
+            add(PlaceholderItem{labelOf(hull, "Hull"), {}, width, length, 0, false, partOf(place)});
         }
         cover({}, width, length, 0);
     }
 
     /// A turret or fixed weapon: the centre of its picture is its pivot.
-    void drawTurning(const ComponentRecord& component, Point pivot) {
+    void drawTurning(std::size_t place) {
+        const ComponentRecord& component = vehicle_.components[place];
+        const Point pivot = pivotOf(component);
         const bool isTurret = component.kind == ComponentKind::Turret;
-        const bool hasAngle = !isTurret || component.limitedTraverse;
-        const double angle = hasAngle ? component.offsetAngle : 0;
+        const double angle = directionOf(place);
         if (const auto picture = pictureOf(component, image_folder::Turrets)) {
             const double width = picture->size.width * centimetresPerPixel_;
             const double height = picture->size.height * centimetresPerPixel_;
-            add(PictureItem{picture->path, pivot, width, height, angle});
+            const double roundSize = isTurret && component.diameter > 0 ? component.diameter : width;
+            add(PictureItem{picture->path, pivot, width, height, angle, partOf(place), roundSize});
             // The barrel needs the front half only; the rear half is empty, there to put the pivot in the
-            // middle.
-            const Point front{pivot.x + std::sin(radians(angle)) * height / 4,
-                              pivot.y + std::cos(radians(angle)) * height / 4};
-            cover(front, width, height / 2, angle);
+            // middle. Turning to look round does not change the scale of the view.
+            const double rest = angleOf(component, 0);
+            cover(along(pivot, rest, height / 4), width, height / 2, rest);
             return;
         }
         // A fixed weapon without a picture of its own is a part of the hull's; a short line shows its
@@ -165,35 +179,90 @@ private:
         const double size = isTurret ? sizeOr(component.diameter) : UnknownPartSize * BarrelShare;
         if (isTurret || !component.viewImage.empty()) {
             add(PlaceholderItem{labelOf(component, isTurret ? "Turret" : "Fixed Weapon"), pivot, size, size,
-                                angle, true});
+                                angle, true, partOf(place)});
         }
-        const Point muzzle{pivot.x + std::sin(radians(angle)) * size,
-                           pivot.y + std::cos(radians(angle)) * size};
-        add(LineItem{pivot, muzzle, Ink::Blue});
+        add(LineItem{pivot, along(pivot, angle, size), Ink::Blue, partOf(place)});
         cover(pivot, size, size, angle);
     }
 
-    void drawMarks(std::span<const ExhaustPipeRecord> pipes) {
-        for (const ExhaustPipeRecord& pipe : pipes) {
+    /// Where the traverse is limited, the sector that it leaves.
+    void drawSector(std::size_t place) {
+        const ComponentRecord& component = vehicle_.components[place];
+        const bool isLimited = component.kind == ComponentKind::FixedWeapon ||
+                               (component.kind == ComponentKind::Turret && component.limitedTraverse);
+        if (!isLimited || component.rotateLeft + component.rotateRight <= 0) {
+            return;
+        }
+        constexpr double beyondMuzzle = 1.15;
+        const auto picture = pictureOf(component, image_folder::Turrets);
+        const double reach = picture ? picture->size.height * centimetresPerPixel_ / 2 : UnknownPartSize;
+        const double rest = angleOf(component, 0);
+        add(SectorItem{pivotOf(component), std::max(UnknownPartSize, reach * beyondMuzzle),
+                       rest - component.rotateLeft, rest + component.rotateRight, partOf(place)});
+    }
+
+    void drawExhausts() {
+        for (std::size_t i = 0; i < vehicle_.exhaustPipes.size(); ++i) {
+            const ExhaustPipeRecord& pipe = vehicle_.exhaustPipes[i];
             const Point centre{static_cast<double>(pipe.offsetX), static_cast<double>(pipe.offsetY)};
-            add(MarkItem{MarkItem::Shape::Exhaust, centre, static_cast<double>(pipe.angle)});
+            add(MarkItem{MarkItem::Shape::Exhaust, centre, static_cast<double>(pipe.angle),
+                         UnitPart{PartKind::Exhaust, 0, i}, static_cast<double>(pipe.verticalAngle)});
             cover(centre, 0, 0, 0);
         }
     }
 
+    /// A place of the file, in the frame of a component.
+    [[nodiscard]] Point placeOn(std::size_t component, std::int32_t x, std::int32_t y) const {
+        return pivotOf(vehicle_.components[component]) +
+               turned({static_cast<double>(x), static_cast<double>(y)}, directionOf(component));
+    }
+
     /// Dischargers stand at offsets from their component's pivot and turn with it.
-    void drawDischargers(const ComponentRecord& component) {
-        const bool turns = component.kind == ComponentKind::Turret && component.limitedTraverse;
-        const double turn = turns ? component.offsetAngle : 0;
-        for (const SmokeDischargerRecord& discharger : component.smokeDischargers) {
-            const double sine = std::sin(radians(turn));
-            const double cosine = std::cos(radians(turn));
-            const Point centre{component.offsetX + discharger.offsetX * cosine + discharger.offsetY * sine,
-                               component.offsetY - discharger.offsetX * sine + discharger.offsetY * cosine};
+    void drawDischargers(std::size_t place) {
+        const std::vector<SmokeDischargerRecord>& dischargers = vehicle_.components[place].smokeDischargers;
+        const double turn = vehicle_.components[place].kind == ComponentKind::Turret ? directionOf(place) : 0;
+        for (std::size_t i = 0; i < dischargers.size(); ++i) {
+            const SmokeDischargerRecord& discharger = dischargers[i];
+            const Point centre = placeOn(place, discharger.offsetX, discharger.offsetY);
             const auto direction =
                 discharger.directional ? std::optional(discharger.angle + turn) : std::optional<double>();
-            add(MarkItem{MarkItem::Shape::SmokeDischarger, centre, direction});
+            add(MarkItem{MarkItem::Shape::SmokeDischarger, centre, direction,
+                         UnitPart{PartKind::Discharger, place, i},
+                         static_cast<double>(discharger.elevation)});
             cover(centre, 0, 0, 0);
+        }
+    }
+
+    void drawWeapons(std::size_t place) {
+        const ComponentRecord& component = vehicle_.components[place];
+        for (std::size_t i = 0; i < component.weapons.size(); ++i) {
+            const WeaponMountRecord& weapon = component.weapons[i];
+            // A fixed weapon's own offset is where its weapons are.
+            const bool isFixed = component.kind == ComponentKind::FixedWeapon;
+            const Point centre =
+                isFixed ? pivotOf(component) : placeOn(place, weapon.offsetX, weapon.offsetY);
+            add(MarkItem{MarkItem::Shape::Weapon, centre, directionOf(place) + weapon.offsetAngle,
+                         UnitPart{PartKind::Weapon, place, i}});
+            cover(centre, 0, 0, 0);
+        }
+    }
+
+    /// Rows of men: on the hull in its front part, on a turret behind its pivot, behind a fixed weapon.
+    void drawCrew(std::size_t place) {
+        const ComponentRecord& component = vehicle_.components[place];
+        constexpr double frontShare = 0.22;
+        const double ahead =
+            component.kind == ComponentKind::Hull ? component.length * frontShare : -ManSpacing;
+        for (std::size_t i = 0; i < component.crew.size(); ++i) {
+            const std::size_t row = i / MenInRow;
+            const std::size_t inRow = std::min(component.crew.size() - row * MenInRow, MenInRow);
+            const Point offset{(static_cast<double>(i % MenInRow) - static_cast<double>(inRow - 1) / 2) *
+                                   ManSpacing,
+                               ahead - static_cast<double>(row) * ManSpacing};
+            add(MarkItem{.shape = MarkItem::Shape::CrewMan,
+                         .centre = pivotOf(component) + turned(offset, directionOf(place)),
+                         .part = UnitPart{PartKind::CrewMan, place, i},
+                         .letter = displayName(component.crew[i].job, "JOB_").substr(0, 1)});
         }
     }
 
@@ -233,26 +302,19 @@ private:
 
 } // namespace
 
-DrawList drawVehicle(const VehicleRecord& vehicle, const DrawOptions& options, PictureSizes& sizes) {
-    return VehicleDrawing(vehicle, options, sizes).draw();
+double allowedTurn(const ComponentRecord& component, double turn) {
+    const bool isLimited = component.kind != ComponentKind::Turret || component.limitedTraverse;
+    if (isLimited) {
+        const double left = std::max(0, component.rotateLeft);
+        const double right = std::max(0, component.rotateRight);
+        return std::clamp(turn, -left, right);
+    }
+    constexpr double fullCircle = 360;
+    return std::remainder(turn, fullCircle);
 }
 
-Fit fitInto(const DrawList& list, int width, int height, int margin) {
-    constexpr double leastExtent = 100; // centimetres
-    constexpr int leastScale = 2;
-    constexpr int greatestScale = 200;
-    const double extentX = std::max(leastExtent, list.greatest.x - list.least.x);
-    const double extentY = std::max(leastExtent, list.greatest.y - list.least.y);
-    const double freeX = std::max(1, width - 2 * margin);
-    const double freeY = std::max(1, height - 2 * margin);
-    const double scale = std::min(freeX / extentX, freeY / extentY) * 100;
-    Fit fit;
-    fit.pixelsPerMetre = std::clamp(static_cast<int>(scale), leastScale, greatestScale);
-    fit.originX =
-        static_cast<int>(std::lround(width / 2.0 - fit.length((list.least.x + list.greatest.x) / 2)));
-    fit.originY =
-        static_cast<int>(std::lround(height / 2.0 + fit.length((list.least.y + list.greatest.y) / 2)));
-    return fit;
+DrawList drawVehicle(const VehicleRecord& vehicle, const DrawOptions& options, PictureSizes& sizes) {
+    return VehicleDrawing(vehicle, options, sizes).draw();
 }
 
 } // namespace varrocade

@@ -1,6 +1,7 @@
 #include "view/drawing_objects_win32.h"
 
 #include "resources/resource.h"
+#include "view/picture_cache_win32.h"
 
 namespace varrocade {
 
@@ -70,6 +71,8 @@ DrawingObjects createDrawingObjects(HINSTANCE instance, const std::string& gridP
     objects.grid = std::make_unique<Gdiplus::Bitmap>(widened(gridPath).c_str());
     if (objects.grid->GetLastStatus() != Gdiplus::Ok) {
         objects.grid.reset();
+    } else {
+        objects.gridPixels = pixelsOf(*objects.grid);
     }
     return objects;
 }

@@ -2,58 +2,16 @@
 // The fonts, brushes, pens and bitmaps that all painting shares, created once at start.
 
 #include "view/draw_list.h"
+#include "view/gdi_object_win32.h"
 #include "view/gdiplus_win32.h"
+#include "view/pixmap.h"
 
 #include <array>
 #include <cstddef>
 #include <memory>
 #include <string>
-#include <utility>
 
 namespace varrocade {
-
-/// Owns a GDI object and deletes it.
-template <typename Handle>
-class GdiObject {
-public:
-    GdiObject() = default;
-    explicit GdiObject(Handle handle) : handle_(handle) {}
-    GdiObject(GdiObject&& other) noexcept : handle_(std::exchange(other.handle_, nullptr)) {}
-    GdiObject& operator=(GdiObject&& other) noexcept {
-        if (this != &other) {
-            reset();
-            handle_ = std::exchange(other.handle_, nullptr);
-        }
-        return *this;
-    }
-    GdiObject(const GdiObject&) = delete;
-    GdiObject& operator=(const GdiObject&) = delete;
-    ~GdiObject() { reset(); }
-
-    [[nodiscard]] Handle get() const { return handle_; }
-    void reset() {
-        if (handle_ != nullptr) {
-            DeleteObject(handle_);
-            handle_ = nullptr;
-        }
-    }
-
-private:
-    Handle handle_ = nullptr;
-};
-
-/// Selects an object into a device context for the length of a scope.
-class Selection {
-public:
-    Selection(HDC device, HGDIOBJ object) : device_(device), former_(SelectObject(device, object)) {}
-    Selection(const Selection&) = delete;
-    Selection& operator=(const Selection&) = delete;
-    ~Selection() { SelectObject(device_, former_); }
-
-private:
-    HDC device_;
-    HGDIOBJ former_;
-};
 
 struct DrawingObjects {
     static constexpr std::size_t GreenBrushes = 7;
@@ -78,6 +36,7 @@ struct DrawingObjects {
     GdiObject<HBITMAP> dischargeMark; ///< bitmap resource 183
     GdiObject<HBITMAP> exhaustMark;   ///< bitmap resource 165
     std::unique_ptr<Gdiplus::Bitmap> grid;
+    Pixmap gridPixels; ///< of the same picture
     int dpi = 96;
 
     /// A length of 96 dpi in the pixels of the window's screen.

@@ -19,14 +19,14 @@ bool paintFlag(HDC device, const RECT& area, std::string_view nationalityWord,
         const std::string path =
             base + std::string(image_folder::StaticFlags) + name + std::string(ImageEnding);
         // Asking for the size first spares reading a file that is known not to be there.
-        Gdiplus::Bitmap* flag = pictures.sizeOf(path) ? pictures.picture(path) : nullptr;
-        if (flag != nullptr) {
-            Gdiplus::Graphics graphics(device);
-            graphics.SetInterpolationMode(Gdiplus::InterpolationModeHighQualityBilinear);
-            graphics.DrawImage(
-                flag, Gdiplus::Rect(area.left, area.top, area.right - area.left, area.bottom - area.top), 0,
-                0, static_cast<INT>(flag->GetWidth()), static_cast<INT>(flag->GetHeight()),
-                Gdiplus::UnitPixel);
+        if (!pictures.sizeOf(path)) {
+            continue;
+        }
+        const PixmapPlacement placement{.width = static_cast<double>(area.right - area.left),
+                                        .height = static_cast<double>(area.bottom - area.top),
+                                        .isTile = true};
+        if (const PlacedBitmap* flag = pictures.placed(path, placement, boxOf(placement))) {
+            blend(device, area.left - flag->box.left, area.top - flag->box.top, *flag);
             return true;
         }
     }

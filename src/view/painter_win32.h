@@ -4,6 +4,7 @@
 #include "view/data_sheet.h"
 #include "view/drawing_objects_win32.h"
 #include "view/picture_cache_win32.h"
+#include "view/view_place.h"
 
 namespace varrocade {
 
@@ -22,9 +23,21 @@ private:
     HGDIOBJ former_;
 };
 
+/// How a drawing is looked at.
+struct DrawingView {
+    Fit fit;
+    UnitPart selected = {};
+    std::string caption = {}; ///< beside the selected part, while it is moved
+};
+
+/// Pixels of 96 dpi that a drawing leaves free at the edges of its area.
+inline constexpr int DrawingMargin = 24;
+/// And more of them at its lower edge, for the scale.
+inline constexpr int ScaleHeight = 12;
+
 /// Paints a drawing into `area`: the ground with its metre grid, the unit, a scale in metres.
-void paintDrawing(HDC device, const RECT& area, const DrawList& list, const DrawingObjects& objects,
-                  PictureCache& pictures);
+void paintDrawing(HDC device, const RECT& area, const DrawList& list, const DrawingView& view,
+                  const DrawingObjects& objects, PictureCache& pictures);
 
 /// Where flags come from.
 struct SheetOptions {

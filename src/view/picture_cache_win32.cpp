@@ -1,7 +1,9 @@
 #include "view/picture_cache_win32.h"
 
 #include "platform/file_operations.h"
-#include "view/drawing_objects_win32.h"
+
+#include <algorithm>
+#include <cstdint>
 
 namespace varrocade {
 
@@ -11,11 +13,11 @@ struct ReleaseStream {
     void operator()(IStream* stream) const { stream->Release(); }
 };
 
-/// Decodes a file's bytes into a bitmap of its own, so that neither file nor stream stay in use.
-std::unique_ptr<Gdiplus::Bitmap> decoded(const std::string& content) {
+/// Decodes a file's bytes; without pixels when they are no picture.
+Pixmap decoded(const std::string& content) {
     HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, content.size());
     if (memory == nullptr) {
-        return nullptr;
+        return {};
     }
     if (void* bytes = GlobalLock(memory)) {
         std::copy(content.begin(), content.end(), static_cast<char*>(bytes));
@@ -24,45 +26,131 @@ std::unique_ptr<Gdiplus::Bitmap> decoded(const std::string& content) {
     IStream* rawStream = nullptr;
     if (FAILED(CreateStreamOnHGlobal(memory, TRUE, &rawStream))) {
         GlobalFree(memory);
-        return nullptr;
+        return {};
     }
     const std::unique_ptr<IStream, ReleaseStream> stream(rawStream);
     Gdiplus::Bitmap source(stream.get(), FALSE);
-    if (source.GetLastStatus() != Gdiplus::Ok) {
-        return nullptr;
-    }
-    const auto width = static_cast<INT>(source.GetWidth());
-    const auto height = static_cast<INT>(source.GetHeight());
-    auto copy = std::make_unique<Gdiplus::Bitmap>(width, height, PixelFormat32bppPARGB);
-    Gdiplus::Graphics graphics(copy.get());
-    graphics.SetCompositingMode(Gdiplus::CompositingModeSourceCopy);
-    graphics.SetInterpolationMode(Gdiplus::InterpolationModeNearestNeighbor);
-    // The sizes are given, since a picture's own resolution would scale it.
-    graphics.DrawImage(&source, Gdiplus::Rect(0, 0, width, height), 0, 0, width, height, Gdiplus::UnitPixel);
-    return copy;
+    return source.GetLastStatus() == Gdiplus::Ok ? pixelsOf(source) : Pixmap{};
+}
+
+PixelBox commonBox(const PixelBox& a, const PixelBox& b) {
+    const int left = std::max(a.left, b.left);
+    const int top = std::max(a.top, b.top);
+    return {left, top, std::max(0, std::min(a.left + a.width, b.left + b.width) - left),
+            std::max(0, std::min(a.top + a.height, b.top + b.height) - top)};
 }
 
 } // namespace
 
-Gdiplus::Bitmap* PictureCache::picture(const std::string& path) {
-    if (const auto found = byPath_.find(path); found != byPath_.end()) {
-        entries_.splice(entries_.begin(), entries_, found->second);
-        return entries_.front().bitmap.get();
+Pixmap pixelsOf(Gdiplus::Bitmap& bitmap) {
+    Pixmap result{static_cast<int>(bitmap.GetWidth()), static_cast<int>(bitmap.GetHeight()), {}};
+    result.pixels.resize(static_cast<std::size_t>(result.width) * static_cast<std::size_t>(result.height));
+    Gdiplus::BitmapData data{};
+    data.Width = bitmap.GetWidth();
+    data.Height = bitmap.GetHeight();
+    data.Stride = result.width * static_cast<INT>(sizeof(std::uint32_t));
+    data.PixelFormat = PixelFormat32bppPARGB;
+    data.Scan0 = result.pixels.data();
+    const Gdiplus::Rect whole(0, 0, result.width, result.height);
+    if (bitmap.LockBits(&whole, Gdiplus::ImageLockModeRead | Gdiplus::ImageLockModeUserInputBuf,
+                        PixelFormat32bppPARGB, &data) != Gdiplus::Ok) {
+        return {};
+    }
+    bitmap.UnlockBits(&data);
+    return result;
+}
+
+GdiObject<HBITMAP> bitmapOf(const Pixmap& pixels) {
+    BITMAPINFO info{};
+    info.bmiHeader.biSize = sizeof(info.bmiHeader);
+    info.bmiHeader.biWidth = pixels.width;
+    info.bmiHeader.biHeight = -pixels.height; // from the top
+    info.bmiHeader.biPlanes = 1;
+    info.bmiHeader.biBitCount = 32;
+    info.bmiHeader.biCompression = BI_RGB;
+    void* bits = nullptr;
+    GdiObject<HBITMAP> bitmap(CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
+    if (bits != nullptr) {
+        std::copy(pixels.pixels.begin(), pixels.pixels.end(), static_cast<std::uint32_t*>(bits));
+    }
+    return bitmap;
+}
+
+void blend(HDC device, int centreX, int centreY, const PlacedBitmap& placed) {
+    const MemoryDevice memory(device);
+    const Selection selection(memory.get(), placed.bitmap.get());
+    constexpr BLENDFUNCTION overGround = {AC_SRC_OVER, 0, 255, AC_SRC_ALPHA};
+    const PixelBox& box = placed.box;
+    GdiAlphaBlend(device, centreX + box.left, centreY + box.top, box.width, box.height, memory.get(), 0, 0,
+                  box.width, box.height, overGround);
+}
+
+PictureCache::Entry* PictureCache::find(const Key& key) {
+    const auto found = byKey_.find(key);
+    if (found == byKey_.end()) {
+        return nullptr;
+    }
+    entries_.splice(entries_.begin(), entries_, found->second);
+    return &entries_.front();
+}
+
+PictureCache::Entry& PictureCache::keep(Entry entry) {
+    bytes_ += entry.bytes;
+    entries_.push_front(std::move(entry));
+    byKey_[entries_.front().key] = entries_.begin();
+    while (bytes_ > MostBytes && entries_.size() > 1) {
+        bytes_ -= entries_.back().bytes;
+        byKey_.erase(entries_.back().key);
+        entries_.pop_back();
+    }
+    return entries_.front();
+}
+
+const Pixmap* PictureCache::pixels(const std::string& path) {
+    const Key key{path, 0, 0, 0, false, 0, 0, 0, 0};
+    if (const Entry* entry = find(key)) {
+        return &entry->pixels;
     }
     std::string content;
     if (!readWholeFile(path, content)) {
         return nullptr;
     }
-    std::unique_ptr<Gdiplus::Bitmap> bitmap = decoded(content);
-    if (!bitmap) {
+    Pixmap pixmap = decoded(content);
+    if (pixmap.pixels.empty()) {
         return nullptr;
     }
-    const std::size_t bytes = BytesPerPixel * bitmap->GetWidth() * bitmap->GetHeight();
-    entries_.push_front({path, std::move(bitmap), bytes});
-    byPath_[path] = entries_.begin();
-    bytes_ += bytes;
-    makeRoom();
-    return entries_.front().bitmap.get();
+    const std::size_t bytes = pixmap.pixels.size() * sizeof(std::uint32_t);
+    return &keep({.key = key, .pixels = std::move(pixmap), .placed = {}, .bytes = bytes}).pixels;
+}
+
+PictureCache::Key PictureCache::keyOf(const std::string& name, const PixmapPlacement& placement,
+                                      const PixelBox& box) {
+    return {name,     placement.width, placement.height, placement.angle, placement.isTile,
+            box.left, box.top,         box.width,        box.height};
+}
+
+const PlacedBitmap* PictureCache::placed(const std::string& path, const PixmapPlacement& placement,
+                                         const PixelBox& clip) {
+    if (const Entry* entry = find(keyOf(path, placement, commonBox(boxOf(placement), clip)))) {
+        return &entry->placed;
+    }
+    const Pixmap* source = pixels(path);
+    return source != nullptr ? placed(path, *source, placement, clip) : nullptr;
+}
+
+const PlacedBitmap* PictureCache::placed(const std::string& name, const Pixmap& source,
+                                         const PixmapPlacement& placement, const PixelBox& clip) {
+    const PixelBox box = commonBox(boxOf(placement), clip);
+    const Key key = keyOf(name, placement, box);
+    if (box.width == 0 || box.height == 0) {
+        return nullptr;
+    }
+    if (const Entry* entry = find(key)) {
+        return &entry->placed;
+    }
+    const Pixmap pixmap = placedPixmap(source, placement, box);
+    const std::size_t bytes = pixmap.pixels.size() * sizeof(std::uint32_t);
+    return &keep({.key = key, .pixels = {}, .placed = {bitmapOf(pixmap), box}, .bytes = bytes}).placed;
 }
 
 std::optional<PictureSize> PictureCache::sizeOf(const std::string& path) {
@@ -74,19 +162,22 @@ std::optional<PictureSize> PictureCache::sizeOf(const std::string& path) {
     return size;
 }
 
-void PictureCache::clear() {
-    entries_.clear();
-    byPath_.clear();
-    sizes_.clear();
-    bytes_ = 0;
+bool PictureCache::isSolidAt(const std::string& path, double x, double y) {
+    constexpr std::uint32_t leastAlpha = 64;
+    const Pixmap* pixmap = pixels(path);
+    if (pixmap == nullptr) {
+        return true; // a placeholder is drawn instead
+    }
+    const int column = std::clamp(static_cast<int>(x * pixmap->width), 0, pixmap->width - 1);
+    const int row = std::clamp(static_cast<int>(y * pixmap->height), 0, pixmap->height - 1);
+    return (pixmap->at(column, row) >> 24U) >= leastAlpha;
 }
 
-void PictureCache::makeRoom() {
-    while (bytes_ > MostBytes && entries_.size() > 1) {
-        bytes_ -= entries_.back().bytes;
-        byPath_.erase(entries_.back().path);
-        entries_.pop_back();
-    }
+void PictureCache::clear() {
+    entries_.clear();
+    byKey_.clear();
+    sizes_.clear();
+    bytes_ = 0;
 }
 
 } // namespace varrocade

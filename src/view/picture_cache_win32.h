@@ -1,45 +1,78 @@
 #pragma once
 
 #include "view/draw_list.h"
+#include "view/gdi_object_win32.h"
 #include "view/gdiplus_win32.h"
+#include "view/pixmap.h"
 
 #include <cstddef>
 #include <list>
 #include <map>
 #include <memory>
 #include <string>
+#include <tuple>
 
 namespace varrocade {
 
-/// Decoded pictures, the least recently used of which go when they take more than a bound of memory. A
-/// picture whose file changed is to be forgotten by its path.
+/// A picture stretched and turned for the screen, to be blended onto it.
+struct PlacedBitmap {
+    GdiObject<HBITMAP> bitmap;
+    PixelBox box; ///< around the centre of the picture
+};
+
+/// Puts a placed picture on a device, its centre at a pixel.
+void blend(HDC device, int centreX, int centreY, const PlacedBitmap& placed);
+
+/// Decoded pictures and what was made of them for the screen. The least recently used ones go when they take
+/// more than a bound of memory. Files that changed are seen after `clear`.
 class PictureCache : public PictureSizes {
 public:
-    /// The picture of a file, ready to draw; null when there is none. Valid until the next call.
-    Gdiplus::Bitmap* picture(const std::string& path);
+    /// The pixels of a file; null when there is no picture in it. Valid until the next call.
+    const Pixmap* pixels(const std::string& path);
+
+    /// The picture of a file as it is placed, so far as it lies in `clip`, a box around its centre; null when
+    /// there is none. Valid until the next call.
+    const PlacedBitmap* placed(const std::string& path, const PixmapPlacement& placement,
+                               const PixelBox& clip);
+
+    /// The same for pixels that do not come from a file of their own, under a name.
+    const PlacedBitmap* placed(const std::string& name, const Pixmap& source,
+                               const PixmapPlacement& placement, const PixelBox& clip);
 
     /// Reads no more than the file's header, and that once.
     std::optional<PictureSize> sizeOf(const std::string& path) override;
+    bool isSolidAt(const std::string& path, double x, double y) override;
 
     /// Forgets everything: files may have changed.
     void clear();
 
 private:
     static constexpr std::size_t MostBytes = std::size_t{192} << 20U;
-    static constexpr std::size_t BytesPerPixel = 4;
+
+    /// The path and, of a placed picture, width, height, angle, isTile and the box; 0 of a decoded one.
+    using Key = std::tuple<std::string, double, double, double, bool, int, int, int, int>;
 
     struct Entry {
-        std::string path;
-        std::unique_ptr<Gdiplus::Bitmap> bitmap;
+        Key key;
+        Pixmap pixels;
+        PlacedBitmap placed;
         std::size_t bytes = 0;
     };
 
-    void makeRoom();
+    static Key keyOf(const std::string& name, const PixmapPlacement& placement, const PixelBox& box);
+    Entry* find(const Key& key);
+    Entry& keep(Entry entry);
 
     std::list<Entry> entries_; ///< most recently used first
-    std::map<std::string, std::list<Entry>::iterator, std::less<>> byPath_;
+    std::map<Key, std::list<Entry>::iterator> byKey_;
     std::map<std::string, std::optional<PictureSize>, std::less<>> sizes_;
     std::size_t bytes_ = 0;
 };
+
+/// The pixels of a bitmap that GDI+ has read.
+Pixmap pixelsOf(Gdiplus::Bitmap& bitmap);
+
+/// A bitmap of its own for some pixels.
+GdiObject<HBITMAP> bitmapOf(const Pixmap& pixels);
 
 } // namespace varrocade

@@ -134,4 +134,11 @@ Window EditorProcess::focus() const {
     return Window(info.hwndFocus);
 }
 
+POINT EditorProcess::caret() const {
+    GUITHREADINFO info{};
+    info.cbSize = sizeof(info);
+    GetGUIThreadInfo(threadId_, &info);
+    return {info.rcCaret.left, info.rcCaret.top};
+}
+
 } // namespace varrocade::gui

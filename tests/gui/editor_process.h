@@ -35,6 +35,8 @@ public:
     [[nodiscard]] UINT menuState(Window mainWindow, int command) const;
     /// The window that has the keyboard.
     [[nodiscard]] Window focus() const;
+    /// Where its caret is, in the client area of the window that has it.
+    [[nodiscard]] POINT caret() const;
 
 private:
     HANDLE process_ = nullptr;

@@ -114,15 +114,16 @@ TEST_F(FileListTest, TabReachesEveryControl) {
     start();
     select(Tiger);
     std::set<int> reached;
-    for (std::size_t i = 0; i < 12; ++i) {
+    for (std::size_t i = 0; i < 13; ++i) {
         const Window before = editor->focus();
         reached.insert(GetDlgCtrlID(before.handle()));
         before.pressKey(VK_TAB);
         EXPECT_TRUE(eventually([&] { return editor->focus() != before; }))
             << "stuck at " << *reached.rbegin();
     }
-    EXPECT_EQ(reached, (std::set<int>{ListId, NewId, DuplicateId, RenameId, DeleteId, VehiclesId, AtGunsId,
-                                      InfantryId, AircraftId, WeaponsId, IDC_FILTER, IDC_EDIT_DETAILS}));
+    EXPECT_EQ(reached,
+              (std::set<int>{ListId, NewId, DuplicateId, RenameId, DeleteId, VehiclesId, AtGunsId, InfantryId,
+                             AircraftId, WeaponsId, IDC_FILTER, IDC_DRAWING, IDC_EDIT_DETAILS}));
     EXPECT_EQ(editor->focus(), list()) << "once around";
 }
 

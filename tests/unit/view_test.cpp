@@ -1,24 +1,13 @@
 // What the drawing, the timeline and the data sheet consist of, without a device.
 
 #include "view/data_sheet.h"
-#include "view/draw_list.h"
 #include "view/timeline.h"
+#include "view_support.h"
 
 #include <gtest/gtest.h>
 
-#include <map>
-
 namespace varrocade::tests {
 namespace {
-
-class FakePictures : public PictureSizes {
-public:
-    std::optional<PictureSize> sizeOf(const std::string& path) override {
-        const auto found = sizes.find(path);
-        return found == sizes.end() ? std::nullopt : std::optional(found->second);
-    }
-    std::map<std::string, PictureSize> sizes;
-};
 
 VehicleRecord tank() {
     VehicleRecord vehicle;
@@ -36,24 +25,13 @@ VehicleRecord tank() {
     return vehicle;
 }
 
-template <typename Item>
-std::vector<Item> itemsOf(const DrawList& list) {
-    std::vector<Item> found;
-    for (const DrawItem& item : list.items) {
-        if (const auto* one = std::get_if<Item>(&item)) {
-            found.push_back(*one);
-        }
-    }
-    return found;
-}
-
 TEST(DrawVehicle, DrawsAllPicturesAtTheHullsScale) {
     FakePictures pictures;
     // The hull's picture has half a pixel a centimetre, so the turret's counts double too.
     pictures.sizes["mod\\Images\\Units\\Vehicles\\Hulls\\hull.png"] = {150, 300};
     pictures.sizes["game\\Images\\Units\\Vehicles\\Turrets\\turret.png"] = {80, 200};
     const DrawList list = drawVehicle(tank(), {.bases = {"mod\\", "game\\"}}, pictures);
-    const auto items = itemsOf<PictureItem>(list);
+    const auto items = allOf<PictureItem>(list);
     ASSERT_EQ(items.size(), 2U);
     EXPECT_EQ(items[0].path, "mod\\Images\\Units\\Vehicles\\Hulls\\hull.png");
     EXPECT_DOUBLE_EQ(items[0].height, 600);
@@ -70,7 +48,7 @@ TEST(DrawVehicle, TurnsDischargersWithTheirTurret) {
     vehicle.components[1].limitedTraverse = true;
     vehicle.exhaustPipes.push_back({.offsetX = 5, .offsetY = -300});
     const DrawList list = drawVehicle(vehicle, {.bases = {"game\\"}}, pictures);
-    const auto marks = itemsOf<MarkItem>(list);
+    const auto marks = allOf<MarkItem>(list);
     ASSERT_EQ(marks.size(), 2U);
     EXPECT_EQ(marks[0].shape, MarkItem::Shape::Exhaust);
     EXPECT_DOUBLE_EQ(marks[0].direction.value_or(0), 180);
@@ -83,24 +61,13 @@ TEST(DrawVehicle, TurnsDischargersWithTheirTurret) {
 TEST(DrawVehicle, ShowsMissingPicturesAsPlaceholdersAndListsThem) {
     FakePictures pictures;
     const DrawList list = drawVehicle(tank(), {.bases = {"game\\"}}, pictures);
-    const auto holders = itemsOf<PlaceholderItem>(list);
+    const auto holders = allOf<PlaceholderItem>(list);
     ASSERT_EQ(holders.size(), 2U);
     EXPECT_EQ(holders[0].label, "Missing: hull.png");
     EXPECT_DOUBLE_EQ(holders[0].width, 300);
     EXPECT_EQ(list.missingPictures,
               (std::vector<std::string>{"Images\\Units\\Vehicles\\Hulls\\hull.png",
                                         "Images\\Units\\Vehicles\\Turrets\\turret.png"}));
-}
-
-TEST(DrawVehicle, FitsTheAreaWithWholePixelsAMetre) {
-    DrawList list;
-    list.least = {-150, -300};
-    list.greatest = {150, 500};
-    const Fit fit = fitInto(list, 540, 900, 50);
-    EXPECT_EQ(fit.pixelsPerMetre, 100); // 800 cm in 800 pixels
-    EXPECT_EQ(fit.originX, 270);
-    EXPECT_EQ(fit.originY, 550);
-    EXPECT_DOUBLE_EQ(fit.screenY(500), 50);
 }
 
 TEST(Timeline, StepsFollowTheDatesAndReachToTheEnd) {

@@ -1,0 +1,23 @@
+#pragma once
+// The drawing of the open unit: a window of its own, so that it can have the keyboard.
+
+#include <windows.h>
+
+namespace varrocade {
+
+bool registerDrawingWindow(HINSTANCE instance);
+HWND createDrawingWindow(HWND parent);
+
+/// Paints the drawing at once.
+void redrawDrawing();
+
+/// Shows the whole unit again, every turret at its rest.
+void resetView();
+
+/// Bigger by `steps` about a pixel of the screen, or smaller.
+void zoomDrawing(POINT screenPixel, int steps);
+
+/// Whether a pixel of the screen lies in the drawing.
+bool isOverDrawing(POINT screenPixel);
+
+} // namespace varrocade

@@ -1,0 +1,132 @@
+// Working in the drawing with mouse and keyboard.
+
+#include "gui_test.h"
+
+namespace varrocade::gui {
+
+namespace {
+
+constexpr std::string_view Havoc = "American A-20G Havoc";
+constexpr std::string_view TurretGun = "HMG MG34, X 30 cm, Y 120 cm";
+
+LPARAM at(POINT place) {
+    return MAKELPARAM(place.x, place.y);
+}
+
+} // namespace
+
+class DrawingTest : public GuiTest {
+protected:
+    void startWith(std::string_view name, int category = VehiclesId) {
+        start();
+        chooseCategory(category);
+        select(name);
+        drawing = window.control(IDC_DRAWING);
+        // A click into the corner selects nothing and takes the keyboard there.
+        drawing.send(WM_LBUTTONDOWN, MK_LBUTTON, at({1, 1}));
+        drawing.send(WM_LBUTTONUP, 0, at({1, 1}));
+        EXPECT_TRUE(eventually([&] { return editor->focus() == drawing; }));
+    }
+    [[nodiscard]] bool shows(std::string_view text) const {
+        return eventually([&] { return drawing.text().find(text) != std::string::npos; });
+    }
+    /// Goes from part to part until one is selected that is named so.
+    void selectPart(std::string_view name) const {
+        constexpr int mostParts = 60;
+        for (int i = 0; i < mostParts && drawing.text().find(name) == std::string::npos; ++i) {
+            const std::string before = drawing.text();
+            drawing.pressKey(VK_NEXT);
+            eventually([&] { return drawing.text() != before; });
+        }
+        ASSERT_TRUE(shows(name));
+    }
+    /// Takes hold of the selected part and moves it by pixels, without letting it go.
+    [[nodiscard]] POINT drag(int right, int down) const {
+        const POINT from = editor->caret();
+        const POINT to{from.x + right, from.y + down};
+        drawing.send(WM_LBUTTONDOWN, MK_LBUTTON, at(from));
+        drawing.send(WM_MOUSEMOVE, MK_LBUTTON, at({from.x + right / 2, from.y + down / 2}));
+        drawing.send(WM_MOUSEMOVE, MK_LBUTTON, at(to));
+        return to;
+    }
+    /// "X 12 cm, Y 34 cm" of the selected part, as the file has it.
+    [[nodiscard]] std::string positionElements() const {
+        int x = 0;
+        int y = 0;
+        const std::string text = drawing.text();
+        EXPECT_EQ(std::sscanf(text.c_str() + text.rfind("X "), "X %d cm, Y %d cm", &x, &y), 2) << text;
+        return "<offsetX>" + std::to_string(x) + "</offsetX><offsetY>" + std::to_string(y) + "</offsetY>";
+    }
+    /// Expects that the selected entry is marked as unsaved or not, by what leaving it asks.
+    void expectQuestion(std::string_view other, std::string_view question, int button) const {
+        list().startChoosing(other);
+        answer({"Save changes", std::string(question), {IDCANCEL, IDYES, IDNO}}, button);
+    }
+
+    Window drawing;
+};
+
+TEST_F(DrawingTest, DraggedPositionsAreInTheFileThatThePromptSaves) {
+    startWith(Tiger);
+    const std::string before = game.read(dataFile(Tiger));
+    selectPart(TurretGun);
+    POINT end = drag(24, -16);
+    EXPECT_TRUE(eventually([&] { return drawing.text().find(TurretGun) == std::string::npos; }));
+    drawing.send(WM_LBUTTONUP, 0, at(end));
+    const std::string gun = positionElements();
+    selectPart("Exhaust pipe 2, X 56 cm, Y -302 cm");
+    end = drag(-20, 12);
+    drawing.send(WM_LBUTTONUP, 0, at(end));
+    EXPECT_TRUE(eventually([&] { return drawing.text().find("X 56 cm") == std::string::npos; }));
+    const std::string pipe = positionElements();
+    EXPECT_EQ(game.read(dataFile(Tiger)), before);
+
+    expectQuestion("French Panhard 178", "Save your changes to weapon and exhaust positions?", IDYES);
+    EXPECT_TRUE(eventually([&] { return game.read(dataFile(Tiger)) != before; }));
+    std::string expected =
+        withReplaced(before, "MG34</type><offsetX>30</offsetX><offsetY>120</offsetY>", "MG34</type>" + gun);
+    expected = withReplaced(expected, "<offsetX>56</offsetX><offsetY>-302</offsetY>", pipe);
+    EXPECT_EQ(game.read(dataFile(Tiger)), expected);
+}
+
+TEST_F(DrawingTest, EscapePutsPositionsBack) {
+    startWith(Tiger);
+    selectPart(TurretGun);
+    // A run of the arrow keys is one move.
+    for (const int key : {VK_RIGHT, VK_RIGHT, VK_UP}) {
+        drawing.pressKey(key);
+    }
+    EXPECT_TRUE(shows("HMG MG34, X 32 cm, Y 121 cm"));
+    drawing.pressKey(VK_ESCAPE);
+    EXPECT_TRUE(shows(TurretGun));
+    sendCommand(IDM_REDO);
+    EXPECT_TRUE(shows("HMG MG34, X 32 cm, Y 121 cm")) << "what Escape took back is not lost";
+    sendCommand(IDM_UNDO);
+    EXPECT_TRUE(shows(TurretGun));
+    // While the mouse still holds it.
+    const POINT end = drag(30, 30);
+    EXPECT_TRUE(eventually([&] { return drawing.text().find(TurretGun) == std::string::npos; }));
+    drawing.pressKey(VK_ESCAPE);
+    EXPECT_TRUE(shows(TurretGun));
+    drawing.send(WM_LBUTTONUP, 0, at(end));
+    select("French Panhard 178");
+    EXPECT_TRUE(editor->dialogs().empty()) << "nothing is unsaved";
+}
+
+TEST_F(DrawingTest, AircraftWeaponsMoveAndFileSaveKeepsThem) {
+    startWith(Havoc, AircraftId);
+    const std::string before = game.read(dataFile(Havoc, "Aircraft"));
+    selectPart("Bomb M64 500LB, X 330 cm, Y 20 cm");
+    drawing.pressKey(VK_DOWN);
+    EXPECT_TRUE(shows("X 330 cm, Y 19 cm"));
+    expectQuestion("British Typhoon IB", "Save your changes to weapon positions?", IDCANCEL);
+    EXPECT_EQ(selected(), Havoc);
+    sendCommand(IDM_SAVE);
+    EXPECT_EQ(game.read(dataFile(Havoc, "Aircraft")),
+              withReplaced(before, "<offsetX>330</offsetX><offsetY>20</offsetY>",
+                           "<offsetX>330</offsetX><offsetY>19</offsetY>"));
+    select("British Typhoon IB");
+    EXPECT_TRUE(editor->dialogs().empty()) << "what was saved is not asked for again";
+}
+
+} // namespace varrocade::gui
