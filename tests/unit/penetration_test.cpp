@@ -37,7 +37,7 @@ Projectile panther() {
     return {.flavour = AmmoFlavour::Apcbc, .calibre = 75, .muzzleVelocity = 935, .mass = 6.8};
 }
 
-constexpr std::string_view Gun =
+constexpr std::string_view GunText =
     "<weapon><name>WEAPON_CANNON_75</name><type>WEAPON_CANNON</type>"
     "<dimensions><calibre>75</calibre></dimensions><ammo>"
     "<type><flavour>FLAVOUR_HEAT</flavour><speed>450.5</speed><mass>4.4</mass>"
@@ -290,7 +290,7 @@ TEST(Penetration, FindsThePlatesOfAVehicle) {
 
 TEST(PenetrationCommand, PrintsSevenLines) {
     const TemporaryFolder folder;
-    folder.write("gun.txt", Gun);
+    folder.write("gun.txt", GunText);
     const std::string gun = folder.path() + "gun.txt";
     // 127.5 * cos(60 / 57.296) is 63.75, 450.5 * 2.71828^(-0.1 r / 1000) falls as the table has it.
     const CommandOutcome heat = runCommand({"penetration", gun, "0", "60", "10"});
@@ -307,7 +307,7 @@ TEST(PenetrationCommand, PrintsSevenLines) {
 
 TEST(PenetrationCommand, RefusesWhatItDoesNotUnderstand) {
     const TemporaryFolder folder;
-    folder.write("gun.txt", Gun);
+    folder.write("gun.txt", GunText);
     folder.write("empty.txt", "");
     const std::string gun = folder.path() + "gun.txt";
     const std::vector<std::vector<std::string>> calls = {
@@ -338,7 +338,7 @@ TEST(PenetrationCommand, RefusesWhatItDoesNotUnderstand) {
 
 TEST(PenetrationCommand, PrintsAMatrix) {
     const TemporaryFolder folder;
-    folder.write("Data\\Weapons\\WEAPON_CANNON_75.txt", Gun);
+    folder.write("Data\\Weapons\\WEAPON_CANNON_75.txt", GunText);
     folder.write(
         "Data\\Vehicles\\B.txt",
         "<squad><vehicle><hull><armour><upper_front>150@0</upper_front><lower_front>60@60</lower_front>"
