@@ -79,6 +79,11 @@ LRESULT CALLBACK listProcedure(HWND list, UINT message, WPARAM parameter, LPARAM
         typeAhead(list, static_cast<char>(parameter), static_cast<DWORD>(GetMessageTime()));
         return 0;
     }
+    // Going elsewhere ends what was typed.
+    if (message == WM_LBUTTONDOWN ||
+        (message == WM_KEYDOWN && parameter >= VK_PRIOR && parameter <= VK_DOWN)) {
+        application().typedAhead.clear();
+    }
     if (message == WM_KEYDOWN && parameter == VK_DELETE) {
         SendMessageA(application().window, WM_COMMAND, MAKEWPARAM(IDC_DELETE, 0), 0);
         return 0;
@@ -223,6 +228,7 @@ void redrawSelectedEntry() {
 }
 
 void leaveFilter() {
+    application().typedAhead.clear();
     SetWindowTextA(filterWindow(), "");
     SetFocus(listWindow());
 }
