@@ -22,6 +22,11 @@ std::vector<std::string> imageBases() {
     return {app.programFolder};
 }
 
+void loadCatalogue() {
+    Application& app = application();
+    app.catalogue.load(app.programFolder, app.modMode ? app.modFolder : "");
+}
+
 bool isRecordOpen() {
     const Application& app = application();
     return app.openUnit.has_value() || app.openWeapon.has_value();

@@ -64,6 +64,9 @@ const std::string& baseFolder();
 /// Where pictures are looked for: the mod's folder before the program's.
 std::vector<std::string> imageBases();
 
+/// Reads the weapons of the game and, in mod mode, of the mod anew.
+void loadCatalogue();
+
 /// Whether a unit or a weapon is open.
 bool isRecordOpen();
 

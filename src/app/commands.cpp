@@ -104,6 +104,7 @@ void findInList() {
 
 void refreshFiles() {
     application().pictures.clear();
+    loadCatalogue();
     SendMessageA(application().window, RefreshListMessage, 0, 0);
     updateButtons();
     displayChanged();

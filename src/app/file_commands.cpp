@@ -41,7 +41,7 @@ std::optional<std::string> refusalOfOtherName(const std::string& name) {
 void refillAndSelect(const std::string& name) {
     Application& app = application();
     if (app.category == Category::Weapons) {
-        app.catalogue.load(app.programFolder, app.modMode ? app.modFolder : "");
+        loadCatalogue();
     }
     SendMessageA(app.window, RefreshListMessage, 0, 0);
     if (!selectEntry(name)) {

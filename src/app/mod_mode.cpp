@@ -39,7 +39,7 @@ bool hasModFile(const std::string& folder) {
     return readFileBeginning(folder + std::string(ModFileName), 1, content);
 }
 
-/// Title, check mark and enabling of the present mode, and the list of its files.
+/// Title, check mark and enabling of the present mode, its weapons and the list of its files.
 void showMode() {
     Application& app = application();
     const UINT checked = app.modMode ? MF_CHECKED : MF_UNCHECKED;
@@ -49,6 +49,7 @@ void showMode() {
     const std::string title =
         "Varrocade Data Editor" + (app.modMode ? " - Mod Mode from: " + app.modFolder : "");
     SetWindowTextA(app.window, title.c_str());
+    loadCatalogue();
     SendMessageA(app.window, RefreshListMessage, 0, 0);
 }
 

@@ -131,7 +131,8 @@ int startApplication(HINSTANCE instance, int showCommand) {
     const GdiPlusSession gdiPlus;
     app.drawing =
         createDrawingObjects(instance, std::string(image_folder::Grid), static_cast<int>(GetDpiForSystem()));
-    const INITCOMMONCONTROLSEX controls{sizeof(INITCOMMONCONTROLSEX), ICC_STANDARD_CLASSES};
+    const INITCOMMONCONTROLSEX controls{sizeof(INITCOMMONCONTROLSEX),
+                                        ICC_STANDARD_CLASSES | ICC_LISTVIEW_CLASSES};
     InitCommonControlsEx(&controls);
     if (createMainWindow() == nullptr) {
         releaseRecordsAndDrawing();
@@ -139,7 +140,6 @@ int startApplication(HINSTANCE instance, int showCommand) {
     }
     app.menu = GetMenu(app.window);
     detectModMode();
-    app.catalogue.load(app.programFolder, app.modMode ? app.modFolder : "");
     ShowWindow(app.window, showCommand);
     UpdateWindow(app.window);
     const int status = runMessageLoop();

@@ -8,6 +8,8 @@
 #include <commctrl.h>
 #include <windowsx.h>
 
+#include <algorithm>
+
 namespace varrocade {
 
 namespace {
@@ -59,6 +61,33 @@ void drag(AvailabilityContext& context, int x, int y) {
     repaintTimeline(context.dialog);
 }
 
+/// A double-click beside the steps' corners adds a point there.
+void addPointAt(HWND timeline, AvailabilityContext& context, int x, int y) {
+    const TimelineScale scale = scaleOf(timeline, context);
+    const int reach = context.drawing.scaled(Reach);
+    if (timelinePointNear(context.points, scale, x, y, reach) ||
+        !takeShownEntry(context.dialog, *context.list) || !hasRoomForEntry(*context.list)) {
+        return;
+    }
+    context.points.push_back(scale.pointAt(x, y));
+    refreshEntries(context.dialog, *context.list, static_cast<int>(context.points.size()) - 1);
+}
+
+/// A right click on a step's corner deletes its point. What the form shows of it need not be right.
+void deletePointAt(HWND timeline, AvailabilityContext& context, int x, int y) {
+    const auto point =
+        timelinePointNear(context.points, scaleOf(timeline, context), x, y, context.drawing.scaled(Reach));
+    if (!point) {
+        return;
+    }
+    if (static_cast<int>(*point) != context.list->shown && !takeShownEntry(context.dialog, *context.list)) {
+        return;
+    }
+    context.points.erase(context.points.begin() + static_cast<std::ptrdiff_t>(*point));
+    const int last = static_cast<int>(context.points.size()) - 1;
+    refreshEntries(context.dialog, *context.list, std::min(static_cast<int>(*point), last));
+}
+
 /// The timeline's mouse: its steps are dragged by their corners.
 LRESULT CALLBACK timelineProcedure(HWND timeline, UINT message, WPARAM parameter, LPARAM detail, UINT_PTR,
                                    DWORD_PTR data) {
@@ -73,6 +102,12 @@ LRESULT CALLBACK timelineProcedure(HWND timeline, UINT message, WPARAM parameter
     case WM_LBUTTONUP:
         context.dragged.reset();
         ReleaseCapture();
+        return 0;
+    case WM_LBUTTONDBLCLK:
+        addPointAt(timeline, context, GET_X_LPARAM(detail), GET_Y_LPARAM(detail));
+        return 0;
+    case WM_RBUTTONUP:
+        deletePointAt(timeline, context, GET_X_LPARAM(detail), GET_Y_LPARAM(detail));
         return 0;
     default:
         return DefSubclassProc(timeline, message, parameter, detail);
@@ -96,8 +131,13 @@ bool availabilityCommand(HWND dialog, ListDialog& list, int control) {
         return false;
     }
     if (takeShownEntry(dialog, list)) {
-        sortByDate(contextOf(list).points);
-        refreshEntries(dialog, list, list.shown);
+        // The chosen point stays the chosen one.
+        std::vector<AvailabilityPoint>& points = contextOf(list).points;
+        const auto chosen =
+            list.shown < 0 ? AvailabilityPoint() : points[static_cast<std::size_t>(list.shown)];
+        sortByDate(points);
+        const auto place = std::find(points.begin(), points.end(), chosen);
+        refreshEntries(dialog, list, place == points.end() ? -1 : static_cast<int>(place - points.begin()));
     }
     return true;
 }

@@ -77,7 +77,7 @@ void selectPlate(HWND dialog, std::size_t plate) {
 }
 
 void prepareTable(HWND dialog) {
-    constexpr std::array<int, PlateRangeHeads.size()> widths = {92, 78, 62, 42, 92}; // at 96 dpi
+    constexpr std::array<int, PlateRangeHeads.size()> widths = {86, 74, 70, 44, 92}; // at 96 dpi
     HWND table = GetDlgItem(dialog, IDC_PLATE_TABLE);
     ListView_SetExtendedListViewStyle(table, LVS_EX_FULLROWSELECT);
     HDC screen = GetDC(dialog);

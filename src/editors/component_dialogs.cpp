@@ -34,6 +34,14 @@ constexpr auto TurretImages =
     std::to_array<ImageSource>({{image_folder::Turrets}, {image_folder::Units, GenericPrefix}});
 constexpr auto DestroyedImages = std::to_array<ImageSource>({{image_folder::Destroyed}});
 
+constexpr auto ImageFields =
+    std::to_array<ChoiceField>({{IDC_VIEW_IMAGE, "Image"}, {IDC_DESTROYED_IMAGE, "Destroyed"}});
+
+/// A superstructure has no destroyed image.
+std::span<const ChoiceField> knownChoices(ComponentKind kind) {
+    return std::span(ImageFields).first(kind == ComponentKind::Superstructure ? 1 : 2);
+}
+
 void fillDialog(HWND dialog, const ComponentDialog& context) {
     DialogPort port(dialog);
     const ComponentRecord& component = context.component();
@@ -42,11 +50,12 @@ void fillDialog(HWND dialog, const ComponentDialog& context) {
     const std::span<const ImageSource> sources =
         hasHullImages ? std::span<const ImageSource>(HullImages) : TurretImages;
     port.setChoices(IDC_VIEW_IMAGE, imageChoices(context.edit.imageBases, sources));
-    if (GetDlgItem(dialog, IDC_DESTROYED_IMAGE) != nullptr) {
+    if (component.kind != ComponentKind::Superstructure) {
         port.setChoices(IDC_DESTROYED_IMAGE, imageChoices(context.edit.imageBases, DestroyedImages));
     }
     port.setText(IDC_CAPTION_LINE, context.title());
     fillComponentForm(port, component);
+    showUnknownChoices(dialog, knownChoices(component.kind));
 }
 
 void takeDialog(HWND dialog, ComponentDialog& context) {
@@ -110,7 +119,11 @@ INT_PTR handleComponentDialog(HWND dialog, UINT message, WPARAM parameter, LPARA
         return TRUE;
     }
     default:
-        return openSubDialog(dialog, *context, LOWORD(parameter)) ? TRUE : FALSE;
+        return followChoices(dialog, knownChoices(context->component().kind), LOWORD(parameter),
+                             HIWORD(parameter)) ||
+                       openSubDialog(dialog, *context, LOWORD(parameter))
+                   ? TRUE
+                   : FALSE;
     }
 }
 

@@ -31,6 +31,8 @@ void followCrew(HWND dialog, ListDialog& list) {
     DialogPort port(dialog);
     port.setEnabled(IDC_MAN_WEAPONS_BUTTON, list.shown >= 0);
     port.setEnabled(IDC_MAN_AMMO_BUTTON, list.shown >= 0);
+    constexpr ChoiceField job = {IDC_JOB, "Job"};
+    port.setText(IDC_UNKNOWN, list.shown >= 0 ? unknownChoices(port, std::span(&job, 1)) : std::string());
 }
 
 bool crewCommand(HWND dialog, ListDialog& list, int control) {
@@ -66,6 +68,14 @@ void fillWeaponChoices(HWND dialog, const PersonalWeaponsContext& context) {
 
 void preparePersonalWeapons(HWND dialog, ListDialog& list) {
     fillWeaponChoices(dialog, *static_cast<const PersonalWeaponsContext*>(list.context));
+}
+
+void followPersonalWeapons(HWND dialog, ListDialog& list) {
+    DialogPort port(dialog);
+    const auto& context = *static_cast<const PersonalWeaponsContext*>(list.context);
+    port.setText(IDC_UNKNOWN, list.shown >= 0
+                                  ? unknownWeapon(port.text(IDC_WEAPON_TYPE), context.edit.catalogue)
+                                  : std::string());
 }
 
 bool personalWeaponsCommand(HWND dialog, ListDialog& list, int control) {
@@ -114,7 +124,8 @@ bool editPersonalWeapons(HWND owner, EditContext& edit, CrewManRecord& man) {
                     .caption = "Personal Weapons",
                     .context = &context,
                     .command = personalWeaponsCommand,
-                    .prepare = preparePersonalWeapons};
+                    .prepare = preparePersonalWeapons,
+                    .follow = followPersonalWeapons};
     if (runDialog(owner, IDD_PERSONAL_WEAPONS, personalWeaponsProcedure, &list) == 0) {
         return false;
     }

@@ -9,6 +9,7 @@
 #include "resources/resource.h"
 
 #include <algorithm>
+#include <array>
 
 namespace varrocade {
 
@@ -28,6 +29,9 @@ std::vector<std::string> strings(std::span<const std::string_view> names) {
     return {names.begin(), names.end()};
 }
 
+constexpr auto KnownChoices =
+    std::to_array<ChoiceField>({{IDC_RELIABILITY, "Reliability"}, {IDC_STEERING, "Steering"}});
+
 void fillDialog(HWND dialog, const EditContext& edit) {
     DialogPort port(dialog);
     port.setChoices(IDC_ENGINE, engineNames());
@@ -35,6 +39,7 @@ void fillDialog(HWND dialog, const EditContext& edit) {
     port.setChoices(IDC_ENGINE_MOUNT, strings(EngineMountNames));
     port.setChoices(IDC_STEERING, strings(steeringNames()));
     fillDriveForm(port, *edit.record.vehicle);
+    showUnknownChoices(dialog, KnownChoices);
 }
 
 void takeDialog(HWND dialog, EditContext& edit) {
@@ -82,7 +87,7 @@ INT_PTR CALLBACK driveProcedure(HWND dialog, UINT message, WPARAM parameter, LPA
         }
         return TRUE;
     default:
-        return FALSE;
+        return followChoices(dialog, KnownChoices, LOWORD(parameter), HIWORD(parameter)) ? TRUE : FALSE;
     }
 }
 

@@ -28,4 +28,16 @@ std::string rangeMessage(std::string_view label, const NumberRange& range) {
     return message;
 }
 
+std::string unknownChoices(FormPort& port, std::span<const ChoiceField> fields) {
+    std::string names;
+    for (const ChoiceField& field : fields) {
+        const std::string text = port.text(field.control);
+        if (!text.empty() && !port.offers(field.control, text)) {
+            names += (names.empty() ? "Unknown, kept as it is: " : ", ") + std::string(field.label) + " \"" +
+                     text + "\"";
+        }
+    }
+    return names;
+}
+
 } // namespace varrocade

@@ -32,6 +32,8 @@ public:
     virtual void setEnabled(int control, bool enabled) = 0;
     /// The entries of a drop-down list; its edit part is left alone.
     virtual void setChoices(int control, std::span<const std::string> choices) = 0;
+    /// Whether a drop-down list holds a text.
+    virtual bool offers(int control, std::string_view text) = 0;
     /// How many characters an edit takes.
     virtual void setLimit(int control, std::size_t characters) = 0;
     virtual void focus(int control) = 0;
@@ -69,6 +71,15 @@ std::optional<std::int32_t> wholeNumber(std::string_view text);
 
 /// The message for a text that is not in a field's range.
 std::string rangeMessage(std::string_view label, const NumberRange& range);
+
+/// A drop-down list whose edit part takes what its list does not offer: what old files hold is kept.
+struct ChoiceField {
+    int control;
+    std::string_view label;
+};
+
+/// Names what the fields hold that their lists do not offer, or empty: `Unknown, kept as it is: Type "X"`.
+std::string unknownChoices(FormPort& port, std::span<const ChoiceField> fields);
 
 /// A range brought within what a member's type holds.
 template <typename Integer>

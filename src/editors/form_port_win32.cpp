@@ -1,5 +1,8 @@
 #include "editors/form_port_win32.h"
 
+#include "resources/resource.h"
+
+#include <algorithm>
 #include <array>
 
 namespace varrocade {
@@ -72,6 +75,11 @@ void DialogPort::setChoices(int control, std::span<const std::string> choices) {
     setText(control, kept);
 }
 
+bool DialogPort::offers(int control, std::string_view text) {
+    return SendDlgItemMessageA(dialog_, control, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
+                               reinterpret_cast<LPARAM>(std::string(text).c_str())) != CB_ERR;
+}
+
 void DialogPort::setLimit(int control, std::size_t characters) {
     HWND window = GetDlgItem(dialog_, control);
     SendMessageA(window, isComboBox(window) ? CB_LIMITTEXT : EM_LIMITTEXT, characters, 0);
@@ -92,6 +100,25 @@ void completeChoice(HWND dialog, int control) {
         SendMessageA(box, CB_GETLBTEXT, static_cast<WPARAM>(chosen), reinterpret_cast<LPARAM>(text.data()));
         SetWindowTextA(box, text.c_str());
     }
+}
+
+void showUnknownChoices(HWND dialog, std::span<const ChoiceField> fields) {
+    DialogPort port(dialog);
+    port.setText(IDC_UNKNOWN, unknownChoices(port, fields));
+}
+
+bool followChoices(HWND dialog, std::span<const ChoiceField> fields, int control, int notification) {
+    const bool isField = std::any_of(fields.begin(), fields.end(), [control](const ChoiceField& field) {
+        return field.control == control;
+    });
+    if (!isField || (notification != CBN_SELCHANGE && notification != CBN_EDITCHANGE)) {
+        return false;
+    }
+    if (notification == CBN_SELCHANGE) {
+        completeChoice(dialog, control);
+    }
+    showUnknownChoices(dialog, fields);
+    return true;
 }
 
 INT_PTR runDialog(HWND owner, int dialogTemplate, DLGPROC procedure, void* context) {

@@ -17,12 +17,19 @@ public:
     void setChecked(int control, bool checked) override;
     void setEnabled(int control, bool enabled) override;
     void setChoices(int control, std::span<const std::string> choices) override;
+    bool offers(int control, std::string_view text) override;
     void setLimit(int control, std::size_t characters) override;
     void focus(int control) override;
 
 private:
     HWND dialog_;
 };
+
+/// Shows in IDC_UNKNOWN what a dialog's drop-down lists hold and do not offer.
+void showUnknownChoices(HWND dialog, std::span<const ChoiceField> fields);
+
+/// The same when a notification tells that one of them was changed; false when it tells something else.
+bool followChoices(HWND dialog, std::span<const ChoiceField> fields, int control, int notification);
 
 /// Puts what was chosen from a drop-down list into its edit part, which it reaches only after the
 /// notification.

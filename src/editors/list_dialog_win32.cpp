@@ -74,13 +74,7 @@ void followTyping(HWND dialog, ListDialog& list) {
 }
 
 void addEntry(HWND dialog, ListDialog& list, void (ListModel::*how)(std::size_t)) {
-    if (!takeShownEntry(dialog, list)) {
-        return;
-    }
-    if (!list.model.hasRoom()) {
-        showMessage({.text = std::string(list.fullText),
-                     .caption = std::string(list.fullCaption),
-                     .icon = MessageIcon::Error});
+    if (!takeShownEntry(dialog, list) || !hasRoomForEntry(list)) {
         return;
     }
     if (how == nullptr) {
@@ -187,6 +181,16 @@ bool takeShownEntry(HWND dialog, ListDialog& list) {
         return false;
     }
     return true;
+}
+
+bool hasRoomForEntry(const ListDialog& list) {
+    if (list.model.hasRoom()) {
+        return true;
+    }
+    showMessage({.text = std::string(list.fullText),
+                 .caption = std::string(list.fullCaption),
+                 .icon = MessageIcon::Error});
+    return false;
 }
 
 void refreshEntries(HWND dialog, ListDialog& list, int chosen) {

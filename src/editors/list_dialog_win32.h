@@ -36,6 +36,9 @@ INT_PTR handleListDialog(HWND dialog, UINT message, WPARAM parameter, LPARAM poi
 /// Takes the form over into the shown entry; false after telling what is wrong with it.
 bool takeShownEntry(HWND dialog, ListDialog& list);
 
+/// Whether another entry fits; false after telling that none does.
+bool hasRoomForEntry(const ListDialog& list);
+
 /// Shows the list's entries anew and chooses one of them.
 void refreshEntries(HWND dialog, ListDialog& list, int chosen);
 

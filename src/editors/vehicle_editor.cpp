@@ -191,6 +191,16 @@ constexpr auto ImageLists = std::to_array<ImageList>({
     {IDC_UNIFORM_NAME, {{{image_folder::Uniforms}, {image_folder::Units, "Profile-"}}}},
 });
 
+constexpr auto KnownChoices = std::to_array<ChoiceField>({
+    {IDC_NATIONALITY, "Nationality"},
+    {IDC_TYPE, "Type"},
+    {IDC_PROFILE_IMAGE, "Control panel image"},
+    {IDC_UNIFORM_PROFILE, "Profile image"},
+    {IDC_UNIFORM_GAME, "Game image"},
+    {IDC_UNIFORM_RANKS, "Rank Image"},
+    {IDC_UNIFORM_NAME, "Uniform"},
+});
+
 std::vector<std::string> strings(std::span<const std::string_view> names) {
     return {names.begin(), names.end()};
 }
@@ -205,6 +215,7 @@ void fillDialog(HWND dialog, const VehicleEditor& context) {
         port.setChoices(list.control, choices);
     }
     fillVehicleForm(port, context.edit.record);
+    showUnknownChoices(dialog, KnownChoices);
     refreshComponents(dialog, context.vehicle());
 }
 
@@ -234,8 +245,6 @@ INT_PTR handleCommand(HWND dialog, VehicleEditor& context, WORD control, WORD no
         return TRUE;
     case IDC_UNIFORM_NEW_METHOD:
     case IDC_UNIFORM_OLD_METHOD: {
-        // Lists stand between the two buttons, so the system does not take these for one group.
-        CheckRadioButton(dialog, IDC_UNIFORM_NEW_METHOD, IDC_UNIFORM_OLD_METHOD, control);
         DialogPort port(dialog);
         enableUniformLists(port);
         return TRUE;
@@ -266,7 +275,7 @@ INT_PTR handleCommand(HWND dialog, VehicleEditor& context, WORD control, WORD no
         }
         return TRUE;
     default:
-        return FALSE;
+        return followChoices(dialog, KnownChoices, control, notification) ? TRUE : FALSE;
     }
 }
 

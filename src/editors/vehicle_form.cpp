@@ -23,7 +23,6 @@ constexpr auto VehicleFields = std::to_array<FormField<VehicleRecord>>({
     {IDC_AMPHIBIOUS, "Is amphibious", &VehicleRecord::amphibious},
 });
 
-/// A list of uniform images: an empty name, as the default one, shows as "Default".
 struct ImageField {
     int control;
     Text SquadRecord::*member;
@@ -33,20 +32,17 @@ constexpr auto NewMethodImages = std::to_array<ImageField>({
     {IDC_UNIFORM_PROFILE, &SquadRecord::uniformProfile},
     {IDC_UNIFORM_GAME, &SquadRecord::uniformGame},
 });
-constexpr ImageField OldMethodImage = {IDC_UNIFORM_NAME, &SquadRecord::uniformName};
-constexpr ImageField RanksImage = {IDC_UNIFORM_RANKS, &SquadRecord::uniformRanks};
 
-void showImage(FormPort& port, const ImageField& field, const SquadRecord& record) {
-    const Text& name = record.*field.member;
-    port.setLimit(field.control, Text::MaxLength);
-    port.setText(field.control, name.empty() ? DefaultImageName : name.view());
+/// An empty name, as the default one, shows as "Default".
+void showImage(FormPort& port, int control, const Text& name) {
+    port.setLimit(control, Text::MaxLength);
+    port.setText(control, name.empty() ? DefaultImageName : name.view());
 }
 
 /// "Default" is the empty name; a record that already says "Default" keeps it, so that nothing changes
 /// unasked.
-void readImage(FormPort& port, const ImageField& field, SquadRecord& record) {
-    const std::string chosen = port.text(field.control);
-    Text& name = record.*field.member;
+void readImage(FormPort& port, int control, Text& name) {
+    const std::string chosen = port.text(control);
     if (!isDefaultImage(chosen)) {
         name = imageNameOf(chosen);
     } else if (!isDefaultImage(name)) {
@@ -66,14 +62,12 @@ void fillVehicleForm(FormPort& port, const SquadRecord& record) {
     fillForm<SquadRecord>(port, SquadFields, record);
     fillForm<VehicleRecord>(port, VehicleFields, vehicle);
     port.setText(IDC_LANGUAGE, record.language.empty() ? DefaultImageName : record.language.view());
-    port.setLimit(IDC_PROFILE_IMAGE, Text::MaxLength);
-    port.setText(IDC_PROFILE_IMAGE,
-                 vehicle.profileImage.empty() ? DefaultImageName : vehicle.profileImage.view());
+    showImage(port, IDC_PROFILE_IMAGE, vehicle.profileImage);
     for (const ImageField& field : NewMethodImages) {
-        showImage(port, field, record);
+        showImage(port, field.control, record.*field.member);
     }
-    showImage(port, OldMethodImage, record);
-    showImage(port, RanksImage, record);
+    showImage(port, IDC_UNIFORM_NAME, record.uniformName);
+    showImage(port, IDC_UNIFORM_RANKS, record.uniformRanks);
     port.setChecked(IDC_UNIFORM_NEW_METHOD, !record.namedUniform);
     port.setChecked(IDC_UNIFORM_OLD_METHOD, record.namedUniform);
     enableUniformLists(port);
@@ -84,7 +78,7 @@ void enableUniformLists(FormPort& port) {
     for (const ImageField& field : NewMethodImages) {
         port.setEnabled(field.control, isNewMethod);
     }
-    port.setEnabled(OldMethodImage.control, !isNewMethod);
+    port.setEnabled(IDC_UNIFORM_NAME, !isNewMethod);
 }
 
 std::optional<FormError> readVehicleForm(FormPort& port, SquadRecord& record) {
@@ -98,15 +92,14 @@ std::optional<FormError> readVehicleForm(FormPort& port, SquadRecord& record) {
     copy.language = languageOf(port.text(IDC_LANGUAGE));
     copy.namedUniform = !port.isChecked(IDC_UNIFORM_NEW_METHOD);
     if (copy.namedUniform) {
-        readImage(port, OldMethodImage, copy);
+        readImage(port, IDC_UNIFORM_NAME, copy.uniformName);
     } else {
         for (const ImageField& field : NewMethodImages) {
-            readImage(port, field, copy);
+            readImage(port, field.control, copy.*field.member);
         }
     }
-    readImage(port, RanksImage, copy);
-    const std::string profile = port.text(IDC_PROFILE_IMAGE);
-    copy.vehicle->profileImage = isDefaultImage(profile) ? std::string_view() : imageNameOf(profile);
+    readImage(port, IDC_UNIFORM_RANKS, copy.uniformRanks);
+    readImage(port, IDC_PROFILE_IMAGE, copy.vehicle->profileImage);
     record = std::move(copy);
     return std::nullopt;
 }

@@ -48,6 +48,12 @@ std::vector<std::string> weaponChoices(const WeaponCatalogue& catalogue, const S
     return names;
 }
 
+std::string unknownWeapon(std::string_view weaponType, const WeaponCatalogue& catalogue) {
+    return weaponType.empty() || catalogue.find(weaponType) != nullptr
+               ? ""
+               : "Unknown, kept as it is: there is no weapon file \"" + std::string(weaponType) + "\"";
+}
+
 std::vector<std::string> flavourChoices(const WeaponCatalogue& catalogue, std::string_view weaponType) {
     std::vector<std::string> names;
     if (const WeaponRecord* weapon = catalogue.find(weaponType)) {

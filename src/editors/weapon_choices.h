@@ -18,6 +18,9 @@ std::string_view periodOf(const SquadRecord& record);
 /// The names of the weapons that a unit of this nationality and period uses, or of all weapons.
 std::vector<std::string> weaponChoices(const WeaponCatalogue& catalogue, const SquadRecord& record, bool all);
 
+/// Names a weapon that the catalogue does not hold, or empty; lists offer only some of those that it holds.
+std::string unknownWeapon(std::string_view weaponType, const WeaponCatalogue& catalogue);
+
 /// The names of the flavours that a weapon really has; empty for an unknown weapon.
 std::vector<std::string> flavourChoices(const WeaponCatalogue& catalogue, std::string_view weaponType);
 

@@ -45,6 +45,19 @@ void prepareWeapons(HWND dialog, ListDialog& list) {
     port.setText(IDC_NOT_STORED, notStoredOf(context.component.kind));
 }
 
+void followWeapons(HWND dialog, ListDialog& list) {
+    DialogPort port(dialog);
+    std::string unknown;
+    if (list.shown >= 0) {
+        const auto& context = *static_cast<const WeaponsContext*>(list.context);
+        constexpr ChoiceField mount = {IDC_WEAPON_MOUNT, "Mount"};
+        unknown = unknownWeapon(port.text(IDC_WEAPON_TYPE), context.edit.catalogue);
+        const std::string unknownMount = unknownChoices(port, std::span(&mount, 1));
+        unknown += (unknown.empty() || unknownMount.empty() ? "" : "\n") + unknownMount;
+    }
+    port.setText(IDC_UNKNOWN, unknown);
+}
+
 bool weaponsCommand(HWND dialog, ListDialog& list, int control) {
     auto& context = *static_cast<WeaponsContext*>(list.context);
     if (control == IDC_SHOW_ALL) {
@@ -127,6 +140,7 @@ bool editWeapons(HWND owner, EditContext& edit, ComponentRecord& component) {
                     .context = &context,
                     .command = weaponsCommand,
                     .prepare = prepareWeapons,
+                    .follow = followWeapons,
                     .first = edit.firstShown};
     if (runDialog(owner, IDD_WEAPONS, weaponsProcedure, &list) == 0 || context.component == component) {
         return false;

@@ -183,6 +183,7 @@
 #define IDC_SIDES_ALIKE 1317
 #define IDC_MIRROR_ARMOUR 1318
 #define IDC_ARMOUR_DRAWING 1319
+#define IDC_UNKNOWN 1320
 // A plate's thickness, angle and effective thickness have numbers that follow one another, three a plate.
 #define IDC_PLATES 1330
 #define IDC_FRONT_SPACED 1360

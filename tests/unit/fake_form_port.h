@@ -2,6 +2,7 @@
 
 #include "editors/form.h"
 
+#include <algorithm>
 #include <map>
 #include <set>
 
@@ -29,6 +30,9 @@ public:
     }
     void setChoices(int control, std::span<const std::string> entries) override {
         choices[control].assign(entries.begin(), entries.end());
+    }
+    bool offers(int control, std::string_view text) override {
+        return std::find(choices[control].begin(), choices[control].end(), text) != choices[control].end();
     }
     void setLimit(int control, std::size_t characters) override { limits[control] = characters; }
     void focus(int control) override { focused = control; }
