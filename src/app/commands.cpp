@@ -107,6 +107,9 @@ void refreshFiles() {
     loadCatalogue();
     SendMessageA(application().window, RefreshListMessage, 0, 0);
     updateButtons();
+    if (isSelectionOpen()) {
+        reopenIfChanged();
+    }
     displayChanged();
     redrawNow();
 }

@@ -185,6 +185,8 @@ void renameFile() {
         app.openWeapon->fileName = dialog.choice.name;
     } else if (app.openUnit) {
         app.openUnit->fileName = dialog.choice.name;
+        app.savedUnit->fileName = dialog.choice.name;
+        app.history.rename(dialog.choice.name);
     }
     refillAndSelect(dialog.choice.name);
     displayChanged();
@@ -251,7 +253,11 @@ void chooseCategory(Category category) {
 void openSelectedEntry() {
     Application& app = application();
     const std::string name = selectedEntry();
-    if (name.empty() || (isRecordOpen() && name == openFileName())) {
+    if (name.empty()) {
+        return;
+    }
+    if (isRecordOpen() && name == openFileName()) {
+        reopenIfChanged();
         return;
     }
     if (!mayLeavePositions()) {

@@ -7,6 +7,7 @@
 #include "app/file_list.h"
 #include "app/open_record.h"
 #include "app/positions.h"
+#include "app/start_application.h"
 #include "app/window_layout.h"
 #include "resources/resource.h"
 
@@ -257,6 +258,15 @@ LRESULT CALLBACK mainWindowProcedure(HWND window, UINT message, WPARAM parameter
     case WM_CLOSE:
         if (mayLeavePositions()) {
             DestroyWindow(window);
+        }
+        return 0;
+    case WM_QUERYENDSESSION:
+        return mayLeavePositions() ? TRUE : FALSE;
+    case WM_ENDSESSION:
+        if (parameter != 0) {
+            // The process may end without coming back here.
+            keepUnsavedUnit(baseFolder());
+            writeOptions();
         }
         return 0;
     case WM_DESTROY:

@@ -29,6 +29,26 @@ bool openFile(const std::string& name) {
     return isRecordOpen();
 }
 
+void reopenIfChanged() {
+    Application& app = application();
+    if (!isRecordOpen() || isUnitModified() || app.weaponPosChanged || app.exhaustPosChanged) {
+        return;
+    }
+    const std::string name = openFileName();
+    const std::string path = dataFilePath(baseFolder(), app.category, name);
+    std::string content;
+    bool isSame = false;
+    if (readWholeFile(path, content)) {
+        Diagnostics diagnostics;
+        WeaponReadReport report;
+        isSame = app.openWeapon ? readWeapon(content, name, report) == *app.openWeapon
+                                : readUnit(content, name, diagnostics) == *app.savedUnit;
+    }
+    if (!isSame) {
+        openFile(name);
+    }
+}
+
 namespace {
 
 /// The first lines of what a save would lose, for a box of a readable size.

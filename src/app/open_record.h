@@ -14,6 +14,10 @@ namespace varrocade {
 /// been shown.
 bool openFile(const std::string& name);
 
+/// Opens the file of the open record again when another program has changed it. What is unsaved here stays
+/// open.
+void reopenIfChanged();
+
 /// Writes the open record to its file.
 SaveResult saveOpenRecord();
 

@@ -92,7 +92,7 @@ void releaseRecordsAndDrawing() {
     }
     drawing.weaponMark.reset();
     drawing.exhaustMark.reset();
-    drawing.grid.reset();
+    static_cast<void>(drawing.grid.release());
 }
 
 } // namespace

@@ -31,6 +31,12 @@ void UndoHistory::amend(const SquadRecord& record) {
     }
 }
 
+void UndoHistory::rename(std::string_view fileName) {
+    for (State& state : states_) {
+        state.record.fileName = fileName;
+    }
+}
+
 std::string_view UndoHistory::undoName() const {
     return canUndo() ? std::string_view(states_[present_].change) : std::string_view();
 }

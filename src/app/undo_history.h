@@ -24,6 +24,9 @@ public:
     /// The last change goes on and leads to this state.
     void amend(const SquadRecord& record);
 
+    /// The file of all states has another name now.
+    void rename(std::string_view fileName);
+
     [[nodiscard]] bool canUndo() const { return present_ > 0; }
     [[nodiscard]] bool canRedo() const { return present_ + 1 < states_.size(); }
     /// The names of the changes that undo and redo would take back and do again; empty when there is none.

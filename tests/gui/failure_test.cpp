@@ -59,6 +59,10 @@ TEST_F(FailureTest, FileThatVanished) {
         expectNothingOpen();
         select(all[2]);
         EXPECT_TRUE(isEnabled(DuplicateId));
+        game.remove(dataFile(all[2], category.name));
+        list().startChoosing(all[2]);
+        answer(couldNotLoad(dataFile(all[2], category.name)));
+        expectNothingOpen();
     }
 }
 

@@ -158,6 +158,7 @@ TEST_F(FileCommandsTest, RenameMovesTheFileAndTheOpenRecord) {
         EXPECT_FALSE(isListed(row.name));
         expectOpen(renamed);
     }
+    EXPECT_FALSE(game.exists("Backups")) << "a new name alone is no unsaved change";
     // What is saved from now on goes to the new name.
     chooseCategory(VehiclesId);
     const Window details = openDetails();

@@ -26,6 +26,17 @@ TEST_F(FileListTest, HoldsTheFilesOfEachCategoryAndOpensThem) {
     }
 }
 
+TEST_F(FileListTest, FileChangedElsewhereIsReadAgainWhenSelectedAgain) {
+    start();
+    select(Tiger);
+    const std::string text = game.read(dataFile(Tiger));
+    game.write(dataFile(Tiger), withReplaced(text, "56900", "12345"));
+    select(Tiger);
+    const Window details = openDetails();
+    EXPECT_EQ(details.control(IDC_WEIGHT).text(), "12345");
+    finish(details, IDCANCEL);
+}
+
 TEST_F(FileListTest, RemembersTheSelectionOfEachCategory) {
     start();
     select(Tiger);
