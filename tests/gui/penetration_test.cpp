@@ -1,0 +1,215 @@
+// The penetration calculator and "Can it penetrate?", driven by the numbers of their controls.
+
+#include "gui_test.h"
+#include "layout_check.h"
+
+#include <algorithm>
+
+namespace varrocade::gui {
+
+namespace {
+
+constexpr int PenetrationCommand = 32773;
+constexpr int WeaponBox = 1036;
+constexpr int ShellBox = 1035;
+constexpr int AngleBox = 1037;
+constexpr int ApDrag = 1091;
+constexpr int ApcbcDrag = 1093;
+constexpr int Velocity = 1099;
+constexpr int Mass = 1012;
+constexpr int Explosive = 1013;
+constexpr int Calibre = 1101;
+constexpr int PenetrationRows = 1111;
+constexpr int VelocityRows = 1119;
+constexpr int Rows = 7;
+constexpr std::string_view Kwk42 = "WEAPON_CANNON_75_KWK42_L70";
+using Texts = std::vector<std::string>;
+
+Texts rows(Window dialog, int first) {
+    Texts texts;
+    for (int row = 0; row < Rows; ++row) {
+        texts.push_back(dialog.control(first + row).text());
+    }
+    return texts;
+}
+
+/// A drop-down list tells its dialog of typing only.
+void typeAngle(Window dialog, std::string_view text) {
+    dialog.setText(AngleBox, text);
+    dialog.send(WM_COMMAND, MAKEWPARAM(AngleBox, CBN_EDITCHANGE),
+                reinterpret_cast<LPARAM>(dialog.control(AngleBox).handle()));
+}
+
+std::string clipboardText() {
+    std::string text;
+    if (OpenClipboard(nullptr) != FALSE) {
+        HANDLE memory = GetClipboardData(CF_TEXT);
+        if (const void* bytes = memory != nullptr ? GlobalLock(memory) : nullptr) {
+            text = static_cast<const char*>(bytes);
+            GlobalUnlock(memory);
+        }
+        CloseClipboard();
+    }
+    return text;
+}
+
+/// A weapon with the given ammunition entries.
+std::string weaponText(std::string_view name, std::string_view ammo) {
+    return "<weapon><name>" + std::string(name) +
+           "</name><type>WEAPON_CANNON</type><dimensions><calibre>75</calibre></dimensions><ammo>" +
+           std::string(ammo) + "</ammo></weapon>";
+}
+
+} // namespace
+
+class PenetrationTest : public GuiTest {
+protected:
+    void SetUp() override {
+        GuiTest::SetUp();
+        game.copyFromSample("Data\\Weapons");
+    }
+    [[nodiscard]] Window openCalculator() const {
+        return openDialog(PenetrationCommand, "Penetration Calculation");
+    }
+    [[nodiscard]] Texts offeredWeapons() const {
+        const Window dialog = openCalculator();
+        Texts weapons = dialog.control(WeaponBox).choices();
+        finish(dialog, IDCANCEL);
+        return weapons;
+    }
+    [[nodiscard]] bool isOffered(const std::string& weapon) const {
+        const Texts weapons = offeredWeapons();
+        return std::find(weapons.begin(), weapons.end(), weapon) != weapons.end();
+    }
+};
+
+TEST_F(PenetrationTest, FollowsEveryChange) {
+    game.write("Data\\Weapons\\WEAPON_CANNON_TEST.txt",
+               weaponText("WEAPON_CANNON_TEST",
+                          "<type><flavour>FLAVOUR_HEAT</flavour><speed>450</speed><mass>4.4</mass>"
+                          "<era>HEAT_ERA_LATE</era></type>"
+                          "<type><flavour>FLAVOUR_HE</flavour><speed>450</speed></type>"));
+    game.write("Data\\Weapons\\WEAPON_CANNON_EMPTY.txt", weaponText("WEAPON_CANNON_EMPTY", ""));
+    start();
+    const Window dialog = openCalculator();
+    expectWellLaidOut(dialog);
+    EXPECT_EQ(dialog.control(WeaponBox).text(), Kwk42);
+    EXPECT_EQ(dialog.control(ShellBox).choices().size(), 3U);
+    const std::pair<int, std::string_view> figures[] = {
+        {Velocity, "935"}, {Mass, "6.8"}, {Explosive, "0.017"}, {Calibre, "75"}, {ApcbcDrag, "12"}};
+    for (const auto& [control, text] : figures) {
+        EXPECT_EQ(dialog.control(control).text(), text) << control;
+    }
+    EXPECT_EQ(rows(dialog, PenetrationRows),
+              (Texts{"152 mm", "149 mm", "147 mm", "144 mm", "141 mm", "139 mm", "127 mm"}));
+    const Texts velocities = {"935 m/s", "924 m/s", "913 m/s", "902 m/s", "891 m/s", "881 m/s", "829 m/s"};
+    EXPECT_EQ(rows(dialog, VelocityRows), velocities);
+    dialog.control(AngleBox).choose("60");
+    EXPECT_EQ(rows(dialog, PenetrationRows),
+              (Texts{"76 mm", "75 mm", "73 mm", "72 mm", "71 mm", "69 mm", "63 mm"}));
+    EXPECT_EQ(rows(dialog, VelocityRows), velocities) << "whatever the angle";
+    typeAngle(dialog, "30");
+    dialog.setText(ApcbcDrag, "none");
+    EXPECT_EQ(rows(dialog, PenetrationRows), Texts(Rows, "132 mm"));
+    EXPECT_EQ(rows(dialog, VelocityRows), Texts(Rows, "935 m/s"));
+
+    dialog.control(WeaponBox).choose("WEAPON_CANNON_TEST");
+    typeAngle(dialog, "");
+    EXPECT_EQ(rows(dialog, PenetrationRows), Texts(Rows, "128 mm"));
+    dialog.setText(ApDrag, "0");
+    EXPECT_EQ(rows(dialog, VelocityRows), Texts(Rows, "450 m/s"));
+    dialog.control(ShellBox).choose(1);
+    EXPECT_EQ(rows(dialog, PenetrationRows), Texts(Rows, "0.1 mm"));
+    dialog.control(WeaponBox).choose("WEAPON_CANNON_EMPTY");
+    EXPECT_TRUE(dialog.control(ShellBox).choices().empty());
+    EXPECT_EQ(rows(dialog, PenetrationRows), Texts(Rows, "-"));
+    EXPECT_EQ(rows(dialog, VelocityRows), Texts(Rows, "-"));
+    EXPECT_FALSE(dialog.control(IDC_COPY_TABLE).isEnabled());
+    finish(dialog, IDCANCEL);
+}
+
+TEST_F(PenetrationTest, WeaponsFollowTheFilesAndTheMod) {
+    userMod.create();
+    const std::string modWeapons = userMod.modFolder() + "Data\\Weapons\\";
+    game.remove("Data\\Weapons\\" + std::string(Kwk42) + ".txt");
+    start();
+    EXPECT_EQ(selected(), "");
+    Window dialog = openCalculator();
+    EXPECT_EQ(dialog.control(WeaponBox).text(), dialog.control(WeaponBox).choices()[0])
+        << "the first one instead";
+    finish(dialog, IDCANCEL);
+    EXPECT_FALSE(isOffered("WEAPON_CANNON_OF_MOD"));
+    CreateDirectoryW(toWide(userMod.modFolder() + "Data").c_str(), nullptr);
+    CreateDirectoryW(toWide(modWeapons).c_str(), nullptr);
+    writeFile(modWeapons + "WEAPON_CANNON_OF_MOD.txt", weaponText("WEAPON_CANNON_OF_MOD", ""));
+    sendCommand(IDM_REFRESH);
+    EXPECT_TRUE(isOffered("WEAPON_CANNON_OF_MOD"));
+    sendCommand(ModModeCommand);
+    EXPECT_FALSE(isOffered("WEAPON_CANNON_OF_MOD")) << "outside mod mode";
+    EXPECT_TRUE(isOffered("WEAPON_RIFLE_KAR98K"));
+    chooseCategory(WeaponsId);
+    select("WEAPON_RIFLE_KAR98K");
+    window.startPress(DeleteId);
+    finish(editor->waitForDialog("Delete"), IDYES);
+    EXPECT_FALSE(isOffered("WEAPON_RIFLE_KAR98K"));
+}
+
+TEST_F(PenetrationTest, TellsWhatGoesThroughAVehicle) {
+    start();
+    select(Tiger);
+    const Window calculator = openCalculator();
+    calculator.setText(ApcbcDrag, "50");
+    calculator.startPress(IDC_CAN_PENETRATE);
+    const Window dialog = editor->waitForDialog("Can It Penetrate?");
+    expectWellLaidOut(dialog);
+    EXPECT_EQ(dialog.control(IDC_TARGET_VEHICLE).text(), Tiger) << "the open vehicle";
+    EXPECT_EQ(dialog.control(IDC_SHOT_WEAPON).text(), Kwk42);
+    EXPECT_EQ(dialog.control(IDC_SHOT_DRAG).text(), "50") << "as in the calculator";
+    const auto table = [&](std::string_view drag, const Texts& ranges) {
+        constexpr std::string_view plates[] = {
+            "1. Hull\tUpper front\t100 mm\t9",   "1. Hull\tLower front\t100 mm\t24",
+            "1. Hull\tUpper left\t80 mm\t0",     "1. Hull\tUpper right\t80 mm\t0",
+            "1. Hull\tLower left\t60 mm\t0",     "1. Hull\tLower right\t60 mm\t0",
+            "1. Hull\tUpper rear\t80 mm\t9",     "1. Hull\tLower rear\t80 mm\t9",
+            "1. Hull\tTop\t25 mm\t90",           "1. Hull\tBottom\t25 mm\t90",
+            "2. Turret\tUpper front\t100 mm\t8", "2. Turret\tLower front\t100 mm\t8",
+            "2. Turret\tUpper left\t80 mm\t0",   "2. Turret\tUpper right\t80 mm\t0",
+            "2. Turret\tLower left\t80 mm\t0",   "2. Turret\tLower right\t80 mm\t0",
+            "2. Turret\tUpper rear\t80 mm\t0",   "2. Turret\tLower rear\t80 mm\t0",
+            "2. Turret\tTop\t25 mm\t90",         "2. Turret\tMantlet\t120 mm\t0"};
+        std::string text = std::string(Tiger) + "\t" + std::string(Kwk42) +
+                           "\tAPCBC - PzGr 39/42\twind resistance " + std::string(drag) +
+                           "\r\nComponent\tPlate\tThickness\tAngle\tGoes through\r\n";
+        for (std::size_t i = 0; i < std::size(plates); ++i) {
+            text += std::string(plates[i]) + "\t" + ranges[i] + "\r\n";
+        }
+        return text;
+    };
+    const std::string all = "at every range";
+    dialog.press(IDC_COPY_TABLE);
+    EXPECT_EQ(clipboardText(),
+              table("50", {"up to 542 m",   "up to 438 m", "up to 856 m", "up to 856 m", "up to 1,239 m",
+                           "up to 1,239 m", "up to 839 m", "up to 839 m", "never",       "never",
+                           "up to 545 m",   "up to 545 m", "up to 856 m", "up to 856 m", "up to 856 m",
+                           "up to 856 m",   "up to 856 m", "up to 856 m", "never",       "up to 315 m"}));
+    dialog.setText(IDC_SHOT_DRAG, "12");
+    dialog.press(IDC_COPY_TABLE);
+    EXPECT_EQ(
+        clipboardText(),
+        table("12",
+              {"up to 2,259 m", "up to 1,825 m", all, all, all, all, all, all, "never", "never",
+               "up to 2,273 m", "up to 2,273 m", all, all, all, all, all, all, "never", "up to 1,314 m"}));
+    // The middle of the drawing is the turret's top.
+    const Window outline = dialog.control(IDC_PLATE_OUTLINE);
+    const Area area = outline.areaInParent();
+    outline.send(WM_MOUSEMOVE, 0, MAKELPARAM(area.width / 2, area.height * 2 / 5));
+    EXPECT_EQ(dialog.control(IDC_POINTED_PLATE).text(), "2. Turret, Top, 25 mm at 90 degrees: never");
+    dialog.control(IDC_SHOT_WEAPON).choose("WEAPON_RIFLE_KAR98K");
+    dialog.press(IDC_COPY_TABLE);
+    EXPECT_EQ(clipboardText().find("up to"), std::string::npos);
+    dialog.control(IDC_TARGET_VEHICLE).choose("Russian GAZ-MM");
+    finish(dialog, IDCANCEL);
+    finish(calculator, IDCANCEL);
+}
+
+} // namespace varrocade::gui
