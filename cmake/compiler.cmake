@@ -7,9 +7,10 @@ if(MSVC)
     target_compile_options(varrocade_options INTERFACE /W4 /WX /permissive- /utf-8)
 else()
     target_compile_options(varrocade_options INTERFACE -Wall -Wextra -Wconversion -Wshadow -Werror)
-    # GCC 12 sees overlaps in std::string's operator+ that are not there: https://gcc.gnu.org/PR105651.
+    # GCC 12 sees overlaps in std::string's operator+ that are not there (https://gcc.gnu.org/PR105651), and in a
+    # std::variant members of other alternatives than the one it holds.
     if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-        target_compile_options(varrocade_options INTERFACE -Wno-restrict)
+        target_compile_options(varrocade_options INTERFACE -Wno-restrict -Wno-maybe-uninitialized)
     endif()
 endif()
 
