@@ -1,5 +1,6 @@
 #include "data/numbers.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -22,6 +23,20 @@ std::string_view withoutSpaceAndSign(std::string_view text, bool& negative) {
 
 bool isDigit(char c) {
     return c >= '0' && c <= '9';
+}
+
+/// The power of ten of a number's first digit that is not 0, such as 2 of "120.5" and -1 of "0.1"; of 0
+/// itself one below 0.
+std::int64_t decimalPlace(std::string_view number) {
+    const std::size_t end = std::min(number.find_first_of("eE"), number.size());
+    const std::size_t point = std::min(number.find('.'), end);
+    const std::size_t first = number.find_first_not_of("0.");
+    if (first >= end) {
+        return -1;
+    }
+    const auto place = static_cast<std::int64_t>(point) - static_cast<std::int64_t>(first);
+    const std::int64_t exponent = end < number.size() ? toInteger(number.substr(end + 1)) : 0;
+    return exponent + (first < point ? place - 1 : place);
 }
 
 } // namespace
@@ -58,12 +73,8 @@ double toReal(std::string_view text) {
     double value = 0.0;
     const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
     if (result.ec == std::errc::result_out_of_range) {
-        // The library leaves open whether it was too large or too small: a negative exponent tells.
-        const std::string_view number(text.data(), static_cast<std::size_t>(result.ptr - text.data()));
-        const std::size_t exponent = number.find_first_of("eE");
-        const bool tiny = exponent != std::string_view::npos
-                              ? number.substr(exponent + 1).starts_with('-')
-                              : number.find_first_not_of("0.") > number.find('.');
+        // The library leaves open whether it was too large or too small.
+        const bool tiny = decimalPlace(std::string_view(text.data(), result.ptr)) < 0;
         value = tiny ? 0.0 : std::numeric_limits<double>::max();
     }
     return negative ? -value : value;

@@ -18,11 +18,11 @@ constexpr std::string_view UnknownInHeavyWeapon =
 
 Place visit(Reading& reading, Place parent, const TagNode& node) {
     reading.node = &node;
-    if (parent == Place::Commonness) {
+    const unit_rules::Rule* rule = unit_rules::findRule(parent, node.name);
+    if (rule == nullptr && parent == Place::Commonness) {
         unit_rules::addQuarter(reading, node.name, node.text);
         return Place::Unknown;
     }
-    const unit_rules::Rule* rule = unit_rules::findRule(parent, node.name);
     if (rule == nullptr) {
         if (parent == Place::HeavyWeapon && reading.heavyWeapon != nullptr) {
             unit_rules::report(reading, UnknownInHeavyWeapon);

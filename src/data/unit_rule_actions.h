@@ -316,9 +316,15 @@ inline void addInfantryman(Reading& reading, std::string_view) {
     noteEntry(reading);
 }
 
-inline void addPersonalWeapon(Reading& reading, std::string_view text) {
+inline void addPersonalWeapon(Reading& reading, std::string_view) {
     if (reading.man != nullptr) {
-        reading.man->weapons.emplace_back(text);
+        reading.man->weapons.emplace_back();
+    }
+}
+
+inline void setPersonalWeapon(Reading& reading, std::string_view text) {
+    if (reading.man != nullptr && !reading.man->weapons.empty()) {
+        reading.man->weapons.back() = text;
         if (reading.trace != nullptr) {
             reading.trace->noteItem(fieldId<&CrewManRecord::weapons>(), reading.man->weapons.back());
         }

@@ -56,7 +56,7 @@ TEST(Numbers, ClampsToNarrowerTypes) {
 
 TEST(Numbers, ReadsRealNumbersLeniently) {
     struct Case {
-        std::string_view text;
+        std::string text;
         double value;
     };
     constexpr double largest = std::numeric_limits<double>::max();
@@ -81,6 +81,11 @@ TEST(Numbers, ReadsRealNumbersLeniently) {
         {"1e999", largest},
         {"-1e999", -largest},
         {"1e-999", 0},
+        {std::string(400, '1') + "e-5", largest},
+        {"0." + std::string(350, '0') + "1e20", 0},
+        {"00." + std::string(400, '0') + "1e1", 0},
+        {std::string(320, '1') + ".5e-2", largest},
+        {"1e99999999999", largest},
         {"0.0000001", 1e-7},
     };
     for (const Case& c : cases) {
