@@ -20,4 +20,7 @@ ContestResult loadingContest(std::size_t rounds);
 /// dropped before each turn, and the clock on the wall counts.
 ContestResult coldLoadingContest(std::size_t rounds);
 
+/// Loading the weapon catalogue against only opening and reading its files.
+ContestResult catalogueContest(std::size_t rounds);
+
 } // namespace varrocade::benchmarks

@@ -123,10 +123,14 @@ FilesOnDisk::FilesOnDisk(const std::vector<CorpusFile>& files) {
     std::random_device random;
     const std::filesystem::path folder =
         std::filesystem::temp_directory_path() / ("varrocade-benchmark-" + std::to_string(random()));
-    std::filesystem::create_directory(folder);
     folder_ = folder.string();
+    for (const Category category : AllCategories) {
+        std::filesystem::create_directories(folder / "Data" / categoryName(category));
+    }
     for (const CorpusFile& file : files) {
-        const std::string path = (folder / (std::to_string(files_.size()) + ".txt")).string();
+        const std::string path =
+            (folder / "Data" / categoryName(file.category) / (std::to_string(files_.size()) + ".txt"))
+                .string();
         std::ofstream(path, std::ios::binary) << file.content;
         files_.push_back({file.category, path});
     }

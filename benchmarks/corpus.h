@@ -21,7 +21,7 @@ std::vector<CorpusFile> wellFormedUnits(std::size_t count);
 /// weapons and ammunition.
 std::vector<CorpusFile> gameFiles(std::size_t units, std::size_t weapons, std::size_t factor);
 
-/// Files in a temporary folder, gone with it.
+/// Files in a temporary game folder, gone with it.
 class FilesOnDisk {
 public:
     explicit FilesOnDisk(const std::vector<CorpusFile>& files);
@@ -34,6 +34,8 @@ public:
         std::string path;
     };
     [[nodiscard]] const std::vector<File>& files() const { return files_; }
+    /// The game folder, with a backslash at its end.
+    [[nodiscard]] std::string base() const { return folder_ + "\\"; }
 
 private:
     std::string folder_;

@@ -2,6 +2,7 @@
 #include "corpus.h"
 #include "data/unit_reader.h"
 #include "platform/file_operations.h"
+#include "weapons/weapon_catalogue.h"
 
 #include <chrono>
 
@@ -18,6 +19,11 @@ const FilesOnDisk& corpus() {
     return files;
 }
 
+const FilesOnDisk& weaponFiles() {
+    static const FilesOnDisk files(gameFiles(0, WeaponCount, 1));
+    return files;
+}
+
 void loadUnits() {
     for (const FilesOnDisk::File& file : corpus().files()) {
         Diagnostics diagnostics;
@@ -26,12 +32,26 @@ void loadUnits() {
     }
 }
 
-void readFiles() {
+void readFiles(const FilesOnDisk& files) {
     std::string content;
-    for (const FilesOnDisk::File& file : corpus().files()) {
+    for (const FilesOnDisk::File& file : files.files()) {
         readWholeFile(file.path, content);
         benchmark::DoNotOptimize(content.data());
     }
+}
+
+void readUnitFiles() {
+    readFiles(corpus());
+}
+
+void readWeaponFiles() {
+    readFiles(weaponFiles());
+}
+
+void loadCatalogue() {
+    WeaponCatalogue catalogue;
+    catalogue.load(weaponFiles().base());
+    benchmark::DoNotOptimize(catalogue.entries().size());
 }
 
 void loadingUnits(benchmark::State& state) {
@@ -45,13 +65,22 @@ void loadingUnits(benchmark::State& state) {
 void readingFilesOnly(benchmark::State& state) {
     corpus();
     for (auto iteration : state) {
-        readFiles();
+        readUnitFiles();
     }
     state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(UnitCount));
 }
 
+void loadingCatalogue(benchmark::State& state) {
+    weaponFiles();
+    for (auto iteration : state) {
+        loadCatalogue();
+    }
+    state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(WeaponCount));
+}
+
 BENCHMARK(loadingUnits)->Unit(benchmark::kMillisecond);
 BENCHMARK(readingFilesOnly)->Unit(benchmark::kMillisecond);
+BENCHMARK(loadingCatalogue)->Unit(benchmark::kMillisecond);
 
 /// Only what is on the disk already can be dropped from memory.
 void dropFromMemory(const std::string& path) {
@@ -79,11 +108,15 @@ struct ColdClock {
 } // namespace
 
 ContestResult loadingContest(std::size_t rounds) {
-    return contest(rounds, loadUnits, readFiles);
+    return contest(rounds, loadUnits, readUnitFiles);
+}
+
+ContestResult catalogueContest(std::size_t rounds) {
+    return contest(rounds, loadCatalogue, readWeaponFiles);
 }
 
 ContestResult coldLoadingContest(std::size_t rounds) {
-    return contest(rounds, loadUnits, readFiles, ColdClock());
+    return contest(rounds, loadUnits, readUnitFiles, ColdClock());
 }
 
 } // namespace varrocade::benchmarks

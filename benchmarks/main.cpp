@@ -6,8 +6,9 @@
 
 namespace {
 
-void printRow(const char* what, const varrocade::benchmarks::ContestResult& result, double aim) {
-    constexpr double microseconds = 1e6 / varrocade::benchmarks::UnitCount;
+void printRow(const char* what, const varrocade::benchmarks::ContestResult& result, std::size_t files,
+              double aim) {
+    const double microseconds = 1e6 / static_cast<double>(files);
     std::printf("%-54s %8.2f us %8.2f us %6.2f   %.1f\n", what, result.first * microseconds,
                 result.second * microseconds, result.ratio, aim);
 }
@@ -22,13 +23,15 @@ int main(int argumentCount, char** arguments) {
     benchmark::RunSpecifiedBenchmarks();
     constexpr std::size_t rounds = 101;
     constexpr std::size_t coldRounds = 15;
+    using namespace varrocade::benchmarks;
     std::printf(
-        "\nTime a unit, medians of %zu rounds in turns:              ours       other    ratio   aim\n",
+        "\nTime a file, medians of %zu rounds in turns:              ours       other    ratio   aim\n",
         rounds);
-    printRow("parsing in memory : pugixml", varrocade::benchmarks::parsingContest(rounds), 1.0);
-    printRow("loading from memory : opening and reading the files",
-             varrocade::benchmarks::loadingContest(rounds), 1.3);
-    printRow("loading from the disk : opening and reading the files",
-             varrocade::benchmarks::coldLoadingContest(coldRounds), 1.3);
+    printRow("parsing in memory : pugixml", parsingContest(rounds), UnitCount, 1.0);
+    printRow("loading from memory : opening and reading the files", loadingContest(rounds), UnitCount, 1.3);
+    printRow("loading from the disk : opening and reading the files", coldLoadingContest(coldRounds),
+             UnitCount, 1.3);
+    printRow("the weapon catalogue : opening and reading its files", catalogueContest(rounds), WeaponCount,
+             4.0);
     return 0;
 }

@@ -72,6 +72,16 @@ std::string_view nameInFolder(std::string_view path) {
     return path.substr(path.rfind('\\') + 1);
 }
 
+/// Whether a file set nothing of its record but its name.
+bool isUntouched(const WeaponRecord& weapon) {
+    if (!weapon.name.empty() || !weapon.ammoTypes.empty()) {
+        return false;
+    }
+    WeaponRecord untouched;
+    untouched.fileName = weapon.fileName;
+    return weapon == untouched;
+}
+
 constexpr std::string_view Blanks = " \t";
 
 std::string_view trimmed(std::string_view text) {
@@ -124,6 +134,12 @@ bool lists(std::string_view list, std::string_view wanted, std::string_view (*me
 
 } // namespace
 
+/// What reading one file after the other uses again.
+struct WeaponCatalogue::Reading {
+    std::string content;
+    TagTree tree;
+};
+
 void WeaponCatalogue::load(std::string_view programFolder, std::string_view modFolder) {
     folders_.clear();
     entries_.clear();
@@ -132,14 +148,32 @@ void WeaponCatalogue::load(std::string_view programFolder, std::string_view modF
         folders_.push_back(categoryFolder(modFolder, Category::Weapons));
     }
     folders_.push_back(categoryFolder(programFolder, Category::Weapons));
+    Reading reading;
     for (const std::string& folder : folders_) {
-        addFolder(folder);
+        addFolder(folder, reading);
     }
-    std::sort(entries_.begin(), entries_.end(), comesBefore);
+    sortEntries();
+}
+
+/// Records are large: their places are sorted, and each record is moved once.
+void WeaponCatalogue::sortEntries() {
+    std::vector<CatalogueEntry*> order;
+    order.reserve(entries_.size());
+    for (CatalogueEntry& entry : entries_) {
+        order.push_back(&entry);
+    }
+    std::sort(order.begin(), order.end(),
+              [](const CatalogueEntry* a, const CatalogueEntry* b) { return comesBefore(*a, *b); });
+    std::vector<CatalogueEntry> sorted;
+    sorted.reserve(order.size());
+    for (CatalogueEntry* entry : order) {
+        sorted.push_back(std::move(*entry));
+    }
+    entries_ = std::move(sorted);
 }
 
 /// Appends the weapons of a folder, but for those whose file names are there already.
-void WeaponCatalogue::addFolder(const std::string& folder) {
+void WeaponCatalogue::addFolder(const std::string& folder, Reading& reading) {
     std::vector<std::string> diskNames;
     if (!listFiles(folder, DataFileEnding, diskNames)) {
         std::string reason = systemFiles().lastError();
@@ -157,28 +191,26 @@ void WeaponCatalogue::addFolder(const std::string& folder) {
     entries_.reserve(entries_.size() + diskNames.size());
     for (const std::string& diskName : diskNames) {
         std::string key = loweredText(withoutEnding(diskName));
-        if (!present.contains(key) && addFile(folder, diskName)) {
+        if (!present.contains(key) && addFile(folder, diskName, reading)) {
             present.insert(std::move(key));
         }
     }
 }
 
 /// Appends the weapon of one file; false when it could not be read or holds none.
-bool WeaponCatalogue::addFile(const std::string& folder, std::string_view diskName) {
+bool WeaponCatalogue::addFile(const std::string& folder, std::string_view diskName, Reading& reading) {
     std::string path = folder + std::string(diskName);
-    if (!readWholeFile(path, content_)) {
+    if (!readWholeFile(path, reading.content)) {
         problems_.push_back({std::move(path), systemFiles().lastError()});
         return false;
     }
     const std::string_view fileName = withoutEnding(diskName);
     WeaponReadReport report;
-    WeaponRecord weapon = readWeapon(content_, fileName, report);
+    WeaponRecord weapon = readWeapon(reading.tree, reading.content, fileName, report);
     for (std::string& line : report.diagnostics) {
         problems_.push_back({path, std::move(line)});
     }
-    WeaponRecord untouched;
-    untouched.fileName = fileName;
-    if (weapon == untouched) {
+    if (isUntouched(weapon)) {
         problems_.push_back({std::move(path), "holds no weapon"});
         return false;
     }
@@ -194,12 +226,13 @@ void WeaponCatalogue::refresh(std::string_view fileName) {
         return isFileNamed(nameInFolder(problem.path), fileName);
     });
     std::vector<std::string> diskNames;
+    Reading reading;
     for (const std::string& folder : folders_) {
         listFiles(folder, DataFileEnding, diskNames);
         const auto found =
             std::find_if(diskNames.begin(), diskNames.end(),
                          [fileName](const std::string& diskName) { return isFileNamed(diskName, fileName); });
-        if (found != diskNames.end() && addFile(folder, *found)) {
+        if (found != diskNames.end() && addFile(folder, *found, reading)) {
             const auto place =
                 std::upper_bound(entries_.begin(), entries_.end() - 1, entries_.back(), comesBefore);
             std::rotate(place, entries_.end() - 1, entries_.end());

@@ -59,13 +59,15 @@ public:
     [[nodiscard]] const std::vector<FileFailure>& problems() const { return problems_; }
 
 private:
-    bool addFile(const std::string& folder, std::string_view diskName);
-    void addFolder(const std::string& folder);
+    struct Reading;
+
+    bool addFile(const std::string& folder, std::string_view diskName, Reading& reading);
+    void addFolder(const std::string& folder, Reading& reading);
+    void sortEntries();
 
     std::vector<std::string> folders_; ///< of the weapon files; the first one counts
     std::vector<CatalogueEntry> entries_;
     std::vector<FileFailure> problems_;
-    std::string content_; ///< of the file read last, kept for its capacity
 };
 
 } // namespace varrocade

@@ -22,6 +22,10 @@ struct WeaponReadReport {
 /// Reads the content of a weapon file. `fileName` is without folder and ".txt".
 WeaponRecord readWeapon(std::string_view fileContent, std::string_view fileName, WeaponReadReport& report);
 
+/// The same with a tree of the caller's, whose memory a loop over many files uses again.
+WeaponRecord readWeapon(TagTree& tree, std::string_view fileContent, std::string_view fileName,
+                        WeaponReadReport& report);
+
 /// Reads the weapon file at `path`; nothing when it cannot be opened.
 std::optional<WeaponRecord> readWeaponFile(const std::string& path, std::string_view fileName,
                                            WeaponReadReport& report);

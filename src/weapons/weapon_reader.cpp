@@ -301,6 +301,11 @@ std::string valueText(ReloadMode value) {
 
 WeaponRecord readWeapon(std::string_view fileContent, std::string_view fileName, WeaponReadReport& report) {
     TagTree tree;
+    return readWeapon(tree, fileContent, fileName, report);
+}
+
+WeaponRecord readWeapon(TagTree& tree, std::string_view fileContent, std::string_view fileName,
+                        WeaponReadReport& report) {
     tree.parse(fileContent);
     return weapon_rules::readTree(tree, fileContent, fileName, report, nullptr);
 }

@@ -237,9 +237,10 @@ protected:
         }
         return dialogs;
     }
-    void closeAll(const std::vector<Window>& dialogs, int button) const {
-        for (auto dialog = dialogs.rbegin(); dialog != dialogs.rend(); ++dialog) {
-            finish(*dialog, button);
+    /// The last one first, as they stand one above the other.
+    void closeAll(std::vector<Window> dialogs, int button) const {
+        for (; !dialogs.empty(); dialogs.pop_back()) {
+            finish(dialogs.back(), button);
         }
     }
     static void act(Window dialog, const std::vector<Action>& actions) {

@@ -134,7 +134,7 @@ bool listFiles(const std::string& folder, std::string_view ending, std::vector<s
         const std::string_view name = entry->d_name;
         if (name.size() >= ending.size() &&
             ::strcasecmp(entry->d_name + (name.size() - ending.size()), endingText.c_str()) == 0 &&
-            !isFolder(folder + std::string(name))) {
+            (entry->d_type == DT_REG || !isFolder(folder + std::string(name)))) {
             names.emplace_back(name);
         }
     }
