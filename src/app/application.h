@@ -4,6 +4,7 @@
 
 #include "app/undo_history.h"
 #include "app/unit_display.h"
+#include "app/weapon_users.h"
 #include "data/category.h"
 #include "data/unit_record.h"
 #include "mod/mod_settings.h"
@@ -48,6 +49,7 @@ struct Application {
     std::optional<SquadRecord> savedUnit; ///< the open unit as its file holds it
     UndoHistory history;
     WeaponCatalogue catalogue;
+    WeaponUsers weaponUsers;
 
     DrawingObjects drawing;
     PictureCache pictures;

@@ -7,6 +7,7 @@
 #include "app/file_list.h"
 #include "app/open_record.h"
 #include "app/positions.h"
+#include "app/sheet_window.h"
 #include "app/start_application.h"
 #include "app/window_layout.h"
 #include "resources/resource.h"
@@ -41,7 +42,6 @@ constexpr std::array<ButtonRow, FileButtonCount> FileButtons = {{
 
 constexpr Place DetailsButton = {0, 12, 84, 26};
 constexpr int DetailsButtonMargin = 14;
-constexpr int WheelStep = 60;
 constexpr int MostNameLength = 256;
 constexpr int MostClassLength = 100;
 
@@ -53,9 +53,9 @@ std::string stringResource(UINT id, int capacity) {
 }
 
 void createButton(HWND parent, const ButtonRow& row) {
-    CreateWindowExA(0, "BUTTON", row.text, WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_PUSHBUTTON, 0, 0, 0, 0,
-                    parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(row.id)), application().instance,
-                    nullptr);
+    CreateWindowExA(0, "BUTTON", row.text,
+                    WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | WS_TABSTOP | BS_PUSHBUTTON, 0, 0, 0, 0, parent,
+                    reinterpret_cast<HMENU>(static_cast<INT_PTR>(row.id)), application().instance, nullptr);
 }
 
 void move(HWND window, int id, const Place& place) {
@@ -95,8 +95,9 @@ void layOut(HWND window) {
     const Place drawing = picturePlace(client.right, client.bottom, dpi);
     SetWindowPos(GetDlgItem(window, IDC_DRAWING), nullptr, drawing.x, drawing.y, drawing.width,
                  drawing.height, SWP_NOZORDER | SWP_NOACTIVATE);
-    SetWindowPos(GetDlgItem(window, IDC_SHEET_SCROLL), nullptr, client.right - barWidth, 0, barWidth,
-                 client.bottom, SWP_NOZORDER | SWP_NOACTIVATE);
+    const Place sheet = sheetPlace(client.right, client.bottom, dpi);
+    SetWindowPos(GetDlgItem(window, IDC_SHEET), HWND_BOTTOM, sheet.x, sheet.y, sheet.width, sheet.height,
+                 SWP_NOACTIVATE);
 }
 
 LRESULT create(HWND window) {
@@ -110,50 +111,28 @@ LRESULT create(HWND window) {
     }
     createDrawingWindow(window);
     createButton(window, {IDC_EDIT_DETAILS, "Details..."});
-    CreateWindowExA(0, "SCROLLBAR", "", WS_CHILD | SBS_VERT, 0, 0, 0, 0, window,
-                    reinterpret_cast<HMENU>(static_cast<INT_PTR>(IDC_SHEET_SCROLL)), application().instance,
-                    nullptr);
+    createSheetWindow(window);
     setFonts(window);
     updateButtons();
     return 0;
 }
 
-RECT displayArea(HWND window) {
-    RECT area{};
-    GetClientRect(window, &area);
-    area.left = application().drawing.scaled(ListWidth);
-    return area;
-}
-
 void paint(HWND window) {
     PAINTSTRUCT paintStruct{};
     HDC device = BeginPaint(window, &paintStruct);
-    RECT client{};
-    GetClientRect(window, &client);
-    // The band of the list has nothing of its own to paint but the background.
-    RECT band = client;
-    band.right = application().drawing.scaled(ListWidth);
-    FillRect(device, &band, GetSysColorBrush(COLOR_WINDOW));
-    paintDisplay(device, client);
+    // Only the band of the list is not covered by controls.
+    FillRect(device, &paintStruct.rcPaint, GetSysColorBrush(COLOR_WINDOW));
     EndPaint(window, &paintStruct);
-    updateSheetScrollBar(GetDlgItem(window, IDC_SHEET_SCROLL), client.bottom);
-}
-
-void scroll(HWND window, int wheel) {
-    RECT client{};
-    GetClientRect(window, &client);
-    scrollSheet(-MulDiv(wheel, application().drawing.scaled(WheelStep), WHEEL_DELTA), client.bottom);
-    redrawNow();
 }
 
 /// The wheel zooms the drawing about the mouse, and scrolls the sheet everywhere else.
-void wheel(HWND window, WPARAM parameter, LPARAM detail) {
+void wheel(WPARAM parameter, LPARAM detail) {
     const POINT pixel{GET_X_LPARAM(detail), GET_Y_LPARAM(detail)};
     const int delta = GET_WHEEL_DELTA_WPARAM(parameter);
     if (isOverDrawing(pixel)) {
         zoomDrawing(pixel, delta > 0 ? 1 : -1);
     } else {
-        scroll(window, delta);
+        scrollSheetByWheel(delta);
     }
 }
 
@@ -238,15 +217,8 @@ LRESULT CALLBACK mainWindowProcedure(HWND window, UINT message, WPARAM parameter
         drawListEntry(*reinterpret_cast<const DRAWITEMSTRUCT*>(detail));
         return TRUE;
     case WM_MOUSEWHEEL:
-        wheel(window, parameter, detail);
+        wheel(parameter, detail);
         return 0;
-    case WM_VSCROLL: {
-        RECT client{};
-        GetClientRect(window, &client);
-        scrollSheetByBar(reinterpret_cast<HWND>(detail), LOWORD(parameter), client.bottom);
-        redrawNow();
-        return 0;
-    }
     case WM_DPICHANGED:
         moveToOtherScreen(window, HIWORD(parameter), *reinterpret_cast<const RECT*>(detail));
         return 0;
@@ -291,7 +263,8 @@ bool registerClass(const std::string& className) {
     windowClass.hbrBackground = reinterpret_cast<HBRUSH>(static_cast<INT_PTR>(COLOR_WINDOW + 1));
     windowClass.lpszMenuName = MAKEINTRESOURCEA(IDR_MENU);
     windowClass.lpszClassName = className.c_str();
-    return RegisterClassExA(&windowClass) != 0 && registerDrawingWindow(instance);
+    return RegisterClassExA(&windowClass) != 0 && registerDrawingWindow(instance) &&
+           registerSheetWindow(instance);
 }
 
 } // namespace
@@ -332,11 +305,8 @@ void displayChanged() {
 }
 
 void redrawNow() {
-    HWND window = application().window;
-    const RECT area = displayArea(window);
-    InvalidateRect(window, &area, FALSE);
-    UpdateWindow(window);
     redrawDrawing();
+    redrawSheet();
 }
 
 bool isWindowNavigation(MSG& message) {

@@ -6,6 +6,7 @@
 #include "app/file_list.h"
 #include "app/main_window.h"
 #include "app/open_record.h"
+#include "app/sheet_window.h"
 #include "editors/part_editor.h"
 #include "resources/resource.h"
 #include "view/part_positions.h"
@@ -54,7 +55,8 @@ void selectPart(const UnitPart& part) {
     }
     display.selected = part;
     display.movedPart = {};
-    redrawNow();
+    showSelectedRow();
+    redrawDrawing();
 }
 
 bool canEditSelectedPart() {

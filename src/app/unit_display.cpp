@@ -1,18 +1,14 @@
 #include "app/unit_display.h"
 
 #include "app/application.h"
-#include "app/window_layout.h"
 #include "view/part_positions.h"
 
 #include <algorithm>
+#include <array>
 
 namespace varrocade {
 
 namespace {
-
-RECT asRect(const Place& place) {
-    return {place.x, place.y, place.x + place.width, place.y + place.height};
-}
 
 void composeDrawing(UnitDisplay& display) {
     Application& app = application();
@@ -20,15 +16,19 @@ void composeDrawing(UnitDisplay& display) {
     display.pictureSize = {};
     display.drawing = {};
     display.hasDrawing = false;
-    if (!app.openUnit) {
-        return;
-    }
     const DrawOptions options{.bases = imageBases(),
                               .showDestroyed = app.showDestroyed,
                               .showMarks = app.showMarks,
                               .turns = display.turns};
+    if (app.openWeapon) {
+        display.hasDrawing = true;
+        display.drawing = drawWeapon(*app.openWeapon, options, app.pictures);
+    }
+    if (!app.openUnit) {
+        return;
+    }
     const SquadRecord& unit = *app.openUnit;
-    display.hasDrawing = unit.vehicle || unit.heavyWeapon || unit.aircraft;
+    display.hasDrawing = unit.vehicle || unit.heavyWeapon || unit.aircraft || !unit.infantrymen.empty();
     if (unit.vehicle) {
         display.drawing = drawVehicle(*unit.vehicle, options, app.pictures);
     } else if (unit.heavyWeapon) {
@@ -36,6 +36,15 @@ void composeDrawing(UnitDisplay& display) {
     } else if (unit.aircraft) {
         display.drawing = drawAircraft(*unit.aircraft, options, app.pictures);
     }
+    if (!unit.infantrymen.empty()) {
+        addMen(display.drawing, unit, app.catalogue, options, app.pictures);
+    }
+}
+
+std::vector<std::string> usersOfOpenWeapon() {
+    Application& app = application();
+    const std::array<std::string_view, 2> names = {app.openWeapon->name, app.openWeapon->fileName};
+    return app.weaponUsers.usersOf(imageBases(), names);
 }
 
 /// Makes anew what the record or the view has changed.
@@ -46,9 +55,10 @@ void composeDisplay(UnitDisplay& display) {
     }
     if (display.isStale) {
         display.isStale = false;
-        display.sheet = app.openWeapon ? weaponSheet(*app.openWeapon)
-                        : app.openUnit ? unitSheet(*app.openUnit, display.drawing.missingPictures)
-                                       : DataSheet{};
+        display.sheet = app.openWeapon ? weaponSheet(*app.openWeapon, usersOfOpenWeapon())
+                        : app.openUnit
+                            ? unitSheet(*app.openUnit, display.drawing.missingPictures, app.catalogue)
+                            : DataSheet{};
     }
 }
 
@@ -75,13 +85,13 @@ void paintUnit(HDC device, const RECT& client) {
     if (!display.picture || display.pictureSize.cx != size.cx || display.pictureSize.cy != size.cy) {
         display.picture = std::make_unique<MemoryBitmap>(device, size.cx, size.cy);
         display.pictureSize = size;
-        display.shownFit = display.ownFit.value_or(fitInto(display.drawing, size.cx,
-                                                           size.cy - app.drawing.scaled(ScaleHeight),
-                                                           app.drawing.scaled(DrawingMargin)));
+        display.shownFit = display.ownFit.value_or(
+            fitInto(display.drawing, size.cx, size.cy - app.drawing.scaled(ScaleHeight),
+                    app.drawing.scaled(DrawingMargin), app.openWeapon ? GreatestScale : GreatestFittedScale));
         if (display.hasDrawing) {
             const DrawingView view{.fit = display.shownFit,
                                    .selected = display.selected,
-                                   .caption = display.caption.empty()
+                                   .caption = display.caption.empty() && app.openUnit
                                                   ? positionText(*app.openUnit, display.selected)
                                                   : display.caption};
             paintDrawing(display.picture->device(), client, display.drawing, view, app.drawing, app.pictures);
@@ -92,81 +102,61 @@ void paintUnit(HDC device, const RECT& client) {
     BitBlt(device, 0, 0, size.cx, size.cy, display.picture->device(), 0, 0, SRCCOPY);
 }
 
-void paintDisplay(HDC device, const RECT& client) {
+void paintSheetArea(HDC device, const RECT& client) {
     Application& app = application();
     UnitDisplay& display = app.display;
-    composeDisplay(display);
-    RECT sheet = asRect(sheetPlace(client.right, client.bottom, app.drawing.dpi));
-    // The scroll bar's place is kept free whether it is there or not, so that the text does not jump.
-    RECT barPlace = sheet;
-    sheet.right -= GetSystemMetrics(SM_CXVSCROLL);
-    barPlace.left = sheet.right;
-    FillRect(device, &barPlace, app.drawing.beigeBrush.get());
-    const int width = sheet.right - sheet.left;
-    if (width <= 0 || sheet.bottom <= 0) {
+    if (client.right <= 0 || client.bottom <= 0) {
         return;
     }
-    const MemoryBitmap buffer(device, width, sheet.bottom);
-    const RECT whole{0, 0, width, sheet.bottom};
+    composeDisplay(display);
+    const MemoryBitmap buffer(device, client.right, client.bottom);
+    display.sheetLayout = {};
     if (isRecordOpen()) {
-        const SheetOptions options{.bases = imageBases(), .scroll = display.scroll};
-        display.sheetHeight =
-            paintSheet(buffer.device(), whole, display.sheet, options, app.drawing, app.pictures);
+        const SheetOptions options{
+            .bases = imageBases(), .scroll = display.scroll, .selected = display.selected};
+        display.sheetLayout =
+            paintSheet(buffer.device(), client, display.sheet, options, app.drawing, app.pictures);
     } else {
-        paintHint(buffer.device(), whole, app.drawing);
+        paintHint(buffer.device(), client, app.drawing);
     }
-    BitBlt(device, sheet.left, sheet.top, width, sheet.bottom, buffer.device(), 0, 0, SRCCOPY);
+    BitBlt(device, 0, 0, client.right, client.bottom, buffer.device(), 0, 0, SRCCOPY);
 }
 
 void scrollSheet(int pixels, int visibleHeight) {
     UnitDisplay& display = application().display;
-    const int furthest = std::max(0, display.sheetHeight - visibleHeight);
+    const int furthest = std::max(0, display.sheetLayout.height - visibleHeight);
     display.scroll = std::clamp(display.scroll + pixels, 0, furthest);
 }
 
-void updateSheetScrollBar(HWND bar, int visibleHeight) {
+void showSelectedOnSheet(int visibleHeight) {
     const UnitDisplay& display = application().display;
-    const bool isNeeded = isRecordOpen() && display.sheetHeight > visibleHeight;
-    if (isNeeded) {
-        SCROLLINFO info{};
-        info.cbSize = sizeof(info);
-        info.fMask = SIF_RANGE | SIF_PAGE | SIF_POS;
-        info.nMax = display.sheetHeight - 1;
-        info.nPage = static_cast<UINT>(visibleHeight);
-        info.nPos = display.scroll;
-        SetScrollInfo(bar, SB_CTL, &info, TRUE);
+    const auto& places = display.sheetLayout.places;
+    const auto found = std::find_if(places.begin(), places.end(), [&](const SheetPlace& place) {
+        return display.selected && isSameShown(place.part, display.selected);
+    });
+    if (found == places.end()) {
+        return;
     }
-    ShowWindow(bar, isNeeded ? SW_SHOWNA : SW_HIDE);
+    const int shownFrom = display.scroll + display.sheetLayout.headHeight;
+    if (found->place.top < shownFrom) {
+        scrollSheet(found->place.top - shownFrom, visibleHeight);
+    } else if (found->place.bottom > display.scroll + visibleHeight) {
+        scrollSheet(found->place.bottom - display.scroll - visibleHeight, visibleHeight);
+    }
 }
 
-void scrollSheetByBar(HWND bar, int request, int visibleHeight) {
-    constexpr int lineHeight = 20;
-    const int line = application().drawing.scaled(lineHeight);
-    switch (request) {
-    case SB_LINEUP:
-        scrollSheet(-line, visibleHeight);
-        break;
-    case SB_LINEDOWN:
-        scrollSheet(line, visibleHeight);
-        break;
-    case SB_PAGEUP:
-        scrollSheet(-visibleHeight, visibleHeight);
-        break;
-    case SB_PAGEDOWN:
-        scrollSheet(visibleHeight, visibleHeight);
-        break;
-    case SB_THUMBTRACK:
-    case SB_THUMBPOSITION: {
-        SCROLLINFO info{};
-        info.cbSize = sizeof(info);
-        info.fMask = SIF_TRACKPOS;
-        GetScrollInfo(bar, SB_CTL, &info);
-        scrollSheet(info.nTrackPos - application().display.scroll, visibleHeight);
-        break;
+UnitPart sheetPartAt(POINT pixel) {
+    const UnitDisplay& display = application().display;
+    if (pixel.y < display.sheetLayout.headHeight) {
+        return {PartKind::Details};
     }
-    default:
-        break;
+    pixel.y += display.scroll;
+    for (const SheetPlace& place : display.sheetLayout.places) {
+        if (PtInRect(&place.place, pixel) != FALSE) {
+            return place.part;
+        }
     }
+    return {};
 }
 
 } // namespace varrocade

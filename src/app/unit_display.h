@@ -36,7 +36,7 @@ struct UnitDisplay {
     bool isStale = true;        ///< the record changed since drawing and sheet were made
     bool isDrawingStale = true; ///< the same of the drawing alone
     int scroll = 0;             ///< pixels that the sheet is scrolled down
-    int sheetHeight = 0;        ///< pixels of the whole sheet
+    SheetLayout sheetLayout;
     std::unique_ptr<MemoryBitmap> picture;
     SIZE pictureSize{};
 
@@ -53,16 +53,16 @@ struct UnitDisplay {
 /// Paints the drawing into the whole of its window.
 void paintUnit(HDC device, const RECT& client);
 
-/// Paints the data sheet into the main window.
-void paintDisplay(HDC device, const RECT& client);
+/// Paints the data sheet into the whole of its window.
+void paintSheetArea(HDC device, const RECT& client);
 
 /// Scrolls the sheet by pixels, as far as there is something to see.
 void scrollSheet(int pixels, int visibleHeight);
 
-/// Shows the scroll bar where the sheet is higher than its area, and how far it is scrolled.
-void updateSheetScrollBar(HWND bar, int visibleHeight);
+/// Scrolls the sheet so far that it shows the selected part, where it has a row for it.
+void showSelectedOnSheet(int visibleHeight);
 
-/// What a message of the scroll bar asks for.
-void scrollSheetByBar(HWND bar, int request, int visibleHeight);
+/// The part at a pixel of the sheet's window.
+UnitPart sheetPartAt(POINT pixel);
 
 } // namespace varrocade

@@ -1,9 +1,9 @@
 #include "editors/armour_form.h"
 
 #include "resources/resource.h"
+#include "view/armour_sketch.h"
 
 #include <cmath>
-#include <numbers>
 
 namespace varrocade {
 
@@ -73,12 +73,6 @@ std::optional<FormError> readPlate(FormPort& port, std::size_t index, ArmourPlat
 
 const std::array<PlateRow, PlateCount>& plateRows() {
     return Plates;
-}
-
-std::optional<double> effectiveThickness(const ArmourPlate& plate) {
-    constexpr double leastCosine = 0.01;
-    const double cosine = std::cos(plate.angle * std::numbers::pi / 180);
-    return cosine < leastCosine ? std::nullopt : std::optional(plate.thickness / cosine);
 }
 
 std::string effectiveText(const ArmourPlate& plate) {

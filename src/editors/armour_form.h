@@ -22,10 +22,6 @@ struct PlateRow {
 /// The eight plates in the order of the dialog: upper and lower front, left, right and rear.
 const std::array<PlateRow, PlateCount>& plateRows();
 
-/// What a shot straight from the plate's side has to go through, in millimetres: thickness / cos(angle). A
-/// plate as good as horizontal has none.
-std::optional<double> effectiveThickness(const ArmourPlate& plate);
-
 /// As the dialog and the drawing show it: "58 mm", or "-" for a horizontal plate.
 std::string effectiveText(const ArmourPlate& plate);
 

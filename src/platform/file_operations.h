@@ -70,6 +70,17 @@ bool readFileBeginning(const std::string& path, std::size_t length, std::string&
 /// "*.txt"), in the order in which the system lists them. False when the folder cannot be listed.
 bool listFiles(const std::string& folder, std::string_view ending, std::vector<std::string>& names);
 
+/// A file of a folder with what tells whether it has changed.
+struct StampedFile {
+    std::string name;
+    std::uint64_t size = 0;
+    std::int64_t changed = 0; ///< in the system's own count
+    bool operator==(const StampedFile&) const = default;
+};
+
+/// The same with the files' sizes and times.
+bool listStampedFiles(const std::string& folder, std::string_view ending, std::vector<StampedFile>& files);
+
 /// Whether `path` names a folder.
 bool isFolder(const std::string& path);
 

@@ -53,7 +53,7 @@
 #define IDC_WEAPONS 1010
 #define IDC_FILTER 1140
 #define IDC_EDIT_DETAILS 1141
-#define IDC_SHEET_SCROLL 1142
+#define IDC_SHEET 1142
 #define IDC_DRAWING 1143
 
 // Menu commands.

@@ -1,11 +1,15 @@
 #include "view/data_sheet.h"
 
 #include "data/enumerations.h"
+#include "data/image_names.h"
+#include "data/numbers.h"
+#include "view/image_folders.h"
 #include "view/sheet_text.h"
 
 #include <algorithm>
 #include <array>
-#include <span>
+#include <cmath>
+#include <set>
 #include <utility>
 
 namespace varrocade {
@@ -22,18 +26,13 @@ std::string degrees(std::int32_t value) {
     return std::to_string(value) + "\xB0";
 }
 
-std::string plateText(const ArmourPlate& plate) {
-    return plate.angle == 0 ? std::to_string(plate.thickness)
-                            : std::to_string(plate.thickness) + " @ " + degrees(plate.angle);
-}
-
 std::string optionalThickness(std::int32_t value) {
     return value < 0 ? "-" : std::to_string(value);
 }
 
 SheetSection figuresSection(const SquadRecord& record) {
     const VehicleRecord& vehicle = *record.vehicle;
-    SheetSection section{.heading = {"Vehicle"}};
+    SheetSection section{.heading = {"Vehicle"}, .part = {PartKind::Details}};
     section.pairs.push_back({"Type", displayName(record.type, "TYPE_")});
     section.pairs.push_back({"Weight", grouped(vehicle.weight) + " kg"});
     for (const ComponentRecord& component : vehicle.components) {
@@ -56,7 +55,7 @@ SheetSection figuresSection(const SquadRecord& record) {
 
 SheetSection driveSection(const VehicleRecord& vehicle) {
     constexpr std::array<std::string_view, 3> mounts = {"rear", "middle", "front"};
-    SheetSection section{.heading = {"Drive"}};
+    SheetSection section{.heading = {"Drive"}, .part = {PartKind::Drive}};
     section.pairs.push_back({"Engine", vehicle.engineName.str()});
     section.pairs.push_back({"Power", std::to_string(vehicle.horsepower) + " hp"});
     section.pairs.push_back({"Power to weight", powerToWeight(vehicle.horsepower, vehicle.weight)});
@@ -75,8 +74,8 @@ SheetSection driveSection(const VehicleRecord& vehicle) {
 SheetSection armourSection(const VehicleRecord& vehicle) {
     SheetSection section{.heading = {"Armour (mm @ angle from the vertical)"}};
     SheetTable table;
-    table.rows.push_back({"", "Upper front", "Lower front", "Upper side", "Lower side", "Upper rear",
-                          "Lower rear", "Top", "Bottom", "Mantlet"});
+    table.rows.push_back({{"", "Upper front", "Lower front", "Upper side", "Lower side", "Upper rear",
+                           "Lower rear", "Top", "Bottom", "Mantlet"}});
     const auto sides = [](const ArmourPlate& left, const ArmourPlate& right) {
         return left == right ? plateText(left) : plateText(left) + " / " + plateText(right);
     };
@@ -87,11 +86,15 @@ SheetSection armourSection(const VehicleRecord& vehicle) {
             continue;
         }
         const ArmourRecord& armour = component.armour;
-        table.rows.push_back({componentTitle(i + 1, component.kind), plateText(armour.upperFront),
-                              plateText(armour.lowerFront), sides(armour.upperLeft, armour.upperRight),
-                              sides(armour.lowerLeft, armour.lowerRight), plateText(armour.upperRear),
-                              plateText(armour.lowerRear), std::to_string(armour.top),
-                              optionalThickness(armour.bottom), optionalThickness(armour.mantlet)});
+        const std::string name = componentTitle(i + 1, component.kind);
+        const UnitPart part{PartKind::Armour, i, 0};
+        table.rows.push_back(
+            {{name, plateText(armour.upperFront), plateText(armour.lowerFront),
+              sides(armour.upperLeft, armour.upperRight), sides(armour.lowerLeft, armour.lowerRight),
+              plateText(armour.upperRear), plateText(armour.lowerRear), std::to_string(armour.top),
+              optionalThickness(armour.bottom), optionalThickness(armour.mantlet)},
+             part});
+        section.armour.push_back({name, part, sideSketch(armour), crossSketch(armour)});
         const std::array<std::pair<std::string_view, std::int32_t>, 3> spaced = {
             {{"front", armour.frontSpaced}, {"side", armour.sideSpaced}, {"rear", armour.rearSpaced}}};
         std::string text;
@@ -121,18 +124,24 @@ std::string traverseText(const ComponentRecord& component) {
     return text;
 }
 
-SheetSection weaponsSection(const VehicleRecord& vehicle) {
+SheetSection weaponsSection(const VehicleRecord& vehicle, const WeaponCatalogue& catalogue) {
     SheetSection section{.heading = {"Weapons"}};
     SheetTable table;
-    table.rows.push_back({"", "Weapon", "Ammunition", "Traverse", "Full circle"});
+    table.rows.push_back({{"", "Weapon", "Ammunition", "Traverse", "Full circle"}});
+    std::set<std::string, std::less<>> known;
     for (std::size_t i = 0; i < vehicle.components.size(); ++i) {
         const ComponentRecord& component = vehicle.components[i];
         std::string place = std::to_string(i + 1) + ". " + std::string(kindName(component.kind));
-        for (const WeaponMountRecord& weapon : component.weapons) {
+        for (std::size_t j = 0; j < component.weapons.size(); ++j) {
+            const std::string type = component.weapons[j].type.str();
+            // Once is enough where a vehicle has several of a kind.
+            const std::string figures =
+                known.insert(type).second ? weaponFigures(catalogue, type) : std::string();
             table.rows.push_back(
-                {place, weaponWord(weapon.type), ammoFor(component.ammo, weapon.type),
-                 traverseText(component),
-                 component.rotateTime > 0 ? std::to_string(component.rotateTime) + " s" : "-"});
+                {{place, weaponWord(type), ammoFor(component.ammo, type), traverseText(component),
+                  component.rotateTime > 0 ? std::to_string(component.rotateTime) + " s" : "-"},
+                 {PartKind::Weapon, i, j},
+                 figures});
             place.clear();
         }
     }
@@ -152,11 +161,12 @@ SheetSection weaponsSection(const VehicleRecord& vehicle) {
 SheetSection crewSection(const VehicleRecord& vehicle) {
     SheetSection section{.heading = {"Crew"}};
     SheetTable table;
-    table.rows.push_back({"", "Job", "Arms", "Ammunition"});
+    table.rows.push_back({{"", "Job", "Arms", "Ammunition"}});
     for (std::size_t i = 0; i < vehicle.components.size(); ++i) {
         const ComponentRecord& component = vehicle.components[i];
         std::string place = std::to_string(i + 1) + ". " + std::string(kindName(component.kind));
-        for (const CrewManRecord& man : component.crew) {
+        for (std::size_t j = 0; j < component.crew.size(); ++j) {
+            const CrewManRecord& man = component.crew[j];
             std::string arms;
             for (const Text& weapon : man.weapons) {
                 arms += (arms.empty() ? "" : ", ") + weaponWord(weapon);
@@ -165,7 +175,8 @@ SheetSection crewSection(const VehicleRecord& vehicle) {
             for (const AmmoLoadRecord& ammo : man.ammo) {
                 rounds += (rounds.empty() ? "" : ", ") + ammoText(ammo);
             }
-            table.rows.push_back({place, displayName(man.job, "JOB_"), arms, rounds});
+            table.rows.push_back(
+                {{place, displayName(man.job, "JOB_"), arms, rounds}, {PartKind::CrewMan, i, j}});
             place.clear();
         }
     }
@@ -176,17 +187,28 @@ SheetSection crewSection(const VehicleRecord& vehicle) {
 }
 
 SheetSection uniformSection(const SquadRecord& record) {
-    SheetSection section{.heading = {"Crew uniforms"}};
-    const auto imageText = [](const Text& name) {
-        return name.empty() ? std::string("Default") : name.str();
+    SheetSection section{.heading = {record.vehicle ? "Crew uniforms" : "Uniforms"},
+                         .part = {PartKind::Details}};
+    const NationalUniform* national = findNationalUniform(record.nationality);
+    const auto add = [&](std::string_view label, const Text& name, std::string_view usual) {
+        const bool isDefault = name.empty() || isDefaultImage(name);
+        section.pairs.push_back({std::string(label), isDefault ? "Default" : name.str()});
+        const std::string shown = isDefault ? std::string(usual) : name.str();
+        if (!shown.empty()) {
+            section.pictures.push_back(
+                {std::string(image_folder::Uniforms) + shown + std::string(ImageEnding), std::string(label)});
+        }
+    };
+    const auto usual = [&](std::string_view NationalUniform::*image) {
+        return national != nullptr && record.vehicle ? national->*image : std::string_view();
     };
     if (record.namedUniform) {
-        section.pairs.push_back({"Uniform", imageText(record.uniformName)});
+        add("Uniform", record.uniformName, {});
     } else {
-        section.pairs.push_back({"Profile", imageText(record.uniformProfile)});
-        section.pairs.push_back({"Game", imageText(record.uniformGame)});
+        add("Profile", record.uniformProfile, usual(&NationalUniform::profile));
+        add("Game", record.uniformGame, usual(&NationalUniform::game));
     }
-    section.pairs.push_back({"Ranks", imageText(record.uniformRanks)});
+    add("Ranks", record.uniformRanks, usual(&NationalUniform::ranks));
     section.pairs.push_back({"Voice language", record.language.empty() ? "Default" : record.language.str()});
     return section;
 }
@@ -195,7 +217,7 @@ SheetSection availabilitySection(const SquadRecord& record) {
     constexpr std::array<std::string_view, 12> months = {"January",   "February", "March",    "April",
                                                          "May",       "June",     "July",     "August",
                                                          "September", "October",  "November", "December"};
-    SheetSection section{.heading = {"Availability"}};
+    SheetSection section{.heading = {"Availability"}, .part = {PartKind::Availability}};
     for (const AvailabilityPoint& point : record.availability) {
         const std::string month = point.month >= 1 && point.month <= months.size()
                                       ? std::string(months[point.month - 1U])
@@ -226,7 +248,45 @@ std::string componentLine(std::size_t place, const ComponentRecord& component) {
     return line;
 }
 
-DataSheet unitSheet(const SquadRecord& record, const std::vector<std::string>& missingPictures) {
+std::string weaponFigures(const WeaponCatalogue& catalogue, std::string_view weaponType) {
+    const WeaponRecord* weapon = catalogue.find(weaponType);
+    if (weapon == nullptr) {
+        return {};
+    }
+    std::string text;
+    const auto add = [&](const std::string& part) { text += (text.empty() ? "" : ", ") + part; };
+    if (weapon->calibre > 0) {
+        std::string calibre;
+        appendShortest(calibre, weapon->calibre);
+        add(calibre + " mm");
+    }
+    if (weapon->barrelLength > 0) {
+        constexpr double millimetres = 1000;
+        std::string metres;
+        appendFixed(metres, weapon->barrelLength / millimetres, 2);
+        add("barrel " + metres + " m");
+    }
+    float slowest = 0;
+    float fastest = 0;
+    for (const AmmoTypeRecord& ammo : weapon->ammoTypes) {
+        slowest = ammo.speed > 0 && (slowest == 0 || ammo.speed < slowest) ? ammo.speed : slowest;
+        fastest = std::max(fastest, ammo.speed);
+    }
+    if (fastest > 0) {
+        const auto whole = [](float speed) { return std::to_string(std::lround(speed)); };
+        add((slowest == fastest ? whole(fastest) : whole(slowest) + " to " + whole(fastest)) + " m/s");
+    }
+    if (weapon->range > 0) {
+        add("range " + grouped(weapon->range) + " m");
+    }
+    if (weapon->rateOfFire > 0) {
+        add(grouped(weapon->rateOfFire) + " rounds/min");
+    }
+    return text;
+}
+
+DataSheet unitSheet(const SquadRecord& record, std::span<const std::string> missingPictures,
+                    const WeaponCatalogue& catalogue) {
     DataSheet sheet;
     sheet.title.text = record.longName.empty() ? record.fileName.str() : record.longName.str();
     sheet.title.subtitle = displayName(record.nationality, NationalityPrefix) +
@@ -237,15 +297,17 @@ DataSheet unitSheet(const SquadRecord& record, const std::vector<std::string>& m
         sheet.sections.push_back(figuresSection(record));
         sheet.sections.push_back(driveSection(*record.vehicle));
         sheet.sections.push_back(armourSection(*record.vehicle));
-        sheet.sections.push_back(weaponsSection(*record.vehicle));
+        sheet.sections.push_back(weaponsSection(*record.vehicle, catalogue));
         sheet.sections.push_back(crewSection(*record.vehicle));
     }
-    addSquadSections(sheet, record);
+    addSquadSections(sheet, record, catalogue);
     if (record.aircraft) {
-        addAircraftSections(sheet, *record.aircraft);
+        addAircraftSections(sheet, *record.aircraft, catalogue);
     }
     sheet.sections.push_back(availabilitySection(record));
-    sheet.sections.push_back(uniformSection(record));
+    if (!record.aircraft) {
+        sheet.sections.push_back(uniformSection(record));
+    }
     if (!missingPictures.empty()) {
         SheetSection missing{.heading = {"Missing pictures"}};
         for (const std::string& path : missingPictures) {

@@ -7,6 +7,7 @@
 #include "data/unit_record.h"
 #include "platform/png_size.h"
 #include "view/unit_part.h"
+#include "weapons/weapon_catalogue.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -156,6 +157,13 @@ DrawList drawHeavyWeapon(const HeavyWeaponRecord& weapon, const DrawOptions& opt
 
 /// The drawing of an aircraft with its rotors.
 DrawList drawAircraft(const AircraftRecord& aircraft, const DrawOptions& options, PictureSizes& sizes);
+
+/// Adds the men of a squad in rows below what is drawn already, each with his weapons and grenades to scale.
+void addMen(DrawList& list, const SquadRecord& unit, const WeaponCatalogue& catalogue,
+            const DrawOptions& options, PictureSizes& sizes);
+
+/// The drawing of a weapon with its tracer and its rounds.
+DrawList drawWeapon(const WeaponRecord& weapon, const DrawOptions& options, PictureSizes& sizes);
 
 /// The part at a point: marks within `reach` centimetres first, the nearest of them, then what lies on top.
 UnitPart partAt(const DrawList& list, Point point, double reach, PictureSizes& sizes);

@@ -12,6 +12,7 @@ inline constexpr std::string_view Turrets = "Images\\Units\\Vehicles\\Turrets\\"
 inline constexpr std::string_view Destroyed = "Images\\Units\\Vehicles\\Destroyed\\";
 inline constexpr std::string_view Profiles = "Images\\Units\\Vehicles\\Profiles\\";
 inline constexpr std::string_view Uniforms = "Images\\Uniforms\\";
+inline constexpr std::string_view Tracers = "Images\\Tracers\\";
 inline constexpr std::string_view StaticFlags = "Images\\Flags\\Static\\";
 inline constexpr std::string_view AnimatedFlags = "Images\\Flags\\Animated\\";
 

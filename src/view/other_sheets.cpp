@@ -8,6 +8,7 @@
 #include "weapons/weapon_names.h"
 
 #include <array>
+#include <set>
 #include <span>
 
 namespace varrocade {
@@ -24,14 +25,21 @@ std::string realText(float value, std::string_view unit) {
 }
 
 /// The weapons with what is carried for each.
-SheetTable armamentTable(std::span<const WeaponMountRecord> weapons, std::span<const AmmoLoadRecord> ammo) {
+SheetTable armamentTable(std::span<const WeaponMountRecord> weapons, std::span<const AmmoLoadRecord> ammo,
+                         const WeaponCatalogue& catalogue) {
     SheetTable table;
-    table.rows.push_back({"Weapon", "Ammunition", "Place"});
-    for (const WeaponMountRecord& weapon : weapons) {
+    table.rows.push_back({{"Weapon", "Ammunition", "Place"}});
+    std::set<std::string, std::less<>> known;
+    for (std::size_t i = 0; i < weapons.size(); ++i) {
+        const WeaponMountRecord& weapon = weapons[i];
+        const std::string type = weapon.type.str();
         const bool hasPlace = weapon.offsetX != 0 || weapon.offsetY != 0;
+        const bool isFirst = known.insert(type).second;
         table.rows.push_back(
-            {weaponWord(weapon.type), ammoFor(ammo, weapon.type),
-             hasPlace ? std::to_string(weapon.offsetX) + ", " + std::to_string(weapon.offsetY) : "-"});
+            {{weaponWord(type), isFirst ? ammoFor(ammo, type) : "",
+              hasPlace ? std::to_string(weapon.offsetX) + ", " + std::to_string(weapon.offsetY) : "-"},
+             {PartKind::Weapon, 0, i},
+             isFirst ? weaponFigures(catalogue, type) : std::string()});
     }
     return table;
 }
@@ -39,7 +47,7 @@ SheetTable armamentTable(std::span<const WeaponMountRecord> weapons, std::span<c
 SheetSection menSection(const SquadRecord& record) {
     SheetSection section{.heading = {"Men"}};
     SheetTable table;
-    table.rows.push_back({"", "Job", "Arms", "Ammunition"});
+    table.rows.push_back({{"", "Job", "Arms", "Ammunition"}});
     for (std::size_t i = 0; i < record.infantrymen.size(); ++i) {
         const CrewManRecord& man = record.infantrymen[i];
         std::string arms;
@@ -50,16 +58,18 @@ SheetSection menSection(const SquadRecord& record) {
         for (const AmmoLoadRecord& ammo : man.ammo) {
             rounds += (rounds.empty() ? "" : ", ") + ammoText(ammo) + " for " + weaponWord(ammo.weaponType);
         }
-        table.rows.push_back({std::to_string(i + 1), displayName(man.job, "JOB_"), arms, rounds});
+        table.rows.push_back(
+            {{std::to_string(i + 1), displayName(man.job, "JOB_"), arms, rounds}, {PartKind::Man, 0, i}});
     }
     section.tables.push_back(std::move(table));
     return section;
 }
 
-SheetSection heavyWeaponSection(const HeavyWeaponRecord& heavy) {
+SheetSection heavyWeaponSection(const HeavyWeaponRecord& heavy, const WeaponCatalogue& catalogue) {
     constexpr std::array<std::string_view, 4> kinds = {"Mortar", "Heavy machine gun", "Anti-tank gun",
                                                        "Recoilless rifle"};
-    SheetSection section{.heading = {std::string(kinds[static_cast<std::size_t>(heavy.kind)])}};
+    SheetSection section{.heading = {std::string(kinds[static_cast<std::size_t>(heavy.kind)])},
+                         .part = {PartKind::HeavyWeapon}};
     const std::string traverse = heavy.limitedTraverse ? std::to_string(heavy.rotateLeft) + "\xB0 left, " +
                                                              std::to_string(heavy.rotateRight) + "\xB0 right"
                                                        : "all round";
@@ -77,15 +87,15 @@ SheetSection heavyWeaponSection(const HeavyWeaponRecord& heavy) {
         section.pairs.push_back({"Mass", grouped(heavy.mass) + " kg"});
         section.pairs.push_back({"Trail length", trail});
     }
-    section.tables.push_back(armamentTable(heavy.weapons, heavy.ammo));
+    section.tables.push_back(armamentTable(heavy.weapons, heavy.ammo, catalogue));
     return section;
 }
 
 } // namespace
 
-void addSquadSections(DataSheet& sheet, const SquadRecord& record) {
+void addSquadSections(DataSheet& sheet, const SquadRecord& record, const WeaponCatalogue& catalogue) {
     if (record.heavyWeapon) {
-        sheet.sections.push_back(heavyWeaponSection(*record.heavyWeapon));
+        sheet.sections.push_back(heavyWeaponSection(*record.heavyWeapon, catalogue));
     }
     if (!record.infantrymen.empty()) {
         sheet.sections.push_back(menSection(record));
@@ -96,8 +106,8 @@ void addSquadSections(DataSheet& sheet, const SquadRecord& record) {
     }
 }
 
-void addAircraftSections(DataSheet& sheet, const AircraftRecord& aircraft) {
-    SheetSection section{.heading = {"Aircraft"}};
+void addAircraftSections(DataSheet& sheet, const AircraftRecord& aircraft, const WeaponCatalogue& catalogue) {
+    SheetSection section{.heading = {"Aircraft"}, .part = {PartKind::Aircraft}};
     section.pairs = {{"Speed", std::to_string(aircraft.speed)},
                      {"Ejects flares", yesNo(aircraft.ejectsFlares)},
                      {"Sound", aircraft.sound.empty() ? "-" : aircraft.sound.str()}};
@@ -106,11 +116,11 @@ void addAircraftSections(DataSheet& sheet, const AircraftRecord& aircraft) {
     }
     sheet.sections.push_back(std::move(section));
     SheetSection armament{.heading = {"Armament"}};
-    armament.tables.push_back(armamentTable(aircraft.weapons, aircraft.ammo));
+    armament.tables.push_back(armamentTable(aircraft.weapons, aircraft.ammo, catalogue));
     sheet.sections.push_back(std::move(armament));
 }
 
-DataSheet weaponSheet(const WeaponRecord& weapon) {
+DataSheet weaponSheet(const WeaponRecord& weapon, std::span<const std::string> users) {
     DataSheet sheet;
     sheet.title.text = weaponWord(weapon.name.empty() ? weapon.fileName : weapon.name);
     sheet.title.subtitle = displayName(nameOf(weapon.type), WeaponPrefix);
@@ -133,14 +143,22 @@ DataSheet weaponSheet(const WeaponRecord& weapon) {
     sheet.sections.push_back(std::move(figures));
     SheetSection ammunition{.heading = {"Ammunition"}};
     SheetTable table;
-    table.rows.push_back({"Type", "Name", "Velocity", "Mass", "HE", "HEAT era"});
+    table.rows.push_back({{"Type", "Name", "Velocity", "Mass", "HE", "HEAT era"}});
     for (const AmmoTypeRecord& ammo : weapon.ammoTypes) {
-        table.rows.push_back({flavourWord(nameOf(ammo.flavour)), ammo.name, realText(ammo.speed, "m/s"),
-                              realText(ammo.mass, "kg"), realText(ammo.highExplosive, "kg"),
-                              isHeat(ammo.flavour) ? displayName(nameOf(ammo.era), "HEAT_ERA_") : "-"});
+        table.rows.push_back({{flavourWord(nameOf(ammo.flavour)), ammo.name, realText(ammo.speed, "m/s"),
+                               realText(ammo.mass, "kg"), realText(ammo.highExplosive, "kg"),
+                               isHeat(ammo.flavour) ? displayName(nameOf(ammo.era), "HEAT_ERA_") : "-"}});
     }
     ammunition.tables.push_back(std::move(table));
     sheet.sections.push_back(std::move(ammunition));
+    SheetSection usedBy{.heading = {"Used by"}};
+    for (const std::string& user : users) {
+        usedBy.notes.push_back({user});
+    }
+    if (users.empty()) {
+        usedBy.notes.push_back({"No unit carries it."});
+    }
+    sheet.sections.push_back(std::move(usedBy));
     return sheet;
 }
 

@@ -43,10 +43,23 @@ void paintDrawing(HDC device, const RECT& area, const DrawList& list, const Draw
 struct SheetOptions {
     std::vector<std::string> bases;
     int scroll = 0; ///< pixels that the sheet is scrolled down
+    UnitPart selected = {};
 };
 
-/// Paints a sheet into `area` and returns the height of the whole sheet in pixels.
-int paintSheet(HDC device, const RECT& area, const DataSheet& sheet, const SheetOptions& options,
-               const DrawingObjects& objects, PictureCache& pictures);
+/// A part of the unit and where the sheet shows it.
+struct SheetPlace {
+    RECT place{}; ///< from the top of the sheet
+    UnitPart part;
+};
+
+struct SheetLayout {
+    int height = 0;                 ///< pixels of the whole sheet
+    int headHeight = 0;             ///< pixels of its title, which does not scroll
+    std::vector<SheetPlace> places; ///< rows before the sections that they are in
+};
+
+/// Paints a sheet into `area`.
+SheetLayout paintSheet(HDC device, const RECT& area, const DataSheet& sheet, const SheetOptions& options,
+                       const DrawingObjects& objects, PictureCache& pictures);
 
 } // namespace varrocade

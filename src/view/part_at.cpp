@@ -75,19 +75,16 @@ UnitPart partAt(const DrawList& list, Point point, double reach, PictureSizes& s
     if (nearest) {
         return nearest;
     }
-    for (auto item = list.items.rbegin(); item != list.items.rend(); ++item) {
-        const UnitPart part = partOf(*item);
-        if (part && std::visit(Covers{point, sizes}, *item)) {
-            return part;
-        }
-    }
-    return {};
+    const auto top = std::find_if(list.items.rbegin(), list.items.rend(), [&](const DrawItem& item) {
+        return partOf(item) && std::visit(Covers{point, sizes}, item);
+    });
+    return top == list.items.rend() ? UnitPart{} : partOf(*top);
 }
 
 std::vector<const DrawItem*> itemsOf(const DrawList& list, const UnitPart& part) {
     std::vector<const DrawItem*> items;
     for (const DrawItem& item : list.items) {
-        if (part && partOf(item) == part) {
+        if (part && isSameShown(partOf(item), part)) {
             items.push_back(&item);
         }
     }

@@ -1,6 +1,7 @@
 #include "view/painter_win32.h"
 
 #include "data/enumerations.h"
+#include "view/armour_painter_win32.h"
 #include "view/flag_painter_win32.h"
 #include "view/timeline_painter_win32.h"
 
@@ -15,6 +16,7 @@ namespace {
 constexpr COLORREF Ink = RGB(40, 34, 24);
 constexpr COLORREF FadedInk = RGB(120, 104, 76);
 constexpr COLORREF RuleColour = RGB(190, 172, 128);
+constexpr COLORREF SelectedGround = RGB(186, 205, 226);
 
 /// Lays a sheet out from top to bottom and paints it on the way.
 class SheetPainter {
@@ -23,20 +25,27 @@ public:
                  PictureCache& pictures)
         : device_(device), options_(options), objects_(objects), pictures_(pictures),
           left_(area.left + objects.scaled(Margin)), right_(area.right - objects.scaled(Margin)),
-          y_(area.top + objects.scaled(Margin) - options.scroll), rule_(CreatePen(PS_SOLID, 1, RuleColour)) {
+          y_(area.top + objects.scaled(Margin)), clipBottom_(area.bottom),
+          rule_(CreatePen(PS_SOLID, 1, RuleColour)) {
         SetBkMode(device_, TRANSPARENT);
     }
 
-    int paint(const DataSheet& sheet) {
-        const int top = y_;
+    SheetLayout paint(const DataSheet& sheet) {
+        const int top = y_ - objects_.scaled(Margin);
         paintTitle(sheet.title);
+        layout_.headHeight = y_ - top;
+        IntersectClipRect(device_, 0, y_, right_ + objects_.scaled(Margin), clipBottom_);
+        y_ -= options_.scroll;
+        const int before = y_;
         if (!sheet.comment.empty()) {
             paragraph(sheet.comment, objects_.normalFont.get(), Ink);
+            note({PartKind::Details}, before);
         }
         for (const SheetSection& section : sheet.sections) {
             paintSection(section);
         }
-        return y_ - top + 2 * objects_.scaled(Margin);
+        layout_.height = y_ + options_.scroll - top + objects_.scaled(Margin);
+        return std::move(layout_);
     }
 
 private:
@@ -102,8 +111,22 @@ private:
               objects_.scaled(SectionGap);
     }
 
+    /// Notes that what was painted from `before` down to here shows a part.
+    void note(const UnitPart& part, int before) {
+        if (part) {
+            layout_.places.push_back({{left_, before + options_.scroll, right_, y_ + options_.scroll}, part});
+        }
+    }
+
     void paintSection(const SheetSection& section) {
         y_ += objects_.scaled(SectionGap);
+        const int before = y_;
+        if (section.part && section.part == options_.selected) {
+            const RECT ground{left_ - objects_.scaled(4), y_, right_ + objects_.scaled(4),
+                              y_ + lineHeight(objects_.boldFont.get())};
+            const GdiObject<HBRUSH> brush(CreateSolidBrush(SelectedGround));
+            FillRect(device_, &ground, brush.get());
+        }
         text(section.heading.text, left_, y_, objects_.boldFont.get(), Ink);
         y_ += lineHeight(objects_.boldFont.get());
         {
@@ -121,9 +144,52 @@ private:
         for (const SheetTable& table : section.tables) {
             paintTable(table);
         }
-        for (const SheetNote& note : section.notes) {
-            paragraph(note.text, objects_.smallFont.get(), Ink);
+        for (const SheetArmour& armour : section.armour) {
+            const int top = y_;
+            const int height = armourHeight(objects_);
+            paintArmour(device_, {left_, y_, right_, y_ + height}, armour, objects_);
+            y_ += height + objects_.scaled(4);
+            note(armour.part, top);
         }
+        paintPictures(section.pictures);
+        for (const SheetNote& words : section.notes) {
+            paragraph(words.text, objects_.smallFont.get(), Ink);
+        }
+        // After the rows within it, which are the more exact answer to a click.
+        note(section.part, before);
+    }
+
+    /// Pictures side by side at their own size, each above its caption.
+    void paintPictures(const std::vector<SheetPicture>& pictures) {
+        int x = left_;
+        int height = 0;
+        for (const SheetPicture& picture : pictures) {
+            for (const std::string& base : options_.bases) {
+                const auto size = pictures_.sizeOf(base + picture.path);
+                if (!size) {
+                    continue;
+                }
+                const PixmapPlacement placement{
+                    .width = static_cast<double>(objects_.scaled(static_cast<int>(size->width))),
+                    .height = static_cast<double>(objects_.scaled(static_cast<int>(size->height))),
+                    .isTile = true};
+                const PixelBox box = boxOf(placement);
+                if (x + box.width > right_ && x > left_) {
+                    x = left_;
+                    y_ += height;
+                    height = 0;
+                }
+                if (const PlacedBitmap* placed = pictures_.placed(base + picture.path, placement, box)) {
+                    blend(device_, x - box.left, y_ - box.top, *placed);
+                }
+                text(picture.caption, x, y_ + box.height, objects_.smallFont.get(), FadedInk);
+                x += std::max(box.width, widthOf(picture.caption, objects_.smallFont.get())) +
+                     objects_.scaled(Margin);
+                height = std::max(height, box.height + lineHeight(objects_.smallFont.get()));
+                break;
+            }
+        }
+        y_ += height;
     }
 
     /// Two columns of label and value; a value too long for its column takes more lines.
@@ -146,10 +212,11 @@ private:
 
     /// Column widths by their longest cells; columns that do not fit shrink together and break their texts.
     [[nodiscard]] std::vector<int> columnWidths(const SheetTable& table) const {
-        std::vector<int> widths(table.rows.front().size(), 0);
-        for (const auto& row : table.rows) {
-            for (std::size_t column = 0; column < row.size() && column < widths.size(); ++column) {
-                widths[column] = std::max(widths[column], widthOf(row[column], objects_.smallFont.get()));
+        std::vector<int> widths(table.rows.front().cells.size(), 0);
+        for (const SheetRow& row : table.rows) {
+            for (std::size_t column = 0; column < row.cells.size() && column < widths.size(); ++column) {
+                widths[column] =
+                    std::max(widths[column], widthOf(row.cells[column], objects_.smallFont.get()));
             }
         }
         const int gap = objects_.scaled(10);
@@ -170,20 +237,40 @@ private:
 
     void paintTable(const SheetTable& table) {
         const std::vector<int> widths = columnWidths(table);
-        const int gap = objects_.scaled(10);
-        bool isHead = true;
-        for (const auto& row : table.rows) {
-            int x = left_;
-            int height = lineHeight(objects_.smallFont.get());
-            for (std::size_t column = 0; column < row.size() && column < widths.size(); ++column) {
-                height = std::max(height, brokenText(row[column], x, x + widths[column] + objects_.scaled(2),
-                                                     y_, objects_.smallFont.get(), isHead ? FadedInk : Ink));
-                x += widths[column] + gap;
+        for (std::size_t i = 0; i < table.rows.size(); ++i) {
+            const SheetRow& row = table.rows[i];
+            const int top = y_;
+            if (row.part && isSameShown(row.part, options_.selected)) {
+                const RECT ground{left_ - objects_.scaled(4), y_, right_ + objects_.scaled(4),
+                                  y_ + paintRow(row, widths, i == 0)};
+                const GdiObject<HBRUSH> brush(CreateSolidBrush(SelectedGround));
+                FillRect(device_, &ground, brush.get());
             }
-            y_ += height;
-            isHead = false;
+            y_ += paintRow(row, widths, i == 0);
+            note(row.part, top);
         }
         y_ += objects_.scaled(4);
+    }
+
+    /// Paints a row where the layout has come to; returns its height.
+    [[nodiscard]] int paintRow(const SheetRow& row, const std::vector<int>& widths, bool isHead) const {
+        const int gap = objects_.scaled(10);
+        const HFONT font = objects_.smallFont.get();
+        int x = left_;
+        int height = lineHeight(font);
+        for (std::size_t column = 0; column < row.cells.size() && column < widths.size(); ++column) {
+            height =
+                std::max(height, brokenText(row.cells[column], x, x + widths[column] + objects_.scaled(2), y_,
+                                            font, isHead ? FadedInk : Ink));
+            x += widths[column] + gap;
+        }
+        if (!row.detail.empty()) {
+            // Below the weapon's name, which is in the first column or in the one behind the place.
+            const bool hasPlace = widths.size() > 1 && row.cells.size() > 3;
+            const int indent = hasPlace ? widths.front() + gap : objects_.scaled(12);
+            height += brokenText(row.detail, left_ + indent, right_, y_ + height, font, FadedInk);
+        }
+        return height;
     }
 
     HDC device_;
@@ -193,19 +280,21 @@ private:
     int left_;
     int right_;
     int y_;
+    int clipBottom_;
     GdiObject<HPEN> rule_;
+    SheetLayout layout_;
 };
 
 } // namespace
 
-int paintSheet(HDC device, const RECT& area, const DataSheet& sheet, const SheetOptions& options,
-               const DrawingObjects& objects, PictureCache& pictures) {
+SheetLayout paintSheet(HDC device, const RECT& area, const DataSheet& sheet, const SheetOptions& options,
+                       const DrawingObjects& objects, PictureCache& pictures) {
     const int saved = SaveDC(device);
     IntersectClipRect(device, area.left, area.top, area.right, area.bottom);
     FillRect(device, &area, objects.beigeBrush.get());
-    const int height = SheetPainter(device, area, options, objects, pictures).paint(sheet);
+    SheetLayout layout = SheetPainter(device, area, options, objects, pictures).paint(sheet);
     RestoreDC(device, saved);
-    return height;
+    return layout;
 }
 
 } // namespace varrocade

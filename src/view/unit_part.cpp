@@ -53,6 +53,13 @@ const std::vector<WeaponMountRecord>* weaponsAround(const SquadRecord& unit, con
     return unit.aircraft ? &unit.aircraft->weapons : nullptr;
 }
 
+bool isSameShown(const UnitPart& a, const UnitPart& b) {
+    const auto isComponent = [](const UnitPart& part) {
+        return part.kind == PartKind::Component || part.kind == PartKind::Armour;
+    };
+    return isComponent(a) && isComponent(b) ? a.component == b.component : a == b;
+}
+
 bool hasPart(const SquadRecord& unit, const UnitPart& part) {
     switch (part.kind) {
     case PartKind::None:

@@ -36,6 +36,9 @@ struct UnitPart {
     explicit operator bool() const { return kind != PartKind::None; }
 };
 
+/// Whether two parts are shown as one: a component and its armour.
+bool isSameShown(const UnitPart& a, const UnitPart& b);
+
 /// Whether the unit has such a part: it may have gone with an edit.
 bool hasPart(const SquadRecord& unit, const UnitPart& part);
 

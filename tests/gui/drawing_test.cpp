@@ -113,6 +113,40 @@ TEST_F(DrawingTest, EscapePutsPositionsBack) {
     EXPECT_TRUE(editor->dialogs().empty()) << "nothing is unsaved";
 }
 
+TEST_F(DrawingTest, SheetAndDrawingSelectTheSamePartAndOpenItsEditor) {
+    startWith(Tiger);
+    const Window sheet = window.control(IDC_SHEET);
+    const auto clickUntil = [&](std::string_view name) {
+        constexpr int step = 6;
+        const int height = sheet.areaInParent().height;
+        for (int y = 100; y < height; y += step) {
+            sheet.send(WM_LBUTTONDOWN, MK_LBUTTON, at({20, y}));
+            if (drawing.text().find(name) != std::string::npos) {
+                return POINT{20, y};
+            }
+        }
+        ADD_FAILURE() << "no row of " << name;
+        return POINT{};
+    };
+    clickUntil("Armour");
+    sheet.send(WM_VSCROLL, SB_PAGEDOWN);
+    const POINT row = clickUntil(TurretGun);
+    sheet.post(WM_LBUTTONDBLCLK, MK_LBUTTON, at(row));
+    Window weapons = editor->waitForDialog("Weapons");
+    EXPECT_EQ(weapons.control(IDC_ENTRY_LIST).selectedText(), "2. HMG MG34");
+    weapons.setText(IDC_OFFSET_X, "31");
+    finish(weapons);
+    EXPECT_TRUE(shows("HMG MG34, X 31 cm, Y 120 cm"));
+    EXPECT_FALSE(menuState(IDM_SAVE) & MF_GRAYED);
+    sendCommand(IDM_UNDO);
+    EXPECT_TRUE(shows(TurretGun));
+    selectPart("Exhaust pipe 2");
+    drawing.pressKey(VK_RETURN);
+    const Window pipes = editor->waitForDialog("Exhaust Pipes");
+    EXPECT_EQ(pipes.control(IDC_ENTRY_LIST).selectedText().substr(0, 2), "2.");
+    finish(pipes, IDCANCEL);
+}
+
 TEST_F(DrawingTest, AircraftWeaponsMoveAndFileSaveKeepsThem) {
     startWith(Havoc, AircraftId);
     const std::string before = game.read(dataFile(Havoc, "Aircraft"));

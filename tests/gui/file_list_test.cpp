@@ -125,7 +125,7 @@ TEST_F(FileListTest, TabReachesEveryControl) {
     start();
     select(Tiger);
     std::set<int> reached;
-    for (std::size_t i = 0; i < 13; ++i) {
+    for (std::size_t i = 0; i < 14; ++i) {
         const Window before = editor->focus();
         reached.insert(GetDlgCtrlID(before.handle()));
         before.pressKey(VK_TAB);
@@ -134,7 +134,7 @@ TEST_F(FileListTest, TabReachesEveryControl) {
     }
     EXPECT_EQ(reached,
               (std::set<int>{ListId, NewId, DuplicateId, RenameId, DeleteId, VehiclesId, AtGunsId, InfantryId,
-                             AircraftId, WeaponsId, IDC_FILTER, IDC_DRAWING, IDC_EDIT_DETAILS}));
+                             AircraftId, WeaponsId, IDC_FILTER, IDC_DRAWING, IDC_SHEET, IDC_EDIT_DETAILS}));
     EXPECT_EQ(editor->focus(), list()) << "once around";
 }
 

@@ -5,11 +5,15 @@
 #include "app/options_file.h"
 #include "app/positions.h"
 #include "app/undo_history.h"
+#include "app/weapon_users.h"
 #include "app/window_layout.h"
 #include "data/unit_writers.h"
 #include "mod/mod_settings.h"
+#include "test_support.h"
 
 #include <gtest/gtest.h>
+
+#include <array>
 
 namespace varrocade::tests {
 namespace {
@@ -110,6 +114,48 @@ TEST(UndoHistory, GoesBackAndForthAndForgetsWhatWasUndone) {
         ++steps;
     }
     EXPECT_EQ(steps, 99);
+}
+
+TEST(UndoHistory, AChangeThatGoesOnIsOneStep) {
+    UndoHistory history;
+    SquadRecord record;
+    history.start(record);
+    for (const char* name : {"one", "two", "three"}) {
+        record.longName = name;
+        history.amend(record);
+        history.note("Name", record);
+    }
+    EXPECT_EQ(history.undo().longName, "");
+    EXPECT_EQ(history.redo().longName, "three");
+}
+
+TEST(WeaponUsers, KnowsWhoCarriesAWeaponAndReadsNoFileTwice) {
+    const TemporaryFolder folder;
+    constexpr std::string_view tank =
+        "<squad><vehicle><turret><weapon><type>WEAPON_A</type></weapon>"
+        "<man><weapon><type>WEAPON_B</type></weapon></man></turret></vehicle></squad>";
+    folder.write("Game\\Data\\Vehicles\\German Tank.txt", tank);
+    folder.write("Game\\Data\\Infantry\\German Squad.txt",
+                 "<squad><man><ammo><for>WEAPON_B</for><rounds>2</rounds></ammo></man></squad>");
+    folder.write("Mod\\Data\\Vehicles\\German Tank.txt", "<squad><vehicle></vehicle></squad>");
+    WeaponUsers users;
+    const auto usersOf = [&](std::string_view weapon, std::initializer_list<const char*> bases) {
+        std::vector<std::string> folders;
+        for (const char* base : bases) {
+            folders.push_back(folder.path() + base + "\\");
+        }
+        return users.usersOf(folders, std::array<std::string_view, 1>{weapon});
+    };
+    using Names = std::vector<std::string>;
+    EXPECT_EQ(usersOf("WEAPON_A", {"Game"}), Names{"Vehicles: German Tank"});
+    EXPECT_EQ(usersOf("WEAPON_B", {"Game"}), (Names{"Infantry: German Squad", "Vehicles: German Tank"}));
+    EXPECT_EQ(usersOf("WEAPON_C", {"Game"}), Names{});
+    EXPECT_EQ(users.filesRead(), 2U);
+    EXPECT_EQ(usersOf("WEAPON_A", {"Mod", "Game"}), Names{}) << "the mod's tank has none";
+    EXPECT_EQ(users.filesRead(), 3U);
+    folder.write("Game\\Data\\Vehicles\\German Tank.txt", std::string(tank) + "\n");
+    EXPECT_EQ(usersOf("WEAPON_A", {"Game"}), Names{"Vehicles: German Tank"});
+    EXPECT_EQ(users.filesRead(), 4U) << "the changed one only";
 }
 
 TEST(ModSettings, ReadsWhatItWrote) {

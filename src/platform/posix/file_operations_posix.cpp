@@ -141,6 +141,23 @@ bool listFiles(const std::string& folder, std::string_view ending, std::vector<s
     return true;
 }
 
+bool listStampedFiles(const std::string& folder, std::string_view ending, std::vector<StampedFile>& files) {
+    files.clear();
+    std::vector<std::string> names;
+    if (!listFiles(folder, ending, names)) {
+        return false;
+    }
+    for (std::string& name : names) {
+        struct stat status {};
+        if (::stat(nativePath(folder + name).c_str(), &status) == 0) {
+            constexpr std::int64_t nanoseconds = 1000000000;
+            const std::int64_t changed = status.st_mtim.tv_sec * nanoseconds + status.st_mtim.tv_nsec;
+            files.push_back({std::move(name), static_cast<std::uint64_t>(status.st_size), changed});
+        }
+    }
+    return true;
+}
+
 bool isFolder(const std::string& path) {
     struct stat status {};
     return ::stat(nativePath(path).c_str(), &status) == 0 && S_ISDIR(status.st_mode);

@@ -150,8 +150,11 @@ bool readFileBeginning(const std::string& path, std::size_t length, std::string&
     return isRead;
 }
 
-bool listFiles(const std::string& folder, std::string_view ending, std::vector<std::string>& names) {
-    names.clear();
+namespace {
+
+/// Calls `take` for every file of a folder that ends so.
+template <typename Take>
+bool forEachFile(const std::string& folder, std::string_view ending, Take take) {
     WIN32_FIND_DATAA found{};
     HANDLE search = FindFirstFileA((folder + "*").c_str(), &found);
     if (search == INVALID_HANDLE_VALUE) {
@@ -164,11 +167,32 @@ bool listFiles(const std::string& folder, std::string_view ending, std::vector<s
         // systems.
         if ((found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0 && name.size() >= ending.size() &&
             lstrcmpiA(found.cFileName + (name.size() - ending.size()), endingText.c_str()) == 0) {
-            names.emplace_back(name);
+            take(found);
         }
     } while (FindNextFileA(search, &found) != 0);
     FindClose(search);
     return true;
+}
+
+std::uint64_t joined(DWORD high, DWORD low) {
+    return (static_cast<std::uint64_t>(high) << 32U) | low;
+}
+
+} // namespace
+
+bool listFiles(const std::string& folder, std::string_view ending, std::vector<std::string>& names) {
+    names.clear();
+    return forEachFile(folder, ending,
+                       [&](const WIN32_FIND_DATAA& found) { names.emplace_back(found.cFileName); });
+}
+
+bool listStampedFiles(const std::string& folder, std::string_view ending, std::vector<StampedFile>& files) {
+    files.clear();
+    return forEachFile(folder, ending, [&](const WIN32_FIND_DATAA& found) {
+        const FILETIME& time = found.ftLastWriteTime;
+        files.push_back({found.cFileName, joined(found.nFileSizeHigh, found.nFileSizeLow),
+                         static_cast<std::int64_t>(joined(time.dwHighDateTime, time.dwLowDateTime))});
+    });
 }
 
 bool isFolder(const std::string& path) {
