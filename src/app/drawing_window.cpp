@@ -59,16 +59,9 @@ void scrollView(int pixelsX, int pixelsY) {
 
 // ---- dragging
 
-const ComponentRecord* turningComponent(const UnitPart& part) {
+std::optional<Traverse> traverseOfPart(const UnitPart& part) {
     const Application& app = application();
-    if (part.kind != PartKind::Component || !app.openUnit || !app.openUnit->vehicle ||
-        part.component >= app.openUnit->vehicle->components.size()) {
-        return nullptr;
-    }
-    const ComponentRecord& component = app.openUnit->vehicle->components[part.component];
-    const bool turns =
-        component.kind == ComponentKind::Turret || component.kind == ComponentKind::FixedWeapon;
-    return turns ? &component : nullptr;
+    return app.openUnit ? traverseOf(*app.openUnit, part) : std::nullopt;
 }
 
 double directionFrom(Point pivot, Point to) {
@@ -89,10 +82,10 @@ void beginDrag(HWND window, POINT pixel) {
         drag.weaponPosChanged = app.weaponPosChanged;
         drag.exhaustPosChanged = app.exhaustPosChanged;
         drag.grab = point - positionOf(*app.openUnit, part, shown().turns).value_or(point);
-    } else if (const ComponentRecord* component = turningComponent(part)) {
+    } else if (const auto traverse = traverseOfPart(part)) {
         drag.kind = DragKind::Turn;
         drag.startTurn = turnOf(shown().turns, part.component);
-        drag.startDirection = directionFrom(pivotOf(*component), point);
+        drag.startDirection = directionFrom(traverse->pivot, point);
     } else {
         drag.kind = DragKind::Pan;
     }
@@ -102,15 +95,15 @@ void beginDrag(HWND window, POINT pixel) {
 
 void turnTo(const UnitPart& part, Point point) {
     UnitDisplay& display = shown();
-    const ComponentRecord* component = turningComponent(part);
-    if (component == nullptr) {
+    const auto traverse = traverseOfPart(part);
+    if (!traverse) {
         return;
     }
     constexpr double fullCircle = 360;
     const double turn =
-        std::remainder(directionFrom(pivotOf(*component), point) - display.drag->startDirection, fullCircle);
+        std::remainder(directionFrom(traverse->pivot, point) - display.drag->startDirection, fullCircle);
     display.turns.resize(std::max(display.turns.size(), part.component + 1));
-    display.turns[part.component] = allowedTurn(*component, display.drag->startTurn + turn);
+    display.turns[part.component] = allowedTurn(*traverse, display.drag->startTurn + turn);
     const double angle = display.turns[part.component];
     display.caption = std::to_string(std::lround(std::abs(angle))) + "\xB0 " + (angle < 0 ? "left" : "right");
 }
@@ -311,9 +304,7 @@ bool setCursor(LPARAM detail) {
     ScreenToClient(drawingWindow(), &pixel);
     const UnitPart part = partUnder(pixel);
     const bool isMove = app.openUnit && isMovable(*app.openUnit, part);
-    SetCursor(LoadCursorA(nullptr, isMove                              ? IDC_SIZEALL
-                                   : turningComponent(part) != nullptr ? IDC_HAND
-                                                                       : IDC_ARROW));
+    SetCursor(LoadCursorA(nullptr, isMove ? IDC_SIZEALL : traverseOfPart(part) ? IDC_HAND : IDC_ARROW));
     return true;
 }
 

@@ -19,8 +19,8 @@ public:
     PictureStack(const DrawOptions& options, PictureSizes& sizes) : options_(options), sizes_(sizes) {}
 
     /// Puts a picture on the drawing; `width` stretches it to a size in centimetres where that is known.
-    void add(std::string_view name, Point centre, double centimetresPerPixel, UnitPart part,
-             double width = 0) {
+    void add(std::string_view name, Point centre, double centimetresPerPixel, UnitPart part, double width = 0,
+             double angle = 0) {
         if (name.empty()) {
             return;
         }
@@ -30,7 +30,8 @@ public:
         for (const std::string& base : options_.bases) {
             if (const auto size = sizes_.sizeOf(base + below)) {
                 const double scale = width > 0 ? width / size->width : centimetresPerPixel;
-                place(PictureItem{base + below, centre, size->width * scale, size->height * scale, 0, part});
+                place(PictureItem{base + below, centre, size->width * scale, size->height * scale, angle,
+                                  part});
                 return;
             }
         }
@@ -74,7 +75,7 @@ DrawList drawHeavyWeapon(const HeavyWeaponRecord& weapon, const DrawOptions& opt
     if (options.showMarks && weapon.limitedTraverse && weapon.rotateLeft + weapon.rotateRight > 0) {
         stack.sector(-weapon.rotateLeft, weapon.rotateRight, whole);
     }
-    stack.add(weapon.gunImage, {}, GroundScale, whole);
+    stack.add(weapon.gunImage, {}, GroundScale, whole, 0, turnOf(options.turns, 0));
     return stack.take();
 }
 

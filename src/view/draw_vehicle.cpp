@@ -302,17 +302,6 @@ private:
 
 } // namespace
 
-double allowedTurn(const ComponentRecord& component, double turn) {
-    const bool isLimited = component.kind != ComponentKind::Turret || component.limitedTraverse;
-    if (isLimited) {
-        const double left = std::max(0, component.rotateLeft);
-        const double right = std::max(0, component.rotateRight);
-        return std::clamp(turn, -left, right);
-    }
-    constexpr double fullCircle = 360;
-    return std::remainder(turn, fullCircle);
-}
-
 DrawList drawVehicle(const VehicleRecord& vehicle, const DrawOptions& options, PictureSizes& sizes) {
     return VehicleDrawing(vehicle, options, sizes).draw();
 }

@@ -7,6 +7,7 @@
 #include <cmath>
 #include <cstddef>
 #include <numbers>
+#include <optional>
 #include <span>
 
 namespace varrocade {
@@ -50,7 +51,18 @@ inline double angleOf(const ComponentRecord& component, double turn) {
     return (hasAngle ? component.offsetAngle : 0) + turn;
 }
 
-/// How far a component may be turned from its rest, `turn` cut to what its traverse allows.
-double allowedTurn(const ComponentRecord& component, double turn);
+/// What can be turned, and how far from its rest.
+struct Traverse {
+    Point pivot;
+    bool isLimited = false;
+    double left = 0;
+    double right = 0;
+};
+
+/// The traverse of a turret, a fixed weapon or a heavy weapon; nothing for other parts.
+std::optional<Traverse> traverseOf(const SquadRecord& unit, const UnitPart& part);
+
+/// A turn cut to what the traverse allows.
+double allowedTurn(const Traverse& traverse, double turn);
 
 } // namespace varrocade

@@ -177,9 +177,8 @@ public:
             const Selection selectedPen(device_, pen);
             std::visit([this](const auto& item) { surround(item); }, *items.back());
         }
-        if (const auto* mark = std::get_if<MarkItem>(items.back());
-            mark != nullptr && !view.caption.empty()) {
-            caption(view.caption, pixel(mark->centre));
+        if (!view.caption.empty()) {
+            std::visit([&](const auto& item) { caption(view.caption, pixel(placeOf(item))); }, *items.back());
         }
     }
 
@@ -194,6 +193,12 @@ public:
         const int left = area_.left + objects_.scaled(DrawingMargin);
         const int bottom = area_.bottom - objects_.scaled(DrawingMargin) / 2;
         const int height = objects_.scaled(5);
+        const int pad = objects_.scaled(6);
+        const int length = rounded(unit * units);
+        // On a plate of its own: the unit may reach below it.
+        const RECT plate{left - pad, bottom - height - objects_.scaled(20), left + length + pad,
+                         bottom + pad};
+        FillRect(device_, &plate, objects_.beigeBrush.get());
         const Selection pen(device_, objects_.blackPen.get());
         const int bars = units <= tenths ? units : tenths / 2;
         for (int bar = 0; bar < bars; ++bar) {
@@ -243,6 +248,15 @@ private:
         }
         Polyline(device_, corners.data(), static_cast<int>(corners.size()));
     }
+
+    /// The point of an item that its caption belongs to.
+    template <typename Item>
+    static Point placeOf(const Item& item) {
+        return item.centre;
+    }
+    static Point placeOf(const LineItem& item) { return item.from; }
+    static Point placeOf(const LabelItem& item) { return item.top; }
+    static Point placeOf(const ShapeItem& item) { return item.corners.front(); }
 
     void surround(const PictureItem& item) const {
         if (item.roundSize > 0) {

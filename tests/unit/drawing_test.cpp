@@ -126,12 +126,13 @@ TEST(PartAt, MarksComeBeforePicturesAndEmptyPartsOfPicturesDoNotCount) {
 
 TEST(DrawVehicle, TurnsWhatIsOnATurretWithinItsTraverse) {
     const SquadRecord unit = tankUnit();
-    const ComponentRecord& turret = unit.vehicle->components[1];
-    EXPECT_DOUBLE_EQ(allowedTurn(turret, -40), -30);
-    EXPECT_DOUBLE_EQ(allowedTurn(turret, 200), 45);
-    ComponentRecord free = turret;
-    free.limitedTraverse = false;
-    EXPECT_DOUBLE_EQ(allowedTurn(free, 200), -160);
+    Traverse traverse = traverseOf(unit, {PartKind::Component, 1, 0}).value();
+    EXPECT_EQ(traverse.pivot, (Point{0, 20}));
+    EXPECT_DOUBLE_EQ(allowedTurn(traverse, -40), -30);
+    EXPECT_DOUBLE_EQ(allowedTurn(traverse, 100), 45);
+    traverse.isLimited = false;
+    EXPECT_DOUBLE_EQ(allowedTurn(traverse, 200), -160);
+    EXPECT_FALSE(traverseOf(unit, {PartKind::Component, 0, 0}).has_value()) << "a hull";
 
     FakePictures pictures;
     const DrawList list = drawingOf(unit, pictures, {0, -30});
