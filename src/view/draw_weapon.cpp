@@ -62,7 +62,8 @@ void drawRounds(DrawList& list, const WeaponRecord& weapon, const ShapeGroup& pi
     const std::size_t rows = std::max<std::size_t>(1, static_cast<std::size_t>(length / cellHeight));
     const double left = piece.width / 2 + length * GapShare;
     for (std::size_t i = 0; i < weapon.ammoTypes.size(); ++i) {
-        const Point bottom{left + cellWidth * (static_cast<double>(i / rows) + 0.5),
+        const std::size_t column = i / rows;
+        const Point bottom{left + cellWidth * (static_cast<double>(column) + 0.5),
                            length - cellHeight * static_cast<double>(i % rows) - longest};
         addShapes(list, roundShape(weapon, weapon.ammoTypes[i]), bottom, 0);
         list.items.emplace_back(
