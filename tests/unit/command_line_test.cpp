@@ -1,6 +1,4 @@
 #include "cli/command_line.h"
-#include "command_outcome.h"
-#include "data/unit_writers.h"
 #include "test_support.h"
 
 #include <filesystem>
@@ -14,7 +12,7 @@ namespace {
 const std::string LooseSquad = "<squad><description><comment>c</comment></description>\n<man></man></squad>";
 
 std::string cleanSquad() {
-    return squadFileText(readUnitText(LooseSquad));
+    return rewritten(Category::Infantry, LooseSquad);
 }
 
 } // namespace
@@ -24,22 +22,21 @@ TEST(CommandLine, RefusesWhatItDoesNotUnderstand) {
     folder.write("in.txt", LooseSquad);
     const std::string in = folder.path() + "in.txt";
     const std::string out = folder.path() + "out.txt";
-    const std::vector<std::vector<std::string>> calls = {
-        {},
-        {"explode"},
-        {"rewrite"},
-        {"rewrite", "infantry", in},
-        {"rewrite", "infantry", in, out, out},
-        {"rewrite", "Infantry", in, out},
-        {"rewrite", "tanks", in, out},
-        {"tree"},
-        {"tree", in, in},
-        {"tree", folder.path() + "missing.txt"},
-        {"tree", folder.path()},
-        {"rewrite", "infantry", folder.path() + "missing.txt", out},
-        {"rewrite", "vehicles", in, out},
-        {"rewrite", "infantry", in, folder.path() + "missing\\out.txt"},
-    };
+    const std::string missing = folder.path() + "missing";
+    const std::vector<std::vector<std::string>> calls = {{},
+                                                         {"explode"},
+                                                         {"rewrite"},
+                                                         {"rewrite", "infantry", in},
+                                                         {"rewrite", "infantry", in, out, out},
+                                                         {"rewrite", "Infantry", in, out},
+                                                         {"rewrite", "tanks", in, out},
+                                                         {"tree"},
+                                                         {"tree", in, in},
+                                                         {"tree", missing},
+                                                         {"tree", folder.path()},
+                                                         {"rewrite", "infantry", missing, out},
+                                                         {"rewrite", "vehicles", in, out},
+                                                         {"rewrite", "infantry", in, missing + "\\out.txt"}};
     for (const std::vector<std::string>& call : calls) {
         const CommandOutcome outcome = runCommand(call);
         EXPECT_EQ(outcome.status, cli::CouldNot) << outcome.complaints;
@@ -79,14 +76,10 @@ TEST(CommandLine, RewritesTheSampleFolders) {
             runCommand({"rewrite", word, isOdd ? in : in.substr(0, in.size() - 1), isOdd ? out : out + "\\"});
         EXPECT_EQ(outcome.status, cli::Done) << outcome.complaints;
     }
-    const std::vector<std::string> written = folder.files();
-    EXPECT_EQ(written.size(), sampleFiles().size());
+    EXPECT_EQ(folder.files().size(), sampleFiles().size());
     for (const SampleFile& file : sampleFiles()) {
-        const std::string below =
-            "out\\" + std::string(categoryWord(file.category)) + "\\" + file.name + ".txt";
-        if (file.category == Category::Infantry) {
-            EXPECT_EQ(folder.read(below), squadFileText(readUnitText(file.content))) << file.name;
-        }
+        const std::string below = std::string(categoryWord(file.category)) + "\\" + file.name + ".txt";
+        EXPECT_EQ(folder.read("out\\" + below), rewritten(file.category, file.content)) << file.name;
     }
 }
 
@@ -117,7 +110,7 @@ TEST(CommandLine, GoesOnBehindAFileItCannotRewrite) {
     EXPECT_NE(vehicles.complaints.find("a.txt: holds nothing"), std::string::npos);
     EXPECT_EQ(vehicles.complaints.find("m.txt: cannot be read") == std::string::npos,
               static_cast<bool>(error));
-    EXPECT_EQ(mixed.read("out\\z.txt"), vehicleFileText(readUnitText("<squad><vehicle></vehicle></squad>")));
+    EXPECT_EQ(mixed.read("out\\z.txt"), rewritten(Category::Vehicles, "<squad><vehicle></vehicle></squad>"));
 }
 
 TEST(CommandLine, TellsWhatAFileHoldsTooMuch) {

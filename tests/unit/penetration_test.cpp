@@ -1,7 +1,6 @@
 #include "analysis/armour_plates.h"
 #include "analysis/penetration.h"
 #include "cli/command_line.h"
-#include "command_outcome.h"
 #include "test_support.h"
 
 #include <clocale>

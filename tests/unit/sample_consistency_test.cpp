@@ -1,12 +1,15 @@
 // The sample game holds everything that its files name.
 
 #include "data/enumerations.h"
+#include "data/image_names.h"
+#include "data/tag_tree.h"
 #include "platform/file_operations.h"
 #include "test_support.h"
 #include "weapons/weapon_files.h"
 #include "weapons/weapon_names.h"
 
 #include <algorithm>
+#include <array>
 #include <map>
 #include <set>
 
@@ -16,240 +19,152 @@ namespace varrocade::tests {
 
 namespace {
 
-struct NamedFile {
-    std::string folder; // below the base folder
-    std::string name;
-    std::string ending;
+/// An element that names a file, within one of the name `parent` or, where that is empty, anywhere. The first
+/// row that fits counts.
+struct Reference {
+    std::string_view element;
+    std::string_view parent;
+    std::string_view folder;
+    std::string_view ending = ".png";
 };
 
-/// What a file names that does not exist, gathered over all files.
-class Missing {
-public:
-    void file(std::string_view user, const NamedFile& named) {
-        const std::string path = SampleBase + named.folder + "\\" + named.name + named.ending;
-        if (!named.name.empty() && !systemFiles().exists(path)) {
-            note(user, path);
-        }
-    }
-    void note(std::string_view user, const std::string& what) {
-        missing_.insert(what + " of " + std::string(user));
-    }
-    void expectNone() const {
-        std::string all;
-        for (const std::string& line : missing_) {
-            all += line + "\n";
-        }
-        EXPECT_TRUE(missing_.empty()) << missing_.size() << " missing:\n" << all;
-    }
+constexpr auto References = std::to_array<Reference>({
+    {"image_profile", "attributes", "Images\\Units\\Vehicles\\Profiles\\"},
+    {"image_view", "hull", "Images\\Units\\Vehicles\\Hulls\\"},
+    {"image_view", "", "Images\\Units\\Vehicles\\Turrets\\"},
+    {"image_destroyed", "", "Images\\Units\\Vehicles\\Destroyed\\"},
+    {"image_view_base", "", "Images\\Units\\"},
+    {"image_view_gun", "", "Images\\Units\\"},
+    {"image_profile", "", "Images\\Units\\"},
+    {"image", "", "Images\\Units\\"},
+    {"uniform_profile", "", "Images\\Uniforms\\"},
+    {"uniform_game", "", "Images\\Uniforms\\"},
+    {"uniform_ranks", "", "Images\\Uniforms\\"},
+    {"tracer_image", "", "Images\\Tracers\\"},
+    {"sound", "", "Sounds\\", ".wav"},
+    {"sound_shoot", "", "Sounds\\", ".wav"},
+    {"sound_reload", "", "Sounds\\", ".wav"},
+    {"sound_eject_clip", "", "Sounds\\", ".wav"},
+    {"explode_sound", "", "Sounds\\", ".wav"},
+    {"for", "", "Data\\Weapons\\", ".txt"},
+    {"type", "weapon", "Data\\Weapons\\", ".txt"},
+});
 
-private:
-    std::set<std::string> missing_;
+/// The path of the file that an element names; empty where it names none.
+std::string namedFile(std::string_view parent, const TagNode& node) {
+    const auto row = std::find_if(References.begin(), References.end(), [&](const Reference& reference) {
+        return reference.element == node.name && (reference.parent.empty() || reference.parent == parent);
+    });
+    const std::string_view name = imageNameOf(node.text);
+    return row == References.end() || name.empty() || isDefaultImage(name)
+               ? std::string()
+               : SampleBase + std::string(row->folder) + std::string(name) + std::string(row->ending);
+}
+
+struct Sample {
+    std::vector<std::pair<Category, SquadRecord>> units;
+    std::map<std::string, WeaponRecord, std::less<>> weapons;
 };
 
-constexpr std::string_view Png = ".png";
-
-void image(Missing& missing, std::string_view user, std::string_view folder, std::string_view name) {
-    missing.file(user, {"Images\\" + std::string(folder), std::string(name), std::string(Png)});
-}
-
-void sound(Missing& missing, std::string_view user, std::string_view name) {
-    missing.file(user, {"Sounds", std::string(name), ".wav"});
-}
-
-const std::map<std::string, WeaponRecord>& weapons() {
-    static const std::map<std::string, WeaponRecord> all = [] {
-        std::map<std::string, WeaponRecord> read;
-        for (const SampleFile& file : sampleFiles()) {
-            if (file.category == Category::Weapons) {
-                WeaponReadReport report;
-                read[file.name] = readWeapon(file.content, file.name, report);
-                EXPECT_TRUE(report.diagnostics.empty()) << file.name << ": " << report.diagnostics.front();
-            }
+Sample readSample() {
+    Sample sample;
+    for (const SampleFile& file : sampleFiles()) {
+        WeaponReadReport report;
+        if (file.category == Category::Weapons) {
+            sample.weapons[file.name] = readWeapon(file.content, file.name, report);
+        } else {
+            sample.units.emplace_back(file.category, readUnit(file.content, file.name, report.diagnostics));
         }
-        return read;
-    }();
-    return all;
-}
-
-struct SampleUnit {
-    Category category;
-    SquadRecord record;
-};
-
-const std::vector<SampleUnit>& units() {
-    static const std::vector<SampleUnit> all = [] {
-        std::vector<SampleUnit> read;
-        for (const SampleFile& file : sampleFiles()) {
-            if (file.category != Category::Weapons) {
-                Diagnostics diagnostics;
-                read.push_back({file.category, readUnit(file.content, file.name, diagnostics)});
-                EXPECT_TRUE(diagnostics.empty()) << file.name << ": " << diagnostics.front();
-            }
-        }
-        return read;
-    }();
-    return all;
-}
-
-void weapon(Missing& missing, std::string_view user, std::string_view type) {
-    if (!weapons().contains(std::string(type))) {
-        missing.note(user, "weapon " + std::string(type));
+        EXPECT_TRUE(report.diagnostics.empty()) << file.name << ": " << report.diagnostics.front();
     }
+    return sample;
 }
 
-void ammo(Missing& missing, std::string_view user, const std::vector<AmmoLoadRecord>& loads) {
-    for (const AmmoLoadRecord& load : loads) {
-        weapon(missing, user, load.weaponType);
-        const auto found = weapons().find(load.weaponType.str());
-        if (found == weapons().end() || load.flavour.empty()) {
-            continue;
-        }
-        const std::vector<AmmoTypeRecord>& types = found->second.ammoTypes;
-        if (std::none_of(types.begin(), types.end(), [&](const AmmoTypeRecord& type) {
-                return type.flavour == flavourOf(load.flavour);
-            })) {
-            missing.note(user, load.weaponType.str() + " with " + load.flavour.str());
-        }
+std::string_view childText(const TagTree& tree, const TagNode& node, std::string_view name) {
+    std::uint32_t child = node.firstChild;
+    while (child != TagNode::None && tree.nodes()[child].name != name) {
+        child = tree.nodes()[child].nextSibling;
     }
-}
-
-void mounted(Missing& missing, std::string_view user, const std::vector<WeaponMountRecord>& mounts) {
-    for (const WeaponMountRecord& mount : mounts) {
-        weapon(missing, user, mount.type);
-    }
-}
-
-void men(Missing& missing, std::string_view user, const std::vector<CrewManRecord>& crew) {
-    const auto jobs = jobNames();
-    for (const CrewManRecord& man : crew) {
-        for (const Text& personal : man.weapons) {
-            weapon(missing, user, personal);
-        }
-        ammo(missing, user, man.ammo);
-        EXPECT_NE(std::find(jobs.begin(), jobs.end(), man.job.view()), jobs.end())
-            << user << ": " << man.job.view();
-    }
-}
-
-void uniforms(Missing& missing, const SquadRecord& record) {
-    const NationalUniform* national = findNationalUniform(record.nationality);
-    const auto uniform = [&](const Text& name, std::string_view nationalName) {
-        const bool isNational = name == "Default" || name.empty();
-        image(missing, record.fileName, "Uniforms", isNational ? nationalName : name.view());
-    };
-    uniform(record.uniformProfile, national != nullptr ? national->profile : "");
-    uniform(record.uniformGame, national != nullptr ? national->game : "");
-    uniform(record.uniformRanks, national != nullptr ? national->ranks : "");
+    return child == TagNode::None ? std::string_view() : tree.nodes()[child].text;
 }
 
 } // namespace
 
-TEST(Sample, HasThePicturesOfItsUnits) {
-    Missing missing;
-    const auto vehicle = [&](std::string_view user, std::string_view folder, const Text& name) {
-        image(missing, user, "Units\\Vehicles\\" + std::string(folder), name);
-    };
-    for (const SampleUnit& unit : units()) {
-        const SquadRecord& record = unit.record;
-        const std::string_view user = record.fileName;
-        if (record.vehicle) {
-            vehicle(user, "Profiles", record.vehicle->profileImage);
-            for (const ComponentRecord& component : record.vehicle->components) {
-                vehicle(user, component.kind == ComponentKind::Hull ? "Hulls" : "Turrets",
-                        component.viewImage);
-                vehicle(user, "Destroyed", component.destroyedImage);
+TEST(Sample, HasTheFilesThatItsFilesName) {
+    std::set<std::string> missing;
+    std::size_t named = 0;
+    for (const SampleFile& file : sampleFiles()) {
+        TagTree tree;
+        tree.parse(file.content);
+        for (const TagNode& node : tree.nodes()) {
+            const bool isRoot = node.parent == TagNode::None;
+            const std::string_view parent = isRoot ? std::string_view() : tree.nodes()[node.parent].name;
+            const bool isOwnType = file.category == Category::Weapons && node.name == "type";
+            const std::string path = isRoot || isOwnType ? std::string() : namedFile(parent, node);
+            named += path.empty() ? 0 : 1;
+            if (!path.empty() && !systemFiles().exists(path)) {
+                missing.insert(path + " of " + file.name + "\n");
             }
-        }
-        if (record.heavyWeapon) {
-            image(missing, user, "Units", record.heavyWeapon->baseImage);
-            image(missing, user, "Units", record.heavyWeapon->gunImage);
-            image(missing, user, "Units", record.heavyWeapon->profileImage);
-        }
-        if (record.aircraft) {
-            image(missing, user, "Units", record.aircraft->image);
-            for (const RotorBladesRecord& rotor : record.aircraft->rotorBlades) {
-                image(missing, user, "Units", rotor.image);
-            }
-        } else {
-            uniforms(missing, record);
         }
     }
-    missing.expectNone();
+    EXPECT_GT(named, 500U);
+    EXPECT_EQ(missing, std::set<std::string>());
 }
 
-TEST(Sample, HasThePicturesAndSoundsOfItsWeaponsAndAircraft) {
-    Missing missing;
-    for (const auto& [name, record] : weapons()) {
-        image(missing, name, "Tracers", record.tracerImage);
-        for (const std::string& file : {record.shootSound, record.reloadSound, record.ejectClipSound}) {
-            sound(missing, name, file);
-        }
-        for (const AmmoTypeRecord& type : record.ammoTypes) {
-            image(missing, name, "Tracers", type.tracerImage);
-            sound(missing, name, type.explodeSound);
-        }
-    }
-    for (const SampleUnit& unit : units()) {
-        if (unit.record.aircraft) {
-            sound(missing, unit.record.fileName, unit.record.aircraft->sound);
-        }
-    }
-    missing.expectNone();
-}
-
-TEST(Sample, HasTheWeaponsAndAmmunitionOfItsUnits) {
-    Missing missing;
-    for (const SampleUnit& unit : units()) {
-        const SquadRecord& record = unit.record;
-        const std::string_view user = record.fileName;
-        men(missing, user, record.infantrymen);
-        if (record.vehicle) {
-            for (const ComponentRecord& component : record.vehicle->components) {
-                mounted(missing, user, component.weapons);
-                ammo(missing, user, component.ammo);
-                men(missing, user, component.crew);
+TEST(Sample, HasTheAmmunitionOfItsUnits) {
+    const Sample sample = readSample();
+    for (const SampleFile& file : sampleFiles()) {
+        TagTree tree;
+        tree.parse(file.content);
+        for (const TagNode& node : tree.nodes()) {
+            const auto weapon = sample.weapons.find(childText(tree, node, "for"));
+            const std::string_view flavour = childText(tree, node, "flavour");
+            if (node.name == "ammo" && weapon != sample.weapons.end() && !flavour.empty()) {
+                const std::vector<AmmoTypeRecord>& types = weapon->second.ammoTypes;
+                EXPECT_TRUE(std::any_of(
+                    types.begin(), types.end(),
+                    [&](const AmmoTypeRecord& type) { return type.flavour == flavourOf(flavour); }))
+                    << file.name << ": " << weapon->first << " with " << flavour;
             }
         }
-        if (record.heavyWeapon) {
-            mounted(missing, user, record.heavyWeapon->weapons);
-            ammo(missing, user, record.heavyWeapon->ammo);
-        }
-        if (record.aircraft) {
-            mounted(missing, user, record.aircraft->weapons);
-            ammo(missing, user, record.aircraft->ammo);
-        }
     }
-    missing.expectNone();
 }
 
 TEST(Sample, UsesTheGamesNames) {
     const auto knows = [](std::span<const std::string_view> names, std::string_view name) {
         return std::find(names.begin(), names.end(), name) != names.end();
     };
+    const Sample sample = readSample();
     std::set<std::string_view> types;
-    for (const SampleUnit& unit : units()) {
-        const SquadRecord& record = unit.record;
-        EXPECT_TRUE(knows(unitTypeNames(), record.type)) << record.fileName.view();
-        EXPECT_TRUE(knows(nationalityNames(), record.nationality)) << record.fileName.view();
+    for (const auto& [category, record] : sample.units) {
+        const std::string_view name = record.fileName;
+        EXPECT_TRUE(knows(unitTypeNames(), record.type)) << name;
+        EXPECT_TRUE(knows(nationalityNames(), record.nationality)) << name;
         // The lists sort a unit under the nation that its file's name begins with.
-        EXPECT_TRUE(record.fileName.view().starts_with(displayName(record.nationality, NationalityPrefix)))
-            << record.fileName.view();
-        EXPECT_EQ(record.vehicle.has_value(), unit.category == Category::Vehicles) << record.fileName.view();
-        EXPECT_EQ(record.aircraft.has_value(), unit.category == Category::Aircraft) << record.fileName.view();
+        EXPECT_TRUE(name.starts_with(displayName(record.nationality, NationalityPrefix))) << name;
+        EXPECT_EQ(record.vehicle.has_value(), category == Category::Vehicles) << name;
+        EXPECT_EQ(record.aircraft.has_value(), category == Category::Aircraft) << name;
         if (record.vehicle) {
-            EXPECT_TRUE(knows(steeringNames(), record.vehicle->steering)) << record.fileName.view();
-            EXPECT_TRUE(knows(reliabilityNames(), record.vehicle->reliability)) << record.fileName.view();
+            EXPECT_TRUE(knows(steeringNames(), record.vehicle->steering)) << name;
+            EXPECT_TRUE(knows(reliabilityNames(), record.vehicle->reliability)) << name;
+        }
+        const NationalUniform* uniform = findNationalUniform(record.nationality);
+        if (uniform != nullptr && !record.aircraft) {
+            for (const std::string_view image : {uniform->profile, uniform->game, uniform->ranks}) {
+                const std::string path = SampleBase + "Images\\Uniforms\\" + std::string(image) + ".png";
+                EXPECT_TRUE(systemFiles().exists(path)) << path;
+            }
         }
         types.insert(record.type);
     }
     EXPECT_GE(types.size(), 12U);
     std::set<WeaponType> weaponTypes;
-    for (const auto& [name, record] : weapons()) {
+    for (const auto& [name, record] : sample.weapons) {
         EXPECT_EQ(record.name, name);
         EXPECT_FALSE(record.ammoTypes.empty()) << name;
         weaponTypes.insert(record.type);
     }
-    EXPECT_EQ(weaponTypes.size(), 19U);
+    EXPECT_EQ(weaponTypes.size(), 19U) << "one of every type";
 }
 
 } // namespace varrocade::tests

@@ -18,29 +18,12 @@ namespace {
 /// Far above what any case takes, far below what quadratic work on it would.
 constexpr std::chrono::seconds Deadline{30};
 
-std::string repeated(std::string_view text, std::size_t count) {
-    std::string out;
-    out.reserve(text.size() * count);
-    for (std::size_t i = 0; i < count; ++i) {
-        out += text;
-    }
-    return out;
-}
-
 std::string numbered(std::string_view before, std::size_t count, std::string_view after) {
     std::string out;
     for (std::size_t i = 0; i < count; ++i) {
         out += std::string(before) + std::to_string(i) + std::string(after);
     }
     return out;
-}
-
-std::string nestedInEachOther(std::size_t levels) {
-    std::string document = numbered("<n", levels, ">");
-    for (std::size_t i = levels; i-- > 0;) {
-        document += "</n" + std::to_string(i) + ">";
-    }
-    return document;
 }
 
 /// Every level's content stands in two elements, its sibling and one that begins in it but ends later: the

@@ -1,9 +1,12 @@
 #include "test_support.h"
 
 #include "cli/command_line.h"
+#include "data/unit_writers.h"
 #include "platform/file_operations.h"
+#include "weapons/weapon_files.h"
 
 #include <algorithm>
+#include <array>
 #include <filesystem>
 #include <fstream>
 #include <random>
@@ -34,7 +37,104 @@ bool startsLine(std::string_view line, std::string_view start) {
     return tabs != std::string_view::npos && line.substr(tabs).starts_with(start);
 }
 
+std::string unescaped(std::string_view text) {
+    std::string result;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const std::size_t code = text[i] == '\\' ? std::string_view("rnt").find(text.substr(i + 1, 1)) : 3;
+        result += code < 3 ? "\r\n\t"[code] : text[i];
+        i += code < 3 ? 1 : 0;
+    }
+    return result;
+}
+
+void damageOnce(std::string& content, std::mt19937& random) {
+    static constexpr auto texts = std::to_array<std::string_view>(
+        {"0",          "7",           "-30",          "007",          "5 kg",          "1e3",
+         "99999",      "2.50",        "yes",          "no",           "Default",       "x.PNG",
+         "MOUNT_REAR", "QUALITY_RAW", "FLAVOUR_BALL", "WEAPON_HMG_A", "WEAPON_BOMB_B", "//",
+         "",           " a "});
+    const auto anyOf = [&](std::size_t count) {
+        return std::uniform_int_distribution<std::size_t>(0, count - 1)(random);
+    };
+    const auto lineAt = [&](std::size_t offset) {
+        const std::size_t begin = content.rfind('\n', offset);
+        const std::size_t first = begin == std::string::npos ? 0 : begin + 1;
+        return std::pair(first, std::min(content.find('\n', first), content.size() - 1) + 1 - first);
+    };
+    if (content.empty()) {
+        return;
+    }
+    const std::size_t offset = anyOf(content.size());
+    const auto [line, length] = lineAt(offset);
+    switch (anyOf(6)) {
+    case 0:
+        content.erase(line, length);
+        break;
+    case 1:
+        content.insert(lineAt(anyOf(content.size())).first, content.substr(line, length));
+        break;
+    case 2:
+        content[offset] = "<>/ _@x"[anyOf(7)];
+        break;
+    default: {
+        const std::size_t begin = content.find('>', offset);
+        const std::size_t end = content.find("</", begin == std::string::npos ? begin : begin + 1);
+        if (begin != std::string::npos && end != std::string::npos &&
+            content.substr(begin, end - begin).find('\n') == std::string::npos) {
+            content.replace(begin + 1, end - begin - 1, texts[anyOf(texts.size())]);
+        }
+        break;
+    }
+    }
+}
+
 } // namespace
+
+void damage(std::string& content, std::mt19937& random, int times) {
+    for (; times > 0; --times) {
+        damageOnce(content, random);
+    }
+}
+
+std::string repeated(std::string_view text, std::size_t count) {
+    std::string out;
+    out.reserve(text.size() * count);
+    while (count-- > 0) {
+        out += text;
+    }
+    return out;
+}
+
+std::string nestedInEachOther(std::size_t levels) {
+    std::string opening;
+    std::string closing;
+    for (std::size_t i = 0; i < levels; ++i) {
+        opening += "<n" + std::to_string(i) + ">";
+        closing += "</n" + std::to_string(levels - 1 - i) + ">";
+    }
+    return opening + closing;
+}
+
+std::string wholeFile(Category category, std::string_view content) {
+    const auto between = [content](std::string_view before, std::string_view after) {
+        return std::string(before).append(content).append(after);
+    };
+    if (content.starts_with("<squad>")) {
+        return std::string(content);
+    }
+    switch (category) {
+    case Category::Vehicles:
+        return between("<squad><vehicle>\n", "</vehicle></squad>");
+    case Category::Aircraft:
+        return between("<aircraft>\n", "</aircraft>");
+    case Category::Weapons:
+        return between("<weapon>\n", "</weapon>");
+    case Category::AtGuns:
+    case Category::Infantry:
+        break;
+    }
+    return between("<squad>\n", "</squad>");
+}
 
 std::string readText(const std::string& path) {
     std::string content;
@@ -44,6 +144,39 @@ std::string readText(const std::string& path) {
 
 std::string goldenText(std::string_view name) {
     return readText("tests\\golden\\" + std::string(name));
+}
+
+std::string_view takePart(std::string_view& text, std::string_view separator) {
+    const std::size_t end = text.find(separator);
+    const std::string_view part = text.substr(0, end);
+    text.remove_prefix(end == std::string_view::npos ? text.size() : end + separator.size());
+    return part;
+}
+
+std::vector<TextCase> textCases(std::string_view name) {
+    std::string content = goldenText(name);
+    std::erase(content, '\r');
+    std::string_view rest = content;
+    takePart(rest, "== ");
+    std::vector<TextCase> cases;
+    while (!rest.empty()) {
+        std::string_view block = takePart(rest, "\n== ");
+        const std::string_view heading = takePart(block, "\n");
+        const std::string_view text = takePart(block, "--\n");
+        const std::string_view expected = block.substr(0, block.find_last_not_of('\n') + 1);
+        cases.push_back({std::string(heading), unescaped(text.substr(0, text.find_last_not_of('\n') + 1)),
+                         unescaped(expected)});
+    }
+    EXPECT_FALSE(cases.empty()) << name;
+    return cases;
+}
+
+std::string rewritten(Category category, std::string_view content) {
+    if (category == Category::Weapons) {
+        WeaponReadReport report;
+        return weaponFileText(readWeapon(content, "weapon", report));
+    }
+    return unitFileText(category, readUnitText(content)).value_or("");
 }
 
 std::vector<std::string> linesOf(std::string_view text) {

@@ -5,7 +5,7 @@
 #include "data/unit_reader.h"
 #include "platform/messages.h"
 
-#include <initializer_list>
+#include <random>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -33,6 +33,35 @@ struct SampleFile {
     std::string name;
     std::string content;
 };
+
+std::string repeated(std::string_view text, std::size_t count);
+
+/// "<n0><n1>...</n1></n0>"
+std::string nestedInEachOther(std::size_t levels);
+
+/// Makes small things of a file otherwise, as a hand or an accident would.
+void damage(std::string& content, std::mt19937& random, int times);
+
+/// A content of the outer elements of a category's files, from line 2 on, in these; whole squads as they are.
+std::string wholeFile(Category category, std::string_view content);
+
+/// The file that a category's writer makes of a content read by its reader; empty when there is nothing to
+/// write.
+std::string rewritten(Category category, std::string_view content);
+
+/// One case of a file of cases: its heading behind "== ", the text up to a line "--", the text behind that.
+struct TextCase {
+    std::string heading;
+    std::string text;
+    std::string expected;
+};
+
+/// The cases of a file in tests/golden; fails the test when there are none. In the texts, which end without a
+/// line end, "\\r", "\\n" and "\\t" stand for one character each.
+std::vector<TextCase> textCases(std::string_view name);
+
+/// Takes the part before `separator`, which goes too, off a text; all of it where there is no separator.
+std::string_view takePart(std::string_view& text, std::string_view separator);
 
 /// Every data file of the sample, read once.
 const std::vector<SampleFile>& sampleFiles();
