@@ -4,11 +4,41 @@
 #include "test_support.h"
 #include "weapons/weapon_files.h"
 
+#include <algorithm>
 #include <array>
 
 #include <gtest/gtest.h>
 
 namespace varrocade::tests {
+
+namespace {
+
+/// The lines of a file that another one of its kind does not have, from the first to the last.
+std::string addedLines(const std::string& plain, const std::string& written) {
+    const std::vector<std::string> former = linesOf(plain);
+    const std::vector<std::string> lines = linesOf(written);
+    const auto begin = std::mismatch(lines.begin(), lines.end(), former.begin(), former.end());
+    const auto end = std::mismatch(lines.rbegin(), std::make_reverse_iterator(begin.first), former.rbegin(),
+                                   std::make_reverse_iterator(begin.second));
+    std::string added;
+    for (auto line = begin.first; line != end.first.base(); ++line) {
+        added += (added.empty() ? "" : "\n") + *line;
+    }
+    return added;
+}
+
+} // namespace
+
+TEST(RoundTrip, RewritesByExample) {
+    for (const TextCase& c : textCases("rewrites.txt")) {
+        std::string_view what = c.heading;
+        const Category category = categoryOfWord(takePart(what, ": ")).value();
+        EXPECT_EQ(addedLines(rewritten(category, wholeFile(category, "")),
+                             rewritten(category, wholeFile(category, c.text))),
+                  c.expected)
+            << what;
+    }
+}
 
 TEST(RoundTrip, WritesWhatItWroteOnceMore) {
     for (const SampleFile& file : sampleFiles()) {
