@@ -39,7 +39,7 @@ TEST(WindowLayout, FirstPlaceFollowsTheWorkArea) {
 }
 
 TEST(FileNames, RefuseWhatFilesCannotBeCalled) {
-    EXPECT_EQ(refusalOfName(""), "A name must be entered");
+    EXPECT_EQ(refusalOfName(" "), "A name must be entered");
     for (const char c : std::string("<>:\"/\\|?*.")) {
         EXPECT_EQ(refusalOfName(std::string("a") + c), "Ilegal characters in the filename") << c;
     }
@@ -104,6 +104,8 @@ TEST(UndoHistory, GoesBackAndForthAndForgetsWhatWasUndone) {
     record.longName = "other";
     history.note("Other", record);
     EXPECT_FALSE(history.canRedo());
+    EXPECT_EQ(history.undo().longName, "one") << "what had been undone is gone";
+    history.redo();
     for (int i = 0; i < 300; ++i) {
         record.vehicle.emplace().weight = i + 1;
         history.note("Weight", record);

@@ -309,22 +309,20 @@ TEST(PenetrationCommand, RefusesWhatItDoesNotUnderstand) {
     folder.write("gun.txt", GunText);
     folder.write("empty.txt", "");
     const std::string gun = folder.path() + "gun.txt";
-    const std::vector<std::vector<std::string>> calls = {
-        {},
-        {gun},
-        {gun, "0", "30"},
-        {gun, "0", "30", "12", "12"},
-        {gun, "3", "30", "12"},
-        {gun, "-1", "30", "12"},
-        {gun, "", "30", "12"},
-        {gun, "0x", "30", "12"},
-        {gun, "99999999999999999999999", "30", "12"},
-        {folder.path() + "missing.txt", "0", "30", "12"},
-        {folder.path() + "empty.txt", "0", "30", "12"},
-        {"--matrix"},
-        {"--matrix", folder.path()},
-        {"--matrix", folder.path(), folder.path()},
-    };
+    const std::vector<std::vector<std::string>> calls = {{},
+                                                         {gun},
+                                                         {gun, "0", "30"},
+                                                         {gun, "0", "30", "12", "12"},
+                                                         {gun, "3", "30", "12"},
+                                                         {gun, "-1", "30", "12"},
+                                                         {gun, "", "30", "12"},
+                                                         {gun, "0x", "30", "12"},
+                                                         {gun, "99999999999999999999999", "30", "12"},
+                                                         {folder.path() + "missing.txt", "0", "30", "12"},
+                                                         {folder.path() + "empty.txt", "0", "30", "12"},
+                                                         {"--matrix"},
+                                                         {"--matrix", folder.path()},
+                                                         {"--matrix", folder.path(), folder.path()}};
     for (const std::vector<std::string>& call : calls) {
         std::vector<std::string> arguments = {"penetration"};
         arguments.insert(arguments.end(), call.begin(), call.end());

@@ -12,12 +12,6 @@ namespace varrocade::tests {
 
 namespace {
 
-struct ParseCase {
-    const char* what;
-    std::string content;
-    const char* tree;
-};
-
 std::string described(std::string_view content) {
     TagTree tree;
     tree.parse(content);
@@ -27,40 +21,8 @@ std::string described(std::string_view content) {
 } // namespace
 
 TEST(TagTree, ParsesAsTheGameDoes) {
-    const std::vector<ParseCase> cases = {
-        {"nothing", "", ""},
-        {"only comments and blanks", "// nothing\r\n \t\r\n\t// here\r\n", ""},
-        {"text without elements", "no element\r\n", "=no element"},
-        {"elements and texts", "<a>\r\n\t<b>1</b>\r\n\t<c>2</c>\r\n</a>\r\n", "{a{b=1 c=2}}"},
-        {"an empty element", "<a></a><b>x</b>", "{a b=x}"},
-        {"an element over three lines", "<a>\r\n\tvalue\r\n</a>", "{a=value}"},
-        {"a value that goes over lines", "<a>one\r\n\t two</a>", "{a=onetwo}"},
-        {"inner blanks stay", "<a> two words\t</a>", "{a= two words\t}"},
-        {"an armour line", "\t\t\t\t<front>35@30</front>\t// @0 is upright\r\n", "{front=35@30}"},
-        {"slashes in a value take its closing tag", "<u><a>x//y</a>\r\n<b>1</b></u>", "{u}"},
-        {"a later closing tag serves", "<a>x//y</a>\r\nz</a><b>1</b>", "{a=xz b=1}"},
-        {"single slashes", "<a>x/y/z</a>", "{a=x/y/z}"},
-        {"a comment that begins with three", "<a>1</a>///</a>", "{a=1}"},
-        {"siblings of one name", "<t><w>1</w><w>2</w></t>", "{t{w=1 w=2}}"},
-        {"the same name inside", "<a><a>1</a><b>2</b></a><c>3</c>", "{a{a=1} b=2}"},
-        {"text after a child", "<a><b>1</b>text<c>2</c></a><d>3</d>", "{a{b=1} d=3}"},
-        {"text before a child", "<a>text<b>1</b></a><c>2</c>", "{a=text<b>1</b> c=2}"},
-        {"text after the last element", "<a>1</a>text<b>2</b>", "{a=1}"},
-        {"case counts", "<A>1</a></A><a>2</a>", "{A=1</a> a=2}"},
-        {"no attributes", "<a b>1</a></a b>", "{a b=1</a>}"},
-        {"a word more in the opening tag", "<a b>1</a><c>2</c>", ""},
-        {"nothing closes itself", "<a/>1</a/><b/><c>2</c>", "{a/=1}"},
-        {"a name of no characters", "<>1</><b>2</b>", "{=1 b=2}"},
-        {"a missing closing tag drops what follows", "<u><a>1</a><b>2<c>3</c></u>", "{u{a=1}}"},
-        {"a missing end of a tag", "<u><a>1</a><b</u><c>2</c>", "{u{a=1} c=2}"},
-        {"the last tag has no end", "<a>1</a><b", "{a=1}"},
-        {"a closing tag alone", "</a><b>1</b>", ""},
-        {"a range that begins in another", "<a><b>1</a>2</b><c>3</c>", "{a{b=1</a>2}}"},
-        {"a closing tag of a longer name", "<a>1</ab></a>", "{a=1</ab>}"},
-        {"a closing tag that is a part of a name", "<a>1<</a>2", "{a=1<}"},
-    };
-    for (const ParseCase& c : cases) {
-        EXPECT_EQ(described(c.content), c.tree) << c.what;
+    for (const TextCase& c : textCases("trees.txt")) {
+        EXPECT_EQ(described(c.text), c.expected) << c.heading;
     }
 }
 

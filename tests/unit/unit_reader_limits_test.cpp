@@ -34,11 +34,8 @@ struct LimitCase {
 };
 
 std::string withEntries(const LimitCase& c, bool withTooMany) {
-    std::string content = c.before + "\n";
-    for (std::size_t i = 0; i < c.limit; ++i) {
-        content += c.entry + "\n";
-    }
-    return content + (withTooMany ? c.tooMany + "\n" : "") + c.after;
+    return c.before + "\n" + repeated(c.entry + "\n", c.limit) + (withTooMany ? c.tooMany + "\n" : "") +
+           c.after;
 }
 
 const std::string FullMan =
@@ -100,12 +97,9 @@ TEST(UnitLimits, HoldForQuarterlyAvailabilityToo) {
 
 TEST(UnitLimits, CutLongTexts) {
     const std::string longText(300, 'x');
-    const SquadRecord record = readUnitText("<squad><description><long_name>" + longText +
-                                            "</long_name><language>deu"
-                                            "</language><uniform_game>" +
-                                            longText +
-                                            ".png</uniform_game>"
-                                            "</description></squad>");
+    const SquadRecord record =
+        readUnitText("<squad><description><long_name>" + longText + "</long_name><language>deu</language>" +
+                     "<uniform_game>" + longText + ".png</uniform_game></description></squad>");
     EXPECT_EQ(record.longName, longText.substr(0, 255));
     EXPECT_EQ(record.uniformGame, longText.substr(0, 255));
     EXPECT_EQ(record.language, "de");
@@ -127,15 +121,9 @@ TEST(UnitLimits, CallUnknownElementsOfEveryHeavyWeaponAMortar) {
 }
 
 TEST(UnitLimits, BoundTheDiagnostics) {
-    std::string content = "<squad><hmg>";
-    for (int i = 0; i < 1000; ++i) {
-        content += "<x></x>";
-    }
-    content += "</hmg>";
-    for (int i = 0; i < 1000; ++i) {
-        content += "<hmg></hmg>";
-    }
-    EXPECT_EQ(readWithDiagnostics(content + "</squad>").diagnostics.size(), 100U);
+    const std::string content =
+        "<squad><hmg>" + repeated("<x></x>", 1000) + "</hmg>" + repeated("<hmg></hmg>", 1000) + "</squad>";
+    EXPECT_EQ(readWithDiagnostics(content).diagnostics.size(), 100U);
 }
 
 TEST(UnitLoading, ShowsWhichFileCannotBeOpened) {

@@ -4,6 +4,7 @@
 #include "test_support.h"
 
 #include <array>
+#include <utility>
 
 #include <gtest/gtest.h>
 
@@ -11,45 +12,21 @@ namespace varrocade::tests {
 
 namespace {
 
-std::string inSquad(std::string_view content) {
-    return "<squad>" + std::string(content) + "</squad>";
+/// A content in the elements of a path such as "squad/vehicle".
+std::string within(std::string_view path, std::string_view content) {
+    const std::string name(takePart(path, "/"));
+    return "<" + name + ">" + (path.empty() ? std::string(content) : within(path, content)) + "</" + name +
+           ">";
 }
 
-std::string inVehicle(std::string_view content) {
-    return inSquad("<vehicle>" + std::string(content) + "</vehicle>");
-}
-
-std::string inDescription(std::string_view content) {
-    return inSquad("<description>" + std::string(content) + "</description>");
-}
-
-std::string inAircraft(std::string_view content) {
-    return "<aircraft>" + std::string(content) + "</aircraft>";
+SquadRecord readWithin(std::string_view path, std::string_view content) {
+    return readUnitText(within(path, content));
 }
 
 ComponentRecord onlyComponent(std::string_view content) {
-    const SquadRecord record = readUnitText(inVehicle(content));
+    const SquadRecord record = readWithin("squad/vehicle", content);
     EXPECT_EQ(record.vehicle->components.size(), 1U) << content;
     return record.vehicle->components.empty() ? ComponentRecord() : record.vehicle->components.front();
-}
-
-std::vector<AvailabilityPoint> pointsOf(std::string_view content) {
-    return readUnitText(inSquad(content)).availability;
-}
-
-struct OlderForm {
-    std::string older;
-    std::string today;
-};
-
-void expectSameRecords(const std::vector<OlderForm>& forms, std::string_view before, std::string_view after) {
-    const std::string nothing = std::string(before) + std::string(after);
-    for (const OlderForm& form : forms) {
-        const SquadRecord today = readUnitText(std::string(before) + form.today + std::string(after));
-        EXPECT_FALSE(today == readUnitText(nothing)) << form.today << " does nothing";
-        EXPECT_TRUE(today == readUnitText(std::string(before) + form.older + std::string(after)))
-            << form.older;
-    }
 }
 
 } // namespace
@@ -66,10 +43,9 @@ TEST(UnitReader, StartsFromTheDefaults) {
         EXPECT_TRUE(record.availability.empty() && record.infantrymen.empty());
         EXPECT_FALSE(record.vehicle || record.heavyWeapon || record.aircraft);
     }
-    const SquadRecord vehicleRecord =
-        readUnitText(inVehicle("<drive><exhaust_pipe></exhaust_pipe></drive>"
-                               "<turret><man></man><armour></armour></turret>"));
-    const VehicleRecord& vehicle = vehicleRecord.vehicle.value();
+    const std::string parts = "<drive><exhaust_pipe></exhaust_pipe></drive>"
+                              "<turret><man></man><armour></armour></turret>";
+    const VehicleRecord vehicle = readWithin("squad/vehicle", parts).vehicle.value();
     EXPECT_EQ(vehicle.reliability, "RELIABILITY_AVERAGE");
     EXPECT_EQ(vehicle.steering, "STEERING_CLUTCH_AND_BRAKE");
     EXPECT_EQ(vehicle.idleRevolutions, 500);
@@ -81,70 +57,24 @@ TEST(UnitReader, StartsFromTheDefaults) {
     EXPECT_EQ(vehicle.components.at(0).crew.at(0).job, "JOB_LOADER");
     EXPECT_LT(vehicle.components.at(0).armour.bottom, 0);
     EXPECT_LT(vehicle.components.at(0).armour.mantlet, 0);
-    EXPECT_TRUE(readUnitText(inSquad("<hmg></hmg>")).heavyWeapon.value().moveable);
-    EXPECT_TRUE(readUnitText(inAircraft("<rotor_blades></rotor_blades>"))
-                    .aircraft.value()
-                    .rotorBlades.at(0)
-                    .clockwise);
+    EXPECT_TRUE(readWithin("squad/hmg", "").heavyWeapon.value().moveable);
+    EXPECT_TRUE(readWithin("aircraft/rotor_blades", "").aircraft.value().rotorBlades.at(0).clockwise);
 }
 
-TEST(UnitReader, TakesOlderNamesInVehicles) {
-    const std::vector<OlderForm> turning = {
-        {"<angle_left>30</angle_left>", "<rotate_left>30</rotate_left>"},
-        {"<angle_right>40</angle_right>", "<rotate_right>40</rotate_right>"},
-        {"<minAngle>-30</minAngle>", "<rotate_left>30</rotate_left>"},
-        {"<min_angle>-30</min_angle>", "<rotate_left>30</rotate_left>"},
-        {"<maxAngle>40</maxAngle>", "<rotate_right>40</rotate_right>"},
-        {"<max_angle>40</max_angle>", "<rotate_right>40</rotate_right>"},
-        {"<minAngle>-30</minAngle><angle_right>40</angle_right>",
-         "<rotate_left>30</rotate_left><rotate_right>40</rotate_right>"},
-        {"<minAngle>-2147483648</minAngle>", "<rotate_left>2147483647</rotate_left>"},
-        {"<rotate_right>9</rotate_right><min_angle>30</min_angle>",
-         "<rotate_right>9</rotate_right><rotate_left>0</rotate_left>"},
-        {"<rotate_left>9</rotate_left><max_angle>-40</max_angle>",
-         "<rotate_left>9</rotate_left><rotate_right>0</rotate_right>"},
-    };
-    expectSameRecords(turning, "<squad><vehicle><turret>", "</turret></vehicle></squad>");
-    expectSameRecords(turning, "<squad><vehicle><fixed_weapon>", "</fixed_weapon></vehicle></squad>");
-    for (const std::string weapon : {"mortar", "hmg", "atgun", "recoilless_rifle"}) {
-        expectSameRecords(turning, "<squad><" + weapon + ">", "</" + weapon + "></squad>");
-    }
-    const std::vector<OlderForm> offsetAngle = {
-        {"<angle_offset>12</angle_offset>", "<offset_angle>12</offset_angle>"},
-        {"<offsetAngle>12</offsetAngle>", "<offset_angle>12</offset_angle>"},
-    };
-    expectSameRecords(offsetAngle, "<squad><vehicle><turret>", "</turret></vehicle></squad>");
-    expectSameRecords(offsetAngle, "<squad><vehicle><fixed_weapon>", "</fixed_weapon></vehicle></squad>");
-    expectSameRecords({{"<horizontal_angle>90</horizontal_angle>", "<angle>90</angle>"}},
-                      "<squad><vehicle><drive><exhaust_pipe>", "</exhaust_pipe></drive></vehicle></squad>");
-    const std::vector<OlderForm> flatDrive = {
-        {"<engine>Maybach</engine>", "<engine><name>Maybach</name></engine>"},
-        {"<engine>ENGINE_BUICK_SERIES_60</engine>",
-         "<engine><name>Buick Series 60</name><horsepower>330</horsepower></engine>"},
-        {"<reliability>RELIABILITY_GOOD</reliability>",
-         "<engine><reliability>RELIABILITY_GOOD</reliability></engine>"},
-        {"<mount>MOUNT_FRONT</mount>", "<engine><mount>MOUNT_FRONT</mount></engine>"},
-        {"<mount>MOUNT_MIDDLE</mount>", "<engine><mount>MOUNT_MIDDLE</mount></engine>"},
-        {"<rpm_idle>400</rpm_idle>", "<engine><rpm_idle>400</rpm_idle></engine>"},
-        {"<rpm_limit>3000</rpm_limit>", "<engine><rpm_limit>3000</rpm_limit></engine>"},
-    };
-    expectSameRecords(flatDrive, "<squad><vehicle><drive>", "</drive></vehicle></squad>");
-}
-
-TEST(UnitReader, TakesOlderNamesOfPlates) {
-    std::vector<OlderForm> plates;
-    for (const char* pair :
-         {"front_upper upper_front", "front_lower lower_front", "rear_upper upper_rear",
-          "rear_lower lower_rear", "side_upper upper_side", "side_lower lower_side", "left_upper upper_left",
-          "left_lower lower_left", "right_upper upper_right", "right_lower lower_right"}) {
-        const std::string names = pair;
-        const std::string older = names.substr(0, names.find(' '));
-        const std::string today = names.substr(names.find(' ') + 1);
-        plates.push_back({"<" + older + ">45@30</" + older + ">", "<" + today + ">45@30</" + today + ">"});
-    }
-    for (const std::string component : {"hull", "superstructure", "turret", "fixed_weapon"}) {
-        expectSameRecords(plates, "<squad><vehicle><" + component + "><armour>",
-                          "</armour></" + component + "></vehicle></squad>");
+TEST(UnitReader, TakesOlderForms) {
+    for (const TextCase& c : textCases("older_forms.txt")) {
+        std::string_view paths = c.heading;
+        while (!paths.empty()) {
+            const std::string_view path = takePart(paths, " ");
+            std::string_view olderForms = c.text;
+            std::string_view forms = c.expected;
+            while (!olderForms.empty() || !forms.empty()) {
+                const std::string_view older = takePart(olderForms, "\n");
+                const SquadRecord today = readWithin(path, takePart(forms, "\n"));
+                EXPECT_TRUE(today == readWithin(path, older)) << path << ' ' << older;
+                EXPECT_FALSE(today == readWithin(path, "")) << path << ' ' << older << " does nothing";
+            }
+        }
     }
 }
 
@@ -159,16 +89,11 @@ TEST(UnitReader, SetsTheRightPlates) {
     const std::vector<Case> cases = {
         {"<front>45@30</front>", {p, p, no, no, no, no, no, no}},
         {"<upper_front>45@30</upper_front>", {p, no, no, no, no, no, no, no}},
-        {"<lower_front>45@30</lower_front>", {no, p, no, no, no, no, no, no}},
         {"<side>45@30</side>", {no, no, p, p, p, p, no, no}},
         {"<upper_side>45@30</upper_side>", {no, no, p, p, no, no, no, no}},
         {"<lower_side>45@30</lower_side>", {no, no, no, no, p, p, no, no}},
         {"<upper_left>45@30</upper_left>", {no, no, p, no, no, no, no, no}},
-        {"<upper_right>45@30</upper_right>", {no, no, no, p, no, no, no, no}},
-        {"<lower_left>45@30</lower_left>", {no, no, no, no, p, no, no, no}},
-        {"<lower_right>45@30</lower_right>", {no, no, no, no, no, p, no, no}},
         {"<rear>45@30</rear>", {no, no, no, no, no, no, p, p}},
-        {"<upper_rear>45@30</upper_rear>", {no, no, no, no, no, no, p, no}},
         {"<lower_rear>45@30</lower_rear>", {no, no, no, no, no, no, no, p}},
         {"<front>50@30</front><lower_front>20</lower_front>", {{{50, 30}, {20, 0}, no, no, no, no, no, no}}},
         {"<lower_front>20</lower_front><front>45@30</front>", {p, p, no, no, no, no, no, no}},
@@ -177,11 +102,9 @@ TEST(UnitReader, SetsTheRightPlates) {
         {"<front>45@</front>", {{{45, 0}, {45, 0}, no, no, no, no, no, no}}},
     };
     for (const Case& c : cases) {
-        const ArmourRecord armour =
-            onlyComponent("<hull><armour>" + std::string(c.armour) + "</armour></hull>").armour;
-        const std::array<ArmourPlate, 8> plates = {armour.upperFront, armour.lowerFront, armour.upperLeft,
-                                                   armour.upperRight, armour.lowerLeft,  armour.lowerRight,
-                                                   armour.upperRear,  armour.lowerRear};
+        const ArmourRecord a = onlyComponent(within("hull/armour", c.armour)).armour;
+        const std::array<ArmourPlate, 8> plates = {a.upperFront, a.lowerFront, a.upperLeft, a.upperRight,
+                                                   a.lowerLeft,  a.lowerRight, a.upperRear, a.lowerRear};
         EXPECT_TRUE(plates == c.plates) << c.armour;
     }
 }
@@ -190,11 +113,10 @@ TEST(UnitReader, LimitsTheTraverse) {
     EXPECT_FALSE(onlyComponent("<turret><offset_angle>9</offset_angle></turret>").limitedTraverse);
     for (const char* name : {"rotate_left", "rotate_right", "angle_left", "angle_right", "minAngle",
                              "min_angle", "maxAngle", "max_angle"}) {
-        const std::string limit = "<" + std::string(name) + ">0</" + name + ">";
-        EXPECT_TRUE(onlyComponent("<turret>" + limit + "</turret>").limitedTraverse) << name;
-        EXPECT_FALSE(onlyComponent("<fixed_weapon>" + limit + "</fixed_weapon>").limitedTraverse) << name;
-        EXPECT_TRUE(
-            readUnitText(inSquad("<mortar>" + limit + "</mortar>")).heavyWeapon.value().limitedTraverse);
+        const std::string limit = within(name, "0");
+        EXPECT_TRUE(onlyComponent(within("turret", limit)).limitedTraverse) << name;
+        EXPECT_FALSE(onlyComponent(within("fixed_weapon", limit)).limitedTraverse) << name;
+        EXPECT_TRUE(readWithin("squad/mortar", limit).heavyWeapon.value().limitedTraverse) << name;
     }
     // Limits as they stand are taken as they stand.
     EXPECT_EQ(onlyComponent("<turret><rotate_left>-5</rotate_left></turret>").rotateLeft, -5);
@@ -207,16 +129,12 @@ TEST(UnitReader, MarksWhatADischargerWasGiven) {
         bool angleGiven;
         bool elevationGiven;
     };
-    const std::vector<Case> cases = {
-        {"<offsetX>1</offsetX><ammo>3</ammo><reload>9</reload>", false, false, false},
-        {"<angle>0</angle>", true, true, false},
-        {"<elevation>0</elevation>", true, false, true},
-        {"<speed>0</speed>", true, false, false},
-    };
-    for (const Case& c : cases) {
-        const ComponentRecord hull =
-            onlyComponent("<hull><smoke_discharger>" + std::string(c.content) + "</smoke_discharger></hull>");
-        const SmokeDischargerRecord discharger = hull.smokeDischargers.at(0);
+    for (const Case& c :
+         {Case{"<offsetX>1</offsetX><ammo>3</ammo><reload>9</reload>", false, false, false},
+          Case{"<angle>0</angle>", true, true, false}, Case{"<elevation>0</elevation>", true, false, true},
+          Case{"<speed>0</speed>", true, false, false}}) {
+        const SmokeDischargerRecord discharger =
+            onlyComponent(within("hull/smoke_discharger", c.content)).smokeDischargers.at(0);
         EXPECT_EQ(discharger.directional, c.directional) << c.content;
         EXPECT_EQ(discharger.angleGiven, c.angleGiven) << c.content;
         EXPECT_EQ(discharger.elevationGiven, c.elevationGiven) << c.content;
@@ -225,36 +143,27 @@ TEST(UnitReader, MarksWhatADischargerWasGiven) {
 
 TEST(UnitReader, TakesOnlyYesForAFlag) {
     for (const char* text : {"no", "", "Yes", "YES", "1", "true", " yes", "yes "}) {
-        const std::string amphibious = "<is_amphibious>" + std::string(text) + "</is_amphibious>";
-        EXPECT_FALSE(readUnitText(inVehicle("<attributes><is_amphibious>yes</is_amphibious>" + amphibious +
-                                            "</attributes>"))
-                         .vehicle.value()
-                         .amphibious)
+        const std::string twice = "<is_amphibious>yes</is_amphibious>" + within("is_amphibious", text);
+        EXPECT_FALSE(readWithin("squad/vehicle/attributes", twice).vehicle.value().amphibious) << text;
+        EXPECT_FALSE(readWithin("squad/atgun/moveable", text).heavyWeapon.value().moveable) << text;
+        EXPECT_FALSE(
+            readWithin("aircraft/rotor_blades/clockwise", text).aircraft.value().rotorBlades.at(0).clockwise)
             << text;
-        const std::string moveable = "<moveable>" + std::string(text) + "</moveable>";
-        EXPECT_FALSE(readUnitText(inSquad("<atgun>" + moveable + "</atgun>")).heavyWeapon.value().moveable)
-            << text;
-        const std::string clockwise = "<clockwise>" + std::string(text) + "</clockwise>";
-        const SquadRecord aircraft =
-            readUnitText(inAircraft("<rotor_blades>" + clockwise + "</rotor_blades>"));
-        EXPECT_FALSE(aircraft.aircraft.value().rotorBlades.at(0).clockwise) << text;
     }
 }
 
 TEST(UnitReader, TakesKnownQualitiesAndMountsOnly) {
     for (const std::string_view name : qualityNames()) {
-        const SquadRecord record =
-            readUnitText(inDescription("<quality>" + std::string(name) + "</quality>"));
-        EXPECT_EQ(record.quality, name == "QUALITY_RAW" ? "QUALITY_UNTRAINED" : name);
+        EXPECT_EQ(readWithin("squad/description/quality", name).quality,
+                  name == "QUALITY_RAW" ? "QUALITY_UNTRAINED" : name);
     }
-    EXPECT_EQ(readUnitText(inDescription("<quality>QUALITY_ELITE</quality><quality>GREAT</quality>")).quality,
-              "QUALITY_REGULAR");
+    const std::string qualities = "<quality>QUALITY_ELITE</quality><quality>GREAT</quality>";
+    EXPECT_EQ(readWithin("squad/description", qualities).quality, "QUALITY_REGULAR");
     const std::string mounts = "<mount>MOUNT_FRONT</mount><mount>MOUNT_REAR</mount>";
-    EXPECT_EQ(
-        readUnitText(inVehicle("<drive><engine>" + mounts + "</engine></drive>")).vehicle.value().engineMount,
-        EngineMount::Rear);
+    EXPECT_EQ(readWithin("squad/vehicle/drive/engine", mounts).vehicle.value().engineMount,
+              EngineMount::Rear);
     // Other names are kept as they are, known or not.
-    EXPECT_EQ(readUnitText(inDescription("<nationality>NATIONALITY_ATLANTIC</nationality>")).nationality,
+    EXPECT_EQ(readWithin("squad/description/nationality", "NATIONALITY_ATLANTIC").nationality,
               "NATIONALITY_ATLANTIC");
 }
 
@@ -264,19 +173,15 @@ TEST(UnitReader, LooksUpFlatEngines) {
         const char* name;
         int horsepower;
     };
-    const std::vector<Case> cases = {
-        {"ENGINE_AMERICAN_LAFRANCE_312A_V_12", "Lafrance 312A V12", 244},
-        {"ENGINE_OF_NOBODY", "", 7},
-        {"engine_buick_series_60", "engine_buick_series_60", 7},
-        {"Buick", "Buick", 7},
-        {"", "before", 7},
-    };
-    for (const Case& c : cases) {
-        const SquadRecord record = readUnitText(
-            inVehicle("<drive><engine><name>before</name><horsepower>7</horsepower></engine><engine>" +
-                      std::string(c.text) + "</engine></drive>"));
-        EXPECT_EQ(record.vehicle.value().engineName, c.name) << c.text;
-        EXPECT_EQ(record.vehicle.value().horsepower, c.horsepower) << c.text;
+    for (const Case& c :
+         {Case{"ENGINE_AMERICAN_LAFRANCE_312A_V_12", "Lafrance 312A V12", 244},
+          Case{"ENGINE_OF_NOBODY", "", 7}, Case{"engine_buick_series_60", "engine_buick_series_60", 7},
+          Case{"Buick", "Buick", 7}, Case{"", "before", 7}}) {
+        const std::string before = "<engine><name>before</name><horsepower>7</horsepower></engine>";
+        const VehicleRecord vehicle =
+            readWithin("squad/vehicle/drive", before + within("engine", c.text)).vehicle.value();
+        EXPECT_EQ(vehicle.engineName, c.name) << c.text;
+        EXPECT_EQ(vehicle.horsepower, c.horsepower) << c.text;
     }
 }
 
@@ -284,21 +189,17 @@ TEST(UnitReader, KnowsDefaultUniforms) {
     const std::string images =
         "<uniform_profile>DEFAULT.PNG</uniform_profile><uniform_game>Crew.PNG</uniform_game>"
         "<uniform_ranks>default</uniform_ranks>";
-    const SquadRecord record = readUnitText(inDescription(images));
+    const SquadRecord record = readWithin("squad/description", images);
     EXPECT_EQ(record.uniformProfile, "Default");
     EXPECT_EQ(record.uniformGame, "Crew");
     EXPECT_EQ(record.uniformRanks, "Default");
     EXPECT_FALSE(record.namedUniform);
-    struct Case {
-        const char* text;
-        const char* name;
-    };
-    for (const Case& c : {Case{"DEFAULT.png", ""}, Case{"default", ""}, Case{"Winter", "Winter"},
-                          Case{"Winter.png", "Winter.png"}, Case{"", ""}}) {
-        const SquadRecord named =
-            readUnitText(inDescription("<uniform>" + std::string(c.text) + "</uniform>"));
-        EXPECT_TRUE(named.namedUniform) << c.text;
-        EXPECT_EQ(named.uniformName, c.name) << c.text;
+    using Case = std::pair<std::string, std::string>;
+    for (const auto& [text, name] : {Case{"DEFAULT.png", ""}, Case{"default", ""}, Case{"Winter", "Winter"},
+                                     Case{"Winter.png", "Winter.png"}, Case{"", ""}}) {
+        const SquadRecord named = readWithin("squad/description/uniform", text);
+        EXPECT_TRUE(named.namedUniform) << text;
+        EXPECT_EQ(named.uniformName, name.c_str()) << text;
     }
     // "Default" is a name like others elsewhere.
     EXPECT_EQ(onlyComponent("<hull><image_view>default.png</image_view></hull>").viewImage, "default");
@@ -333,16 +234,18 @@ TEST(UnitReader, ConvertsQuarterlyAvailability) {
         {"numbers are brought into range", "<1942Q1>70000</1942Q1>", {{3, 1942, 65535}}},
     };
     for (const Case& c : cases) {
-        EXPECT_TRUE(pointsOf("<commonness>" + std::string(c.content) + "</commonness>") == c.points)
-            << c.what;
+        for (const char* unit : {"squad/commonness", "aircraft/commonness"}) {
+            EXPECT_TRUE(readWithin(unit, c.content).availability == c.points) << unit << ": " << c.what;
+        }
     }
-    EXPECT_TRUE(readUnitText(inSquad("<commonness><1942Q1>0</1942Q1></commonness>")).convertedAvailability);
-    EXPECT_FALSE(readUnitText(inSquad("<commonness><old>5</old></commonness>")).convertedAvailability);
-    EXPECT_TRUE(readUnitText(inAircraft("<commonness><1942Q1>4</1942Q1></commonness>")).availability.size() ==
-                1);
+    EXPECT_TRUE(readWithin("squad/commonness/1942Q1", "0").convertedAvailability);
+    EXPECT_FALSE(readWithin("squad/commonness/old", "5").convertedAvailability);
 }
 
 TEST(UnitReader, JoinsBothAvailabilities) {
+    const auto pointsOf = [](const std::string& content) {
+        return readWithin("squad", content).availability;
+    };
     const std::string dated =
         "<availability><data><month>1</month><year>1940</year><number>2</number></data></availability>";
     const std::string quarterly = "<commonness><1942Q2>3</1942Q2></commonness>";
@@ -355,98 +258,64 @@ TEST(UnitReader, JoinsBothAvailabilities) {
 }
 
 TEST(UnitReader, NormalisesAnglesOfAircraftWeapons) {
-    struct Case {
-        const char* text;
-        int angle;
-    };
-    for (const Case& c :
+    using Case = std::pair<std::string, int>;
+    for (const auto& [text, angle] :
          {Case{"0", 0}, Case{"180", 180}, Case{"-180", -180}, Case{"181", -179}, Case{"-181", 179},
           Case{"359", -1}, Case{"360", 0}, Case{"540", 180}, Case{"-540", -180}, Case{"-900", -180},
           Case{"2147483647", 127}, Case{"-2147483648", -128}}) {
         for (const std::string name : {"offset_angle", "offsetAngle"}) {
-            const SquadRecord record = readUnitText(inAircraft("<armament><weapon><" + name + ">" + c.text +
-                                                               "</" + name + "></weapon></armament>"));
-            EXPECT_EQ(record.aircraft.value().weapons.at(0).offsetAngle, c.angle) << c.text;
+            const SquadRecord record = readWithin("aircraft/armament/weapon/" + name, text);
+            EXPECT_EQ(record.aircraft.value().weapons.at(0).offsetAngle, angle) << text;
         }
     }
-    const std::string turret = "<turret><weapon><offset_angle>540</offset_angle></weapon></turret>";
-    EXPECT_EQ(onlyComponent(turret).weapons.at(0).offsetAngle, 540) << "only aircraft";
+    EXPECT_EQ(onlyComponent(within("turret/weapon/offset_angle", "540")).weapons.at(0).offsetAngle, 540)
+        << "only aircraft";
 }
 
 TEST(UnitReader, GivesBombsTheirFlavour) {
-    struct Case {
-        const char* ammo;
-        const char* flavour;
-    };
-    for (const Case& c :
+    using Case = std::pair<std::string, const char*>;
+    for (const auto& [ammo, flavour] :
          {Case{"<for>WEAPON_BOMB_SC50</for>", "FLAVOUR_BOMB_HE"},
           Case{"<flavour></flavour><for>WEAPON_BOMB_SC50</for>", "FLAVOUR_BOMB_HE"},
           Case{"<flavour>FLAVOUR_SMOKE</flavour><for>WEAPON_BOMB_SC50</for>", "FLAVOUR_SMOKE"},
           Case{"<for>WEAPON_HMG_MG17</for>", ""}, Case{"<rounds>4</rounds>", ""}}) {
-        const std::string ammo = "<ammo>" + std::string(c.ammo) + "</ammo>";
-        const SquadRecord record = readUnitText(inAircraft("<armament>" + ammo + "</armament>"));
-        EXPECT_EQ(record.aircraft.value().ammo.at(0).flavour, c.flavour) << c.ammo;
+        EXPECT_EQ(readWithin("aircraft/armament/ammo", ammo).aircraft.value().ammo.at(0).flavour, flavour)
+            << ammo;
     }
 }
 
 TEST(UnitReader, MatchesTheEndOfTheChainOfNames) {
-    EXPECT_TRUE(
-        readUnitText("<game><squad><description><type>TYPE_LORRY</type></description></squad></game>").type ==
-        "TYPE_LORRY");
+    EXPECT_EQ(readWithin("game/squad/description/type", "TYPE_LORRY").type, "TYPE_LORRY");
     // The same names in other places mean nothing.
     const SquadRecord empty = readUnitText("<squad></squad>");
-    for (const char* content :
-         {"<description><type>TYPE_LORRY</type></description>", "<squad><type>TYPE_LORRY</type></squad>",
-          "<squad><x><description><type>TYPE_LORRY</type></description></x></squad>",
-          "<vehicle><hull></hull></vehicle>", "<squad><hull><width>5</width></hull></squad>",
-          "<squad><data><year>5</year></data></squad>", "<squad><armament></armament></squad>",
-          "<Squad><description><type>TYPE_LORRY</type></description></Squad>",
-          "<squad><man2></man2><MAN></MAN></squad>"}) {
-        EXPECT_TRUE(readUnitText(content) == empty) << content;
+    for (const char* path :
+         {"description/type", "squad/type", "squad/x/description/type", "vehicle/hull", "squad/hull/width",
+          "squad/data/year", "squad/armament", "Squad/description/type", "squad/man2", "squad/MAN"}) {
+        EXPECT_TRUE(readWithin(path, "5") == empty) << path;
     }
-    const SquadRecord crew =
-        readUnitText(inVehicle("<superstructure><man></man><weapon></weapon></superstructure>"));
+    const SquadRecord crew = readWithin("squad/vehicle/superstructure", "<man></man><weapon></weapon>");
     EXPECT_TRUE(crew.vehicle.value().components.at(0).crew.empty());
     EXPECT_TRUE(crew.infantrymen.empty());
-    EXPECT_TRUE(readUnitText(inAircraft("<weapon><type>X</type></weapon>")).aircraft.value().weapons.empty());
-    EXPECT_TRUE(onlyComponent("<turret><man><ammo><flavour>X</flavour></ammo></man></turret>")
-                    .crew.at(0)
-                    .ammo.at(0)
-                    .flavour.empty())
+    EXPECT_TRUE(readWithin("aircraft/weapon/type", "X").aircraft.value().weapons.empty());
+    EXPECT_TRUE(onlyComponent(within("turret/man/ammo/flavour", "X")).crew.at(0).ammo.at(0).flavour.empty())
         << "a crew man's ammunition has no flavour";
-    EXPECT_EQ(readUnitText(inSquad("<man><ammo><flavour>X</flavour></ammo></man>"))
-                  .infantrymen.at(0)
-                  .ammo.at(0)
-                  .flavour,
-              "X");
-}
-
-TEST(UnitReader, KeepsTheHeavyWeaponsPlace) {
-    const std::string man = "<man></man>";
-    for (std::size_t before = 0; before < 3; ++before) {
-        std::string content;
-        for (std::size_t i = 0; i < 3; ++i) {
-            content += (i == before ? "<hmg></hmg>" : "") + man;
-        }
-        const SquadRecord record = readUnitText(inSquad(content));
-        EXPECT_EQ(record.heavyWeaponPlace, before);
-        EXPECT_EQ(record.infantrymen.size(), 3U);
-        EXPECT_EQ(record.heavyWeapon.value().kind, HeavyWeaponKind::Hmg);
-    }
+    EXPECT_EQ(readWithin("squad/man/ammo/flavour", "X").infantrymen.at(0).ammo.at(0).flavour, "X");
 }
 
 TEST(UnitReader, BeginsASecondVehicleOrAircraftAfresh) {
-    const SquadRecord vehicle =
-        readUnitText(inSquad("<vehicle><attributes><weight>5</weight></attributes><hull></hull>"
-                             "</vehicle><vehicle><turret></turret></vehicle>"));
-    EXPECT_EQ(vehicle.vehicle.value().weight, 0);
-    ASSERT_EQ(vehicle.vehicle.value().components.size(), 1U);
-    EXPECT_EQ(vehicle.vehicle.value().components[0].kind, ComponentKind::Turret);
-    const SquadRecord aircraft =
-        readUnitText("<aircraft><description><speed>5</speed></description></aircraft>"
-                     "<aircraft><rotor_blades></rotor_blades></aircraft>");
-    EXPECT_EQ(aircraft.aircraft.value().speed, 0);
-    EXPECT_EQ(aircraft.aircraft.value().rotorBlades.size(), 1U);
+    const VehicleRecord vehicle =
+        readWithin("squad", "<vehicle><attributes><weight>5</weight></attributes><hull></hull></vehicle>"
+                            "<vehicle><turret></turret></vehicle>")
+            .vehicle.value();
+    EXPECT_EQ(vehicle.weight, 0);
+    ASSERT_EQ(vehicle.components.size(), 1U);
+    EXPECT_EQ(vehicle.components[0].kind, ComponentKind::Turret);
+    const AircraftRecord aircraft =
+        readUnitText("<aircraft><description><speed>5</speed></description>"
+                     "</aircraft><aircraft><rotor_blades></rotor_blades></aircraft>")
+            .aircraft.value();
+    EXPECT_EQ(aircraft.speed, 0);
+    EXPECT_EQ(aircraft.rotorBlades.size(), 1U);
 }
 
 } // namespace varrocade::tests
