@@ -191,6 +191,17 @@ LRESULT command(HWND window, WPARAM parameter) {
     }
 }
 
+/// The system hands the mouse to the drawing and the sheet itself; programs that drive this one may send all
+/// to the window.
+void passToPart(HWND window, UINT message, WPARAM parameter, LPARAM detail) {
+    POINT point{GET_X_LPARAM(detail), GET_Y_LPARAM(detail)};
+    HWND part = ChildWindowFromPoint(window, point);
+    if (part == GetDlgItem(window, IDC_DRAWING) || part == GetDlgItem(window, IDC_SHEET)) {
+        MapWindowPoints(window, part, &point, 1);
+        SendMessageA(part, message, parameter, MAKELPARAM(point.x, point.y));
+    }
+}
+
 LRESULT CALLBACK mainWindowProcedure(HWND window, UINT message, WPARAM parameter, LPARAM detail) {
     switch (message) {
     case WM_CREATE:
@@ -218,6 +229,13 @@ LRESULT CALLBACK mainWindowProcedure(HWND window, UINT message, WPARAM parameter
         return TRUE;
     case WM_MOUSEWHEEL:
         wheel(parameter, detail);
+        return 0;
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONUP:
+    case WM_LBUTTONDBLCLK:
+    case WM_RBUTTONUP:
+    case WM_MOUSEMOVE:
+        passToPart(window, message, parameter, detail);
         return 0;
     case WM_DPICHANGED:
         moveToOtherScreen(window, HIWORD(parameter), *reinterpret_cast<const RECT*>(detail));

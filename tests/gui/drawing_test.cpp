@@ -44,9 +44,14 @@ protected:
     [[nodiscard]] POINT drag(int right, int down) const {
         const POINT from = editor->caret();
         const POINT to{from.x + right, from.y + down};
-        drawing.send(WM_LBUTTONDOWN, MK_LBUTTON, at(from));
-        drawing.send(WM_MOUSEMOVE, MK_LBUTTON, at({from.x + right / 2, from.y + down / 2}));
-        drawing.send(WM_MOUSEMOVE, MK_LBUTTON, at(to));
+        // As a program does that knows of one window only.
+        const auto send = [&](UINT message, POINT place) {
+            MapWindowPoints(drawing.handle(), window.handle(), &place, 1);
+            window.send(message, MK_LBUTTON, at(place));
+        };
+        send(WM_LBUTTONDOWN, from);
+        send(WM_MOUSEMOVE, {from.x + right / 2, from.y + down / 2});
+        send(WM_MOUSEMOVE, to);
         return to;
     }
     /// "X 12 cm, Y 34 cm" of the selected part, as the file has it.
