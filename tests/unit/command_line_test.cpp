@@ -20,28 +20,12 @@ std::string cleanSquad() {
 TEST(CommandLine, RefusesWhatItDoesNotUnderstand) {
     const TemporaryFolder folder;
     folder.write("in.txt", LooseSquad);
-    const std::string in = folder.path() + "in.txt";
-    const std::string out = folder.path() + "out.txt";
-    const std::string missing = folder.path() + "missing";
-    const std::vector<std::vector<std::string>> calls = {{},
-                                                         {"explode"},
-                                                         {"rewrite"},
-                                                         {"rewrite", "infantry", in},
-                                                         {"rewrite", "infantry", in, out, out},
-                                                         {"rewrite", "Infantry", in, out},
-                                                         {"rewrite", "tanks", in, out},
-                                                         {"tree"},
-                                                         {"tree", in, in},
-                                                         {"tree", missing},
-                                                         {"tree", folder.path()},
-                                                         {"rewrite", "infantry", missing, out},
-                                                         {"rewrite", "vehicles", in, out},
-                                                         {"rewrite", "infantry", in, missing + "\\out.txt"}};
-    for (const std::vector<std::string>& call : calls) {
-        const CommandOutcome outcome = runCommand(call);
-        EXPECT_EQ(outcome.status, cli::CouldNot) << outcome.complaints;
-        EXPECT_TRUE(outcome.output.empty());
-        EXPECT_FALSE(outcome.complaints.empty());
+    for (const char* call :
+         {"", "explode", "rewrite", "rewrite infantry $in.txt", "rewrite infantry $in.txt $out.txt $out.txt",
+          "rewrite Infantry $in.txt $out.txt", "rewrite tanks $in.txt $out.txt", "tree",
+          "tree $in.txt $in.txt", "tree $missing.txt", "tree $", "rewrite infantry $missing.txt $out.txt",
+          "rewrite vehicles $in.txt $out.txt", "rewrite infantry $in.txt $missing\\out.txt"}) {
+        expectRefused(folder, call);
     }
     EXPECT_EQ(folder.files(), std::vector<std::string>{"in.txt"});
     EXPECT_NE(runCommand({}).complaints.find("rewrite [--explain] CATEGORY IN OUT"), std::string::npos);

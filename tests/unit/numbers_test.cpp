@@ -34,28 +34,14 @@ TEST(Numbers, ReadsIntegersLeniently) {
 TEST(Numbers, ReadsRealNumbersLeniently) {
     constexpr double largest = std::numeric_limits<double>::max();
     using Case = std::pair<std::string_view, double>;
-    for (const auto& [text, value] : {Case{"", 0},
-                                      Case{".", 0},
-                                      Case{"7.92", 7.92},
-                                      Case{"  -0.5kg", -0.5},
-                                      Case{"+3.", 3},
-                                      Case{".25", 0.25},
-                                      Case{"-.25", -0.25},
-                                      Case{"1e3", 1000},
-                                      Case{"1E-2", 0.01},
-                                      Case{"2e", 2},
-                                      Case{"2e+", 2},
-                                      Case{"1,5", 1},
-                                      Case{"abc", 0},
-                                      Case{"nan", 0},
-                                      Case{"inf", 0},
-                                      Case{"-infinity", 0},
-                                      Case{"0x1p4", 0},
-                                      Case{"1e999", largest},
-                                      Case{"-1e999", -largest},
-                                      Case{"1e-999", 0},
-                                      Case{"0.0000001", 1e-7}}) {
+    for (const auto& [text, value] :
+         {Case{"7.92", 7.92}, Case{"  -0.5kg", -0.5}, Case{"+3.", 3}, Case{".25", 0.25}, Case{"-.25", -0.25},
+          Case{"1e3", 1000}, Case{"1E-2", 0.01}, Case{"2e", 2}, Case{"2e+", 2}, Case{"1,5", 1},
+          Case{"1e999", largest}, Case{"-1e999", -largest}, Case{"0.0000001", 1e-7}}) {
         EXPECT_EQ(toReal(text), value) << text;
+    }
+    for (const char* text : {"", ".", "abc", "nan", "inf", "-infinity", "0x1p4", "1e-999"}) {
+        EXPECT_EQ(toReal(text), 0.0) << text;
     }
     EXPECT_EQ(toReal("1e99999999999"), largest);
     EXPECT_EQ(toReal(std::string(400, '1') + "e-5"), largest);

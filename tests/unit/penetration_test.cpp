@@ -308,28 +308,11 @@ TEST(PenetrationCommand, RefusesWhatItDoesNotUnderstand) {
     const TemporaryFolder folder;
     folder.write("gun.txt", GunText);
     folder.write("empty.txt", "");
-    const std::string gun = folder.path() + "gun.txt";
-    const std::vector<std::vector<std::string>> calls = {{},
-                                                         {gun},
-                                                         {gun, "0", "30"},
-                                                         {gun, "0", "30", "12", "12"},
-                                                         {gun, "3", "30", "12"},
-                                                         {gun, "-1", "30", "12"},
-                                                         {gun, "", "30", "12"},
-                                                         {gun, "0x", "30", "12"},
-                                                         {gun, "99999999999999999999999", "30", "12"},
-                                                         {folder.path() + "missing.txt", "0", "30", "12"},
-                                                         {folder.path() + "empty.txt", "0", "30", "12"},
-                                                         {"--matrix"},
-                                                         {"--matrix", folder.path()},
-                                                         {"--matrix", folder.path(), folder.path()}};
-    for (const std::vector<std::string>& call : calls) {
-        std::vector<std::string> arguments = {"penetration"};
-        arguments.insert(arguments.end(), call.begin(), call.end());
-        const CommandOutcome outcome = runCommand(arguments);
-        EXPECT_EQ(outcome.status, cli::CouldNot) << outcome.complaints;
-        EXPECT_TRUE(outcome.output.empty());
-        EXPECT_FALSE(outcome.complaints.empty());
+    for (const char* arguments :
+         {"", "$gun.txt", "$gun.txt 0 30", "$gun.txt 0 30 12 12", "$gun.txt 3 30 12", "$gun.txt -1 30 12",
+          "$gun.txt  30 12", "$gun.txt 0x 30 12", "$gun.txt 99999999999999999999999 30 12",
+          "$missing.txt 0 30 12", "$empty.txt 0 30 12", "--matrix", "--matrix $", "--matrix $ $"}) {
+        expectRefused(folder, "penetration " + std::string(arguments));
     }
 }
 

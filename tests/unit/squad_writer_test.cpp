@@ -25,7 +25,7 @@ SquadRecord fullSquad() {
     record.availability = {{11, 1939, 300}};
     CrewManRecord leader;
     std::tie(leader.job, leader.language) = std::tuple("JOB_SQUAD_LEADER", "se");
-    std::tie(leader.bodyArmour, leader.nightVision) = std::tuple(true, true);
+    leader.bodyArmour = leader.nightVision = true;
     leader.weapons = {"WEAPON_SMG_SUOMI", "WEAPON_GRENADE_X"};
     leader.ammo = {{.weaponType = "WEAPON_SMG_SUOMI", .rounds = 140},
                    {.weaponType = "WEAPON_GRENADE_X", .flavour = "FLAVOUR_GRENADE_SMOKE", .rounds = 2}};

@@ -203,11 +203,6 @@ std::vector<std::string> linesBetween(std::string_view text, std::string_view fi
     return end == lines.end() ? std::vector<std::string>() : std::vector<std::string>(begin, end + 1);
 }
 
-bool hasLine(std::string_view text, std::string_view line) {
-    const std::vector<std::string> lines = linesOf(text);
-    return std::find(lines.begin(), lines.end(), line) != lines.end();
-}
-
 const std::vector<SampleFile>& sampleFiles() {
     static const std::vector<SampleFile> files = [] {
         std::vector<SampleFile> found;
@@ -238,6 +233,18 @@ CommandOutcome runCommand(const std::vector<std::string>& arguments) {
     outcome.complaints = ::testing::internal::GetCapturedStderr();
     std::erase(outcome.output, '\r');
     return outcome;
+}
+
+void expectRefused(const TemporaryFolder& folder, std::string_view call) {
+    std::vector<std::string> arguments;
+    for (std::string_view rest = call; !rest.empty();) {
+        std::string argument(takePart(rest, " "));
+        arguments.push_back(argument.starts_with('$') ? folder.path() + argument.substr(1) : argument);
+    }
+    const CommandOutcome outcome = runCommand(arguments);
+    EXPECT_EQ(outcome.status, cli::CouldNot) << call;
+    EXPECT_TRUE(outcome.output.empty()) << call;
+    EXPECT_FALSE(outcome.complaints.empty()) << call;
 }
 
 TemporaryFolder::TemporaryFolder() {

@@ -26,14 +26,6 @@ std::vector<std::string> linesOf(std::string_view text);
 /// included; empty when there is no such block.
 std::vector<std::string> linesBetween(std::string_view text, std::string_view first, std::string_view last);
 
-bool hasLine(std::string_view text, std::string_view line);
-
-struct SampleFile {
-    Category category;
-    std::string name;
-    std::string content;
-};
-
 std::string repeated(std::string_view text, std::size_t count);
 
 /// "<n0><n1>...</n1></n0>"
@@ -57,11 +49,17 @@ struct TextCase {
 };
 
 /// The cases of a file in tests/golden; fails the test when there are none. In the texts, which end without a
-/// line end, "\\r", "\\n" and "\\t" stand for one character each.
+/// line end, "\r", "\n" and "\t" stand for one character each.
 std::vector<TextCase> textCases(std::string_view name);
 
 /// Takes the part before `separator`, which goes too, off a text; all of it where there is no separator.
 std::string_view takePart(std::string_view& text, std::string_view separator);
+
+struct SampleFile {
+    Category category;
+    std::string name;
+    std::string content;
+};
 
 /// Every data file of the sample, read once.
 const std::vector<SampleFile>& sampleFiles();
@@ -76,6 +74,12 @@ struct CommandOutcome {
     std::string complaints;
 };
 CommandOutcome runCommand(const std::vector<std::string>& arguments);
+
+class TemporaryFolder;
+
+/// Expects a call of `varrocade-data` to fail with a word about it. Its arguments stand between blanks; those
+/// with a "$" before them are paths below the folder.
+void expectRefused(const TemporaryFolder& folder, std::string_view call);
 
 /// A folder of its own for a test, gone with it.
 class TemporaryFolder {

@@ -55,7 +55,7 @@ ComponentRecord fullTurret() {
     std::tie(turret.viewImage, turret.destroyedImage) = std::tuple("turret", "turret destroyed");
     std::tie(turret.diameter, turret.height, turret.offsetX, turret.offsetY, turret.rotateTime) =
         std::tuple(165, 71, -3, 20, 15);
-    std::tie(turret.limitedTraverse, turret.antiAircraft, turret.nightVision) = std::tuple(true, true, true);
+    turret.limitedTraverse = turret.antiAircraft = turret.nightVision = true;
     std::tie(turret.rotateLeft, turret.rotateRight, turret.offsetAngle) = std::tuple(90, 80, -20);
     turret.armour.upperFront = turret.armour.lowerFront = {110, 12};
     turret.armour.top = 16;
@@ -78,7 +78,7 @@ ComponentRecord fullFixedWeapon() {
     std::tie(weapon.viewImage, weapon.destroyedImage) = std::tuple("mount", "mount destroyed");
     std::tie(weapon.offsetX, weapon.offsetY, weapon.offsetZ, weapon.rotateTime, weapon.rotateLeft,
              weapon.rotateRight, weapon.offsetAngle) = std::tuple(60, 180, 110, 20, 10, 0, 4);
-    std::tie(weapon.antiAircraft, weapon.nightVision) = std::tuple(true, true);
+    weapon.antiAircraft = weapon.nightVision = true;
     weapon.weapons = {{.type = "WEAPON_HMG_MG34", .mount = "ball"}};
     weapon.ammo = {{.weaponType = "WEAPON_HMG_MG34", .flavour = "FLAVOUR_BALL", .rounds = 900}};
     weapon.crew.emplace_back();
@@ -107,8 +107,7 @@ SquadRecord fullVehicle() {
     VehicleRecord& vehicle = record.vehicle.emplace();
     vehicle.profileImage = "Profile";
     std::tie(vehicle.weight, vehicle.horsepower) = std::tuple(44800, 700);
-    std::tie(vehicle.canMountInfantry, vehicle.amphibious, vehicle.smokeScreen) =
-        std::tuple(true, true, true);
+    vehicle.canMountInfantry = vehicle.amphibious = vehicle.smokeScreen = true;
     vehicle.engineName = "Maybach HL230 P30";
     vehicle.reliability = "RELIABILITY_POOR";
     std::tie(vehicle.idleRevolutions, vehicle.revolutionLimit, vehicle.forwardGears, vehicle.reverseGears) =
