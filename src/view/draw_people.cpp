@@ -13,7 +13,8 @@ namespace varrocade {
 namespace {
 
 constexpr double CellWidth = 130;
-constexpr double LabelHeight = 62;
+constexpr double LineHeight = 17; ///< of a label, at the scale that a whole squad is shown at
+constexpr std::size_t LineLength = 17;
 constexpr double WeaponGap = 4;
 
 class SquadDrawing {
@@ -93,7 +94,18 @@ private:
             }
         }
         list_.items.emplace_back(LabelItem{words, {top.x, y}, CellWidth, part});
-        return top.y - y + LabelHeight;
+        return top.y - y + labelHeight(words);
+    }
+
+    /// What a label takes when its lines are broken at the width of a cell.
+    static double labelHeight(std::string_view words) {
+        double lines = 1; // free below the last one
+        while (!words.empty()) {
+            const std::size_t end = std::min(words.find('\n'), words.size());
+            lines += static_cast<double>((end + LineLength - 1) / LineLength);
+            words.remove_prefix(std::min(words.size(), end + 1));
+        }
+        return lines * LineHeight;
     }
 
     /// Draws `count` pieces of a weapon side by side, lying with the muzzle to the right; returns the height.

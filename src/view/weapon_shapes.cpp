@@ -101,11 +101,15 @@ ShapeGroup shoulderArm(const WeaponRecord& weapon, const StockRow& row) {
     // The fore-end reaches half-way along the barrel.
     shape.tube(row.behind, row.behind + barrel * 0.5, 4.2, Wood);
     shape.tube(row.behind * 0.55, row.behind + 3, 5, Gunmetal);
-    shape.side(std::array<Point, 4>{{{2, row.behind * 0.6},
-                                     {8, row.behind * 0.6 - 5},
-                                     {8, row.behind * 0.6 - 1},
-                                     {2, row.behind * 0.6 + 4}}},
-               Wood);
+    // Rifles of few rounds are held by the neck of the stock.
+    constexpr std::int16_t mostWithoutGrip = 10;
+    if (weapon.magazineCapacity > mostWithoutGrip) {
+        shape.side(std::array<Point, 4>{{{2, row.behind * 0.6},
+                                         {8, row.behind * 0.6 - 5},
+                                         {8, row.behind * 0.6 - 1},
+                                         {2, row.behind * 0.6 + 4}}},
+                   Wood);
+    }
     if (row.magazine > 0 && weapon.magazineCapacity > 1) {
         shape.side(std::array<Point, 4>{{{2, row.behind - 2},
                                          {2 + row.magazine, row.behind - 1},
