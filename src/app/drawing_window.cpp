@@ -1,6 +1,7 @@
 #include "app/drawing_window.h"
 
 #include "app/application.h"
+#include "app/child_window.h"
 #include "app/commands.h"
 #include "app/main_window.h"
 #include "app/part_selection.h"
@@ -336,6 +337,9 @@ LRESULT CALLBACK drawingProcedure(HWND window, UINT message, WPARAM parameter, L
         SetFocus(window);
         beginDrag(window, pixelOf(detail));
         return 0;
+    case WM_RBUTTONDOWN:
+        SetFocus(window);
+        return 0;
     case WM_MOUSEMOVE:
         if (shown().drag) {
             continueDrag(pixelOf(detail));
@@ -379,20 +383,12 @@ LRESULT CALLBACK drawingProcedure(HWND window, UINT message, WPARAM parameter, L
 
 } // namespace
 
-bool registerDrawingWindow(HINSTANCE instance) {
-    WNDCLASSEXA windowClass{};
-    windowClass.cbSize = sizeof(windowClass);
-    windowClass.style = CS_HREDRAW | CS_VREDRAW | CS_DBLCLKS;
-    windowClass.lpfnWndProc = drawingProcedure;
-    windowClass.hInstance = instance;
-    windowClass.lpszClassName = DrawingClass;
-    return RegisterClassExA(&windowClass) != 0;
+bool registerDrawingWindow() {
+    return registerChildWindow(DrawingClass, drawingProcedure);
 }
 
 HWND createDrawingWindow(HWND parent) {
-    return CreateWindowExA(0, DrawingClass, "Drawing", WS_CHILD | WS_VISIBLE | WS_TABSTOP, 0, 0, 0, 0, parent,
-                           reinterpret_cast<HMENU>(static_cast<INT_PTR>(IDC_DRAWING)), application().instance,
-                           nullptr);
+    return createChildWindow(DrawingClass, "Drawing", parent, IDC_DRAWING);
 }
 
 void redrawDrawing() {

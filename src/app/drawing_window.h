@@ -5,7 +5,7 @@
 
 namespace varrocade {
 
-bool registerDrawingWindow(HINSTANCE instance);
+bool registerDrawingWindow();
 HWND createDrawingWindow(HWND parent);
 
 /// Paints the drawing at once.

@@ -281,8 +281,7 @@ bool registerClass(const std::string& className) {
     windowClass.hbrBackground = reinterpret_cast<HBRUSH>(static_cast<INT_PTR>(COLOR_WINDOW + 1));
     windowClass.lpszMenuName = MAKEINTRESOURCEA(IDR_MENU);
     windowClass.lpszClassName = className.c_str();
-    return RegisterClassExA(&windowClass) != 0 && registerDrawingWindow(instance) &&
-           registerSheetWindow(instance);
+    return RegisterClassExA(&windowClass) != 0 && registerDrawingWindow() && registerSheetWindow();
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "app/sheet_window.h"
 
 #include "app/application.h"
+#include "app/child_window.h"
 #include "app/part_selection.h"
 #include "resources/resource.h"
 
@@ -130,6 +131,9 @@ LRESULT CALLBACK sheetProcedure(HWND window, UINT message, WPARAM parameter, LPA
         SetFocus(window);
         selectPart(sheetPartAt({GET_X_LPARAM(detail), GET_Y_LPARAM(detail)}));
         return 0;
+    case WM_RBUTTONDOWN:
+        SetFocus(window);
+        return 0;
     case WM_LBUTTONDBLCLK:
         editSelectedPart();
         return 0;
@@ -158,23 +162,13 @@ LRESULT CALLBACK sheetProcedure(HWND window, UINT message, WPARAM parameter, LPA
 
 } // namespace
 
-bool registerSheetWindow(HINSTANCE instance) {
-    WNDCLASSEXA windowClass{};
-    windowClass.cbSize = sizeof(windowClass);
-    windowClass.style = CS_HREDRAW | CS_VREDRAW | CS_DBLCLKS;
-    windowClass.lpfnWndProc = sheetProcedure;
-    windowClass.hInstance = instance;
-    windowClass.hCursor = LoadCursorA(nullptr, IDC_ARROW);
-    windowClass.lpszClassName = SheetClass;
-    return RegisterClassExA(&windowClass) != 0;
+bool registerSheetWindow() {
+    return registerChildWindow(SheetClass, sheetProcedure);
 }
 
 HWND createSheetWindow(HWND parent) {
     // The button "Details..." lies over it.
-    return CreateWindowExA(0, SheetClass, "Data sheet",
-                           WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_CLIPSIBLINGS | WS_VSCROLL, 0, 0, 0, 0,
-                           parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(IDC_SHEET)),
-                           application().instance, nullptr);
+    return createChildWindow(SheetClass, "Data sheet", parent, IDC_SHEET, WS_CLIPSIBLINGS | WS_VSCROLL);
 }
 
 void redrawSheet() {

@@ -5,7 +5,7 @@
 
 namespace varrocade {
 
-bool registerSheetWindow(HINSTANCE instance);
+bool registerSheetWindow();
 HWND createSheetWindow(HWND parent);
 
 /// Paints the sheet at once.

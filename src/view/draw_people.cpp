@@ -102,7 +102,8 @@ private:
         double lines = 1; // free below the last one
         while (!words.empty()) {
             const std::size_t end = std::min(words.find('\n'), words.size());
-            lines += static_cast<double>((end + LineLength - 1) / LineLength);
+            const std::size_t broken = (end + LineLength - 1) / LineLength;
+            lines += static_cast<double>(broken);
             words.remove_prefix(std::min(words.size(), end + 1));
         }
         return lines * LineHeight;

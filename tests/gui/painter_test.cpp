@@ -57,13 +57,13 @@ protected:
     static constexpr int Size = 300;
     static constexpr int Tolerance = 6;
 
-    PainterTest() : screen_(GetDC(nullptr)), bitmap(screen_, Size, Size) {
+    PainterTest() : screen(GetDC(nullptr)), bitmap(screen, Size, Size) {
         writeHalf(game.path() + "red.png", 100, 200, Red);
         writeHalf(game.path() + "green.png", 40, 120, Green);
         // Without a picture of the ground, so that it is of one colour.
         objects = createDrawingObjects(GetModuleHandleA(nullptr), game.path() + "no grid.png", 96);
     }
-    ~PainterTest() override { ReleaseDC(nullptr, screen_); }
+    ~PainterTest() override { ReleaseDC(nullptr, screen); }
 
     void paint(const DrawList& list, const UnitPart& selected = {}) {
         paintDrawing(bitmap.device(), {0, 0, Size, Size}, list, {.fit = fit, .selected = selected}, objects,
@@ -83,7 +83,7 @@ protected:
 
     GdiPlusSession session;
     TempGame game;
-    HDC screen_;
+    HDC screen;
     MemoryBitmap bitmap;
     DrawingObjects objects;
     PictureCache pictures;
