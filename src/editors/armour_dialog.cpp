@@ -86,6 +86,20 @@ public:
         Polygon(device_, corners.data(), static_cast<int>(corners.size()));
     }
 
+    /// A plate that stands before the others, if there is one; `outwards` is -1 to the left and 1 to the
+    /// right.
+    void upright(double x, double middle, double halfHeight, std::int32_t thickness, int outwards) const {
+        if (thickness <= 0) {
+            return;
+        }
+        const double width = std::max(2.0, thickness * thicknessScale_) * outwards;
+        const std::array<POINT, 4> corners = {
+            point(x, middle - halfHeight), point(x + width, middle - halfHeight),
+            point(x + width, middle + halfHeight), point(x, middle + halfHeight)};
+        const Selection brush(device_, brush_.get());
+        Polygon(device_, corners.data(), static_cast<int>(corners.size()));
+    }
+
 private:
     static POINT point(double x, double y) {
         return {static_cast<LONG>(std::lround(x)), static_cast<LONG>(std::lround(y))};
@@ -97,23 +111,39 @@ private:
     GdiObject<HBRUSH> brush_;
 };
 
-void paintCut(HDC device, const RECT& area, const char* title, const ArmourRecord& armour,
-              const ArmourPlate& leftUpper, const ArmourPlate& leftLower, const ArmourPlate& rightUpper,
-              const ArmourPlate& rightLower, double thicknessScale) {
+/// What a cut through the component meets, from left to right.
+struct Cut {
+    const char* title;
+    const ArmourPlate& leftUpper;
+    const ArmourPlate& leftLower;
+    const ArmourPlate& rightUpper;
+    const ArmourPlate& rightLower;
+    std::int32_t leftSpaced;
+    std::int32_t rightSpaced;
+    std::int32_t mantlet; ///< on the left
+};
+
+void paintCut(HDC device, const RECT& area, const Cut& cut, const ArmourRecord& armour,
+              double thicknessScale) {
     const double height = (area.bottom - area.top) * 0.26;
     const double middle = (area.top + area.bottom) / 2.0 + height * 0.3;
-    const double inset = (area.right - area.left) * 0.08;
+    const double inset = (area.right - area.left) * 0.16;
     const double left = area.left + inset;
     const double right = area.right - inset;
     const PlatePainter painter(device, thicknessScale, height);
-    painter.paint({left, middle}, leftUpper, -1, 1);
-    painter.paint({left, middle}, leftLower, -1, -1);
-    painter.paint({right, middle}, rightUpper, 1, 1);
-    painter.paint({right, middle}, rightLower, 1, -1);
+    painter.paint({left, middle}, cut.leftUpper, -1, 1);
+    painter.paint({left, middle}, cut.leftLower, -1, -1);
+    painter.paint({right, middle}, cut.rightUpper, 1, 1);
+    painter.paint({right, middle}, cut.rightLower, 1, -1);
     const double quarter = (right - left) / 4;
     painter.level(left + quarter, right - quarter, middle - height, armour.top, 1);
     painter.level(left + quarter, right - quarter, middle + height, std::max(0, armour.bottom), -1);
-    TextOutA(device, area.left + 4, area.top + 2, title, lstrlenA(title));
+    // The mantlet stands against the plate, spaced armour away from it.
+    const double gap = inset / 8;
+    painter.upright(left - gap, middle, height / 2, cut.mantlet, -1);
+    painter.upright(left - inset / 2 - gap, middle, height, cut.leftSpaced, -1);
+    painter.upright(right + inset / 2 + gap, middle, height, cut.rightSpaced, 1);
+    TextOutA(device, area.left + 4, area.top + 2, cut.title, lstrlenA(cut.title));
 }
 
 void drawArmour(const DRAWITEMSTRUCT& item, const ArmourDialog& context) {
@@ -121,7 +151,8 @@ void drawArmour(const DRAWITEMSTRUCT& item, const ArmourDialog& context) {
     FillRect(item.hDC, &item.rcItem, paper.get());
     SetBkMode(item.hDC, TRANSPARENT);
     const ArmourRecord& armour = context.armour;
-    std::int32_t thickest = 1;
+    std::int32_t thickest =
+        std::max({1, armour.mantlet, armour.frontSpaced, armour.sideSpaced, armour.rearSpaced});
     for (const PlateRow& row : plateRows()) {
         thickest = std::max(thickest, (armour.*row.member).thickness);
     }
@@ -129,11 +160,27 @@ void drawArmour(const DRAWITEMSTRUCT& item, const ArmourDialog& context) {
     upper.bottom = (upper.top + upper.bottom) / 2;
     RECT lower = item.rcItem;
     lower.top = upper.bottom;
-    const double scale = (item.rcItem.right - item.rcItem.left) * 0.08 / thickest;
-    paintCut(item.hDC, upper, "front (left) to rear", armour, armour.upperFront, armour.lowerFront,
-             armour.upperRear, armour.lowerRear, scale);
-    paintCut(item.hDC, lower, "left to right", armour, armour.upperLeft, armour.lowerLeft, armour.upperRight,
-             armour.lowerRight, scale);
+    const double scale = (item.rcItem.right - item.rcItem.left) * 0.055 / thickest;
+    paintCut(item.hDC, upper,
+             {.title = "front (left) to rear",
+              .leftUpper = armour.upperFront,
+              .leftLower = armour.lowerFront,
+              .rightUpper = armour.upperRear,
+              .rightLower = armour.lowerRear,
+              .leftSpaced = armour.frontSpaced,
+              .rightSpaced = armour.rearSpaced,
+              .mantlet = isTurret(context) ? armour.mantlet : 0},
+             armour, scale);
+    paintCut(item.hDC, lower,
+             {.title = "left to right",
+              .leftUpper = armour.upperLeft,
+              .leftLower = armour.lowerLeft,
+              .rightUpper = armour.upperRight,
+              .rightLower = armour.lowerRight,
+              .leftSpaced = armour.sideSpaced,
+              .rightSpaced = armour.sideSpaced,
+              .mantlet = 0},
+             armour, scale);
 }
 
 // ---- the dialog
