@@ -146,10 +146,10 @@ SheetSection weaponsSection(const VehicleRecord& vehicle, const WeaponCatalogue&
         }
     }
     for (const ComponentRecord& component : vehicle.components) {
-        if (!component.smokeDischargers.empty()) {
-            section.notes.push_back({std::string(kindName(component.kind)) + ": " +
-                                     std::to_string(component.smokeDischargers.size()) +
-                                     " smoke dischargers."});
+        const std::size_t count = component.smokeDischargers.size();
+        if (count > 0) {
+            section.notes.push_back({std::string(kindName(component.kind)) + ": " + std::to_string(count) +
+                                     (count == 1 ? " smoke discharger." : " smoke dischargers.")});
         }
     }
     if (table.rows.size() > 1) {
