@@ -10,6 +10,7 @@
 #include "app/open_record.h"
 #include "app/part_selection.h"
 #include "app/stubs.h"
+#include "app/weapon_problems.h"
 #include "editors/form_port_win32.h"
 #include "editors/penetration_dialog.h"
 #include "editors/penetration_form.h"
@@ -56,6 +57,10 @@ bool canUndo() {
 
 bool canRedo() {
     return application().openUnit && application().history.canRedo();
+}
+
+bool hasWeaponProblems() {
+    return !application().catalogue.problems().empty();
 }
 
 bool canSave() {
@@ -130,11 +135,14 @@ PenetrationTools penetrationTools() {
             .openUnit = isVehicleOpen() ? &*app.openUnit : nullptr};
 }
 
+/// Figures that were tuned in another program count at once.
 void penetrationCalculations() {
+    loadCatalogue();
     calculatePenetration(application().window, penetrationTools());
 }
 
 void canItPenetrate() {
+    loadCatalogue();
     const Application& app = application();
     askWhatPenetrates(app.window, penetrationTools(), {.weapon = firstPenetrationWeapon(app.catalogue)});
 }
@@ -164,6 +172,7 @@ constexpr auto Commands = std::to_array<Command>({
     {IDM_EDIT_MOD, editModSettings, inModMode},
     {IDM_PENETRATION, penetrationCalculations, always},
     {IDM_CAN_PENETRATE, canItPenetrate, always},
+    {IDM_WEAPON_PROBLEMS, showWeaponProblems, hasWeaponProblems},
     {IDM_REDUCE_IMAGES, reduceImageSizes, isVehicleOpen},
     {IDM_GENERATE_THUMBNAILS, generateThumbnails, always},
     {IDM_PNG_USAGE, generatePngUsage, always},

@@ -37,6 +37,14 @@ std::optional<std::string> refusalOfOtherName(const std::string& name) {
     return std::nullopt;
 }
 
+/// Selects an entry, and drops the filter when that hides it.
+void selectUnfiltered(const std::string& name) {
+    if (!selectEntry(name)) {
+        leaveFilter();
+        selectEntry(name);
+    }
+}
+
 /// Refills the list, selects an entry and remembers it.
 void refillAndSelect(const std::string& name) {
     Application& app = application();
@@ -44,10 +52,7 @@ void refillAndSelect(const std::string& name) {
         loadCatalogue();
     }
     SendMessageA(app.window, RefreshListMessage, 0, 0);
-    if (!selectEntry(name)) {
-        leaveFilter();
-        selectEntry(name);
-    }
+    selectUnfiltered(name);
     app.rememberedSelections[static_cast<std::size_t>(app.category)] = name;
     updateButtons();
 }
@@ -247,6 +252,17 @@ void chooseCategory(Category category) {
         openFile(remembered);
     } else {
         showOpenRecord();
+    }
+}
+
+void showFile(Category category, const std::string& name) {
+    Application& app = application();
+    if (category != app.category) {
+        chooseCategory(category);
+    }
+    if (category == app.category) {
+        selectUnfiltered(name);
+        openSelectedEntry();
     }
 }
 

@@ -47,6 +47,11 @@ std::vector<std::string> usersOfOpenWeapon() {
     return app.weaponUsers.usersOf(imageBases(), names);
 }
 
+std::vector<std::string> problemsOfOpenWeapon() {
+    const Application& app = application();
+    return app.catalogue.problemsOf(dataFilePath(baseFolder(), Category::Weapons, app.openWeapon->fileName));
+}
+
 /// Makes anew what the record or the view has changed.
 void composeDisplay(UnitDisplay& display) {
     const Application& app = application();
@@ -55,10 +60,10 @@ void composeDisplay(UnitDisplay& display) {
     }
     if (display.isStale) {
         display.isStale = false;
-        display.sheet = app.openWeapon ? weaponSheet(*app.openWeapon, usersOfOpenWeapon())
-                        : app.openUnit
-                            ? unitSheet(*app.openUnit, display.drawing.missingPictures, app.catalogue)
-                            : DataSheet{};
+        display.sheet =
+            app.openWeapon ? weaponSheet(*app.openWeapon, problemsOfOpenWeapon(), usersOfOpenWeapon())
+            : app.openUnit ? unitSheet(*app.openUnit, display.drawing.missingPictures, app.catalogue)
+                           : DataSheet{};
     }
 }
 

@@ -5,6 +5,7 @@
 #include "editors/clipboard_win32.h"
 #include "editors/form_port_win32.h"
 #include "editors/penetration_form.h"
+#include "editors/table_win32.h"
 #include "platform/messages.h"
 #include "resources/resource.h"
 #include "view/drawing_objects_win32.h"
@@ -20,6 +21,14 @@
 namespace varrocade {
 
 namespace {
+
+constexpr std::array<TableColumn, PlateRangeHeads.size()> PlateRangeColumns = {{
+    {PlateRangeHeads[0], 86},
+    {PlateRangeHeads[1], 74},
+    {PlateRangeHeads[2], 70, true},
+    {PlateRangeHeads[3], 44, true},
+    {PlateRangeHeads[4], 92},
+}};
 
 struct CanPenetrateDialog {
     const PenetrationTools& tools;
@@ -49,21 +58,8 @@ std::size_t chosenIndex(HWND dialog, int control) {
 
 // ---- the table
 
-void addRow(HWND table, int row, const CanPenetrateDialog& context) {
-    auto cells = plateRangeCells(*context.target->vehicle, context.ranges[static_cast<std::size_t>(row)]);
-    LVITEMA item{};
-    item.iItem = row;
-    for (std::size_t column = 0; column < cells.size(); ++column) {
-        item.mask = LVIF_TEXT;
-        item.iSubItem = static_cast<int>(column);
-        item.pszText = cells[column].data();
-        SendMessageA(table, column == 0 ? LVM_INSERTITEMA : LVM_SETITEMA, 0, reinterpret_cast<LPARAM>(&item));
-    }
-}
-
 std::optional<std::size_t> selectedPlate(HWND dialog, const CanPenetrateDialog& context) {
-    const LRESULT row =
-        SendDlgItemMessageA(dialog, IDC_PLATE_TABLE, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED);
+    const int row = selectedTableRow(GetDlgItem(dialog, IDC_PLATE_TABLE));
     return row >= 0 && static_cast<std::size_t>(row) < context.ranges.size()
                ? std::optional(static_cast<std::size_t>(row))
                : std::nullopt;
@@ -74,25 +70,6 @@ void selectPlate(HWND dialog, std::size_t plate) {
     ListView_SetItemState(table, static_cast<int>(plate), LVIS_SELECTED | LVIS_FOCUSED,
                           LVIS_SELECTED | LVIS_FOCUSED);
     ListView_EnsureVisible(table, static_cast<int>(plate), FALSE);
-}
-
-void prepareTable(HWND dialog) {
-    constexpr std::array<int, PlateRangeHeads.size()> widths = {86, 74, 70, 44, 92}; // at 96 dpi
-    HWND table = GetDlgItem(dialog, IDC_PLATE_TABLE);
-    ListView_SetExtendedListViewStyle(table, LVS_EX_FULLROWSELECT);
-    HDC screen = GetDC(dialog);
-    const int dpi = GetDeviceCaps(screen, LOGPIXELSX);
-    ReleaseDC(dialog, screen);
-    for (std::size_t i = 0; i < widths.size(); ++i) {
-        std::string head(PlateRangeHeads[i]);
-        LVCOLUMNA column{};
-        column.mask = LVCF_TEXT | LVCF_WIDTH | LVCF_FMT;
-        const bool isNumber = i == 2 || i == 3;
-        column.fmt = isNumber ? LVCFMT_RIGHT : LVCFMT_LEFT;
-        column.cx = MulDiv(widths[i], dpi, USER_DEFAULT_SCREEN_DPI);
-        column.pszText = head.data();
-        SendMessageA(table, LVM_INSERTCOLUMNA, i, reinterpret_cast<LPARAM>(&column));
-    }
 }
 
 // ---- what is shown
@@ -120,8 +97,9 @@ void recalculateRanges(HWND dialog, CanPenetrateDialog& context) {
     const auto selected = selectedPlate(dialog, context);
     SendMessageA(table, WM_SETREDRAW, FALSE, 0);
     ListView_DeleteAllItems(table);
-    for (int row = 0; row < static_cast<int>(context.ranges.size()); ++row) {
-        addRow(table, row, context);
+    for (const PlateRange& range : context.ranges) {
+        auto cells = plateRangeCells(*context.target->vehicle, range);
+        addTableRow(table, cells);
     }
     if (selected) {
         selectPlate(dialog, *selected);
@@ -304,7 +282,7 @@ LRESULT CALLBACK outlineProcedure(HWND outline, UINT message, WPARAM parameter, 
 
 void fillDialog(HWND dialog, CanPenetrateDialog& context) {
     DialogPort port(dialog);
-    prepareTable(dialog);
+    prepareTable(GetDlgItem(dialog, IDC_PLATE_TABLE), PlateRangeColumns);
     context.vehicles = vehicleFiles(context.tools.vehicleBases);
     std::vector<std::string> names;
     std::size_t chosen = 0;

@@ -62,8 +62,8 @@ struct PersonalWeaponsContext {
 };
 
 void fillWeaponChoices(HWND dialog, const PersonalWeaponsContext& context) {
-    DialogPort(dialog).setChoices(
-        IDC_WEAPON_TYPE, weaponChoices(context.edit.catalogue, context.edit.record, context.showAll));
+    DialogPort(dialog).setChoices(IDC_WEAPON_TYPE, weaponChoices(context.edit.catalogue, context.edit.record,
+                                                                 WeaponBearer::Man, context.showAll));
 }
 
 void preparePersonalWeapons(HWND dialog, ListDialog& list) {

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace varrocade {
 
@@ -112,6 +113,29 @@ void showPenetration(FormPort& port, const WeaponRecord* weapon, std::size_t she
         port.setText(IDC_PENETRATION_ROWS + static_cast<int>(row), penetrationText(impact.penetration));
         port.setText(IDC_VELOCITY_ROWS + static_cast<int>(row), velocityText(impact.velocity));
     }
+}
+
+double chartStep(double greatest, int mostSteps) {
+    const double least = greatest / mostSteps;
+    const double power = std::pow(10.0, std::floor(std::log10(least)));
+    for (const double factor : {1.0, 2.0, 5.0}) {
+        if (factor * power >= least) {
+            return factor * power;
+        }
+    }
+    return 10 * power;
+}
+
+std::string weaponFileNote(const WeaponCatalogue& catalogue, std::size_t weapon) {
+    const auto& entries = catalogue.entries();
+    if (weapon < entries.size()) {
+        const auto reasons = catalogue.problemsOf(entries[weapon].path);
+        if (!reasons.empty()) {
+            return "This weapon's file: " + reasons.front();
+        }
+    }
+    return catalogue.problems().empty() ? ""
+                                        : "Some weapon files have problems: see Tools, Weapon file problems.";
 }
 
 std::string penetrationTable(FormPort& port, const WeaponRecord& weapon, std::size_t shell) {

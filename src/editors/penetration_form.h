@@ -41,6 +41,14 @@ double formDrag(FormPort& port, AmmoFlavour flavour);
 /// The angle in degrees that the form holds.
 double formAngle(FormPort& port);
 
+/// The distance of two lines of an axis that reaches from 0 to `greatest`, above 0, in at most `mostSteps`
+/// steps: 1, 2 or 5 times a power of ten.
+double chartStep(double greatest, int mostSteps);
+
+/// What to tell of the chosen weapon's file, or else of the catalogue's other files; empty when all are
+/// sound.
+std::string weaponFileNote(const WeaponCatalogue& catalogue, std::size_t weapon);
+
 /// The results as tab separated lines, with a head, for the clipboard.
 std::string penetrationTable(FormPort& port, const WeaponRecord& weapon, std::size_t shell);
 

@@ -17,6 +17,16 @@ struct Era {
 constexpr std::array<Era, 3> Eras = {{{1919, "WW1"}, {1945, "WW2"}, {1991, "Cold War"}}};
 constexpr std::string_view LastEra = "Modern";
 
+/// A weapon of a type that this program does not know may be anybody's.
+constexpr auto MansTypes = std::to_array<WeaponType>(
+    {WeaponType::None, WeaponType::Rifle, WeaponType::Pistol, WeaponType::Carbine, WeaponType::Shotgun,
+     WeaponType::AtRifle, WeaponType::Smg, WeaponType::Lmg, WeaponType::Grenade, WeaponType::GrenadeLauncher,
+     WeaponType::Rpg, WeaponType::FlamethrowerPortable});
+constexpr auto VehiclesTypes = std::to_array<WeaponType>(
+    {WeaponType::None, WeaponType::AtRifle, WeaponType::Smg, WeaponType::Lmg, WeaponType::Hmg,
+     WeaponType::GrenadeLauncher, WeaponType::Rpg, WeaponType::RecoillessRifle, WeaponType::FlamethrowerTank,
+     WeaponType::Mortar, WeaponType::Cannon, WeaponType::Mlrs, WeaponType::Artillery});
+
 } // namespace
 
 std::string_view periodOf(const SquadRecord& record) {
@@ -35,9 +45,10 @@ std::string_view periodOf(const SquadRecord& record) {
 }
 
 std::vector<std::string> weaponChoices(const WeaponCatalogue& catalogue, const SquadRecord& record,
-                                       bool all) {
+                                       WeaponBearer bearer, bool all) {
     WeaponFilter filter;
     if (!all) {
+        filter.types = bearer == WeaponBearer::Man ? std::span<const WeaponType>(MansTypes) : VehiclesTypes;
         filter.nationality = record.nationality;
         filter.period = periodOf(record);
     }

@@ -4,6 +4,7 @@
 #include "data/unit_record.h"
 #include "weapons/weapon_catalogue.h"
 
+#include <cstdint>
 #include <span>
 #include <string>
 #include <string_view>
@@ -15,8 +16,12 @@ namespace varrocade {
 /// up to 1919 "WW1", up to 1945 "WW2", up to 1991 "Cold War", then "Modern". Empty for a unit without dates.
 std::string_view periodOf(const SquadRecord& record);
 
-/// The names of the weapons that a unit of this nationality and period uses, or of all weapons.
-std::vector<std::string> weaponChoices(const WeaponCatalogue& catalogue, const SquadRecord& record, bool all);
+/// What carries a weapon, which decides the weapon types that its list offers.
+enum class WeaponBearer : std::uint8_t { Man, Vehicle };
+
+/// The names of the weapons that a bearer in a unit of this nationality and period uses, or of all weapons.
+std::vector<std::string> weaponChoices(const WeaponCatalogue& catalogue, const SquadRecord& record,
+                                       WeaponBearer bearer, bool all);
 
 /// Names a weapon that the catalogue does not hold, or empty; lists offer only some of those that it holds.
 std::string unknownWeapon(std::string_view weaponType, const WeaponCatalogue& catalogue);

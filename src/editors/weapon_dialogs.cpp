@@ -18,8 +18,8 @@ struct WeaponsContext {
 };
 
 void fillWeaponChoices(HWND dialog, const WeaponsContext& context) {
-    DialogPort(dialog).setChoices(
-        IDC_WEAPON_TYPE, weaponChoices(context.edit.catalogue, context.edit.record, context.showAll));
+    DialogPort(dialog).setChoices(IDC_WEAPON_TYPE, weaponChoices(context.edit.catalogue, context.edit.record,
+                                                                 WeaponBearer::Vehicle, context.showAll));
 }
 
 /// What the files cannot hold of the weapons of this kind of component.

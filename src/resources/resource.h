@@ -39,6 +39,7 @@
 #define IDD_AVAILABILITY 243
 #define IDD_PERSONAL_WEAPONS 244
 #define IDD_CAN_PENETRATE 250
+#define IDD_WEAPON_PROBLEMS 251
 
 // The main window's controls.
 #define IDC_FILE_LIST 1001
@@ -83,6 +84,7 @@
 #define IDM_WHOLE_UNIT 32810
 #define IDM_SHOW_MARKS 32811
 #define IDM_CAN_PENETRATE 32820
+#define IDM_WEAPON_PROBLEMS 32821
 
 // Controls of the "Details" dialog.
 #define IDC_NATIONALITY 1200
@@ -217,6 +219,7 @@
 #define IDC_CURVES 1130
 #define IDC_COPY_TABLE 1131
 #define IDC_CAN_PENETRATE 1132
+#define IDC_PEN_NOTE 1133
 
 // Controls of the "Can It Penetrate?" dialog.
 #define IDC_TARGET_VEHICLE 1400
@@ -227,6 +230,10 @@
 #define IDC_PLATE_TABLE 1405
 #define IDC_PLATE_OUTLINE 1406
 #define IDC_POINTED_PLATE 1407
+
+// Controls of the "Weapon File Problems" dialog.
+#define IDC_PROBLEM_LIST 1410
+#define IDC_SHOW_FILE 1411
 
 // Controls of the dialogs that ask for a name.
 #define IDC_NEW_NAME 1230

@@ -84,8 +84,9 @@ struct DataSheet {
 DataSheet unitSheet(const SquadRecord& record, std::span<const std::string> missingPictures,
                     const WeaponCatalogue& catalogue);
 
-/// The sheet of a weapon and the units that use it.
-DataSheet weaponSheet(const WeaponRecord& weapon, std::span<const std::string> users);
+/// The sheet of a weapon, what could not be read of its file, and the units that use it.
+DataSheet weaponSheet(const WeaponRecord& weapon, std::span<const std::string> problems,
+                      std::span<const std::string> users);
 
 /// The sections that only infantry and heavy weapons, and only aircraft, have.
 void addSquadSections(DataSheet& sheet, const SquadRecord& record, const WeaponCatalogue& catalogue);

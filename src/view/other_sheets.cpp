@@ -91,6 +91,14 @@ SheetSection heavyWeaponSection(const HeavyWeaponRecord& heavy, const WeaponCata
     return section;
 }
 
+SheetSection notesSection(std::string heading, std::span<const std::string> lines) {
+    SheetSection section{.heading = {std::move(heading)}};
+    for (const std::string& line : lines) {
+        section.notes.push_back({line});
+    }
+    return section;
+}
+
 } // namespace
 
 void addSquadSections(DataSheet& sheet, const SquadRecord& record, const WeaponCatalogue& catalogue) {
@@ -120,11 +128,15 @@ void addAircraftSections(DataSheet& sheet, const AircraftRecord& aircraft, const
     sheet.sections.push_back(std::move(armament));
 }
 
-DataSheet weaponSheet(const WeaponRecord& weapon, std::span<const std::string> users) {
+DataSheet weaponSheet(const WeaponRecord& weapon, std::span<const std::string> problems,
+                      std::span<const std::string> users) {
     DataSheet sheet;
     sheet.title.text = weaponWord(weapon.name.empty() ? weapon.fileName : weapon.name);
     sheet.title.subtitle = displayName(nameOf(weapon.type), WeaponPrefix);
     sheet.comment = weapon.comments;
+    if (!problems.empty()) {
+        sheet.sections.push_back(notesSection("Problems of the file", problems));
+    }
     SheetSection figures{.heading = {"Figures"}};
     const auto whole = [](std::int32_t value, std::string_view unit) {
         return value == 0 ? std::string("-") : grouped(value) + " " + std::string(unit);
@@ -149,16 +161,14 @@ DataSheet weaponSheet(const WeaponRecord& weapon, std::span<const std::string> u
                                realText(ammo.mass, "kg"), realText(ammo.highExplosive, "kg"),
                                isHeat(ammo.flavour) ? displayName(nameOf(ammo.era), "HEAT_ERA_") : "-"}});
     }
-    ammunition.tables.push_back(std::move(table));
+    if (weapon.ammoTypes.empty()) {
+        ammunition.notes.push_back({"None."});
+    } else {
+        ammunition.tables.push_back(std::move(table));
+    }
     sheet.sections.push_back(std::move(ammunition));
-    SheetSection usedBy{.heading = {"Used by"}};
-    for (const std::string& user : users) {
-        usedBy.notes.push_back({user});
-    }
-    if (users.empty()) {
-        usedBy.notes.push_back({"No unit carries it."});
-    }
-    sheet.sections.push_back(std::move(usedBy));
+    const auto none = std::to_array<std::string>({"No unit carries it."});
+    sheet.sections.push_back(notesSection("Used by", users.empty() ? std::span(none) : users));
     return sheet;
 }
 

@@ -45,6 +45,9 @@ int compareFolded(std::string_view a, std::string_view b) {
 }
 
 bool comesBefore(const CatalogueEntry& a, const CatalogueEntry& b) {
+    if (a.holdsWeapon != b.holdsWeapon) {
+        return a.holdsWeapon;
+    }
     const WeaponRecord& left = a.weapon;
     const WeaponRecord& right = b.weapon;
     if (left.calibre != right.calibre) {
@@ -56,8 +59,9 @@ bool comesBefore(const CatalogueEntry& a, const CatalogueEntry& b) {
     if (const int order = compareFolded(left.name, right.name); order != 0) {
         return order < 0;
     }
-    // Without this the system's order of listing would show.
-    return left.fileName < right.fileName;
+    // Without the files' names the system's order of listing would show.
+    const int order = compareFolded(left.fileName, right.fileName);
+    return order != 0 ? order < 0 : left.fileName < right.fileName;
 }
 
 std::string_view withoutEnding(std::string_view diskName) {
@@ -152,7 +156,25 @@ void WeaponCatalogue::load(std::string_view programFolder, std::string_view modF
     for (const std::string& folder : folders_) {
         addFolder(folder, reading);
     }
+    dropShadowed();
     sortEntries();
+}
+
+/// A file without a weapon is of no account where another of its name has one, or none either.
+void WeaponCatalogue::dropShadowed() {
+    const auto holdsNone = [](const CatalogueEntry& entry) { return !entry.holdsWeapon; };
+    if (std::none_of(entries_.begin(), entries_.end(), holdsNone)) {
+        return;
+    }
+    std::unordered_set<std::string> present;
+    for (const CatalogueEntry& entry : entries_) {
+        if (entry.holdsWeapon) {
+            present.insert(loweredText(entry.weapon.fileName));
+        }
+    }
+    std::erase_if(entries_, [&](const CatalogueEntry& entry) {
+        return holdsNone(entry) && !present.insert(loweredText(entry.weapon.fileName)).second;
+    });
 }
 
 /// Records are large: their places are sorted, and each record is moved once.
@@ -172,7 +194,7 @@ void WeaponCatalogue::sortEntries() {
     entries_ = std::move(sorted);
 }
 
-/// Appends the weapons of a folder, but for those whose file names are there already.
+/// Appends the files of a folder, but for those whose names have a weapon already.
 void WeaponCatalogue::addFolder(const std::string& folder, Reading& reading) {
     std::vector<std::string> diskNames;
     if (!listFiles(folder, DataFileEnding, diskNames)) {
@@ -186,36 +208,43 @@ void WeaponCatalogue::addFolder(const std::string& folder, Reading& reading) {
     std::sort(diskNames.begin(), diskNames.end());
     std::unordered_set<std::string> present;
     for (const CatalogueEntry& entry : entries_) {
-        present.insert(loweredText(entry.weapon.fileName));
+        if (entry.holdsWeapon) {
+            present.insert(loweredText(entry.weapon.fileName));
+        }
     }
     entries_.reserve(entries_.size() + diskNames.size());
     for (const std::string& diskName : diskNames) {
-        std::string key = loweredText(withoutEnding(diskName));
-        if (!present.contains(key) && addFile(folder, diskName, reading)) {
-            present.insert(std::move(key));
+        // A folder may hold names that differ in letter case only, where the system lets it.
+        const bool isNew = !present.contains(loweredText(withoutEnding(diskName)));
+        if (isNew) {
+            addFile(folder, diskName, reading);
+        }
+        if (isNew && entries_.back().holdsWeapon) {
+            present.insert(loweredText(withoutEnding(diskName)));
         }
     }
 }
 
-/// Appends the weapon of one file; false when it could not be read or holds none.
-bool WeaponCatalogue::addFile(const std::string& folder, std::string_view diskName, Reading& reading) {
-    std::string path = folder + std::string(diskName);
-    if (!readWholeFile(path, reading.content)) {
-        problems_.push_back({std::move(path), systemFiles().lastError()});
-        return false;
-    }
+/// Appends the entry of one file.
+void WeaponCatalogue::addFile(const std::string& folder, std::string_view diskName, Reading& reading) {
+    CatalogueEntry entry{.path = folder + std::string(diskName)};
     const std::string_view fileName = withoutEnding(diskName);
-    WeaponReadReport report;
-    WeaponRecord weapon = readWeapon(reading.tree, reading.content, fileName, report);
-    for (std::string& line : report.diagnostics) {
-        problems_.push_back({path, std::move(line)});
+    if (readWholeFile(entry.path, reading.content)) {
+        WeaponReadReport report;
+        entry.weapon = readWeapon(reading.tree, reading.content, fileName, report);
+        for (std::string& line : report.diagnostics) {
+            problems_.push_back({entry.path, std::move(line)});
+        }
+        entry.holdsWeapon = !isUntouched(entry.weapon);
+        if (!entry.holdsWeapon) {
+            problems_.push_back({entry.path, "holds no weapon"});
+        }
+    } else {
+        problems_.push_back({entry.path, systemFiles().lastError()});
+        entry.holdsWeapon = false;
+        entry.weapon.fileName = fileName;
     }
-    if (isUntouched(weapon)) {
-        problems_.push_back({std::move(path), "holds no weapon"});
-        return false;
-    }
-    entries_.push_back({std::move(path), std::move(weapon)});
-    return true;
+    entries_.push_back(std::move(entry));
 }
 
 void WeaponCatalogue::refresh(std::string_view fileName) {
@@ -227,23 +256,19 @@ void WeaponCatalogue::refresh(std::string_view fileName) {
     });
     std::vector<std::string> diskNames;
     Reading reading;
+    bool isFound = false;
     for (const std::string& folder : folders_) {
         listFiles(folder, DataFileEnding, diskNames);
         const auto found =
             std::find_if(diskNames.begin(), diskNames.end(),
                          [fileName](const std::string& diskName) { return isFileNamed(diskName, fileName); });
-        if (found != diskNames.end() && addFile(folder, *found, reading)) {
-            const auto place =
-                std::upper_bound(entries_.begin(), entries_.end() - 1, entries_.back(), comesBefore);
-            std::rotate(place, entries_.end() - 1, entries_.end());
-            return;
+        if (found != diskNames.end() && !isFound) {
+            addFile(folder, *found, reading);
+            isFound = entries_.back().holdsWeapon;
         }
     }
-}
-
-void WeaponCatalogue::refreshRenamed(std::string_view from, std::string_view to) {
-    refresh(from);
-    refresh(to);
+    dropShadowed();
+    sortEntries();
 }
 
 std::vector<const WeaponRecord*> WeaponCatalogue::select(const WeaponFilter& filter) const {
@@ -251,7 +276,8 @@ std::vector<const WeaponRecord*> WeaponCatalogue::select(const WeaponFilter& fil
     std::vector<const WeaponRecord*> found;
     for (const CatalogueEntry& entry : entries_) {
         const WeaponRecord& weapon = entry.weapon;
-        const bool isWanted = (filter.types.empty() || std::find(filter.types.begin(), filter.types.end(),
+        const bool isWanted = entry.holdsWeapon &&
+                              (filter.types.empty() || std::find(filter.types.begin(), filter.types.end(),
                                                                  weapon.type) != filter.types.end()) &&
                               (nation.empty() || lists(weapon.countries, nation, nationOf)) &&
                               (filter.period.empty() || lists(weapon.period, filter.period, itself));
@@ -265,6 +291,9 @@ std::vector<const WeaponRecord*> WeaponCatalogue::select(const WeaponFilter& fil
 const WeaponRecord* WeaponCatalogue::find(std::string_view name) const {
     const WeaponRecord* named = nullptr;
     for (const CatalogueEntry& entry : entries_) {
+        if (!entry.holdsWeapon) {
+            break;
+        }
         if (equalsIgnoringCase(entry.weapon.fileName, name)) {
             return &entry.weapon;
         }
@@ -273,6 +302,16 @@ const WeaponRecord* WeaponCatalogue::find(std::string_view name) const {
         }
     }
     return named;
+}
+
+std::vector<std::string> WeaponCatalogue::problemsOf(std::string_view path) const {
+    std::vector<std::string> reasons;
+    for (const FileFailure& problem : problems_) {
+        if (problem.path == path) {
+            reasons.push_back(problem.reason);
+        }
+    }
+    return reasons;
 }
 
 } // namespace varrocade

@@ -14,7 +14,8 @@ namespace varrocade {
 
 struct CatalogueEntry {
     std::string path; ///< the file that the record was read from
-    WeaponRecord weapon;
+    WeaponRecord weapon = {};
+    bool holdsWeapon = true; ///< false: nothing in the file could be read, the record has only its name
 };
 
 /// Which weapons a list offers. An empty member lets all of them through.
@@ -41,28 +42,30 @@ public:
     /// again.
     void refresh(std::string_view fileName);
 
-    /// The same for both names of a file that was renamed.
-    void refreshRenamed(std::string_view from, std::string_view to);
-
-    /// Sorted by calibre, then barrel length, then name.
+    /// A weapon each file name, sorted by calibre, then barrel length, then name. After them the files that
+    /// hold no weapon, by name.
     [[nodiscard]] const std::vector<CatalogueEntry>& entries() const { return entries_; }
 
-    /// The entries that a filter lets through, in the same order.
+    /// The weapons that a filter lets through, in the same order.
     [[nodiscard]] std::vector<const WeaponRecord*> select(const WeaponFilter& filter) const;
 
     /// The weapon whose file has this name, otherwise the first one that calls itself so; letter case does
     /// not count. Null when there is none.
     [[nodiscard]] const WeaponRecord* find(std::string_view name) const;
 
-    /// The files that could not be read or hold no weapon, which are left out, and those with data that a
-    /// record cannot take, with the reasons.
+    /// The files that could not be read or hold no weapon, and those with data that a record cannot take,
+    /// with the reasons.
     [[nodiscard]] const std::vector<FileFailure>& problems() const { return problems_; }
+
+    /// The reasons that concern one file.
+    [[nodiscard]] std::vector<std::string> problemsOf(std::string_view path) const;
 
 private:
     struct Reading;
 
-    bool addFile(const std::string& folder, std::string_view diskName, Reading& reading);
+    void addFile(const std::string& folder, std::string_view diskName, Reading& reading);
     void addFolder(const std::string& folder, Reading& reading);
+    void dropShadowed();
     void sortEntries();
 
     std::vector<std::string> folders_; ///< of the weapon files; the first one counts

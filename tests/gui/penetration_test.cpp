@@ -128,6 +128,47 @@ TEST_F(PenetrationTest, FollowsEveryChange) {
     finish(dialog, IDCANCEL);
 }
 
+TEST_F(PenetrationTest, CurvesAreChosenWithTheMouse) {
+    start();
+    const Window dialog = openCalculator();
+    dialog.control(WeaponBox).choose("WEAPON_CANNON_88_KWK36_L56");
+    const Texts shells = dialog.control(ShellBox).choices();
+    ASSERT_GE(shells.size(), 3U);
+    const Window curves = dialog.control(IDC_CURVES);
+    const Area area = curves.areaInParent();
+    // The legend stands at the bottom, a line each ammunition type.
+    const LPARAM lastLine = MAKELPARAM(area.width / 4, area.height - 14);
+    curves.send(WM_MOUSEMOVE, 0, MAKELPARAM(area.width / 2, area.height / 4));
+    curves.send(WM_LBUTTONDOWN, 0, lastLine);
+    EXPECT_EQ(dialog.control(ShellBox).text(), shells.back());
+    const Texts ofLast = rows(dialog, PenetrationRows);
+    dialog.control(ShellBox).choose(0);
+    EXPECT_NE(rows(dialog, PenetrationRows), ofLast);
+    dialog.control(ShellBox).choose(static_cast<int>(shells.size()) - 1);
+    EXPECT_EQ(rows(dialog, PenetrationRows), ofLast);
+    finish(dialog, IDCANCEL);
+}
+
+TEST_F(PenetrationTest, ListsFilesWithProblems) {
+    start();
+    EXPECT_NE(menuState(IDM_WEAPON_PROBLEMS) & MF_GRAYED, 0U) << "none";
+    game.write("Data\\Weapons\\WEAPON_CANNON_SPOILT.txt", "nothing of the kind");
+    const std::size_t files = game.names("Data\\Weapons").size();
+    Window dialog = openCalculator();
+    EXPECT_EQ(dialog.control(WeaponBox).choices().size(), files) << "read anew, and all of them";
+    EXPECT_NE(dialog.control(IDC_PEN_NOTE).text().find("Weapon file problems"), std::string::npos);
+    dialog.control(WeaponBox).choose("WEAPON_CANNON_SPOILT");
+    EXPECT_EQ(dialog.control(IDC_PEN_NOTE).text(), "This weapon's file: holds no weapon");
+    EXPECT_EQ(rows(dialog, PenetrationRows), Texts(Rows, "-"));
+    finish(dialog, IDCANCEL);
+    dialog = openDialog(IDM_WEAPON_PROBLEMS, "Weapon File Problems");
+    expectWellLaidOut(dialog);
+    dialog.press(IDC_COPY_TABLE);
+    EXPECT_NE(clipboardText().find("WEAPON_CANNON_SPOILT.txt\tholds no weapon\r\n"), std::string::npos);
+    finish(dialog, IDC_SHOW_FILE);
+    EXPECT_EQ(selected(), "WEAPON_CANNON_SPOILT") << "in the list of weapons";
+}
+
 TEST_F(PenetrationTest, WeaponsFollowTheFilesAndTheMod) {
     userMod.create();
     const std::string modWeapons = userMod.modFolder() + "Data\\Weapons\\";

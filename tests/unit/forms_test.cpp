@@ -4,6 +4,7 @@
 #include "editors/component_form.h"
 #include "editors/component_list.h"
 #include "editors/drive_form.h"
+#include "editors/penetration_form.h"
 #include "editors/unit_lists.h"
 #include "editors/vehicle_form.h"
 #include "editors/weapon_choices.h"
@@ -247,14 +248,25 @@ TEST(WeaponChoices, FollowTheUnitsNationAndTime) {
     const auto has = [](const std::vector<std::string>& names, const char* name) {
         return std::find(names.begin(), names.end(), name) != names.end();
     };
-    const auto offered = weaponChoices(catalogue, record, false);
+    const auto offered = weaponChoices(catalogue, record, WeaponBearer::Vehicle, false);
     EXPECT_TRUE(has(offered, "WEAPON_CANNON_75_KWK42_L70"));
     EXPECT_FALSE(has(offered, "WEAPON_CANNON_75_M3_L38"));
-    EXPECT_TRUE(has(weaponChoices(catalogue, record, true), "WEAPON_CANNON_75_M3_L38"));
+    EXPECT_FALSE(has(offered, "WEAPON_PISTOL_P38")) << "a man's";
+    const auto ofMan = weaponChoices(catalogue, record, WeaponBearer::Man, false);
+    EXPECT_TRUE(has(ofMan, "WEAPON_PISTOL_P38"));
+    EXPECT_FALSE(has(ofMan, "WEAPON_CANNON_75_KWK42_L70"));
+    EXPECT_TRUE(has(weaponChoices(catalogue, record, WeaponBearer::Man, true), "WEAPON_CANNON_75_M3_L38"));
     const AmmoLoadRecord smoke{"WEAPON_CANNON_75_KWK42_L70", "FLAVOUR_HESH", 1};
     const std::vector<std::string> weapons = {"WEAPON_CANNON_75_KWK42_L70"};
     EXPECT_EQ(ammunitionWarning(smoke, weapons, catalogue), "The weapon has no ammunition of this flavour.");
     EXPECT_EQ(ammunitionWarning(smoke, {}, catalogue), "This ammunition is for a weapon that is not there.");
+}
+
+TEST(PenetrationForm, StepsOfAnAxisAreRound) {
+    for (const auto& [greatest, step] : std::map<double, double>{
+             {0.5, 0.1}, {1, 0.2}, {6, 1}, {6.1, 2}, {152, 50}, {200, 50}, {301, 100}, {1e9, 2e8}}) {
+        EXPECT_DOUBLE_EQ(chartStep(greatest, 6), step) << greatest;
+    }
 }
 
 } // namespace

@@ -47,7 +47,7 @@ protected:
     std::vector<std::string> names() const {
         std::vector<std::string> found;
         for (const CatalogueEntry& entry : catalogue.entries()) {
-            found.push_back(entry.weapon.name);
+            found.push_back(entry.holdsWeapon ? entry.weapon.name : "no weapon: " + entry.weapon.fileName);
         }
         return found;
     }
@@ -171,10 +171,14 @@ TEST_F(WeaponCatalogueTest, GoesOnPastBadFiles) {
     program.write(below("strange"), textOf({.name = "strange", .type = "WEAPON_SLINGSHOT"}));
     program.write("Data\\Weapons\\folder.txt\\inner.txt", "");
     mod.write(below("shadowed"), "<weapon><name>cut off");
+    mod.write(below("Picture"), "also none");
     load();
-    EXPECT_EQ(names(), (Names{"good", "program's", "strange"}));
-    EXPECT_EQ(problemPaths(), (Names{mod.path() + below("shadowed"), program.path() + below("empty"),
-                                     program.path() + below("picture"), program.path() + below("strange")}));
+    EXPECT_EQ(names(), (Names{"good", "program's", "strange", "no weapon: empty", "no weapon: Picture"}));
+    EXPECT_EQ(select({}), (Names{"good", "program's", "strange"})) << "a unit cannot have them";
+    EXPECT_EQ(catalogue.find("empty"), nullptr);
+    EXPECT_EQ(problemPaths(), (Names{mod.path() + below("Picture"), mod.path() + below("shadowed"),
+                                     program.path() + below("empty"), program.path() + below("picture"),
+                                     program.path() + below("strange")}));
     EXPECT_NE(catalogue.problems().back().reason.find("WEAPON_SLINGSHOT"), std::string::npos);
 }
 
@@ -186,7 +190,7 @@ TEST_F(WeaponCatalogueTest, ListsFilesThatCannotBeOpened) {
         GTEST_SKIP() << "no symbolic links here";
     }
     load();
-    EXPECT_EQ(names(), Names{"good"});
+    EXPECT_EQ(names(), (Names{"good", "no weapon: dangling"}));
     EXPECT_EQ(problemPaths(), Names{program.path() + below("dangling")});
 }
 
@@ -222,7 +226,8 @@ TEST_F(WeaponCatalogueTest, FollowsWhatIsSavedCreatedAndDeleted) {
     catalogue.refresh("a");
     EXPECT_EQ(names(), Names{"b"}) << "deleted in the program";
     std::filesystem::rename(program.nativePath(below("b")), program.nativePath(below("c")));
-    catalogue.refreshRenamed("b", "c");
+    catalogue.refresh("b");
+    catalogue.refresh("c");
     ASSERT_EQ(names(), Names{"b"}) << "the name inside stays";
     EXPECT_EQ(catalogue.entries().front().weapon.fileName, "c");
     EXPECT_EQ(catalogue.entries().front().path, program.path() + below("c"));
