@@ -23,8 +23,8 @@ if(WIN32)
 endif()
 
 if(VARROCADE_SANITIZE)
-    add_compile_options(-fsanitize=address,undefined,fuzzer-no-link -fno-sanitize-recover=all -fno-omit-frame-pointer -g1)
-    add_link_options(-fsanitize=address,undefined)
+    add_compile_options(-fsanitize=address,undefined,float-cast-overflow,fuzzer-no-link -fno-sanitize-recover=all -fno-omit-frame-pointer -g1)
+    add_link_options(-fsanitize=address,undefined,float-cast-overflow)
 endif()
 
 # One library target a folder of src/.

@@ -1,5 +1,6 @@
 #include "editors/penetration_form.h"
 
+#include "data/image_names.h"
 #include "data/numbers.h"
 #include "resources/resource.h"
 #include "view/sheet_text.h"
@@ -48,7 +49,7 @@ std::vector<std::string> penetrationWeapons(const WeaponCatalogue& catalogue) {
 std::size_t firstPenetrationWeapon(const WeaponCatalogue& catalogue) {
     const auto& entries = catalogue.entries();
     const auto first = std::find_if(entries.begin(), entries.end(), [](const CatalogueEntry& entry) {
-        return entry.weapon.fileName == FirstPenetrationWeapon;
+        return equalsIgnoringCase(entry.weapon.fileName, FirstPenetrationWeapon);
     });
     return first == entries.end() ? 0 : static_cast<std::size_t>(first - entries.begin());
 }
