@@ -1,6 +1,7 @@
 #include "view/picture_cache_win32.h"
 
 #include "platform/file_operations.h"
+#include "view/picture_decoder_win32.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -9,35 +10,15 @@ namespace varrocade {
 
 namespace {
 
-struct ReleaseStream {
-    void operator()(IStream* stream) const { stream->Release(); }
-};
-
-/// Decodes a file's bytes; without pixels when they are no picture.
-Pixmap decoded(const std::string& content) {
-    HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, content.size());
-    if (memory == nullptr) {
-        return {};
-    }
-    if (void* bytes = GlobalLock(memory)) {
-        std::copy(content.begin(), content.end(), static_cast<char*>(bytes));
-        GlobalUnlock(memory);
-    }
-    IStream* rawStream = nullptr;
-    if (FAILED(CreateStreamOnHGlobal(memory, TRUE, &rawStream))) {
-        GlobalFree(memory);
-        return {};
-    }
-    const std::unique_ptr<IStream, ReleaseStream> stream(rawStream);
-    Gdiplus::Bitmap source(stream.get(), FALSE);
-    return source.GetLastStatus() == Gdiplus::Ok ? pixelsOf(source) : Pixmap{};
-}
-
 PixelBox commonBox(const PixelBox& a, const PixelBox& b) {
     const int left = std::max(a.left, b.left);
     const int top = std::max(a.top, b.top);
     return {left, top, std::max(0, std::min(a.left + a.width, b.left + b.width) - left),
             std::max(0, std::min(a.top + a.height, b.top + b.height) - top)};
+}
+
+std::size_t pixelsIn(const PixelBox& box) {
+    return static_cast<std::size_t>(box.width) * static_cast<std::size_t>(box.height);
 }
 
 } // namespace
@@ -60,21 +41,26 @@ Pixmap pixelsOf(Gdiplus::Bitmap& bitmap) {
     return result;
 }
 
-GdiObject<HBITMAP> bitmapOf(const Pixmap& pixels) {
+namespace {
+
+/// A picture as it is placed within a box, as a bitmap of its own.
+GdiObject<HBITMAP> placedBitmap(const Pixmap& source, const PixmapPlacement& placement, const PixelBox& box) {
     BITMAPINFO info{};
     info.bmiHeader.biSize = sizeof(info.bmiHeader);
-    info.bmiHeader.biWidth = pixels.width;
-    info.bmiHeader.biHeight = -pixels.height; // from the top
+    info.bmiHeader.biWidth = box.width;
+    info.bmiHeader.biHeight = -box.height; // from the top
     info.bmiHeader.biPlanes = 1;
     info.bmiHeader.biBitCount = 32;
     info.bmiHeader.biCompression = BI_RGB;
     void* bits = nullptr;
     GdiObject<HBITMAP> bitmap(CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
     if (bits != nullptr) {
-        std::copy(pixels.pixels.begin(), pixels.pixels.end(), static_cast<std::uint32_t*>(bits));
+        placePixmap(source, placement, box, {static_cast<std::uint32_t*>(bits), pixelsIn(box)});
     }
     return bitmap;
 }
+
+} // namespace
 
 void blend(HDC device, int centreX, int centreY, const PlacedBitmap& placed) {
     const MemoryDevice memory(device);
@@ -115,7 +101,7 @@ const Pixmap* PictureCache::pixels(const std::string& path) {
     if (!readWholeFile(path, content)) {
         return nullptr;
     }
-    Pixmap pixmap = decoded(content);
+    Pixmap pixmap = decodedPicture(std::move(content));
     if (pixmap.pixels.empty()) {
         return nullptr;
     }
@@ -148,9 +134,11 @@ const PlacedBitmap* PictureCache::placed(const std::string& name, const Pixmap& 
     if (const Entry* entry = find(key)) {
         return &entry->placed;
     }
-    const Pixmap pixmap = placedPixmap(source, placement, box);
-    const std::size_t bytes = pixmap.pixels.size() * sizeof(std::uint32_t);
-    return &keep({.key = key, .pixels = {}, .placed = {bitmapOf(pixmap), box}, .bytes = bytes}).placed;
+    return &keep({.key = key,
+                  .pixels = {},
+                  .placed = {placedBitmap(source, placement, box), box},
+                  .bytes = pixelsIn(box) * sizeof(std::uint32_t)})
+                .placed;
 }
 
 std::optional<PictureSize> PictureCache::sizeOf(const std::string& path) {

@@ -72,7 +72,4 @@ private:
 /// The pixels of a bitmap that GDI+ has read.
 Pixmap pixelsOf(Gdiplus::Bitmap& bitmap);
 
-/// A bitmap of its own for some pixels.
-GdiObject<HBITMAP> bitmapOf(const Pixmap& pixels);
-
 } // namespace varrocade
