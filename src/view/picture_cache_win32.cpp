@@ -41,21 +41,35 @@ Pixmap pixelsOf(Gdiplus::Bitmap& bitmap) {
     return result;
 }
 
+BITMAPINFO pixelFormat(int width, int height) {
+    BITMAPINFO info{};
+    info.bmiHeader.biSize = sizeof(info.bmiHeader);
+    info.bmiHeader.biWidth = width;
+    info.bmiHeader.biHeight = -height; // from the top
+    info.bmiHeader.biPlanes = 1;
+    info.bmiHeader.biBitCount = 32;
+    info.bmiHeader.biCompression = BI_RGB;
+    return info;
+}
+
+GdiObject<HBITMAP> pixelBitmap(int width, int height, std::span<std::uint32_t>& pixels) {
+    const BITMAPINFO info = pixelFormat(width, height);
+    void* bits = nullptr;
+    GdiObject<HBITMAP> bitmap(CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
+    const std::size_t count = static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
+    pixels =
+        bits != nullptr ? std::span(static_cast<std::uint32_t*>(bits), count) : std::span<std::uint32_t>();
+    return bitmap;
+}
+
 namespace {
 
 /// A picture as it is placed within a box, as a bitmap of its own.
 GdiObject<HBITMAP> placedBitmap(const Pixmap& source, const PixmapPlacement& placement, const PixelBox& box) {
-    BITMAPINFO info{};
-    info.bmiHeader.biSize = sizeof(info.bmiHeader);
-    info.bmiHeader.biWidth = box.width;
-    info.bmiHeader.biHeight = -box.height; // from the top
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 32;
-    info.bmiHeader.biCompression = BI_RGB;
-    void* bits = nullptr;
-    GdiObject<HBITMAP> bitmap(CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
-    if (bits != nullptr) {
-        placePixmap(source, placement, box, {static_cast<std::uint32_t*>(bits), pixelsIn(box)});
+    std::span<std::uint32_t> pixels;
+    GdiObject<HBITMAP> bitmap = pixelBitmap(box.width, box.height, pixels);
+    if (!pixels.empty()) {
+        placePixmap(source, placement, box, pixels);
     }
     return bitmap;
 }
@@ -65,10 +79,9 @@ GdiObject<HBITMAP> placedBitmap(const Pixmap& source, const PixmapPlacement& pla
 void blend(HDC device, int centreX, int centreY, const PlacedBitmap& placed) {
     const MemoryDevice memory(device);
     const Selection selection(memory.get(), placed.bitmap.get());
-    constexpr BLENDFUNCTION overGround = {AC_SRC_OVER, 0, 255, AC_SRC_ALPHA};
     const PixelBox& box = placed.box;
     GdiAlphaBlend(device, centreX + box.left, centreY + box.top, box.width, box.height, memory.get(), 0, 0,
-                  box.width, box.height, overGround);
+                  box.width, box.height, OverGround);
 }
 
 PictureCache::Entry* PictureCache::find(const Key& key) {
