@@ -196,12 +196,17 @@ constexpr auto Commands = std::to_array<Command>({
     {IDM_GAME_FOLDER, browseForGameFolder, always},
 });
 
+const Command* commandOf(int id) {
+    const auto found =
+        std::find_if(Commands.begin(), Commands.end(), [id](const Command& row) { return row.id == id; });
+    return found == Commands.end() ? nullptr : &*found;
+}
+
 } // namespace
 
 bool runCommand(int id) {
-    const auto command =
-        std::find_if(Commands.begin(), Commands.end(), [id](const Command& row) { return row.id == id; });
-    if (command == Commands.end() || !command->isEnabled()) {
+    const Command* command = commandOf(id);
+    if (command == nullptr || !command->isEnabled()) {
         return false;
     }
     command->run();
@@ -225,13 +230,18 @@ void updateMenu(HMENU menu) {
 }
 
 void updateButtons() {
-    for (const Command& command : Commands) {
-        HWND button = GetDlgItem(application().window, command.id);
-        if (button != nullptr) {
-            EnableWindow(button, command.isEnabled() ? TRUE : FALSE);
+    // Each question for a window goes to the system: so the few children are asked for their commands.
+    const auto update = [](HWND child, LPARAM) -> BOOL {
+        const int id = GetDlgCtrlID(child);
+        if (const Command* command = commandOf(id)) {
+            EnableWindow(child, command->isEnabled() ? TRUE : FALSE);
         }
-    }
-    ShowWindow(GetDlgItem(application().window, IDC_EDIT_DETAILS), canEditOpenRecord() ? SW_SHOWNA : SW_HIDE);
+        if (id == IDC_EDIT_DETAILS) {
+            ShowWindow(child, canEditOpenRecord() ? SW_SHOWNA : SW_HIDE);
+        }
+        return TRUE;
+    };
+    EnumChildWindows(application().window, update, 0);
 }
 
 } // namespace varrocade

@@ -29,13 +29,19 @@ int visibleHeight() {
 /// The bar keeps its place when there is nothing to scroll, so that the text does not jump.
 void updateBar(HWND window) {
     const UnitDisplay& display = application().display;
-    SCROLLINFO info{};
-    info.cbSize = sizeof(info);
+    SCROLLINFO former{};
+    former.cbSize = sizeof(former);
+    former.fMask = SIF_RANGE | SIF_PAGE | SIF_POS;
+    GetScrollInfo(window, SB_VERT, &former);
+    SCROLLINFO info = former;
     info.fMask = SIF_RANGE | SIF_PAGE | SIF_POS | SIF_DISABLENOSCROLL;
     info.nMax = std::max(0, display.sheetLayout.height - 1);
     info.nPage = static_cast<UINT>(visibleHeight());
     info.nPos = display.scroll;
-    SetScrollInfo(window, SB_VERT, &info, TRUE);
+    // It would be painted anew, which takes as long as painting the sheet does.
+    if (info.nMax != former.nMax || info.nPage != former.nPage || info.nPos != former.nPos) {
+        SetScrollInfo(window, SB_VERT, &info, TRUE);
+    }
 }
 
 void scrollBy(int pixels) {
@@ -172,6 +178,7 @@ HWND createSheetWindow(HWND parent) {
 }
 
 void redrawSheet() {
+    application().display.sheetCanvas.isPainted = false;
     InvalidateRect(sheetWindow(), nullptr, FALSE);
     UpdateWindow(sheetWindow());
 }

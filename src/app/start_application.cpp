@@ -17,21 +17,6 @@ namespace varrocade {
 
 namespace {
 
-/// GDI+ for the length of the program.
-class GdiPlusSession {
-public:
-    GdiPlusSession() {
-        const Gdiplus::GdiplusStartupInput input;
-        Gdiplus::GdiplusStartup(&token_, &input, nullptr);
-    }
-    GdiPlusSession(const GdiPlusSession&) = delete;
-    GdiPlusSession& operator=(const GdiPlusSession&) = delete;
-    ~GdiPlusSession() { Gdiplus::GdiplusShutdown(token_); }
-
-private:
-    ULONG_PTR token_ = 0;
-};
-
 std::string currentFolder() {
     std::array<char, MaxPathLength> path{};
     const DWORD length = GetCurrentDirectoryA(static_cast<DWORD>(path.size()), path.data());
@@ -128,7 +113,7 @@ int startApplication(HINSTANCE instance, int showCommand) {
     app.instance = instance;
     app.programFolder = currentFolder();
     readOptions();
-    const GdiPlusSession gdiPlus;
+    const PictureSession pictures;
     app.drawing =
         createDrawingObjects(instance, std::string(image_folder::Grid), static_cast<int>(GetDpiForSystem()));
     const INITCOMMONCONTROLSEX controls{sizeof(INITCOMMONCONTROLSEX),

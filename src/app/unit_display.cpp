@@ -13,7 +13,7 @@ namespace {
 void composeDrawing(UnitDisplay& display) {
     Application& app = application();
     display.isDrawingStale = false;
-    display.pictureSize = {};
+    display.drawingCanvas.isPainted = false;
     display.drawing = {};
     display.hasDrawing = false;
     const DrawOptions options{.bases = imageBases(),
@@ -60,6 +60,7 @@ void composeDisplay(UnitDisplay& display) {
     }
     if (display.isStale) {
         display.isStale = false;
+        display.sheetCanvas.isPainted = false;
         display.sheet =
             app.openWeapon ? weaponSheet(*app.openWeapon, problemsOfOpenWeapon(), usersOfOpenWeapon())
             : app.openUnit ? unitSheet(*app.openUnit, display.drawing.missingPictures, app.catalogue)
@@ -87,9 +88,9 @@ void paintUnit(HDC device, const RECT& client) {
     }
     composeDisplay(display);
     // Painted once for each state and size; painting again only copies it.
-    if (!display.picture || display.pictureSize.cx != size.cx || display.pictureSize.cy != size.cy) {
-        display.picture = std::make_unique<MemoryBitmap>(device, size.cx, size.cy);
-        display.pictureSize = size;
+    HDC memory = deviceOf(display.drawingCanvas, device, size);
+    if (!display.drawingCanvas.isPainted) {
+        display.drawingCanvas.isPainted = true;
         display.shownFit = display.ownFit.value_or(
             fitInto(display.drawing, size.cx, size.cy - app.drawing.scaled(ScaleHeight),
                     app.drawing.scaled(DrawingMargin), app.openWeapon ? GreatestScale : GreatestFittedScale));
@@ -99,32 +100,36 @@ void paintUnit(HDC device, const RECT& client) {
                                    .caption = display.caption.empty() && app.openUnit
                                                   ? positionText(*app.openUnit, display.selected)
                                                   : display.caption};
-            paintDrawing(display.picture->device(), client, display.drawing, view, app.drawing, app.pictures);
+            paintDrawing(memory, client, display.drawing, view, app.drawing, app.pictures);
         } else {
-            FillRect(display.picture->device(), &client, app.drawing.beigeBrush.get());
+            FillRect(memory, &client, app.drawing.beigeBrush.get());
         }
     }
-    BitBlt(device, 0, 0, size.cx, size.cy, display.picture->device(), 0, 0, SRCCOPY);
+    BitBlt(device, 0, 0, size.cx, size.cy, memory, 0, 0, SRCCOPY);
 }
 
 void paintSheetArea(HDC device, const RECT& client) {
     Application& app = application();
     UnitDisplay& display = app.display;
-    if (client.right <= 0 || client.bottom <= 0) {
+    const SIZE size{client.right, client.bottom};
+    if (size.cx <= 0 || size.cy <= 0) {
         return;
     }
     composeDisplay(display);
-    const MemoryBitmap buffer(device, client.right, client.bottom);
-    display.sheetLayout = {};
-    if (isRecordOpen()) {
-        const SheetOptions options{
-            .bases = imageBases(), .scroll = display.scroll, .selected = display.selected};
-        display.sheetLayout =
-            paintSheet(buffer.device(), client, display.sheet, options, app.drawing, app.pictures);
-    } else {
-        paintHint(buffer.device(), client, app.drawing);
+    HDC memory = deviceOf(display.sheetCanvas, device, size);
+    if (!display.sheetCanvas.isPainted) {
+        display.sheetCanvas.isPainted = true;
+        display.sheetLayout = {};
+        if (isRecordOpen()) {
+            const SheetOptions options{
+                .bases = imageBases(), .scroll = display.scroll, .selected = display.selected};
+            display.sheetLayout =
+                paintSheet(memory, client, display.sheet, options, app.drawing, app.pictures);
+        } else {
+            paintHint(memory, client, app.drawing);
+        }
     }
-    BitBlt(device, 0, 0, client.right, client.bottom, buffer.device(), 0, 0, SRCCOPY);
+    BitBlt(device, 0, 0, size.cx, size.cy, memory, 0, 0, SRCCOPY);
 }
 
 void scrollSheet(int pixels, int visibleHeight) {

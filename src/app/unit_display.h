@@ -37,8 +37,8 @@ struct UnitDisplay {
     bool isDrawingStale = true; ///< the same of the drawing alone
     int scroll = 0;             ///< pixels that the sheet is scrolled down
     SheetLayout sheetLayout;
-    std::unique_ptr<MemoryBitmap> picture;
-    SIZE pictureSize{};
+    Canvas drawingCanvas;
+    Canvas sheetCanvas;
 
     std::optional<Fit> ownFit; ///< the user's own view of the drawing
     Fit shownFit;

@@ -3,6 +3,9 @@
 #include "resources/resource.h"
 #include "view/picture_cache_win32.h"
 
+#include <cstdint>
+#include <span>
+
 namespace varrocade {
 
 namespace {
@@ -29,9 +32,26 @@ GdiObject<HPEN> pen(int width, COLORREF colour) {
     return GdiObject<HPEN>(CreatePen(PS_SOLID, width, paletteColour(colour)));
 }
 
-GdiObject<HBITMAP> bitmap(HINSTANCE instance, int id) {
-    return GdiObject<HBITMAP>(static_cast<HBITMAP>(
+constexpr std::uint32_t MarkKey = 0x00FF00FF; ///< the colour of a mark's bitmap that is transparent
+
+/// A bitmap of the resources as one that blends: blending is much faster than leaving a colour out.
+GdiObject<HBITMAP> mark(HINSTANCE instance, int id) {
+    const GdiObject<HBITMAP> loaded(static_cast<HBITMAP>(
         LoadImageA(instance, MAKEINTRESOURCEA(id), IMAGE_BITMAP, 0, 0, LR_DEFAULTCOLOR)));
+    BITMAP size{};
+    GetObjectA(loaded.get(), sizeof(size), &size);
+    std::span<std::uint32_t> pixels;
+    GdiObject<HBITMAP> result = pixelBitmap(size.bmWidth, size.bmHeight, pixels);
+    BITMAPINFO info = pixelFormat(size.bmWidth, size.bmHeight);
+    const MemoryDevice device(nullptr);
+    GetDIBits(device.get(), loaded.get(), 0, static_cast<UINT>(size.bmHeight), pixels.data(), &info,
+              DIB_RGB_COLORS);
+    constexpr std::uint32_t opaque = 0xFF000000;
+    for (std::uint32_t& pixel : pixels) {
+        const std::uint32_t colour = pixel & ~opaque;
+        pixel = colour == MarkKey ? 0 : colour | opaque;
+    }
+    return result;
 }
 
 } // namespace
@@ -65,9 +85,9 @@ DrawingObjects createDrawingObjects(HINSTANCE instance, const std::string& gridP
     objects.whitePen = pen(1, RGB(255, 255, 255));
     objects.bluePen = pen(wide, RGB(128, 128, 255));
     objects.secondGreenPen = pen(1, RGB(0, 255, 0));
-    objects.weaponMark = bitmap(instance, IDB_WEAPON_MARK);
-    objects.dischargeMark = bitmap(instance, IDB_DISCHARGER_MARK);
-    objects.exhaustMark = bitmap(instance, IDB_EXHAUST_MARK);
+    objects.weaponMark = mark(instance, IDB_WEAPON_MARK);
+    objects.dischargeMark = mark(instance, IDB_DISCHARGER_MARK);
+    objects.exhaustMark = mark(instance, IDB_EXHAUST_MARK);
     objects.grid = std::make_unique<Gdiplus::Bitmap>(widened(gridPath).c_str());
     if (objects.grid->GetLastStatus() != Gdiplus::Ok) {
         objects.grid.reset();

@@ -11,7 +11,6 @@ namespace varrocade {
 namespace {
 
 constexpr COLORREF Ground = RGB(206, 200, 170);
-constexpr COLORREF MarkKey = RGB(255, 0, 255); ///< what of a mark's bitmap is transparent
 constexpr COLORREF LabelInk = RGB(40, 34, 24);
 constexpr int MarkRadius = 6;
 
@@ -137,8 +136,8 @@ public:
         const Selection selection(memory.get(), mark);
         const int width = objects_.scaled(size.bmWidth);
         const int height = objects_.scaled(size.bmHeight);
-        GdiTransparentBlt(device_, rounded(x(item.centre)) - width / 2, rounded(y(item.centre)) - height / 2,
-                          width, height, memory.get(), 0, 0, size.bmWidth, size.bmHeight, MarkKey);
+        GdiAlphaBlend(device_, rounded(x(item.centre)) - width / 2, rounded(y(item.centre)) - height / 2,
+                      width, height, memory.get(), 0, 0, size.bmWidth, size.bmHeight, OverGround);
     }
 
     void operator()(const LabelItem& item) const {
@@ -373,6 +372,15 @@ MemoryBitmap::~MemoryBitmap() {
     SelectObject(device_, former_);
     DeleteObject(bitmap_);
     DeleteDC(device_);
+}
+
+HDC deviceOf(Canvas& canvas, HDC screen, SIZE size) {
+    if (!canvas.bitmap || canvas.size.cx != size.cx || canvas.size.cy != size.cy) {
+        canvas.bitmap = std::make_unique<MemoryBitmap>(screen, size.cx, size.cy);
+        canvas.size = size;
+        canvas.isPainted = false;
+    }
+    return canvas.bitmap->device();
 }
 
 void paintDrawing(HDC device, const RECT& area, const DrawList& list, const DrawingView& view,

@@ -6,6 +6,8 @@
 #include "view/picture_cache_win32.h"
 #include "view/view_place.h"
 
+#include <memory>
+
 namespace varrocade {
 
 /// A bitmap in memory that painting goes to first, so that the screen changes in one step.
@@ -22,6 +24,16 @@ private:
     HBITMAP bitmap_;
     HGDIOBJ former_;
 };
+
+/// A bitmap that is kept from one painting to the next.
+struct Canvas {
+    std::unique_ptr<MemoryBitmap> bitmap;
+    SIZE size{};
+    bool isPainted = false; ///< shows what it is to show
+};
+
+/// The device of a canvas, which is unpainted when it was of another size.
+HDC deviceOf(Canvas& canvas, HDC screen, SIZE size);
 
 /// How a drawing is looked at.
 struct DrawingView {

@@ -1,6 +1,7 @@
 #include "view/picture_cache_win32.h"
 
 #include "platform/file_operations.h"
+#include "view/picture_decoder_win32.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -9,35 +10,15 @@ namespace varrocade {
 
 namespace {
 
-struct ReleaseStream {
-    void operator()(IStream* stream) const { stream->Release(); }
-};
-
-/// Decodes a file's bytes; without pixels when they are no picture.
-Pixmap decoded(const std::string& content) {
-    HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, content.size());
-    if (memory == nullptr) {
-        return {};
-    }
-    if (void* bytes = GlobalLock(memory)) {
-        std::copy(content.begin(), content.end(), static_cast<char*>(bytes));
-        GlobalUnlock(memory);
-    }
-    IStream* rawStream = nullptr;
-    if (FAILED(CreateStreamOnHGlobal(memory, TRUE, &rawStream))) {
-        GlobalFree(memory);
-        return {};
-    }
-    const std::unique_ptr<IStream, ReleaseStream> stream(rawStream);
-    Gdiplus::Bitmap source(stream.get(), FALSE);
-    return source.GetLastStatus() == Gdiplus::Ok ? pixelsOf(source) : Pixmap{};
-}
-
 PixelBox commonBox(const PixelBox& a, const PixelBox& b) {
     const int left = std::max(a.left, b.left);
     const int top = std::max(a.top, b.top);
     return {left, top, std::max(0, std::min(a.left + a.width, b.left + b.width) - left),
             std::max(0, std::min(a.top + a.height, b.top + b.height) - top)};
+}
+
+std::size_t pixelsIn(const PixelBox& box) {
+    return static_cast<std::size_t>(box.width) * static_cast<std::size_t>(box.height);
 }
 
 } // namespace
@@ -60,29 +41,47 @@ Pixmap pixelsOf(Gdiplus::Bitmap& bitmap) {
     return result;
 }
 
-GdiObject<HBITMAP> bitmapOf(const Pixmap& pixels) {
+BITMAPINFO pixelFormat(int width, int height) {
     BITMAPINFO info{};
     info.bmiHeader.biSize = sizeof(info.bmiHeader);
-    info.bmiHeader.biWidth = pixels.width;
-    info.bmiHeader.biHeight = -pixels.height; // from the top
+    info.bmiHeader.biWidth = width;
+    info.bmiHeader.biHeight = -height; // from the top
     info.bmiHeader.biPlanes = 1;
     info.bmiHeader.biBitCount = 32;
     info.bmiHeader.biCompression = BI_RGB;
+    return info;
+}
+
+GdiObject<HBITMAP> pixelBitmap(int width, int height, std::span<std::uint32_t>& pixels) {
+    const BITMAPINFO info = pixelFormat(width, height);
     void* bits = nullptr;
     GdiObject<HBITMAP> bitmap(CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
-    if (bits != nullptr) {
-        std::copy(pixels.pixels.begin(), pixels.pixels.end(), static_cast<std::uint32_t*>(bits));
+    const std::size_t count = static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
+    pixels =
+        bits != nullptr ? std::span(static_cast<std::uint32_t*>(bits), count) : std::span<std::uint32_t>();
+    return bitmap;
+}
+
+namespace {
+
+/// A picture as it is placed within a box, as a bitmap of its own.
+GdiObject<HBITMAP> placedBitmap(const Pixmap& source, const PixmapPlacement& placement, const PixelBox& box) {
+    std::span<std::uint32_t> pixels;
+    GdiObject<HBITMAP> bitmap = pixelBitmap(box.width, box.height, pixels);
+    if (!pixels.empty()) {
+        placePixmap(source, placement, box, pixels);
     }
     return bitmap;
 }
 
+} // namespace
+
 void blend(HDC device, int centreX, int centreY, const PlacedBitmap& placed) {
     const MemoryDevice memory(device);
     const Selection selection(memory.get(), placed.bitmap.get());
-    constexpr BLENDFUNCTION overGround = {AC_SRC_OVER, 0, 255, AC_SRC_ALPHA};
     const PixelBox& box = placed.box;
     GdiAlphaBlend(device, centreX + box.left, centreY + box.top, box.width, box.height, memory.get(), 0, 0,
-                  box.width, box.height, overGround);
+                  box.width, box.height, OverGround);
 }
 
 PictureCache::Entry* PictureCache::find(const Key& key) {
@@ -115,7 +114,7 @@ const Pixmap* PictureCache::pixels(const std::string& path) {
     if (!readWholeFile(path, content)) {
         return nullptr;
     }
-    Pixmap pixmap = decoded(content);
+    Pixmap pixmap = decodedPicture(std::move(content));
     if (pixmap.pixels.empty()) {
         return nullptr;
     }
@@ -148,9 +147,11 @@ const PlacedBitmap* PictureCache::placed(const std::string& name, const Pixmap& 
     if (const Entry* entry = find(key)) {
         return &entry->placed;
     }
-    const Pixmap pixmap = placedPixmap(source, placement, box);
-    const std::size_t bytes = pixmap.pixels.size() * sizeof(std::uint32_t);
-    return &keep({.key = key, .pixels = {}, .placed = {bitmapOf(pixmap), box}, .bytes = bytes}).placed;
+    return &keep({.key = key,
+                  .pixels = {},
+                  .placed = {placedBitmap(source, placement, box), box},
+                  .bytes = pixelsIn(box) * sizeof(std::uint32_t)})
+                .placed;
 }
 
 std::optional<PictureSize> PictureCache::sizeOf(const std::string& path) {

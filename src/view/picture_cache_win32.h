@@ -6,9 +6,11 @@
 #include "view/pixmap.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <list>
 #include <map>
 #include <memory>
+#include <span>
 #include <string>
 #include <tuple>
 
@@ -69,10 +71,17 @@ private:
     std::size_t bytes_ = 0;
 };
 
+/// How the system is told of pixels that lie as those of a `Pixmap` do.
+BITMAPINFO pixelFormat(int width, int height);
+
+/// A bitmap of such pixels, all transparent; `pixels` are those of the bitmap, none when there is no memory
+/// for it.
+GdiObject<HBITMAP> pixelBitmap(int width, int height, std::span<std::uint32_t>& pixels);
+
+/// How such bitmaps are blended.
+inline constexpr BLENDFUNCTION OverGround = {AC_SRC_OVER, 0, 255, AC_SRC_ALPHA};
+
 /// The pixels of a bitmap that GDI+ has read.
 Pixmap pixelsOf(Gdiplus::Bitmap& bitmap);
-
-/// A bitmap of its own for some pixels.
-GdiObject<HBITMAP> bitmapOf(const Pixmap& pixels);
 
 } // namespace varrocade

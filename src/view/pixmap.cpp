@@ -8,40 +8,60 @@ namespace varrocade {
 
 namespace {
 
-constexpr std::uint32_t EvenChannels = 0x00FF00FF;
+// Four channels are computed with at once: each has 16 bits of a 64-bit number.
+constexpr std::uint64_t Channels = 0x00FF00FF00FF00FF;
 
-/// Four pixels averaged, all channels at once: two of them lie in each half of the sums.
-std::uint32_t average(std::uint32_t a, std::uint32_t b, std::uint32_t c, std::uint32_t d) {
-    const auto mean = [&](unsigned shift) {
-        const std::uint32_t sum = ((a >> shift) & EvenChannels) + ((b >> shift) & EvenChannels) +
-                                  ((c >> shift) & EvenChannels) + ((d >> shift) & EvenChannels);
-        return ((sum + 0x00020002U) >> 2U) & EvenChannels;
-    };
-    return mean(0) | (mean(8) << 8U);
+constexpr std::uint64_t spread(std::uint32_t pixel) {
+    return (std::uint64_t{pixel & 0xFF00FF00U} << 24U) | (pixel & 0x00FF00FFU);
 }
 
+constexpr std::uint32_t packed(std::uint64_t channels) {
+    return static_cast<std::uint32_t>(channels | (channels >> 24U));
+}
+
+std::uint32_t average(std::uint32_t a, std::uint32_t b, std::uint32_t c, std::uint32_t d) {
+    constexpr std::uint64_t halves = 0x0002000200020002;
+    return packed(((spread(a) + spread(b) + spread(c) + spread(d) + halves) >> 2U) & Channels);
+}
+
+const std::uint32_t* rowOf(const Pixmap& source, int y) {
+    return source.pixels.data() + static_cast<std::size_t>(y) * static_cast<std::size_t>(source.width);
+}
+
+/// Of a picture that is at least two pixels wide and high.
 Pixmap halved(const Pixmap& source) {
-    Pixmap half{std::max(1, source.width / 2), std::max(1, source.height / 2), {}};
-    half.pixels.reserve(static_cast<std::size_t>(half.width) * static_cast<std::size_t>(half.height));
+    Pixmap half{source.width / 2, source.height / 2, {}};
+    half.pixels.resize(static_cast<std::size_t>(half.width) * static_cast<std::size_t>(half.height));
+    std::uint32_t* out = half.pixels.data();
     for (int y = 0; y < half.height; ++y) {
-        const int lower = std::min(2 * y + 1, source.height - 1);
-        for (int x = 0; x < half.width; ++x) {
-            const int right = std::min(2 * x + 1, source.width - 1);
-            half.pixels.push_back(average(source.at(2 * x, 2 * y), source.at(right, 2 * y),
-                                          source.at(2 * x, lower), source.at(right, lower)));
+        const std::uint32_t* upper = rowOf(source, 2 * y);
+        const std::uint32_t* lower = rowOf(source, 2 * y + 1);
+        for (int x = 0; x < half.width; ++x, upper += 2, lower += 2) {
+            *out++ = average(upper[0], upper[1], lower[0], lower[1]);
         }
     }
     return half;
 }
 
 /// From `a` to `b` by `share` of 256.
-std::uint32_t mixed(std::uint32_t a, std::uint32_t b, std::uint32_t share) {
-    const auto mix = [&](unsigned shift) {
-        const std::uint32_t sum =
-            ((a >> shift) & EvenChannels) * (256 - share) + ((b >> shift) & EvenChannels) * share;
-        return (sum >> 8U) & EvenChannels;
-    };
-    return mix(0) | (mix(8) << 8U);
+std::uint64_t mixed(std::uint64_t a, std::uint64_t b, std::uint64_t share) {
+    return ((a * (256 - share) + b * share) >> 8U) & Channels;
+}
+
+/// A place between the pixels of a picture, in 65536ths of a pixel.
+struct Place {
+    std::int64_t x = 0;
+    std::int64_t y = 0;
+
+    [[nodiscard]] int column() const { return static_cast<int>(x >> 16); }
+    [[nodiscard]] int row() const { return static_cast<int>(y >> 16); }
+};
+
+/// Four pixels that a place lies between, the two upper ones first.
+std::uint32_t between(std::uint32_t a, std::uint32_t b, std::uint32_t c, std::uint32_t d, Place place) {
+    const auto shareX = static_cast<std::uint64_t>((place.x >> 8) & 0xFF);
+    const auto shareY = static_cast<std::uint64_t>((place.y >> 8) & 0xFF);
+    return packed(mixed(mixed(spread(a), spread(b), shareX), mixed(spread(c), spread(d), shareX), shareY));
 }
 
 /// Reads a picture between its pixels. Outside it is transparent, or goes on with its edge.
@@ -49,21 +69,22 @@ class Sampler {
 public:
     Sampler(const Pixmap& source, bool keepsEdge) : source_(source), keepsEdge_(keepsEdge) {}
 
-    /// Coordinates in 65536ths of a pixel.
-    [[nodiscard]] std::uint32_t operator()(std::int64_t x, std::int64_t y) const {
-        const auto column = static_cast<int>(x >> 16);
-        const auto row = static_cast<int>(y >> 16);
-        const auto shareX = static_cast<std::uint32_t>((x >> 8) & 0xFF);
-        const auto shareY = static_cast<std::uint32_t>((y >> 8) & 0xFF);
-        if (column >= 0 && row >= 0 && column + 1 < source_.width && row + 1 < source_.height) {
-            const std::uint32_t* upper =
-                &source_.pixels[static_cast<std::size_t>(row) * static_cast<std::size_t>(source_.width) +
-                                static_cast<std::size_t>(column)];
-            const std::uint32_t* lower = upper + source_.width;
-            return mixed(mixed(upper[0], upper[1], shareX), mixed(lower[0], lower[1], shareX), shareY);
+    [[nodiscard]] std::uint32_t anywhere(Place place) const {
+        const int column = place.column();
+        const int row = place.row();
+        return between(pixel(column, row), pixel(column + 1, row), pixel(column, row + 1),
+                       pixel(column + 1, row + 1), place);
+    }
+
+    /// A place that has all its four pixels.
+    [[nodiscard]] std::uint32_t inside(Place place) const {
+        const std::uint32_t* upper = rowOf(source_, place.row()) + place.column();
+        const std::uint32_t* lower = upper + source_.width;
+        // Much of most pictures is empty.
+        if ((upper[0] | upper[1] | lower[0] | lower[1]) == 0) {
+            return 0;
         }
-        return mixed(mixed(pixel(column, row), pixel(column + 1, row), shareX),
-                     mixed(pixel(column, row + 1), pixel(column + 1, row + 1), shareX), shareY);
+        return between(upper[0], upper[1], lower[0], lower[1], place);
     }
 
 private:
@@ -78,6 +99,28 @@ private:
     const Pixmap& source_;
     bool keepsEdge_;
 };
+
+/// The steps from `first` until before `last`.
+struct Steps {
+    std::int64_t first = 0;
+    std::int64_t last = 0;
+};
+
+/// Which of `count` steps from `start` on lie within a side of `size` pixels with a pixel more behind them.
+Steps stepsInside(std::int64_t start, std::int64_t step, int size, std::int64_t count) {
+    const std::int64_t end = std::int64_t{size - 1} << 16;
+    if (step == 0) {
+        return start >= 0 && start < end ? Steps{0, count} : Steps{};
+    }
+    if (step < 0) {
+        // The same seen from the other end.
+        return stepsInside(end - 1 - start, -step, size, count);
+    }
+    const auto stepsUpTo = [&](std::int64_t place) {
+        return place <= start ? 0 : std::min(count, (place - start + step - 1) / step);
+    };
+    return {stepsUpTo(0), stepsUpTo(end)};
+}
 
 std::int64_t fixedPoint(double value) {
     return static_cast<std::int64_t>(std::floor(value * 65536 + 0.5));
@@ -104,8 +147,14 @@ PixelBox boxOf(const PixmapPlacement& placement) {
 Pixmap placedPixmap(const Pixmap& source, const PixmapPlacement& placement, const PixelBox& box) {
     Pixmap result{std::max(0, box.width), std::max(0, box.height), {}};
     result.pixels.resize(static_cast<std::size_t>(result.width) * static_cast<std::size_t>(result.height));
+    placePixmap(source, placement, box, result.pixels);
+    return result;
+}
+
+void placePixmap(const Pixmap& source, const PixmapPlacement& placement, const PixelBox& box,
+                 std::span<std::uint32_t> pixels) {
     if (source.width <= 0 || source.height <= 0 || placement.width <= 0 || placement.height <= 0) {
-        return result;
+        return;
     }
     // Reading between pixels averages two by two; what shrinks further is halved first.
     Pixmap smaller;
@@ -123,21 +172,28 @@ Pixmap placedPixmap(const Pixmap& source, const PixmapPlacement& placement, cons
     const double stepYx = std::sin(angle) * scaleX;
     const double stepYy = std::cos(angle) * scaleY;
     const Sampler sample(*used, placement.isTile);
-    const std::int64_t fixedStepX = fixedPoint(stepXx);
-    const std::int64_t fixedStepY = fixedPoint(stepXy);
-    std::size_t next = 0;
-    for (int row = 0; row < result.height; ++row) {
+    const Place step{fixedPoint(stepXx), fixedPoint(stepXy)};
+    std::uint32_t* out = pixels.data();
+    for (int row = 0; row < box.height; ++row) {
         const double x = box.left + 0.5;
         const double y = box.top + row + 0.5;
-        std::int64_t sourceX = fixedPoint(used->width / 2.0 + x * stepXx + y * stepYx - 0.5);
-        std::int64_t sourceY = fixedPoint(used->height / 2.0 + x * stepXy + y * stepYy - 0.5);
-        for (int column = 0; column < result.width; ++column) {
-            result.pixels[next++] = sample(sourceX, sourceY);
-            sourceX += fixedStepX;
-            sourceY += fixedStepY;
-        }
+        Place place{fixedPoint(used->width / 2.0 + x * stepXx + y * stepYx - 0.5),
+                    fixedPoint(used->height / 2.0 + x * stepXy + y * stepYy - 0.5)};
+        const Steps columns = stepsInside(place.x, step.x, used->width, box.width);
+        const Steps rows = stepsInside(place.y, step.y, used->height, box.width);
+        const auto first = std::max(columns.first, rows.first);
+        const auto last = std::max(first, std::min(columns.last, rows.last));
+        const auto readUntil = [&](std::int64_t column, std::int64_t end, auto read) {
+            for (; column < end; ++column) {
+                *out++ = read(place);
+                place.x += step.x;
+                place.y += step.y;
+            }
+        };
+        readUntil(0, first, [&](Place at) { return sample.anywhere(at); });
+        readUntil(first, last, [&](Place at) { return sample.inside(at); });
+        readUntil(last, box.width, [&](Place at) { return sample.anywhere(at); });
     }
-    return result;
 }
 
 } // namespace varrocade

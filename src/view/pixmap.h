@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <vector>
 
 namespace varrocade {
@@ -42,5 +43,9 @@ PixelBox boxOf(const PixmapPlacement& placement);
 
 /// What a placed picture looks like within a box. Stretching averages the pixels that come together.
 Pixmap placedPixmap(const Pixmap& source, const PixmapPlacement& placement, const PixelBox& box);
+
+/// The same into pixels that are there already, transparent ones, as many as the box has.
+void placePixmap(const Pixmap& source, const PixmapPlacement& placement, const PixelBox& box,
+                 std::span<std::uint32_t> pixels);
 
 } // namespace varrocade

@@ -55,30 +55,44 @@ private:
     static constexpr int SectionGap = 10;
     static constexpr int TimelineHeight = 96;
 
+    /// Whoever called for the painting selects his own font again.
+    void use(HFONT font) const {
+        if (GetCurrentObject(device_, OBJ_FONT) != font) {
+            SelectObject(device_, font);
+        }
+    }
+
     [[nodiscard]] int lineHeight(HFONT font) const {
-        const Selection selection(device_, font);
+        use(font);
         TEXTMETRICA metrics{};
         GetTextMetricsA(device_, &metrics);
         return metrics.tmHeight + objects_.scaled(2);
     }
 
-    [[nodiscard]] int widthOf(const std::string& words, HFONT font) const {
-        const Selection selection(device_, font);
+    [[nodiscard]] SIZE sizeOf(const std::string& words, HFONT font) const {
+        use(font);
         SIZE size{};
         GetTextExtentPoint32A(device_, words.data(), static_cast<int>(words.size()), &size);
-        return size.cx;
+        return size;
     }
 
+    [[nodiscard]] int widthOf(const std::string& words, HFONT font) const { return sizeOf(words, font).cx; }
+
     void text(const std::string& words, int x, int y, HFONT font, COLORREF colour) const {
-        const Selection selection(device_, font);
+        use(font);
         SetTextColor(device_, colour);
         TextOutA(device_, x, y, words.data(), static_cast<int>(words.size()));
     }
 
     /// Text broken into lines between `left` and `right`; returns its height.
     int brokenText(const std::string& words, int left, int right, int y, HFONT font, COLORREF colour) const {
-        const Selection selection(device_, font);
+        const SIZE size = sizeOf(words, font);
         SetTextColor(device_, colour);
+        // Most texts fit into one line, which is sooner done.
+        if (size.cx <= right - left && words.find_first_of("\r\n") == std::string::npos) {
+            TextOutA(device_, left, y, words.data(), static_cast<int>(words.size()));
+            return words.empty() ? 0 : size.cy;
+        }
         constexpr UINT format = DT_WORDBREAK | DT_NOPREFIX | DT_EDITCONTROL;
         RECT place{left, y, right, y};
         DrawTextA(device_, words.data(), static_cast<int>(words.size()), &place, format | DT_CALCRECT);

@@ -18,20 +18,6 @@ constexpr COLORREF Red = RGB(220, 30, 20);
 constexpr COLORREF Green = RGB(20, 160, 40);
 constexpr COLORREF PlainGround = RGB(206, 200, 170);
 
-class GdiPlusSession {
-public:
-    GdiPlusSession() {
-        const Gdiplus::GdiplusStartupInput input;
-        Gdiplus::GdiplusStartup(&token_, &input, nullptr);
-    }
-    GdiPlusSession(const GdiPlusSession&) = delete;
-    GdiPlusSession& operator=(const GdiPlusSession&) = delete;
-    ~GdiPlusSession() { Gdiplus::GdiplusShutdown(token_); }
-
-private:
-    ULONG_PTR token_ = 0;
-};
-
 /// A PNG whose front half is of one colour and whose rear half is empty.
 void writeHalf(const std::string& path, int width, int height, COLORREF colour) {
     constexpr CLSID pngEncoder = {
@@ -81,7 +67,7 @@ protected:
         }
     }
 
-    GdiPlusSession session;
+    PictureSession session;
     TempGame game;
     HDC screen;
     MemoryBitmap bitmap;

@@ -1,0 +1,90 @@
+#include "view/picture_decoder_win32.h"
+
+#include <windows.h>
+
+#include <objbase.h>
+#include <wincodec.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <string_view>
+#include <utility>
+
+namespace varrocade {
+
+namespace {
+
+constexpr std::string_view PngSignature = "\x89PNG\r\n\x1A\n";
+
+struct ReleaseInterface {
+    void operator()(IUnknown* object) const { object->Release(); }
+};
+
+template <typename Interface>
+using Owned = std::unique_ptr<Interface, ReleaseInterface>;
+
+/// The interface that a call hands out, or null.
+template <typename Interface, typename Call>
+Owned<Interface> obtained(Call call) {
+    Interface* object = nullptr;
+    return SUCCEEDED(call(&object)) ? Owned<Interface>(object) : nullptr;
+}
+
+Owned<IWICBitmapDecoder> decoderOf(IWICImagingFactory& factory, IWICStream& stream, bool isPng) {
+    if (!isPng) {
+        return obtained<IWICBitmapDecoder>([&](IWICBitmapDecoder** out) {
+            return factory.CreateDecoderFromStream(&stream, nullptr, WICDecodeMetadataCacheOnDemand, out);
+        });
+    }
+    // Asking whose file it is makes some decoders read all of it, and then once more.
+    auto decoder = obtained<IWICBitmapDecoder>([&](IWICBitmapDecoder** out) {
+        return factory.CreateDecoder(GUID_ContainerFormatPng, nullptr, out);
+    });
+    const bool isRead = decoder && SUCCEEDED(decoder->Initialize(&stream, WICDecodeMetadataCacheOnDemand));
+    return isRead ? std::move(decoder) : nullptr;
+}
+
+Pixmap pixelsOfSource(IWICBitmapSource& source) {
+    UINT width = 0;
+    UINT height = 0;
+    source.GetSize(&width, &height);
+    Pixmap pixmap{static_cast<int>(width), static_cast<int>(height), {}};
+    pixmap.pixels.resize(std::size_t{width} * height);
+    const UINT stride = width * static_cast<UINT>(sizeof(std::uint32_t));
+    const bool isCopied = SUCCEEDED(
+        source.CopyPixels(nullptr, stride, stride * height, reinterpret_cast<BYTE*>(pixmap.pixels.data())));
+    return isCopied ? pixmap : Pixmap{};
+}
+
+} // namespace
+
+Pixmap decodedPicture(std::string content) {
+    const auto factory = obtained<IWICImagingFactory>([](IWICImagingFactory** out) {
+        return CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER,
+                                IID_IWICImagingFactory, reinterpret_cast<void**>(out));
+    });
+    if (!factory) {
+        return {};
+    }
+    const auto stream = obtained<IWICStream>([&](IWICStream** out) { return factory->CreateStream(out); });
+    if (!stream || FAILED(stream->InitializeFromMemory(reinterpret_cast<BYTE*>(content.data()),
+                                                       static_cast<DWORD>(content.size())))) {
+        return {};
+    }
+    const auto decoder = decoderOf(*factory, *stream, content.starts_with(PngSignature));
+    if (!decoder) {
+        return {};
+    }
+    const auto frame = obtained<IWICBitmapFrameDecode>(
+        [&](IWICBitmapFrameDecode** out) { return decoder->GetFrame(0, out); });
+    if (!frame) {
+        return {};
+    }
+    const auto converted = obtained<IWICBitmapSource>([&](IWICBitmapSource** out) {
+        return WICConvertBitmapSource(GUID_WICPixelFormat32bppPBGRA, frame.get(), out);
+    });
+    return converted ? pixelsOfSource(*converted) : Pixmap{};
+}
+
+} // namespace varrocade
