@@ -31,19 +31,34 @@ public:
         const std::size_t columns =
             count <= smallSquad ? std::max<std::size_t>(1, std::min<std::size_t>(count, 2)) : 3;
         for (std::size_t first = 0; first < count; first += columns) {
-            const std::size_t inRow = std::min(columns, count - first);
-            double height = 0;
-            for (std::size_t i = 0; i < inRow; ++i) {
-                const double x = (static_cast<double>(i) - static_cast<double>(inRow - 1) / 2) * CellWidth;
-                height = std::max(height, drawMan(first + i, {x, top}));
+            const std::size_t last = std::min(first + columns, count);
+            double width = 0;
+            for (std::size_t man = first; man < last; ++man) {
+                width += cellWidth(man);
             }
-            coverBox(list_, {-CellWidth / 2 * static_cast<double>(inRow), top - height},
-                     {CellWidth / 2 * static_cast<double>(inRow), top});
+            double height = 0;
+            double left = -width / 2;
+            for (std::size_t man = first; man < last; ++man) {
+                height = std::max(height, drawMan(man, {left + cellWidth(man) / 2, top}));
+                left += cellWidth(man);
+            }
+            coverBox(list_, {-width / 2, top - height}, {width / 2, top});
             top -= height;
         }
     }
 
 private:
+    /// Long weapons need more room than a man and his name.
+    [[nodiscard]] double cellWidth(std::size_t man) const {
+        double width = CellWidth;
+        for (const Text& type : unit_.infantrymen[man].weapons) {
+            if (const WeaponRecord* weapon = catalogue_.find(type)) {
+                width = std::max(width, weaponShape(*weapon).length + 2 * WeaponGap);
+            }
+        }
+        return width;
+    }
+
     /// The picture of a man as the game shows him.
     void findUniform() {
         const NationalUniform* national = findNationalUniform(unit_.nationality);

@@ -93,7 +93,7 @@ public:
         } else {
             frame(item.centre, item.width, item.height, item.angle);
         }
-        text(item.label, rounded(x(item.centre)), rounded(y(item.centre)));
+        labelPlaceholder(item);
     }
 
     void operator()(const OutlineItem& item) const {
@@ -331,6 +331,22 @@ private:
         SetTextAlign(device_, TA_CENTER | TA_BOTTOM);
         TextOutA(device_, centreX, baseY, words.data(), static_cast<int>(words.size()));
         SetTextAlign(device_, TA_LEFT | TA_TOP);
+    }
+
+    /// Broken into lines within the outline, or within the least width that names can be read in.
+    void labelPlaceholder(const PlaceholderItem& item) const {
+        constexpr int leastWidth = 100;
+        const int halfWidth = std::max(rounded(fit_.length(item.width)), objects_.scaled(leastWidth)) / 2;
+        const Selection font(device_, objects_.smallFont.get());
+        SetBkMode(device_, TRANSPARENT);
+        SetTextColor(device_, LabelInk);
+        constexpr UINT format = DT_CENTER | DT_WORDBREAK | DT_EDITCONTROL | DT_NOPREFIX;
+        const POINT centre = pixel(item.centre);
+        RECT place{centre.x - halfWidth, 0, centre.x + halfWidth, 0};
+        DrawTextA(device_, item.label.data(), static_cast<int>(item.label.size()), &place,
+                  format | DT_CALCRECT);
+        place = {centre.x - halfWidth, centre.y - place.bottom / 2, centre.x + halfWidth, area_.bottom};
+        DrawTextA(device_, item.label.data(), static_cast<int>(item.label.size()), &place, format);
     }
 
     /// Words on a plate of their own beside a point, kept inside the area.

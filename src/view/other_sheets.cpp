@@ -28,7 +28,7 @@ std::string realText(float value, std::string_view unit) {
 SheetTable armamentTable(std::span<const WeaponMountRecord> weapons, std::span<const AmmoLoadRecord> ammo,
                          const WeaponCatalogue& catalogue) {
     SheetTable table;
-    table.rows.push_back({{"Weapon", "Ammunition", "Place"}});
+    table.rows.push_back({{"Weapon", "Ammunition", "Place (cm)"}});
     std::set<std::string, std::less<>> known;
     for (std::size_t i = 0; i < weapons.size(); ++i) {
         const WeaponMountRecord& weapon = weapons[i];

@@ -6,7 +6,10 @@
 #include "view/timeline_painter_win32.h"
 
 #include <algorithm>
+#include <numeric>
+#include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace varrocade {
@@ -93,12 +96,35 @@ private:
             TextOutA(device_, left, y, words.data(), static_cast<int>(words.size()));
             return words.empty() ? 0 : size.cy;
         }
+        const std::string broken = brokenName(words, right - left, font);
+        const auto length = static_cast<int>(broken.size());
         constexpr UINT format = DT_WORDBREAK | DT_NOPREFIX | DT_EDITCONTROL;
         RECT place{left, y, right, y};
-        DrawTextA(device_, words.data(), static_cast<int>(words.size()), &place, format | DT_CALCRECT);
+        DrawTextA(device_, broken.data(), length, &place, format | DT_CALCRECT);
         place.right = right;
-        DrawTextA(device_, words.data(), static_cast<int>(words.size()), &place, format);
+        DrawTextA(device_, broken.data(), length, &place, format);
         return place.bottom - place.top;
+    }
+
+    /// The names of files have no blanks: a long one is broken behind its underscores.
+    [[nodiscard]] std::string brokenName(const std::string& words, int width, HFONT font) const {
+        if (words.find_first_of(" \r\n") != std::string::npos) {
+            return words;
+        }
+        std::string result;
+        std::string rest = words;
+        while (widthOf(rest, font) > width) {
+            std::size_t end = rest.rfind('_', rest.size() - 2);
+            while (end != std::string::npos && end > 0 && widthOf(rest.substr(0, end + 1), font) > width) {
+                end = rest.rfind('_', end - 1);
+            }
+            if (end == std::string::npos || end == 0) {
+                break;
+            }
+            result += rest.substr(0, end + 1) + "\n";
+            rest.erase(0, end + 1);
+        }
+        return result + rest;
     }
 
     void paragraph(const std::string& words, HFONT font, COLORREF colour) {
@@ -224,21 +250,45 @@ private:
         }
     }
 
-    /// Column widths by their longest cells; columns that do not fit shrink together and break their texts.
+    [[nodiscard]] int wordWidth(std::string_view words, HFONT font) const {
+        int widest = 0;
+        while (!words.empty()) {
+            const std::size_t end = std::min(words.find(' '), words.size());
+            widest = std::max(widest, widthOf(std::string(words.substr(0, end)), font));
+            words.remove_prefix(std::min(words.size(), end + 1));
+        }
+        return widest;
+    }
+
+    /// Column widths by their longest cells. Where they do not fit, first the heads break between their
+    /// words, then the widest columns shrink and break their texts.
     [[nodiscard]] std::vector<int> columnWidths(const SheetTable& table) const {
-        std::vector<int> widths(table.rows.front().cells.size(), 0);
-        for (const SheetRow& row : table.rows) {
+        const HFONT font = objects_.smallFont.get();
+        const std::vector<std::string>& heads = table.rows.front().cells;
+        std::vector<int> widths(heads.size(), 0);
+        for (const SheetRow& row : std::span(table.rows).subspan(1)) {
             for (std::size_t column = 0; column < row.cells.size() && column < widths.size(); ++column) {
-                widths[column] =
-                    std::max(widths[column], widthOf(row.cells[column], objects_.smallFont.get()));
+                widths[column] = std::max(widths[column], widthOf(row.cells[column], font));
             }
         }
         const int gap = objects_.scaled(10);
         const int free = right_ - left_ - gap * static_cast<int>(widths.size() - 1);
-        int total = 0;
-        for (const int width : widths) {
-            total += width;
+        const auto withHeads = [&](auto headWidth) {
+            std::vector<int> wider = widths;
+            for (std::size_t column = 0; column < wider.size(); ++column) {
+                wider[column] = std::max(wider[column], headWidth(heads[column]));
+            }
+            return wider;
+        };
+        const auto totalOf = [](const std::vector<int>& all) {
+            return std::accumulate(all.begin(), all.end(), 0);
+        };
+        std::vector<int> whole = withHeads([&](const std::string& head) { return widthOf(head, font); });
+        if (totalOf(whole) <= free) {
+            return whole;
         }
+        widths = withHeads([&](const std::string& head) { return wordWidth(head, font); });
+        int total = totalOf(widths);
         // Only the wide columns give way: narrow ones hold numbers.
         while (total > free) {
             const auto widest = std::max_element(widths.begin(), widths.end());
