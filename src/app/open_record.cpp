@@ -137,6 +137,27 @@ void keepUnsavedUnit(const std::string& base) {
     }
 }
 
+namespace {
+
+/// What the display keeps of each component goes with it.
+void carryComponents(const FormerPlaces& places) {
+    UnitDisplay& display = application().display;
+    carryTurns(display.turns, places);
+    display.selected = carriedPart(display.selected, places);
+    display.movedPart = carriedPart(display.movedPart, places);
+}
+
+/// Goes to another state of the history.
+void goTo(const SquadRecord& state) {
+    Application& app = application();
+    if (app.openUnit->vehicle && state.vehicle) {
+        carryComponents(placesBetween(app.openUnit->vehicle->components, state.vehicle->components));
+    }
+    app.openUnit = state;
+}
+
+} // namespace
+
 void unitChanged(std::string_view change) {
     Application& app = application();
     app.history.note(change, *app.openUnit);
@@ -166,7 +187,7 @@ void stateChanged() {
 void undoChange() {
     Application& app = application();
     if (app.openUnit && app.history.canUndo()) {
-        app.openUnit = app.history.undo();
+        goTo(app.history.undo());
         stateChanged();
     }
 }
@@ -174,7 +195,7 @@ void undoChange() {
 void redoChange() {
     Application& app = application();
     if (app.openUnit && app.history.canRedo()) {
-        app.openUnit = app.history.redo();
+        goTo(app.history.redo());
         stateChanged();
     }
 }
@@ -184,6 +205,7 @@ void withEditContext(const std::function<bool(EditContext&)>& work) {
     EditContext edit{.record = *app.openUnit,
                      .catalogue = app.catalogue,
                      .imageBases = imageBases(),
+                     .rearranged = carryComponents,
                      .redraw =
                          [] {
                              displayChanged();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "data/unit_record.h"
+#include "view/component_places.h"
 #include "weapons/weapon_catalogue.h"
 
 #include <cstddef>
@@ -16,6 +17,8 @@ struct EditContext {
     const WeaponCatalogue& catalogue;
     /// The folders that images are offered from, each ending in a backslash.
     std::vector<std::string> imageBases;
+    /// Tells where the components were before their list was changed, ahead of `changed`.
+    void (*rearranged)(const FormerPlaces& places);
     /// Shows the record's present state in the main window.
     void (*redraw)();
     /// Shows it, and remembers it as a step that can be undone under this name.

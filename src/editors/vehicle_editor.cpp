@@ -142,6 +142,7 @@ void deleteFromList(HWND dialog, VehicleEditor& context) {
     if (answer != Answer::Yes) {
         return;
     }
+    context.edit.rearranged(placesWithout(components.size(), *selected));
     components.erase(components.begin() + static_cast<std::ptrdiff_t>(*selected));
     context.edit.changed("Delete component");
     SendMessageA(dialog, RefreshComponents, 0, 0);
@@ -157,6 +158,7 @@ void moveInList(HWND dialog, VehicleEditor& context, bool upwards) {
         return;
     }
     const std::size_t other = upwards ? *selected - 1 : *selected + 1;
+    context.edit.rearranged(swappedPlaces(vehicle.components.size(), *selected, other));
     std::swap(vehicle.components[*selected], vehicle.components[other]);
     context.edit.changed("Move component");
     SendMessageA(dialog, RefreshComponents, 0, 0);

@@ -17,6 +17,9 @@ namespace {
 
 constexpr std::string_view PngSignature = "\x89PNG\r\n\x1A\n";
 
+/// A file of a few bytes can say that it is larger than the memory.
+constexpr std::uint64_t MostPixels = std::uint64_t{1} << 26U;
+
 struct ReleaseInterface {
     void operator()(IUnknown* object) const { object->Release(); }
 };
@@ -49,6 +52,9 @@ Pixmap pixelsOfSource(IWICBitmapSource& source) {
     UINT width = 0;
     UINT height = 0;
     source.GetSize(&width, &height);
+    if (std::uint64_t{width} * height > MostPixels) {
+        return {};
+    }
     Pixmap pixmap{static_cast<int>(width), static_cast<int>(height), {}};
     pixmap.pixels.resize(std::size_t{width} * height);
     const UINT stride = width * static_cast<UINT>(sizeof(std::uint32_t));

@@ -1,5 +1,6 @@
 // Working in the drawing: what lies where, moving it, looking at it closer.
 
+#include "view/component_places.h"
 #include "view/drawing_angles.h"
 #include "view/part_positions.h"
 #include "view/view_place.h"
@@ -144,6 +145,33 @@ TEST(DrawVehicle, TurnsWhatIsOnATurretWithinItsTraverse) {
     EXPECT_EQ(sectors[1].centre, (Point{50, 200}));
     EXPECT_DOUBLE_EQ(allOf<MarkItem>(list)[1].direction.value(), 60);
     EXPECT_DOUBLE_EQ(allOf<MarkItem>(list)[0].elevation, 90);
+}
+
+TEST(ComponentPlaces, WhatIsKeptOfAComponentGoesWithIt) {
+    const auto list = [](std::vector<std::int32_t> widths) {
+        std::vector<ComponentRecord> components(widths.size());
+        for (std::size_t i = 0; i < widths.size(); ++i) {
+            components[i].width = widths[i];
+        }
+        return components;
+    };
+    const auto between = [&](std::vector<std::int32_t> before, std::vector<std::int32_t> after) {
+        return placesBetween(list(std::move(before)), list(std::move(after)));
+    };
+    EXPECT_EQ(swappedPlaces(3, 1, 2), (FormerPlaces{0, 2, 1}));
+    EXPECT_EQ(placesWithout(3, 1), (FormerPlaces{0, 2}));
+    EXPECT_EQ(between({1, 2, 3}, {1, 3, 2}), (FormerPlaces{0, 2, 1}));
+    EXPECT_EQ(between({1, 2, 2, 3}, {1, 2, 3}), (FormerPlaces{0, 1, 3}));
+    EXPECT_EQ(between({1, 3}, {1, 2, 3}), (FormerPlaces{0, NewPlace, 1}));
+    EXPECT_EQ(between({1, 2}, {1, 7}), (FormerPlaces{0, 1})) << "changed in its place";
+    std::vector<double> turns = {0, 45};
+    carryTurns(turns, swappedPlaces(3, 1, 2));
+    EXPECT_EQ(turns, (std::vector<double>{0, 0, 45}));
+    const UnitPart gun{PartKind::Weapon, 2, 1};
+    EXPECT_EQ(carriedPart(gun, {0, 2}), (UnitPart{PartKind::Weapon, 1, 1}));
+    EXPECT_EQ(carriedPart(gun, {0, 1}), UnitPart{}) << "gone with its component";
+    const UnitPart exhaust{PartKind::Exhaust, 0, 1};
+    EXPECT_EQ(carriedPart(exhaust, {1, 0}), exhaust) << "is no component's";
 }
 
 TEST(Fit, FitsTheAreaWithWholePixelsAMetre) {
