@@ -8,12 +8,14 @@
 #include <windowsx.h>
 
 #include <algorithm>
+#include <chrono>
 
 namespace varrocade {
 
 namespace {
 
 constexpr char SheetClass[] = "VARROCADESHEET";
+constexpr UINT_PTR UsersTimer = 1;
 constexpr int LineHeight = 20; ///< pixels of 96 dpi that an arrow scrolls by
 
 HWND sheetWindow() {
@@ -131,6 +133,22 @@ void contextMenu(HWND window, LPARAM detail) {
     showPartMenu(pixel);
 }
 
+/// A part of the search that nobody feels.
+void lookForUsers(HWND window) {
+    constexpr std::chrono::milliseconds slice{10};
+    const auto end = std::chrono::steady_clock::now() + slice;
+    WeaponUsers& users = application().weaponUsers;
+    while (users.step()) {
+        if (std::chrono::steady_clock::now() >= end) {
+            return;
+        }
+    }
+    KillTimer(window, UsersTimer);
+    if (updateWeaponUsers()) {
+        redrawSheet();
+    }
+}
+
 LRESULT CALLBACK sheetProcedure(HWND window, UINT message, WPARAM parameter, LPARAM detail) {
     switch (message) {
     case WM_LBUTTONDOWN:
@@ -153,6 +171,9 @@ LRESULT CALLBACK sheetProcedure(HWND window, UINT message, WPARAM parameter, LPA
     }
     case WM_KEYDOWN:
         return keyDown(window, parameter) ? 0 : DefWindowProcA(window, message, parameter, detail);
+    case WM_TIMER:
+        lookForUsers(window);
+        return 0;
     case WM_VSCROLL:
         scrollByBar(window, LOWORD(parameter));
         return 0;
@@ -181,6 +202,11 @@ void redrawSheet() {
     application().display.sheetCanvas.isPainted = false;
     InvalidateRect(sheetWindow(), nullptr, FALSE);
     UpdateWindow(sheetWindow());
+}
+
+void startLookingForUsers() {
+    application().weaponUsers.start(imageBases());
+    SetTimer(sheetWindow(), UsersTimer, USER_TIMER_MINIMUM, nullptr);
 }
 
 void scrollSheetByWheel(int delta) {

@@ -11,6 +11,9 @@ HWND createSheetWindow(HWND parent);
 /// Paints the sheet at once.
 void redrawSheet();
 
+/// Looks for the units that carry the open weapon, whenever the window has nothing else to do.
+void startLookingForUsers();
+
 /// Scrolls by what the wheel was turned.
 void scrollSheetByWheel(int delta);
 

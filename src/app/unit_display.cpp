@@ -1,6 +1,7 @@
 #include "app/unit_display.h"
 
 #include "app/application.h"
+#include "app/sheet_window.h"
 #include "view/part_positions.h"
 
 #include <algorithm>
@@ -41,15 +42,20 @@ void composeDrawing(UnitDisplay& display) {
     }
 }
 
-std::vector<std::string> usersOfOpenWeapon() {
-    Application& app = application();
+std::optional<std::vector<std::string>> usersOfOpenWeapon() {
+    const Application& app = application();
     const std::array<std::string_view, 2> names = {app.openWeapon->name, app.openWeapon->fileName};
-    return app.weaponUsers.usersOf(imageBases(), names);
+    return app.weaponUsers.usersOf(names);
 }
 
 std::vector<std::string> problemsOfOpenWeapon() {
     const Application& app = application();
     return app.catalogue.problemsOf(dataFilePath(baseFolder(), Category::Weapons, app.openWeapon->fileName));
+}
+
+void composeWeaponSheet(UnitDisplay& display) {
+    display.weaponUsers = usersOfOpenWeapon();
+    display.sheet = weaponSheet(*application().openWeapon, problemsOfOpenWeapon(), display.weaponUsers);
 }
 
 /// Makes anew what the record or the view has changed.
@@ -61,10 +67,14 @@ void composeDisplay(UnitDisplay& display) {
     if (display.isStale) {
         display.isStale = false;
         display.sheetCanvas.isPainted = false;
-        display.sheet =
-            app.openWeapon ? weaponSheet(*app.openWeapon, problemsOfOpenWeapon(), usersOfOpenWeapon())
-            : app.openUnit ? unitSheet(*app.openUnit, display.drawing.missingPictures, app.catalogue)
-                           : DataSheet{};
+        if (app.openWeapon) {
+            composeWeaponSheet(display);
+            startLookingForUsers();
+        } else {
+            display.sheet = app.openUnit
+                                ? unitSheet(*app.openUnit, display.drawing.missingPictures, app.catalogue)
+                                : DataSheet{};
+        }
     }
 }
 
@@ -130,6 +140,15 @@ void paintSheetArea(HDC device, const RECT& client) {
         }
     }
     BitBlt(device, 0, 0, size.cx, size.cy, memory, 0, 0, SRCCOPY);
+}
+
+bool updateWeaponUsers() {
+    UnitDisplay& display = application().display;
+    if (!application().openWeapon || usersOfOpenWeapon() == display.weaponUsers) {
+        return false;
+    }
+    composeWeaponSheet(display);
+    return true;
 }
 
 void scrollSheet(int pixels, int visibleHeight) {

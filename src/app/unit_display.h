@@ -32,6 +32,7 @@ struct Drag {
 struct UnitDisplay {
     DrawList drawing;
     DataSheet sheet;
+    std::optional<std::vector<std::string>> weaponUsers; ///< that the sheet of a weapon shows
     bool hasDrawing = false;
     bool isStale = true;        ///< the record changed since drawing and sheet were made
     bool isDrawingStale = true; ///< the same of the drawing alone
@@ -55,6 +56,9 @@ void paintUnit(HDC device, const RECT& client);
 
 /// Paints the data sheet into the whole of its window.
 void paintSheetArea(HDC device, const RECT& client);
+
+/// Puts the units that carry the open weapon on its sheet, now that all are known; false when they are there.
+bool updateWeaponUsers();
 
 /// Scrolls the sheet by pixels, as far as there is something to see.
 void scrollSheet(int pixels, int visibleHeight);

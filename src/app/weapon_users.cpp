@@ -1,10 +1,9 @@
 #include "app/weapon_users.h"
 
-#include "data/category.h"
 #include "data/unit_reader.h"
 
 #include <algorithm>
-#include <set>
+#include <utility>
 
 namespace varrocade {
 
@@ -46,37 +45,77 @@ std::vector<std::string> weaponsOf(const SquadRecord& unit) {
 
 } // namespace
 
-std::vector<std::string> WeaponUsers::usersOf(std::span<const std::string> bases,
-                                              std::span<const std::string_view> names) {
-    std::set<std::string> seen;
-    std::vector<std::string> users;
-    std::vector<StampedFile> files;
-    for (const std::string& base : bases) {
+void WeaponUsers::start(std::vector<std::string> bases) {
+    if (bases != bases_) {
+        bases_ = std::move(bases);
+        known_.reset();
+    }
+    foldersLeft_.clear();
+    seen_.clear();
+    listed_.clear();
+    looked_ = 0;
+    isLooking_ = true;
+    for (const std::string& base : bases_) {
         for (const Category category : AllCategories) {
-            const std::string folder = categoryFolder(base, category);
-            if (category == Category::Weapons || !listStampedFiles(folder, DataFileEnding, files)) {
-                continue;
+            if (category != Category::Weapons) {
+                foldersLeft_.push_back({categoryFolder(base, category), category});
             }
-            for (const StampedFile& file : files) {
-                const std::string name = file.name.substr(0, file.name.size() - DataFileEnding.size());
-                std::string shown = std::string(categoryName(category)) + ": " + name;
-                if (!seen.insert(shown).second) {
-                    continue;
-                }
-                Unit& unit = units_[folder + file.name];
-                if (unit.file != file) {
-                    Diagnostics diagnostics;
-                    const auto record = readUnitFile(folder + file.name, name, diagnostics);
-                    unit = {file, record ? weaponsOf(*record) : std::vector<std::string>()};
-                    ++filesRead_;
-                }
-                const bool carries = std::any_of(names.begin(), names.end(), [&](std::string_view weapon) {
-                    return std::find(unit.weapons.begin(), unit.weapons.end(), weapon) != unit.weapons.end();
-                });
-                if (carries) {
-                    users.push_back(std::move(shown));
-                }
-            }
+        }
+    }
+    std::reverse(foldersLeft_.begin(), foldersLeft_.end());
+}
+
+void WeaponUsers::listFolder(const Folder& folder) {
+    std::vector<StampedFile> files;
+    listStampedFiles(folder.path, DataFileEnding, files);
+    for (StampedFile& file : files) {
+        std::string shown(categoryName(folder.category));
+        shown += ": ";
+        shown.append(file.name, 0, file.name.size() - DataFileEnding.size());
+        if (seen_.insert(shown).second) {
+            listed_.push_back({folder.path + file.name, std::move(shown), std::move(file)});
+        }
+    }
+}
+
+void WeaponUsers::read(const Entry& entry) {
+    Diagnostics diagnostics;
+    const auto record = readUnitFile(entry.path, entry.shown, diagnostics);
+    units_[entry.path] = {entry.file, record ? weaponsOf(*record) : std::vector<std::string>()};
+    ++filesRead_;
+}
+
+bool WeaponUsers::step() {
+    if (!foldersLeft_.empty()) {
+        const Folder folder = std::move(foldersLeft_.back());
+        foldersLeft_.pop_back();
+        listFolder(folder);
+        return true;
+    }
+    // Files that have not changed take no time.
+    while (looked_ < listed_.size()) {
+        const Entry& entry = listed_[looked_++];
+        const auto unit = units_.find(entry.path);
+        if (unit == units_.end() || unit->second.file != entry.file) {
+            read(entry);
+            return true;
+        }
+    }
+    if (std::exchange(isLooking_, false)) {
+        known_ = std::exchange(listed_, {});
+    }
+    return false;
+}
+
+std::optional<std::vector<std::string>> WeaponUsers::usersOf(std::span<const std::string_view> names) const {
+    if (!known_) {
+        return std::nullopt;
+    }
+    std::vector<std::string> users;
+    for (const Entry& entry : *known_) {
+        const std::vector<std::string>& weapons = units_.at(entry.path).weapons;
+        if (std::find_first_of(weapons.begin(), weapons.end(), names.begin(), names.end()) != weapons.end()) {
+            users.push_back(entry.shown);
         }
     }
     std::sort(users.begin(), users.end());

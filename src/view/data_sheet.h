@@ -8,6 +8,7 @@
 #include "weapons/weapon_catalogue.h"
 #include "weapons/weapon_record.h"
 
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
@@ -84,9 +85,10 @@ struct DataSheet {
 DataSheet unitSheet(const SquadRecord& record, std::span<const std::string> missingPictures,
                     const WeaponCatalogue& catalogue);
 
-/// The sheet of a weapon, what could not be read of its file, and the units that use it.
+/// The sheet of a weapon, what could not be read of its file, and the units that use it, as far as these are
+/// known yet.
 DataSheet weaponSheet(const WeaponRecord& weapon, std::span<const std::string> problems,
-                      std::span<const std::string> users);
+                      const std::optional<std::vector<std::string>>& users);
 
 /// The sections that only infantry and heavy weapons, and only aircraft, have.
 void addSquadSections(DataSheet& sheet, const SquadRecord& record, const WeaponCatalogue& catalogue);

@@ -129,7 +129,7 @@ void addAircraftSections(DataSheet& sheet, const AircraftRecord& aircraft, const
 }
 
 DataSheet weaponSheet(const WeaponRecord& weapon, std::span<const std::string> problems,
-                      std::span<const std::string> users) {
+                      const std::optional<std::vector<std::string>>& users) {
     DataSheet sheet;
     sheet.title.text = weaponWord(weapon.name.empty() ? weapon.fileName : weapon.name);
     sheet.title.subtitle = displayName(nameOf(weapon.type), WeaponPrefix);
@@ -167,8 +167,10 @@ DataSheet weaponSheet(const WeaponRecord& weapon, std::span<const std::string> p
         ammunition.tables.push_back(std::move(table));
     }
     sheet.sections.push_back(std::move(ammunition));
-    const auto none = std::to_array<std::string>({"No unit carries it."});
-    sheet.sections.push_back(notesSection("Used by", users.empty() ? std::span(none) : users));
+    const auto instead =
+        std::to_array<std::string>({users ? "No unit carries it." : "Looking through the units..."});
+    sheet.sections.push_back(
+        notesSection("Used by", users && !users->empty() ? std::span<const std::string>(*users) : instead));
     return sheet;
 }
 

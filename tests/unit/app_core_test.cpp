@@ -146,9 +146,17 @@ TEST(WeaponUsers, KnowsWhoCarriesAWeaponAndReadsNoFileTwice) {
         for (const char* base : bases) {
             folders.push_back(folder.path() + base + "\\");
         }
-        return users.usersOf(folders, std::array<std::string_view, 1>{weapon});
+        users.start(folders);
+        const auto before = users.usersOf(std::array{weapon});
+        // In small steps: one file at most for each.
+        for (std::size_t read = users.filesRead(); users.step(); read = users.filesRead()) {
+            EXPECT_LE(users.filesRead(), read + 1);
+            EXPECT_EQ(users.usersOf(std::array{weapon}), before) << "half of the answer";
+        }
+        return users.usersOf(std::array{weapon}).value();
     };
     using Names = std::vector<std::string>;
+    EXPECT_FALSE(users.usersOf(std::array<std::string_view, 1>{"WEAPON_A"})) << "nobody has looked yet";
     EXPECT_EQ(usersOf("WEAPON_A", {"Game"}), Names{"Vehicles: German Tank"});
     EXPECT_EQ(usersOf("WEAPON_B", {"Game"}), (Names{"Infantry: German Squad", "Vehicles: German Tank"}));
     EXPECT_EQ(usersOf("WEAPON_C", {"Game"}), Names{});
@@ -158,6 +166,9 @@ TEST(WeaponUsers, KnowsWhoCarriesAWeaponAndReadsNoFileTwice) {
     folder.write("Game\\Data\\Vehicles\\German Tank.txt", std::string(tank) + "\n");
     EXPECT_EQ(usersOf("WEAPON_A", {"Game"}), Names{"Vehicles: German Tank"});
     EXPECT_EQ(users.filesRead(), 4U) << "the changed one only";
+    EXPECT_FALSE(users.step());
+    EXPECT_EQ(users.usersOf(std::array<std::string_view, 1>{"WEAPON_A"}), Names{"Vehicles: German Tank"});
+    EXPECT_EQ(usersOf("WEAPON_A", {"None"}), Names{});
 }
 
 TEST(ModSettings, ReadsWhatItWrote) {
