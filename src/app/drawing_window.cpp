@@ -272,11 +272,10 @@ void tellSelection(HWND window) {
             name += ", " + positionText(*app.openUnit, app.display.selected);
         }
     }
-    if (name == app.display.toldName) {
-        return;
+    if (name != app.display.toldName) {
+        application().display.toldName = name;
+        SetWindowTextA(window, name.c_str());
     }
-    application().display.toldName = name;
-    SetWindowTextA(window, name.c_str());
     const auto place = app.openUnit ? positionOf(*app.openUnit, app.display.selected, app.display.turns)
                                     : std::optional<Point>();
     if (place && GetFocus() == window) {

@@ -2,12 +2,19 @@
 
 #include "gui_test.h"
 
+#include <array>
+#include <cmath>
+#include <cstdlib>
+#include <functional>
+
 namespace varrocade::gui {
 
 namespace {
 
 constexpr std::string_view Havoc = "American A-20G Havoc";
 constexpr std::string_view TurretGun = "HMG MG34, X 30 cm, Y 120 cm";
+
+constexpr std::array<UINT, 3> DoubleClick = {WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK};
 
 LPARAM at(POINT place) {
     return MAKELPARAM(place.x, place.y);
@@ -53,6 +60,24 @@ protected:
         send(WM_MOUSEMOVE, {from.x + right / 2, from.y + down / 2});
         send(WM_MOUSEMOVE, to);
         return to;
+    }
+    void press(POINT place) const { drawing.send(WM_LBUTTONDOWN, MK_LBUTTON, at(place)); }
+    void moveTo(POINT place) const { drawing.send(WM_MOUSEMOVE, MK_LBUTTON, at(place)); }
+    void release(POINT place) const { drawing.send(WM_LBUTTONUP, 0, at(place)); }
+    /// Where a part is on the screen: the caret goes to the selected one.
+    [[nodiscard]] POINT placeOf(std::string_view part) const {
+        selectPart(part);
+        return editor->caret();
+    }
+    void expectAt(std::string_view part, POINT expected, const char* when) const {
+        constexpr LONG rounding = 2;
+        const POINT place = placeOf(part);
+        EXPECT_LE(std::abs(place.x - expected.x), rounding) << when << ", x " << place.x;
+        EXPECT_LE(std::abs(place.y - expected.y), rounding) << when << ", y " << place.y;
+    }
+    void turnWheel(POINT place, int delta) const {
+        MapWindowPoints(drawing.handle(), nullptr, &place, 1);
+        window.send(WM_MOUSEWHEEL, MAKEWPARAM(0, delta), at(place));
     }
     /// "X 12 cm, Y 34 cm" of the selected part, as the file has it.
     [[nodiscard]] std::string positionElements() const {
@@ -166,6 +191,108 @@ TEST_F(DrawingTest, AircraftWeaponsMoveAndFileSaveKeepsThem) {
                            "<offsetX>330</offsetX><offsetY>19</offsetY>"));
     select("British Typhoon IB");
     EXPECT_TRUE(editor->dialogs().empty()) << "what was saved is not asked for again";
+}
+
+TEST_F(DrawingTest, TheViewIsZoomedAboutTheMouseMovedAndReset) {
+    startWith(Tiger);
+    constexpr POINT ground{4, 4};
+    const POINT home = placeOf(TurretGun);
+    const POINT mouse{home.x + 60, home.y + 80};
+    turnWheel(mouse, WHEEL_DELTA);
+    const POINT zoomed = placeOf(TurretGun);
+    const double growthX = (zoomed.x - mouse.x) / -60.0;
+    const double growthY = (zoomed.y - mouse.y) / -80.0;
+    EXPECT_GT(growthX, 1.05);
+    EXPECT_NEAR(growthX, growthY, 0.05) << "what is below the mouse stays there";
+    turnWheel(zoomed, -WHEEL_DELTA);
+    expectAt(TurretGun, zoomed, "zoomed out about itself");
+    press(ground);
+    moveTo({ground.x + 20, ground.y + 10});
+    moveTo({ground.x + 33, ground.y + 21});
+    release({ground.x + 33, ground.y + 21});
+    expectAt(TurretGun, {zoomed.x + 33, zoomed.y + 21}, "dragged with the ground");
+    for (const UINT message : DoubleClick) {
+        drawing.send(message, MK_LBUTTON, at(ground));
+    }
+    expectAt(TurretGun, home, "the whole unit again");
+}
+
+TEST_F(DrawingTest, ATurretTurnsForLookingOnly) {
+    startWith(Tiger);
+    const std::string before = game.read(dataFile(Tiger));
+    const POINT gun = placeOf(TurretGun);
+    // The pipes are at X -56 and 56, Y -302; the turret turns about X 0, Y 8, its gun is at X 30, Y 120 of
+    // it.
+    const POINT leftPipe = placeOf("Exhaust pipe 1");
+    const POINT rightPipe = placeOf("Exhaust pipe 2");
+    const double pixels = (rightPipe.x - leftPipe.x) / 112.0;
+    const POINT pivot{(leftPipe.x + rightPipe.x) / 2, std::lround(leftPipe.y - 310 * pixels)};
+    const auto from = [&](double x, double y) {
+        return POINT{pivot.x + std::lround(x * pixels), pivot.y - std::lround(y * pixels)};
+    };
+    const auto turnRight = [&] {
+        press(from(-70, -60));
+        moveTo(from(-90, 0));
+        moveTo(from(-60, 70));
+    };
+    turnRight();
+    drawing.send(WM_KEYDOWN, VK_ESCAPE);
+    release(from(-60, 70));
+    expectAt(TurretGun, gun, "put back while the mouse holds it");
+    turnRight();
+    release(from(-60, 70));
+    expectAt(TurretGun, from(120, -30), "a quarter to the right");
+    EXPECT_NE(menuState(IDM_SAVE) & MF_GRAYED, 0U);
+    select("French Panhard 178");
+    EXPECT_TRUE(editor->dialogs().empty()) << "nothing is unsaved";
+    EXPECT_EQ(game.read(dataFile(Tiger)), before);
+}
+
+TEST_F(DrawingTest, ShiftMovesByTenCentimetres) {
+    startWith(Tiger);
+    selectPart(TurretGun);
+    const DWORD thread = GetWindowThreadProcessId(drawing.handle(), nullptr);
+    ASSERT_TRUE(AttachThreadInput(GetCurrentThreadId(), thread, TRUE));
+    std::array<BYTE, 256> keys{};
+    keys[VK_SHIFT] = 0x80;
+    SetKeyboardState(keys.data());
+    drawing.send(WM_KEYDOWN, VK_RIGHT);
+    drawing.send(WM_KEYDOWN, VK_DOWN);
+    keys[VK_SHIFT] = 0;
+    SetKeyboardState(keys.data());
+    AttachThreadInput(GetCurrentThreadId(), thread, FALSE);
+    EXPECT_TRUE(shows("HMG MG34, X 40 cm, Y 110 cm")) << drawing.text();
+    drawing.pressKey(VK_ESCAPE);
+    EXPECT_TRUE(shows(TurretGun));
+}
+
+TEST_F(DrawingTest, TheMouseOpensTheEditorOfWhatItPointsAt) {
+    startWith(Tiger);
+    const POINT gun = placeOf(TurretGun);
+    const auto doubleClick = [&] {
+        for (const UINT message : DoubleClick) {
+            drawing.post(message, MK_LBUTTON, at(gun));
+        }
+    };
+    const auto chooseFromMenu = [&] {
+        POINT place = gun;
+        MapWindowPoints(drawing.handle(), nullptr, &place, 1);
+        drawing.post(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(drawing.handle()), at(place));
+        HWND menu = nullptr;
+        EXPECT_TRUE(eventually([&] {
+            menu = FindWindowW(L"#32768", nullptr);
+            return menu != nullptr && IsWindowVisible(menu) != FALSE;
+        }));
+        Window(menu).pressKey('E');
+    };
+    for (const std::function<void()>& open : {std::function<void()>(doubleClick), {chooseFromMenu}}) {
+        selectPart("Exhaust pipe 2");
+        open();
+        const Window weapons = editor->waitForDialog("Weapons");
+        EXPECT_EQ(weapons.control(IDC_ENTRY_LIST).selectedText(), "2. HMG MG34");
+        finish(weapons, IDCANCEL);
+        EXPECT_TRUE(shows(TurretGun));
+    }
 }
 
 } // namespace varrocade::gui
