@@ -2,6 +2,7 @@
 
 #include "editors/armour_form.h"
 #include "editors/form_port_win32.h"
+#include "editors/list_keys_win32.h"
 #include "platform/messages.h"
 #include "resources/resource.h"
 #include "view/drawing_objects_win32.h"
@@ -185,6 +186,11 @@ void drawArmour(const DRAWITEMSTRUCT& item, const ArmourDialog& context) {
 
 // ---- the dialog
 
+constexpr auto ButtonTips = std::to_array<Tip>({
+    {IDC_MIRROR_ARMOUR, "Gives the right side the plates of the left one"},
+    {IDC_SIDES_ALIKE, "Makes all four side plates, upper and lower, as the upper left one"},
+});
+
 /// Takes the fields over into the context; false after telling what is wrong.
 bool takeFields(HWND dialog, ArmourDialog& context) {
     DialogPort port(dialog);
@@ -226,6 +232,7 @@ INT_PTR CALLBACK armourProcedure(HWND dialog, UINT message, WPARAM parameter, LP
     switch (message) {
     case WM_INITDIALOG:
         fillDialog(dialog, *context);
+        addTips(dialog, ButtonTips);
         if (context->kind == ComponentKind::FixedWeapon) {
             DialogPort(dialog).setText(IDC_NOT_STORED,
                                        "The armour of a fixed weapon is not stored in the file.");

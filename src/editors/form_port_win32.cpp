@@ -102,9 +102,17 @@ void completeChoice(HWND dialog, int control) {
     }
 }
 
+void showUnknown(HWND dialog, std::string_view text) {
+    DialogPort port(dialog);
+    if (port.text(IDC_UNKNOWN) != text) {
+        port.setText(IDC_UNKNOWN, text);
+    }
+    ShowWindow(GetDlgItem(dialog, IDC_UNKNOWN), text.empty() ? SW_HIDE : SW_SHOWNA);
+}
+
 void showUnknownChoices(HWND dialog, std::span<const ChoiceField> fields) {
     DialogPort port(dialog);
-    port.setText(IDC_UNKNOWN, unknownChoices(port, fields));
+    showUnknown(dialog, unknownChoices(port, fields));
 }
 
 bool followChoices(HWND dialog, std::span<const ChoiceField> fields, int control, int notification) {

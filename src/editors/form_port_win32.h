@@ -25,7 +25,11 @@ private:
     HWND dialog_;
 };
 
-/// Shows in IDC_UNKNOWN what a dialog's drop-down lists hold and do not offer.
+/// Shows a text in IDC_UNKNOWN, which is there only while there is something to say. It can be as long as it
+/// likes: the control is scrolled.
+void showUnknown(HWND dialog, std::string_view text);
+
+/// Shows there what a dialog's drop-down lists hold and do not offer.
 void showUnknownChoices(HWND dialog, std::span<const ChoiceField> fields);
 
 /// The same when a notification tells that one of them was changed; false when it tells something else.

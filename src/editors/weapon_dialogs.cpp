@@ -53,9 +53,9 @@ void followWeapons(HWND dialog, ListDialog& list) {
         constexpr ChoiceField mount = {IDC_WEAPON_MOUNT, "Mount"};
         unknown = unknownWeapon(port.text(IDC_WEAPON_TYPE), context.edit.catalogue);
         const std::string unknownMount = unknownChoices(port, std::span(&mount, 1));
-        unknown += (unknown.empty() || unknownMount.empty() ? "" : "\n") + unknownMount;
+        unknown += (unknown.empty() || unknownMount.empty() ? "" : "; ") + unknownMount;
     }
-    port.setText(IDC_UNKNOWN, unknown);
+    showUnknown(dialog, unknown);
 }
 
 bool weaponsCommand(HWND dialog, ListDialog& list, int control) {

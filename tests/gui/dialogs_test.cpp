@@ -339,6 +339,35 @@ TEST_F(DialogsTest, CrewEndsAtThirteen) {
     closeAll(dialogs, IDCANCEL);
 }
 
+TEST_F(DialogsTest, KeysOfTheListChangeIt) {
+    start();
+    select(Tiger);
+    const std::vector<Window> dialogs = open({HullStep, {IDC_CREW_BUTTON, "Crew"}});
+    const Window crew = dialogs.back().control(IDC_ENTRY_LIST);
+    constexpr LPARAM withAlt = LPARAM{1} << 29;
+    crew.send(WM_KEYDOWN, VK_INSERT);
+    EXPECT_EQ(crew.selectedText(), "2. Loader");
+    crew.send(WM_SYSKEYDOWN, VK_UP, withAlt);
+    EXPECT_EQ(crew.selectedText(), "1. Loader");
+    crew.send(WM_SYSKEYDOWN, VK_DOWN, withAlt);
+    EXPECT_EQ(crew.selectedText(), "2. Loader");
+    crew.send(WM_KEYDOWN, VK_DELETE);
+    EXPECT_EQ(crew.selectedText(), "1. Driver, Pistol P38");
+    closeAll(dialogs, IDCANCEL);
+}
+
+TEST_F(DialogsTest, LinesWiderThanTheirListAreScrolled) {
+    start();
+    select(Tiger);
+    const std::vector<Window> dialogs = open({TurretStep, {IDC_WEAPONS_BUTTON, "Weapons"}});
+    const Window weapons = dialogs.back().control(IDC_ENTRY_LIST);
+    EXPECT_FALSE(weapons.hasStyle(WS_HSCROLL));
+    dialogs.back().setText(IDC_WEAPON_TYPE, "WEAPON_CANNON_" + std::string(100, 'X'));
+    dialogs.back().send(WM_COMMAND, MAKEWPARAM(IDC_WEAPON_TYPE, CBN_EDITCHANGE));
+    EXPECT_TRUE(weapons.hasStyle(WS_HSCROLL));
+    closeAll(dialogs, IDCANCEL);
+}
+
 TEST_F(DialogsTest, UnknownValuesAreNamedAndKept) {
     std::string text = tigerText();
     text = withReplaced(text, "NATIONALITY_GERMAN", "NATIONALITY_OLD");
