@@ -38,13 +38,8 @@ void fillDialog(HWND dialog, ArmourDialog& context) {
 void followTyping(HWND dialog, ArmourDialog& context) {
     DialogPort port(dialog);
     enableGiven(port, isTurret(context));
-    if (readArmourForm(port, context.armour, isTurret(context))) {
-        return;
-    }
-    for (std::size_t i = 0; i < PlateCount; ++i) {
-        port.setText(IDC_PLATES + 3 * static_cast<int>(i) + 2,
-                     effectiveText(context.armour.*plateRows()[i].member));
-    }
+    readArmourForm(port, context.armour, isTurret(context));
+    followPlates(port, context.armour);
     InvalidateRect(GetDlgItem(dialog, IDC_ARMOUR_DRAWING), nullptr, TRUE);
 }
 

@@ -257,6 +257,11 @@ TEST(ArmourForm, NotGivenIsAStateOfItsOwn) {
     ASSERT_TRUE(error);
     EXPECT_EQ(error->control, IDC_PLATES + 1);
     EXPECT_EQ(error->message, "\"Upper front angle\" must be a whole number from 0 to 90");
+    // The other plates follow what is typed all the same.
+    port.texts[IDC_PLATES + 3] = "70";
+    followPlates(port, armour);
+    EXPECT_EQ(port.texts[IDC_PLATES + 2], "?");
+    EXPECT_EQ(port.texts[IDC_PLATES + 5], "70 mm");
 }
 
 TEST(DriveForm, EnginesBringTheirHorsepower) {
