@@ -226,6 +226,7 @@ INT_PTR CALLBACK armourProcedure(HWND dialog, UINT message, WPARAM parameter, LP
     auto* context = dialogContext<ArmourDialog>(dialog, message, pointer);
     switch (message) {
     case WM_INITDIALOG:
+        placeBesideDrawing(dialog);
         fillDialog(dialog, *context);
         addTips(dialog, ButtonTips);
         if (context->kind == ComponentKind::FixedWeapon) {

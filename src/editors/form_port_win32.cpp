@@ -129,6 +129,26 @@ bool followChoices(HWND dialog, std::span<const ChoiceField> fields, int control
     return true;
 }
 
+void placeBesideDrawing(HWND dialog) {
+    HWND mainWindow = GetAncestor(dialog, GA_ROOTOWNER);
+    MONITORINFO monitor{};
+    monitor.cbSize = sizeof monitor;
+    RECT main{};
+    RECT place{};
+    if (mainWindow == dialog || GetWindowRect(mainWindow, &main) == 0 || GetWindowRect(dialog, &place) == 0 ||
+        GetMonitorInfoA(MonitorFromWindow(mainWindow, MONITOR_DEFAULTTONEAREST), &monitor) == 0) {
+        return;
+    }
+    const RECT& screen = monitor.rcWork;
+    const LONG width = place.right - place.left;
+    const LONG height = place.bottom - place.top;
+    const LONG left = std::min(main.right, screen.right) - width;
+    const LONG top = (main.top + main.bottom - height) / 2;
+    SetWindowPos(dialog, nullptr, std::max(left, screen.left),
+                 std::max(std::min(top, screen.bottom - height), screen.top), 0, 0,
+                 SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
 INT_PTR runDialog(HWND owner, int dialogTemplate, DLGPROC procedure, void* context) {
     const INT_PTR result = DialogBoxParamA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(dialogTemplate), owner,
                                            procedure, reinterpret_cast<LPARAM>(context));

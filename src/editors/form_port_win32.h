@@ -39,6 +39,10 @@ bool followChoices(HWND dialog, std::span<const ChoiceField> fields, int control
 /// notification.
 void completeChoice(HWND dialog, int control);
 
+/// Moves a dialog that is opening to the right edge of the main window, over the data sheet: the drawing,
+/// which follows what is edited, stays in sight as far as there is room.
+void placeBesideDrawing(HWND dialog);
+
 /// Runs a modal dialog whose procedure finds `context` as its user data from WM_INITDIALOG on.
 /// Returns what the dialog ended with, 0 when it could not be shown.
 INT_PTR runDialog(HWND owner, int dialogTemplate, DLGPROC procedure, void* context);

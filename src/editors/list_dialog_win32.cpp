@@ -241,6 +241,7 @@ void refreshEntries(HWND dialog, ListDialog& list, int chosen) {
 INT_PTR handleListDialog(HWND dialog, UINT message, WPARAM parameter, LPARAM pointer) {
     auto* list = dialogContext<ListDialog>(dialog, message, pointer);
     if (message == WM_INITDIALOG) {
+        placeBesideDrawing(dialog);
         if (list->prepare != nullptr) {
             list->prepare(dialog, *list);
         }

@@ -51,6 +51,7 @@ constexpr auto NewComponents = std::to_array<NewComponent>({
 INT_PTR CALLBACK addComponentProcedure(HWND dialog, UINT message, WPARAM parameter, LPARAM pointer) {
     auto* context = dialogContext<VehicleEditor>(dialog, message, pointer);
     if (message == WM_INITDIALOG) {
+        placeBesideDrawing(dialog);
         std::vector<std::string> names;
         names.reserve(NewComponents.size());
         for (const NewComponent& row : NewComponents) {
@@ -297,6 +298,7 @@ INT_PTR CALLBACK detailsProcedure(HWND dialog, UINT message, WPARAM parameter, L
     auto* context = dialogContext<VehicleEditor>(dialog, message, pointer);
     switch (message) {
     case WM_INITDIALOG:
+        placeBesideDrawing(dialog);
         fillDialog(dialog, *context);
         return TRUE;
     case RefreshComponents:

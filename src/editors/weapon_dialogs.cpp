@@ -7,6 +7,8 @@
 #include "editors/weapon_choices.h"
 #include "resources/resource.h"
 
+#include <algorithm>
+
 namespace varrocade {
 
 namespace {
@@ -152,7 +154,11 @@ bool editWeapons(HWND owner, EditContext& edit, ComponentRecord& component) {
 bool editComponentAmmunition(HWND owner, EditContext& edit, ComponentRecord& component) {
     AmmunitionContext context{.edit = edit, .weaponTypes = {}, .hasFlavour = true, .ammo = component.ammo};
     for (const WeaponMountRecord& weapon : component.weapons) {
-        context.weaponTypes.push_back(weapon.type.str());
+        // Two weapons of a type share their ammunition.
+        if (std::find(context.weaponTypes.begin(), context.weaponTypes.end(), weapon.type.view()) ==
+            context.weaponTypes.end()) {
+            context.weaponTypes.push_back(weapon.type.str());
+        }
     }
     return editAmmunition(owner, context, component.ammo);
 }

@@ -339,6 +339,21 @@ TEST_F(DialogsTest, CrewEndsAtThirteen) {
     closeAll(dialogs, IDCANCEL);
 }
 
+TEST_F(DialogsTest, TheDrawingStaysInSight) {
+    start();
+    select(Tiger);
+    RECT drawing{};
+    GetWindowRect(window.control(IDC_DRAWING).handle(), &drawing);
+    const std::vector<Window> dialogs =
+        open({{IDC_DRIVE, "Drive"}, {IDC_EXHAUSTS_BUTTON, "Exhaust Pipes"}});
+    for (const Window dialog : dialogs) {
+        RECT place{};
+        GetWindowRect(dialog.handle(), &place);
+        EXPECT_GT(place.left, (drawing.left + drawing.right) / 2) << dialog.text();
+    }
+    closeAll(dialogs, IDCANCEL);
+}
+
 TEST_F(DialogsTest, KeysOfTheListChangeIt) {
     start();
     select(Tiger);
