@@ -61,15 +61,15 @@ void showEntry(HWND dialog, ListDialog& list, int index) {
 void measureLines(HWND box, const ListModel& model) {
     const MemoryDevice device(nullptr);
     const Selection font(device.get(), reinterpret_cast<HFONT>(SendMessageA(box, WM_GETFONT, 0, 0)));
-    LONG widest = 0;
+    WPARAM widest = 0;
     for (std::size_t i = 0; i < model.count(); ++i) {
         const std::string line = model.line(i);
         SIZE size{};
         GetTextExtentPoint32A(device.get(), line.c_str(), static_cast<int>(line.size()), &size);
-        widest = std::max(widest, size.cx);
+        widest = std::max(widest, static_cast<WPARAM>(size.cx));
     }
-    constexpr int margin = 6;
-    SendMessageA(box, LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(widest + margin), 0);
+    constexpr WPARAM margin = 6;
+    SendMessageA(box, LB_SETHORIZONTALEXTENT, widest + margin, 0);
 }
 
 void previewChange(const ListDialog& list) {

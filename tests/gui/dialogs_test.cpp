@@ -344,8 +344,7 @@ TEST_F(DialogsTest, TheDrawingStaysInSight) {
     select(Tiger);
     RECT drawing{};
     GetWindowRect(window.control(IDC_DRAWING).handle(), &drawing);
-    const std::vector<Window> dialogs =
-        open({{IDC_DRIVE, "Drive"}, {IDC_EXHAUSTS_BUTTON, "Exhaust Pipes"}});
+    const std::vector<Window> dialogs = open({{IDC_DRIVE, "Drive"}, {IDC_EXHAUSTS_BUTTON, "Exhaust Pipes"}});
     for (const Window dialog : dialogs) {
         RECT place{};
         GetWindowRect(dialog.handle(), &place);
