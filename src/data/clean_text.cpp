@@ -78,6 +78,11 @@ void forEachPiece(std::string_view content, Take take) {
 
 } // namespace
 
+bool canBeValue(std::string_view text) {
+    return !text.starts_with('<') && text.find("</") == std::string_view::npos &&
+           text.find("//") == std::string_view::npos;
+}
+
 void cleanTaggedText(std::string_view fileContent, std::string& cleaned) {
     // The pieces are moved together in place: they never grow, so the write position is behind the read
     // position.

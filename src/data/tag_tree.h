@@ -60,6 +60,11 @@ private:
     bool isVerbatim_ = false;
 };
 
+/// Whether a text can be an element's value: read again it is the same, and nothing behind it is lost. "//"
+/// begins a comment even within a value, "</" may close an element further out, and a value that begins with
+/// "<" is taken for elements.
+bool canBeValue(std::string_view text);
+
 /// Appends an element to its parent's children and returns its index.
 inline std::uint32_t addNode(std::vector<TagNode>& nodes, std::uint32_t parent, std::string_view name) {
     const auto index = static_cast<std::uint32_t>(nodes.size());

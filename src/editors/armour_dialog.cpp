@@ -2,6 +2,7 @@
 
 #include "editors/armour_form.h"
 #include "editors/form_port_win32.h"
+#include "editors/list_keys_win32.h"
 #include "platform/messages.h"
 #include "resources/resource.h"
 #include "view/drawing_objects_win32.h"
@@ -37,13 +38,8 @@ void fillDialog(HWND dialog, ArmourDialog& context) {
 void followTyping(HWND dialog, ArmourDialog& context) {
     DialogPort port(dialog);
     enableGiven(port, isTurret(context));
-    if (readArmourForm(port, context.armour, isTurret(context))) {
-        return;
-    }
-    for (std::size_t i = 0; i < PlateCount; ++i) {
-        port.setText(IDC_PLATES + 3 * static_cast<int>(i) + 2,
-                     effectiveText(context.armour.*plateRows()[i].member));
-    }
+    readArmourForm(port, context.armour, isTurret(context));
+    followPlates(port, context.armour);
     InvalidateRect(GetDlgItem(dialog, IDC_ARMOUR_DRAWING), nullptr, TRUE);
 }
 
@@ -185,6 +181,11 @@ void drawArmour(const DRAWITEMSTRUCT& item, const ArmourDialog& context) {
 
 // ---- the dialog
 
+constexpr auto ButtonTips = std::to_array<Tip>({
+    {IDC_MIRROR_ARMOUR, "Gives the right side the plates of the left one"},
+    {IDC_SIDES_ALIKE, "Makes all four side plates, upper and lower, as the upper left one"},
+});
+
 /// Takes the fields over into the context; false after telling what is wrong.
 bool takeFields(HWND dialog, ArmourDialog& context) {
     DialogPort port(dialog);
@@ -225,7 +226,9 @@ INT_PTR CALLBACK armourProcedure(HWND dialog, UINT message, WPARAM parameter, LP
     auto* context = dialogContext<ArmourDialog>(dialog, message, pointer);
     switch (message) {
     case WM_INITDIALOG:
+        placeBesideDrawing(dialog);
         fillDialog(dialog, *context);
+        addTips(dialog, ButtonTips);
         if (context->kind == ComponentKind::FixedWeapon) {
             DialogPort(dialog).setText(IDC_NOT_STORED,
                                        "The armour of a fixed weapon is not stored in the file.");

@@ -131,6 +131,17 @@ std::optional<FormError> readArmourForm(FormPort& port, ArmourRecord& armour, bo
     return std::nullopt;
 }
 
+void followPlates(FormPort& port, ArmourRecord& armour) {
+    for (std::size_t i = 0; i < PlateCount; ++i) {
+        ArmourPlate plate = armour.*Plates[i].member;
+        const bool isTaken = !readPlate(port, i, plate);
+        if (isTaken) {
+            armour.*Plates[i].member = plate;
+        }
+        port.setText(firstControl(i) + 2, isTaken ? effectiveText(plate) : "?");
+    }
+}
+
 void mirrorLeftToRight(ArmourRecord& armour) {
     armour.upperRight = armour.upperLeft;
     armour.lowerRight = armour.lowerLeft;

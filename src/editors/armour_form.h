@@ -33,6 +33,9 @@ void enableGiven(FormPort& port, bool isTurret);
 /// Takes the dialog's fields over; an error leaves the record as it was.
 std::optional<FormError> readArmourForm(FormPort& port, ArmourRecord& armour, bool isTurret);
 
+/// Takes over each plate that can be taken and shows its effective thickness, for the others a question mark.
+void followPlates(FormPort& port, ArmourRecord& armour);
+
 /// The right side's plates become the left side's.
 void mirrorLeftToRight(ArmourRecord& armour);
 

@@ -100,6 +100,7 @@ bool openSubDialog(HWND dialog, ComponentDialog& context, int control) {
 INT_PTR handleComponentDialog(HWND dialog, UINT message, WPARAM parameter, LPARAM pointer) {
     auto* context = dialogContext<ComponentDialog>(dialog, message, pointer);
     if (message == WM_INITDIALOG) {
+        placeBesideDrawing(dialog);
         fillDialog(dialog, *context);
         return TRUE;
     }

@@ -44,12 +44,13 @@ constexpr auto SightFields = std::to_array<Field>({
 
 struct ComponentImage {
     int control;
+    std::string_view label; ///< for messages
     Text Component::*member;
 };
 
 constexpr auto Images = std::to_array<ComponentImage>({
-    {IDC_VIEW_IMAGE, &Component::viewImage},
-    {IDC_DESTROYED_IMAGE, &Component::destroyedImage},
+    {IDC_VIEW_IMAGE, "Image", &Component::viewImage},
+    {IDC_DESTROYED_IMAGE, "Destroyed", &Component::destroyedImage},
 });
 
 bool hasDestroyedImage(ComponentKind kind) {
@@ -65,12 +66,17 @@ void fillImages(FormPort& port, const Component& component) {
     }
 }
 
-void readImages(FormPort& port, Component& component) {
+std::optional<ComponentFormError> readImages(FormPort& port, Component& component) {
     for (const ComponentImage& image : Images) {
         if (image.control == IDC_VIEW_IMAGE || hasDestroyedImage(component.kind)) {
-            component.*image.member = imageNameOf(port.text(image.control));
+            const std::string name = port.text(image.control);
+            if (auto error = valueError(image.control, image.label, name)) {
+                return ComponentFormError{error->control, error->message, "Error"};
+            }
+            component.*image.member = imageNameOf(name);
         }
     }
+    return std::nullopt;
 }
 
 std::optional<ComponentFormError> readFields(FormPort& port, std::span<const Field> fields,
@@ -111,9 +117,18 @@ std::optional<ComponentFormError> readRotateSpeed(FormPort& port, Component& com
     if (component.rotateTime > 0 && text == rotateSpeedText(component.rotateTime)) {
         return std::nullopt;
     }
+    if (text.find_first_not_of(" \t+-.0123456789") != std::string::npos) {
+        return ComponentFormError{IDC_ROTATE_SPEED, "\"Rotate speed\" must be a number", "Rotate speed"};
+    }
     const auto time = rotateTimeOf(text);
     if (!time) {
         return ComponentFormError{IDC_ROTATE_SPEED, "The rotate speed must be greater than zero",
+                                  "Rotate speed"};
+    }
+    if (*time == 0) {
+        return ComponentFormError{IDC_ROTATE_SPEED,
+                                  "The rotate speed must be at most 360 degrees per second: the file counts "
+                                  "the seconds for a full circle",
                                   "Rotate speed"};
     }
     component.rotateTime = *time;
@@ -191,9 +206,8 @@ std::optional<std::int32_t> rotateTimeOf(std::string_view speed) {
     if (!(value > 0)) {
         return std::nullopt;
     }
-    // A circle takes a second at least, and less than a day.
-    constexpr double longest = 86400;
-    return static_cast<std::int32_t>(std::lround(std::clamp(FullCircle / value, 1.0, longest)));
+    constexpr double secondsOfDay = 86400;
+    return static_cast<std::int32_t>(std::lround(std::min(FullCircle / value, secondsOfDay)));
 }
 
 void fillComponentForm(FormPort& port, const ComponentRecord& component) {
@@ -231,7 +245,9 @@ std::optional<ComponentFormError> readComponentForm(FormPort& port, ComponentRec
     if (auto error = readKind(port, copy)) {
         return error;
     }
-    readImages(port, copy);
+    if (auto error = readImages(port, copy)) {
+        return error;
+    }
     component = std::move(copy);
     return std::nullopt;
 }

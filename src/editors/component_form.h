@@ -31,7 +31,8 @@ std::optional<ComponentFormError> readComponentForm(FormPort& port, ComponentRec
 /// none.
 std::string rotateSpeedText(std::int32_t rotateTime);
 
-/// The seconds of a full circle at a speed; nothing for a speed of 0 or less.
+/// The seconds of a full circle at a speed, at most a day's, and 0 for one that takes less than half a
+/// second; nothing for a speed of 0 or less.
 std::optional<std::int32_t> rotateTimeOf(std::string_view speed);
 
 } // namespace varrocade

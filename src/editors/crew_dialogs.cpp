@@ -32,7 +32,7 @@ void followCrew(HWND dialog, ListDialog& list) {
     port.setEnabled(IDC_MAN_WEAPONS_BUTTON, list.shown >= 0);
     port.setEnabled(IDC_MAN_AMMO_BUTTON, list.shown >= 0);
     constexpr ChoiceField job = {IDC_JOB, "Job"};
-    port.setText(IDC_UNKNOWN, list.shown >= 0 ? unknownChoices(port, std::span(&job, 1)) : std::string());
+    showUnknown(dialog, list.shown >= 0 ? unknownChoices(port, std::span(&job, 1)) : std::string());
 }
 
 bool crewCommand(HWND dialog, ListDialog& list, int control) {
@@ -73,9 +73,8 @@ void preparePersonalWeapons(HWND dialog, ListDialog& list) {
 void followPersonalWeapons(HWND dialog, ListDialog& list) {
     DialogPort port(dialog);
     const auto& context = *static_cast<const PersonalWeaponsContext*>(list.context);
-    port.setText(IDC_UNKNOWN, list.shown >= 0
-                                  ? unknownWeapon(port.text(IDC_WEAPON_TYPE), context.edit.catalogue)
-                                  : std::string());
+    showUnknown(dialog, list.shown >= 0 ? unknownWeapon(port.text(IDC_WEAPON_TYPE), context.edit.catalogue)
+                                        : std::string());
 }
 
 bool personalWeaponsCommand(HWND dialog, ListDialog& list, int control) {

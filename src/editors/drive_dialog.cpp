@@ -63,6 +63,7 @@ void pickEngine(HWND dialog) {
 INT_PTR CALLBACK driveProcedure(HWND dialog, UINT message, WPARAM parameter, LPARAM pointer) {
     auto* edit = dialogContext<EditContext>(dialog, message, pointer);
     if (message == WM_INITDIALOG) {
+        placeBesideDrawing(dialog);
         fillDialog(dialog, *edit);
         return TRUE;
     }

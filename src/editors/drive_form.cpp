@@ -35,7 +35,9 @@ std::optional<FormError> readDriveForm(FormPort& port, VehicleRecord& vehicle) {
     if (auto error = readForm<Vehicle>(port, DriveFields, copy)) {
         return error;
     }
-    if (copy.revolutionLimit < copy.idleRevolutions) {
+    const bool isTouched =
+        copy.revolutionLimit != vehicle.revolutionLimit || copy.idleRevolutions != vehicle.idleRevolutions;
+    if (isTouched && copy.revolutionLimit < copy.idleRevolutions) {
         return FormError{IDC_RPM_LIMIT, "The revolution limit must not be below the idle revolutions"};
     }
     const auto mount =

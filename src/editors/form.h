@@ -66,11 +66,15 @@ struct FormError {
     std::string message;
 };
 
-/// The number that a text holds, or nothing when there is another character than blanks around it.
-std::optional<std::int32_t> wholeNumber(std::string_view text);
+/// The number that a text holds, or nothing when there is another character than blanks around it. Numbers
+/// too long for any field are brought to the nearest one of 64 bits.
+std::optional<std::int64_t> wholeNumber(std::string_view text);
 
 /// The message for a text that is not in a field's range.
-std::string rangeMessage(std::string_view label, const NumberRange& range);
+std::string rangeMessage(std::string_view label, const NumberRange& range, std::string_view text);
+
+/// Refuses a text that a file could not give back.
+std::optional<FormError> valueError(int control, std::string_view label, std::string_view text);
 
 /// A drop-down list whose edit part takes what its list does not offer: what old files hold is kept.
 struct ChoiceField {
@@ -122,15 +126,19 @@ std::optional<FormError> readForm(FormPort& port, std::span<const FormField<Reco
                     record.*member = port.isChecked(field.control);
                 } else if constexpr (std::is_integral_v<Value>) {
                     const NumberRange range = within<Value>(field.range);
-                    const std::optional<std::int32_t> number = wholeNumber(port.text(field.control));
+                    const std::string text = port.text(field.control);
+                    const std::optional<std::int64_t> number = wholeNumber(text);
                     const bool inRange = number && *number >= range.least && *number <= range.greatest;
                     if (inRange || (!number && range.zeroForOtherTexts)) {
                         record.*member = static_cast<Value>(number.value_or(0));
-                    } else {
-                        error = FormError{field.control, rangeMessage(field.label, range)};
+                    } else if (number != std::int64_t{record.*member}) {
+                        // What an old file holds stays until the user changes it.
+                        error = FormError{field.control, rangeMessage(field.label, range, text)};
                     }
                 } else {
-                    record.*member = port.text(field.control);
+                    const std::string text = port.text(field.control);
+                    error = valueError(field.control, field.label, text);
+                    record.*member = text;
                 }
             },
             field.member);

@@ -102,9 +102,17 @@ void completeChoice(HWND dialog, int control) {
     }
 }
 
+void showUnknown(HWND dialog, std::string_view text) {
+    DialogPort port(dialog);
+    if (port.text(IDC_UNKNOWN) != text) {
+        port.setText(IDC_UNKNOWN, text);
+    }
+    ShowWindow(GetDlgItem(dialog, IDC_UNKNOWN), text.empty() ? SW_HIDE : SW_SHOWNA);
+}
+
 void showUnknownChoices(HWND dialog, std::span<const ChoiceField> fields) {
     DialogPort port(dialog);
-    port.setText(IDC_UNKNOWN, unknownChoices(port, fields));
+    showUnknown(dialog, unknownChoices(port, fields));
 }
 
 bool followChoices(HWND dialog, std::span<const ChoiceField> fields, int control, int notification) {
@@ -119,6 +127,26 @@ bool followChoices(HWND dialog, std::span<const ChoiceField> fields, int control
     }
     showUnknownChoices(dialog, fields);
     return true;
+}
+
+void placeBesideDrawing(HWND dialog) {
+    HWND mainWindow = GetAncestor(dialog, GA_ROOTOWNER);
+    MONITORINFO monitor{};
+    monitor.cbSize = sizeof monitor;
+    RECT main{};
+    RECT place{};
+    if (mainWindow == dialog || GetWindowRect(mainWindow, &main) == 0 || GetWindowRect(dialog, &place) == 0 ||
+        GetMonitorInfoA(MonitorFromWindow(mainWindow, MONITOR_DEFAULTTONEAREST), &monitor) == 0) {
+        return;
+    }
+    const RECT& screen = monitor.rcWork;
+    const LONG width = place.right - place.left;
+    const LONG height = place.bottom - place.top;
+    const LONG left = std::min(main.right, screen.right) - width;
+    const LONG top = (main.top + main.bottom - height) / 2;
+    SetWindowPos(dialog, nullptr, std::max(left, screen.left),
+                 std::max(std::min(top, screen.bottom - height), screen.top), 0, 0,
+                 SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 INT_PTR runDialog(HWND owner, int dialogTemplate, DLGPROC procedure, void* context) {

@@ -25,7 +25,11 @@ private:
     HWND dialog_;
 };
 
-/// Shows in IDC_UNKNOWN what a dialog's drop-down lists hold and do not offer.
+/// Shows a text in IDC_UNKNOWN, which is there only while there is something to say. It can be as long as it
+/// likes: the control is scrolled.
+void showUnknown(HWND dialog, std::string_view text);
+
+/// Shows there what a dialog's drop-down lists hold and do not offer.
 void showUnknownChoices(HWND dialog, std::span<const ChoiceField> fields);
 
 /// The same when a notification tells that one of them was changed; false when it tells something else.
@@ -34,6 +38,10 @@ bool followChoices(HWND dialog, std::span<const ChoiceField> fields, int control
 /// Puts what was chosen from a drop-down list into its edit part, which it reaches only after the
 /// notification.
 void completeChoice(HWND dialog, int control);
+
+/// Moves a dialog that is opening to the right edge of the main window, over the data sheet: the drawing,
+/// which follows what is edited, stays in sight as far as there is room.
+void placeBesideDrawing(HWND dialog);
 
 /// Runs a modal dialog whose procedure finds `context` as its user data from WM_INITDIALOG on.
 /// Returns what the dialog ended with, 0 when it could not be shown.

@@ -1,13 +1,24 @@
 #include "editors/list_dialog_win32.h"
 
+#include "editors/list_keys_win32.h"
 #include "platform/messages.h"
 #include "resources/resource.h"
+#include "view/gdi_object_win32.h"
 
 #include <algorithm>
+#include <array>
 
 namespace varrocade {
 
 namespace {
+
+constexpr auto EntryKeys = std::to_array<ListKey>({
+    {VK_INSERT, false, IDC_ENTRY_ADD, "In the list: Insert"},
+    {VK_DELETE, false, IDC_ENTRY_DELETE, "In the list: Delete"},
+    {VK_UP, true, IDC_ENTRY_UP, "In the list: Alt+Up"},
+    {VK_DOWN, true, IDC_ENTRY_DOWN, "In the list: Alt+Down"},
+});
+constexpr std::span<const ListKey> EntryKeyTable = EntryKeys;
 
 int lastIndex(const ListDialog& list) {
     return static_cast<int>(list.model.count()) - 1;
@@ -19,15 +30,18 @@ std::size_t shownIndex(const ListDialog& list) {
 
 void updateButtons(HWND dialog, const ListDialog& list) {
     DialogPort port(dialog);
+    HWND former = GetFocus();
     const bool isShown = list.shown >= 0;
     port.setEnabled(IDC_ENTRY_COPY, isShown);
     port.setEnabled(IDC_ENTRY_MIRROR, isShown && list.model.canMirror());
     port.setEnabled(IDC_ENTRY_DELETE, isShown);
     port.setEnabled(IDC_ENTRY_UP, list.shown > 0);
     port.setEnabled(IDC_ENTRY_DOWN, isShown && list.shown < lastIndex(list));
+    keepKeyboard(dialog, former, IDC_ENTRY_LIST);
 }
 
 void showEntry(HWND dialog, ListDialog& list, int index) {
+    HWND former = GetFocus();
     list.shown = index >= 0 && index <= lastIndex(list) ? index : -1;
     list.isFilling = true;
     DialogPort port(dialog);
@@ -39,7 +53,23 @@ void showEntry(HWND dialog, ListDialog& list, int index) {
         list.follow(dialog, list);
     }
     list.isFilling = false;
+    keepKeyboard(dialog, former, IDC_ENTRY_LIST);
     updateButtons(dialog, list);
+}
+
+/// A list that is wider than its box can be scrolled.
+void measureLines(HWND box, const ListModel& model) {
+    const MemoryDevice device(nullptr);
+    const Selection font(device.get(), reinterpret_cast<HFONT>(SendMessageA(box, WM_GETFONT, 0, 0)));
+    WPARAM widest = 0;
+    for (std::size_t i = 0; i < model.count(); ++i) {
+        const std::string line = model.line(i);
+        SIZE size{};
+        GetTextExtentPoint32A(device.get(), line.c_str(), static_cast<int>(line.size()), &size);
+        widest = std::max(widest, static_cast<WPARAM>(size.cx));
+    }
+    constexpr WPARAM margin = 6;
+    SendMessageA(box, LB_SETHORIZONTALEXTENT, widest + margin, 0);
 }
 
 void previewChange(const ListDialog& list) {
@@ -63,6 +93,7 @@ void followTyping(HWND dialog, ListDialog& list) {
     SendMessageA(box, LB_INSERTSTRING, shownIndex(list),
                  reinterpret_cast<LPARAM>(list.model.line(shownIndex(list)).c_str()));
     SendMessageA(box, LB_SETCURSEL, shownIndex(list), 0);
+    measureLines(box, list.model);
     SendMessageA(box, WM_SETREDRAW, TRUE, 0);
     InvalidateRect(box, nullptr, TRUE);
     if (list.follow != nullptr) {
@@ -201,6 +232,7 @@ void refreshEntries(HWND dialog, ListDialog& list, int chosen) {
         SendMessageA(box, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(list.model.line(i).c_str()));
     }
     SendMessageA(box, LB_SETCURSEL, static_cast<WPARAM>(chosen), 0);
+    measureLines(box, list.model);
     SendMessageA(box, WM_SETREDRAW, TRUE, 0);
     InvalidateRect(box, nullptr, TRUE);
     showEntry(dialog, list, chosen);
@@ -209,9 +241,11 @@ void refreshEntries(HWND dialog, ListDialog& list, int chosen) {
 INT_PTR handleListDialog(HWND dialog, UINT message, WPARAM parameter, LPARAM pointer) {
     auto* list = dialogContext<ListDialog>(dialog, message, pointer);
     if (message == WM_INITDIALOG) {
+        placeBesideDrawing(dialog);
         if (list->prepare != nullptr) {
             list->prepare(dialog, *list);
         }
+        bindListKeys(dialog, IDC_ENTRY_LIST, EntryKeyTable);
         refreshEntries(dialog, *list, std::min(static_cast<int>(list->first), lastIndex(*list)));
         return TRUE;
     }

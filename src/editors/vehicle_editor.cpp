@@ -10,6 +10,7 @@
 #include "editors/drive_dialog.h"
 #include "editors/form_port_win32.h"
 #include "editors/image_choices.h"
+#include "editors/list_keys_win32.h"
 #include "editors/vehicle_form.h"
 #include "platform/messages.h"
 #include "resources/resource.h"
@@ -50,6 +51,7 @@ constexpr auto NewComponents = std::to_array<NewComponent>({
 INT_PTR CALLBACK addComponentProcedure(HWND dialog, UINT message, WPARAM parameter, LPARAM pointer) {
     auto* context = dialogContext<VehicleEditor>(dialog, message, pointer);
     if (message == WM_INITDIALOG) {
+        placeBesideDrawing(dialog);
         std::vector<std::string> names;
         names.reserve(NewComponents.size());
         for (const NewComponent& row : NewComponents) {
@@ -78,6 +80,14 @@ INT_PTR CALLBACK addComponentProcedure(HWND dialog, UINT message, WPARAM paramet
 
 // ---- the component list
 
+constexpr auto ComponentKeys = std::to_array<ListKey>({
+    {VK_INSERT, false, IDC_ADD, "Adds a component (in the list: Insert)"},
+    {VK_DELETE, false, IDC_REMOVE, "Deletes the component (in the list: Delete)"},
+    {VK_UP, true, IDC_UP, "In the list: Alt+Up"},
+    {VK_DOWN, true, IDC_DOWN, "In the list: Alt+Down"},
+});
+constexpr std::span<const ListKey> ComponentKeyTable = ComponentKeys;
+
 std::optional<std::size_t> selectedComponent(HWND dialog, const VehicleRecord& vehicle) {
     const LRESULT selected = SendDlgItemMessageA(dialog, IDC_COMPONENTS, LB_GETCURSEL, 0, 0);
     if (selected < 0 || static_cast<std::size_t>(selected) >= vehicle.components.size()) {
@@ -93,20 +103,24 @@ void selectComponent(HWND dialog, std::size_t index) {
 
 void refreshComponents(HWND dialog, const VehicleRecord& vehicle) {
     HWND list = GetDlgItem(dialog, IDC_COMPONENTS);
+    const LRESULT selected = SendMessageA(list, LB_GETCURSEL, 0, 0);
     SendMessageA(list, LB_RESETCONTENT, 0, 0);
     for (std::size_t i = 0; i < vehicle.components.size(); ++i) {
         SendMessageA(list, LB_ADDSTRING, 0,
                      reinterpret_cast<LPARAM>(componentLine(i + 1, vehicle.components[i]).c_str()));
     }
+    SendMessageA(list, LB_SETCURSEL, static_cast<WPARAM>(selected), 0);
     SendMessageA(dialog, UpdateMoveButtons, 0, 0);
 }
 
 void updateMoveButtons(HWND dialog, const VehicleRecord& vehicle) {
     const auto selected = selectedComponent(dialog, vehicle);
+    HWND former = GetFocus();
     DialogPort port(dialog);
     port.setEnabled(IDC_UP, selected && canMoveUp(vehicle, *selected));
     port.setEnabled(IDC_DOWN, selected && canMoveDown(vehicle, *selected));
     port.setEnabled(IDC_REMOVE, selected.has_value());
+    keepKeyboard(dialog, former, IDC_COMPONENTS);
 }
 
 void addToList(HWND dialog, VehicleEditor& context) {
@@ -218,6 +232,7 @@ void fillDialog(HWND dialog, const VehicleEditor& context) {
     }
     fillVehicleForm(port, context.edit.record);
     showUnknownChoices(dialog, KnownChoices);
+    bindListKeys(dialog, IDC_COMPONENTS, ComponentKeyTable);
     refreshComponents(dialog, context.vehicle());
 }
 
@@ -285,6 +300,7 @@ INT_PTR CALLBACK detailsProcedure(HWND dialog, UINT message, WPARAM parameter, L
     auto* context = dialogContext<VehicleEditor>(dialog, message, pointer);
     switch (message) {
     case WM_INITDIALOG:
+        placeBesideDrawing(dialog);
         fillDialog(dialog, *context);
         return TRUE;
     case RefreshComponents:

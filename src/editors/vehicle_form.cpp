@@ -23,15 +23,34 @@ constexpr auto VehicleFields = std::to_array<FormField<VehicleRecord>>({
     {IDC_AMPHIBIOUS, "Is amphibious", &VehicleRecord::amphibious},
 });
 
+enum class UniformMethod { Any, New, Old };
+
+/// An image and the uniform method that it belongs to.
 struct ImageField {
     int control;
-    Text SquadRecord::*member;
+    std::string_view label; ///< for messages
+    UniformMethod method;
+    Text& (*name)(SquadRecord& record);
 };
 
-constexpr auto NewMethodImages = std::to_array<ImageField>({
-    {IDC_UNIFORM_PROFILE, &SquadRecord::uniformProfile},
-    {IDC_UNIFORM_GAME, &SquadRecord::uniformGame},
+constexpr auto ImageFields = std::to_array<ImageField>({
+    {IDC_UNIFORM_PROFILE, "Profile image", UniformMethod::New,
+     [](SquadRecord& record) -> Text& { return record.uniformProfile; }},
+    {IDC_UNIFORM_GAME, "Game image", UniformMethod::New,
+     [](SquadRecord& record) -> Text& { return record.uniformGame; }},
+    {IDC_UNIFORM_NAME, "Uniform", UniformMethod::Old,
+     [](SquadRecord& record) -> Text& { return record.uniformName; }},
+    {IDC_UNIFORM_RANKS, "Rank Image", UniformMethod::Any,
+     [](SquadRecord& record) -> Text& { return record.uniformRanks; }},
+    {IDC_PROFILE_IMAGE, "Control panel image", UniformMethod::Any,
+     [](SquadRecord& record) -> Text& { return record.vehicle->profileImage; }},
 });
+
+/// Whether the method that the radio buttons tell has this image.
+bool isInUse(FormPort& port, const ImageField& field) {
+    return field.method == UniformMethod::Any ||
+           (field.method == UniformMethod::New) == port.isChecked(IDC_UNIFORM_NEW_METHOD);
+}
 
 /// An empty name, as the default one, shows as "Default".
 void showImage(FormPort& port, int control, const Text& name) {
@@ -41,13 +60,14 @@ void showImage(FormPort& port, int control, const Text& name) {
 
 /// "Default" is the empty name; a record that already says "Default" keeps it, so that nothing changes
 /// unasked.
-void readImage(FormPort& port, int control, Text& name) {
-    const std::string chosen = port.text(control);
+std::optional<FormError> readImage(FormPort& port, const ImageField& field, Text& name) {
+    const std::string chosen = port.text(field.control);
     if (!isDefaultImage(chosen)) {
         name = imageNameOf(chosen);
     } else if (!isDefaultImage(name)) {
         name.clear();
     }
+    return valueError(field.control, field.label, chosen);
 }
 
 /// A language is two characters; everything else, "Default" among it, is none.
@@ -58,27 +78,22 @@ LanguageCode languageOf(std::string_view text) {
 } // namespace
 
 void fillVehicleForm(FormPort& port, const SquadRecord& record) {
-    const VehicleRecord& vehicle = *record.vehicle;
     fillForm<SquadRecord>(port, SquadFields, record);
-    fillForm<VehicleRecord>(port, VehicleFields, vehicle);
+    fillForm<VehicleRecord>(port, VehicleFields, *record.vehicle);
     port.setText(IDC_LANGUAGE, record.language.empty() ? DefaultImageName : record.language.view());
-    showImage(port, IDC_PROFILE_IMAGE, vehicle.profileImage);
-    for (const ImageField& field : NewMethodImages) {
-        showImage(port, field.control, record.*field.member);
+    SquadRecord shown = record;
+    for (const ImageField& field : ImageFields) {
+        showImage(port, field.control, field.name(shown));
     }
-    showImage(port, IDC_UNIFORM_NAME, record.uniformName);
-    showImage(port, IDC_UNIFORM_RANKS, record.uniformRanks);
     port.setChecked(IDC_UNIFORM_NEW_METHOD, !record.namedUniform);
     port.setChecked(IDC_UNIFORM_OLD_METHOD, record.namedUniform);
     enableUniformLists(port);
 }
 
 void enableUniformLists(FormPort& port) {
-    const bool isNewMethod = port.isChecked(IDC_UNIFORM_NEW_METHOD);
-    for (const ImageField& field : NewMethodImages) {
-        port.setEnabled(field.control, isNewMethod);
+    for (const ImageField& field : ImageFields) {
+        port.setEnabled(field.control, isInUse(port, field));
     }
-    port.setEnabled(IDC_UNIFORM_NAME, !isNewMethod);
 }
 
 std::optional<FormError> readVehicleForm(FormPort& port, SquadRecord& record) {
@@ -90,16 +105,18 @@ std::optional<FormError> readVehicleForm(FormPort& port, SquadRecord& record) {
         return error;
     }
     copy.language = languageOf(port.text(IDC_LANGUAGE));
+    if (auto error = valueError(IDC_LANGUAGE, "Voice language", copy.language)) {
+        return error;
+    }
     copy.namedUniform = !port.isChecked(IDC_UNIFORM_NEW_METHOD);
-    if (copy.namedUniform) {
-        readImage(port, IDC_UNIFORM_NAME, copy.uniformName);
-    } else {
-        for (const ImageField& field : NewMethodImages) {
-            readImage(port, field.control, copy.*field.member);
+    for (const ImageField& field : ImageFields) {
+        if (!isInUse(port, field)) {
+            continue;
+        }
+        if (auto error = readImage(port, field, field.name(copy))) {
+            return error;
         }
     }
-    readImage(port, IDC_UNIFORM_RANKS, copy.uniformRanks);
-    readImage(port, IDC_PROFILE_IMAGE, copy.vehicle->profileImage);
     record = std::move(copy);
     return std::nullopt;
 }

@@ -7,6 +7,8 @@
 #include "editors/weapon_choices.h"
 #include "resources/resource.h"
 
+#include <algorithm>
+
 namespace varrocade {
 
 namespace {
@@ -53,9 +55,9 @@ void followWeapons(HWND dialog, ListDialog& list) {
         constexpr ChoiceField mount = {IDC_WEAPON_MOUNT, "Mount"};
         unknown = unknownWeapon(port.text(IDC_WEAPON_TYPE), context.edit.catalogue);
         const std::string unknownMount = unknownChoices(port, std::span(&mount, 1));
-        unknown += (unknown.empty() || unknownMount.empty() ? "" : "\n") + unknownMount;
+        unknown += (unknown.empty() || unknownMount.empty() ? "" : "; ") + unknownMount;
     }
-    port.setText(IDC_UNKNOWN, unknown);
+    showUnknown(dialog, unknown);
 }
 
 bool weaponsCommand(HWND dialog, ListDialog& list, int control) {
@@ -152,7 +154,11 @@ bool editWeapons(HWND owner, EditContext& edit, ComponentRecord& component) {
 bool editComponentAmmunition(HWND owner, EditContext& edit, ComponentRecord& component) {
     AmmunitionContext context{.edit = edit, .weaponTypes = {}, .hasFlavour = true, .ammo = component.ammo};
     for (const WeaponMountRecord& weapon : component.weapons) {
-        context.weaponTypes.push_back(weapon.type.str());
+        // Two weapons of a type share their ammunition.
+        if (std::find(context.weaponTypes.begin(), context.weaponTypes.end(), weapon.type.view()) ==
+            context.weaponTypes.end()) {
+            context.weaponTypes.push_back(weapon.type.str());
+        }
     }
     return editAmmunition(owner, context, component.ammo);
 }

@@ -1,4 +1,5 @@
 #include "gui_test.h"
+#include "layout_check.h"
 
 namespace varrocade::gui {
 
@@ -6,6 +7,48 @@ namespace {
 
 const Box DeleteQuestion = {
     "Delete Component", "Are you sure you want to delete this component?", {IDYES, IDNO}};
+
+// What is written of new components, whose numbers are all zero, with the blank line behind.
+constexpr std::string_view NewSuperstructure =
+    "\t\t<superstructure>\r\n"
+    "\t\t\t<width>0</width>\r\n"
+    "\t\t\t<length>0</length>\r\n"
+    "\t\t\t<height>0</height>\r\n"
+    "\t\t\t<offsetX>0</offsetX>\r\n"
+    "\t\t\t<offsetY>0</offsetY>\r\n"
+    "\t\t\t<armour>\t\t\t\t// @0 means vertically upright, @90 is horizontal\r\n"
+    "\t\t\t\t<front>0</front>\r\n"
+    "\t\t\t\t<side>0</side>\r\n"
+    "\t\t\t\t<rear>0</rear>\r\n"
+    "\t\t\t\t<top>0</top>\r\n"
+    "\t\t\t\t<bottom>0</bottom>\r\n"
+    "\t\t\t</armour>\r\n"
+    "\t\t</superstructure>\r\n\r\n";
+constexpr std::string_view NewTurret =
+    "\t\t<turret>\r\n"
+    "\t\t\t<image_view>.png</image_view>\r\n"
+    "\t\t\t<diameter>0</diameter>\r\n"
+    "\t\t\t<height>0</height>\r\n"
+    "\t\t\t<offsetX>0</offsetX>\r\n"
+    "\t\t\t<offsetY>0</offsetY>\r\n"
+    "\t\t\t<rotate_time>0</rotate_time>\r\n"
+    "\t\t\t<armour>\t\t\t\t// @0 means vertically upright, @90 is horizontal\r\n"
+    "\t\t\t\t<front>0</front>\r\n"
+    "\t\t\t\t<side>0</side>\r\n"
+    "\t\t\t\t<rear>0</rear>\r\n"
+    "\t\t\t\t<top>0</top>\r\n"
+    "\t\t\t\t<bottom>0</bottom>\r\n"
+    "\t\t\t\t<mantlet>0</mantlet>\r\n"
+    "\t\t\t</armour>\r\n"
+    "\t\t</turret>\r\n\r\n";
+constexpr std::string_view NewFixedWeapon = "\t\t<fixed_weapon>\r\n"
+                                            "\t\t\t<offsetX>0</offsetX>\r\n"
+                                            "\t\t\t<offsetY>0</offsetY>\r\n"
+                                            "\t\t\t<offsetZ>0</offsetZ>\r\n"
+                                            "\t\t\t<rotate_time>0</rotate_time>\r\n"
+                                            "\t\t\t<rotate_left>0</rotate_left>\r\n"
+                                            "\t\t\t<rotate_right>0</rotate_right>\r\n"
+                                            "\t\t</fixed_weapon>\r\n\r\n";
 
 } // namespace
 
@@ -62,6 +105,7 @@ TEST_F(ComponentListTest, AddingAppends) {
     const Window details = startWith(Tiger);
     details.startPress(IDC_ADD);
     Window dialog = editor->waitForDialog("Add New Component");
+    expectWellLaidOut(dialog);
     EXPECT_EQ(dialog.control(IDC_COMPONENT_KIND).choices(),
               (Lines{"Superstructure", "Fixed Weapon", "Turret"}));
     EXPECT_EQ(dialog.control(IDC_COMPONENT_KIND).text(), "Superstructure");
@@ -77,23 +121,62 @@ TEST_F(ComponentListTest, AddingAppends) {
     EXPECT_NE(tigerText().find("<superstructure>"), std::string::npos);
 }
 
-TEST_F(ComponentListTest, ThirteenAreTheMost) {
-    std::string text = tigerText();
-    const std::string superstructure = "\t\t<superstructure><height>40</height></superstructure>\r\n";
-    const std::size_t end = text.find("\t</vehicle>");
-    for (int i = 3; i < 12; ++i) {
-        text.insert(end, superstructure);
-    }
-    game.write(dataFile(Tiger), text);
+TEST_F(ComponentListTest, ThirteenAreTheMostAndAllAreWritten) {
+    const std::string before = tigerText();
     const Window details = startWith(Tiger);
-    EXPECT_EQ(lines(details).size(), 12U);
-    add(details, "Turret");
-    EXPECT_EQ(lines(details).size(), 13U);
-    details.startPress(IDC_ADD);
-    answer({.caption = "Squad full",
-            .text = "There are already the maximum number of components allowed per squad"});
-    EXPECT_EQ(lines(details).size(), 13U);
+    constexpr std::string_view kinds[] = {"Turret", "Superstructure", "Fixed Weapon"};
+    for (std::size_t i = 3; i < 13; ++i) {
+        add(details, kinds[i % 3]);
+    }
+    EXPECT_EQ(lines(details).back(), "13. Turret");
+    for (int press = 0; press < 2; ++press) {
+        details.startPress(IDC_ADD);
+        answer({.caption = "Squad full",
+                .text = "There are already the maximum number of components allowed per squad"});
+    }
     EXPECT_TRUE(details.isEnabled()) << "nothing else opened";
+    selectLine(details, 12);
+    details.press(IDC_UP);
+    EXPECT_EQ(lines(details)[11], "12. Turret");
+    finish(details);
+
+    // Superstructures stand before the turret; the others follow what was there, in the list's order.
+    std::string superstructures;
+    for (int i = 0; i < 3; ++i) {
+        superstructures += NewSuperstructure;
+    }
+    std::string others = "\r\n";
+    for (const char kind : std::string_view("twtwttw")) {
+        others += kind == 't' ? NewTurret : NewFixedWeapon;
+    }
+    others.erase(others.size() - 2); // no blank line after the last one
+    std::string expected = withReplaced(before, "\t\t<turret>", superstructures + "\t\t<turret>");
+    expected.insert(expected.find("\t</vehicle>"), others);
+    EXPECT_EQ(tigerText(), expected);
+}
+
+TEST_F(ComponentListTest, KeysDoWhatTheButtonsDo) {
+    const Window details = startWith(Tiger);
+    const Window components = details.control(IDC_COMPONENTS);
+    components.choose(1);
+    constexpr LPARAM withAlt = LPARAM{1} << 29;
+    components.send(WM_SYSKEYDOWN, VK_DOWN, withAlt);
+    EXPECT_EQ(lines(details)[2], "3. Turret (crew 3)");
+    components.send(WM_SYSKEYDOWN, VK_DOWN, withAlt);
+    components.send(WM_SYSKEYDOWN, VK_UP, withAlt);
+    EXPECT_EQ(lines(details)[1], "2. Turret (crew 3)");
+    components.pressKey(VK_INSERT);
+    finish(editor->waitForDialog("Add New Component"));
+    EXPECT_EQ(lines(details).back(), "4. Superstructure");
+    components.pressKey(VK_DELETE);
+    answer(DeleteQuestion, IDYES);
+    EXPECT_EQ(lines(details).size(), 3U);
+
+    // A button that can be pressed no more gives the keyboard to the list.
+    components.choose(1);
+    details.send(WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(details.control(IDC_UP).handle()), TRUE);
+    details.press(IDC_UP);
+    EXPECT_EQ(editor->focus(), components);
     finish(details, IDCANCEL);
 }
 

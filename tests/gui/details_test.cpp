@@ -1,4 +1,5 @@
 #include "gui_test.h"
+#include "layout_check.h"
 
 #include <algorithm>
 
@@ -60,6 +61,7 @@ TEST_F(DetailsTest, ShowsEveryField) {
     game.write("Images\\Units\\Other.png", "");
     startWith(KnownVehicle);
     const Window details = openDetails();
+    expectWellLaidOut(details);
     constexpr FieldRow fields[] = {
         {IDC_NATIONALITY, "Nationality:", "NATIONALITY_GERMAN"},
         {IDC_TYPE, "Type:", "TYPE_HALFTRACK"},
@@ -128,6 +130,44 @@ TEST_F(DetailsTest, SavesWhatWasChangedAndNothingElse) {
     }
     EXPECT_EQ(tigerText(), expected);
     EXPECT_EQ(game.backups(dataFile(Tiger)), std::vector<std::string>{before});
+}
+
+TEST_F(DetailsTest, WhatNoFileCouldHoldIsRefused) {
+    startWith(Tiger);
+    const std::string before = tigerText();
+    const Window details = openDetails();
+    details.setText(IDC_DESCRIPTION, "See http://tanks");
+    details.startPress(IDOK);
+    EXPECT_TRUE(eventually([&] { return !details.isEnabled(); })) << "nothing is refused";
+    answer({.caption = "Details",
+            .text = "\"Description\" must not begin with \"<\" nor contain \"</\" or \"//\": the file could "
+                    "not hold it"});
+    EXPECT_EQ(editor->focus(), details.control(IDC_DESCRIPTION));
+    finish(details, IDCANCEL);
+    EXPECT_EQ(tigerText(), before);
+}
+
+TEST_F(DetailsTest, LongListsOfUnknownNamesAreScrolled) {
+    startWith(Tiger);
+    const Window details = openDetails();
+    const Window unknown = details.control(IDC_UNKNOWN);
+    const auto type = [&](int field, const std::string& text) {
+        details.setText(field, text);
+        details.send(WM_COMMAND, MAKEWPARAM(field, CBN_EDITCHANGE));
+    };
+    type(IDC_PROFILE_IMAGE, "Default");
+    EXPECT_FALSE(unknown.isVisible());
+    constexpr int fields[] = {IDC_NATIONALITY, IDC_PROFILE_IMAGE, IDC_UNIFORM_PROFILE, IDC_UNIFORM_RANKS};
+    for (const int field : fields) {
+        type(field, "an image that nobody has drawn " + std::to_string(field));
+    }
+    EXPECT_TRUE(unknown.isVisible());
+    EXPECT_TRUE(unknown.hasStyle(WS_VSCROLL | ES_READONLY));
+    for (const int field : fields) {
+        EXPECT_NE(unknown.text().find(std::to_string(field) + "\""), std::string::npos) << unknown.text();
+    }
+    expectWellLaidOut(details);
+    finish(details, IDCANCEL);
 }
 
 TEST_F(DetailsTest, WeightThatIsNoNumberIsNone) {

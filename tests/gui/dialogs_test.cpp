@@ -339,6 +339,49 @@ TEST_F(DialogsTest, CrewEndsAtThirteen) {
     closeAll(dialogs, IDCANCEL);
 }
 
+TEST_F(DialogsTest, TheDrawingStaysInSight) {
+    start();
+    select(Tiger);
+    RECT drawing{};
+    GetWindowRect(window.control(IDC_DRAWING).handle(), &drawing);
+    const std::vector<Window> dialogs = open({{IDC_DRIVE, "Drive"}, {IDC_EXHAUSTS_BUTTON, "Exhaust Pipes"}});
+    for (const Window dialog : dialogs) {
+        RECT place{};
+        GetWindowRect(dialog.handle(), &place);
+        EXPECT_GT(place.left, (drawing.left + drawing.right) / 2) << dialog.text();
+    }
+    closeAll(dialogs, IDCANCEL);
+}
+
+TEST_F(DialogsTest, KeysOfTheListChangeIt) {
+    start();
+    select(Tiger);
+    const std::vector<Window> dialogs = open({HullStep, {IDC_CREW_BUTTON, "Crew"}});
+    const Window crew = dialogs.back().control(IDC_ENTRY_LIST);
+    constexpr LPARAM withAlt = LPARAM{1} << 29;
+    crew.send(WM_KEYDOWN, VK_INSERT);
+    EXPECT_EQ(crew.selectedText(), "2. Loader");
+    crew.send(WM_SYSKEYDOWN, VK_UP, withAlt);
+    EXPECT_EQ(crew.selectedText(), "1. Loader");
+    crew.send(WM_SYSKEYDOWN, VK_DOWN, withAlt);
+    EXPECT_EQ(crew.selectedText(), "2. Loader");
+    crew.send(WM_KEYDOWN, VK_DELETE);
+    EXPECT_EQ(crew.selectedText(), "1. Driver, Pistol P38");
+    closeAll(dialogs, IDCANCEL);
+}
+
+TEST_F(DialogsTest, LinesWiderThanTheirListAreScrolled) {
+    start();
+    select(Tiger);
+    const std::vector<Window> dialogs = open({TurretStep, {IDC_WEAPONS_BUTTON, "Weapons"}});
+    const Window weapons = dialogs.back().control(IDC_ENTRY_LIST);
+    EXPECT_FALSE(weapons.hasStyle(WS_HSCROLL));
+    dialogs.back().setText(IDC_WEAPON_TYPE, "WEAPON_CANNON_" + std::string(100, 'X'));
+    dialogs.back().send(WM_COMMAND, MAKEWPARAM(IDC_WEAPON_TYPE, CBN_EDITCHANGE));
+    EXPECT_TRUE(weapons.hasStyle(WS_HSCROLL));
+    closeAll(dialogs, IDCANCEL);
+}
+
 TEST_F(DialogsTest, UnknownValuesAreNamedAndKept) {
     std::string text = tigerText();
     text = withReplaced(text, "NATIONALITY_GERMAN", "NATIONALITY_OLD");

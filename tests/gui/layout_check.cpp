@@ -21,7 +21,10 @@ struct Part {
     [[nodiscard]] bool isCheck() const {
         return kind == "Button" && type != BS_GROUPBOX && type > BS_DEFPUSHBUTTON;
     }
-    [[nodiscard]] bool isField() const { return kind == "Edit" || kind == "ComboBox" || kind == "ListBox"; }
+    /// What only tells something needs no label.
+    [[nodiscard]] bool isField() const {
+        return (kind == "Edit" && !window.hasStyle(ES_READONLY)) || kind == "ComboBox" || kind == "ListBox";
+    }
 };
 
 std::vector<Part> partsOf(Window dialog) {

@@ -79,6 +79,55 @@ TEST(VehicleForm, UniformMethodsEnableTheirListsAndKeepWhatTheyDoNotShow) {
     EXPECT_EQ(record.uniformProfile, "kept");
 }
 
+// Each would spoil the file for every reader.
+TEST(VehicleForm, TextsThatNoFileCouldHoldAreRefused) {
+    constexpr std::pair<int, const char*> refused[] = {{IDC_LONG_NAME, "see // there"},
+                                                       {IDC_SHORT_NAME, "</squad>"},
+                                                       {IDC_DESCRIPTION, "<hull> at once"},
+                                                       {IDC_NATIONALITY, "</nationality"},
+                                                       {IDC_LANGUAGE, "//"},
+                                                       {IDC_PROFILE_IMAGE, "http://a"},
+                                                       {IDC_UNIFORM_GAME, "<game>"},
+                                                       {IDC_UNIFORM_RANKS, "a//b.png"}};
+    SquadRecord record = vehicleUnit();
+    const SquadRecord before = record;
+    FakeFormPort port;
+    for (const auto& [control, text] : refused) {
+        fillVehicleForm(port, record);
+        port.texts[control] = text;
+        const auto error = readVehicleForm(port, record);
+        ASSERT_TRUE(error) << text;
+        EXPECT_EQ(error->control, control);
+        EXPECT_EQ(record, before);
+    }
+    fillVehicleForm(port, record);
+    port.texts[IDC_LONG_NAME] = "A & B <C> 1/2 /";
+    EXPECT_FALSE(readVehicleForm(port, record));
+}
+
+TEST(Forms, NumbersBeyondTheirFieldAreRefusedUnlessTheFileHasThem) {
+    std::vector<ExhaustPipeRecord> pipes = {{.angle = 720}};
+    VectorListModel<ExhaustPipeRecord> model(pipes, exhaustPipeShape());
+    FakeFormPort port;
+    model.show(0, port);
+    EXPECT_FALSE(model.read(0, port)) << "what an old file holds is no hindrance to other changes";
+    constexpr std::pair<const char*, const char*> cases[] = {
+        {"99999999999999999999", "\"OffsetX\" must be a whole number from -2147483648 to 2147483647"},
+        {"-2147483649", "\"OffsetX\" must be a whole number from -2147483648 to 2147483647"},
+        {"1e5", "\"OffsetX\" must be a whole number"},
+        {"-", "\"OffsetX\" must be a whole number"},
+        {" -0 ", ""},
+        {"-2147483648", ""},
+    };
+    for (const auto& [text, message] : cases) {
+        port.texts[IDC_OFFSET_X] = text;
+        const auto error = model.read(0, port);
+        EXPECT_EQ(error ? error->message : "", message) << text;
+    }
+    port.texts[IDC_ANGLE] = "721";
+    EXPECT_TRUE(model.read(0, port));
+}
+
 ComponentRecord turret() {
     ComponentRecord component;
     component.kind = ComponentKind::Turret;
@@ -166,7 +215,7 @@ TEST(ComponentForm, RotateSpeedIsDegreesASecond) {
     EXPECT_EQ(rotateTimeOf("0"), std::nullopt);
     EXPECT_EQ(rotateTimeOf("-3"), std::nullopt);
     EXPECT_EQ(rotateTimeOf("fast"), std::nullopt);
-    EXPECT_EQ(rotateTimeOf("100000"), 1);
+    EXPECT_EQ(rotateTimeOf("0.001"), 86400);
     // A speed of 1.0 stands for many times: one that was not touched keeps its own.
     ComponentRecord slow = turret();
     slow.limitedTraverse = false;
@@ -175,8 +224,20 @@ TEST(ComponentForm, RotateSpeedIsDegreesASecond) {
     fillComponentForm(port, slow);
     ASSERT_FALSE(readComponentForm(port, slow));
     EXPECT_EQ(slow.rotateTime, 349);
-    port.texts[IDC_ROTATE_SPEED] = "0";
-    EXPECT_TRUE(readComponentForm(port, slow));
+    constexpr std::pair<const char*, const char*> refused[] = {
+        {"0", "The rotate speed must be greater than zero"},
+        {"12abc", "\"Rotate speed\" must be a number"},
+        {"1,5", "\"Rotate speed\" must be a number"},
+        {"1000000000",
+         "The rotate speed must be at most 360 degrees per second: the file counts the seconds for a "
+         "full circle"},
+    };
+    for (const auto& [text, message] : refused) {
+        port.texts[IDC_ROTATE_SPEED] = text;
+        const auto error = readComponentForm(port, slow);
+        ASSERT_TRUE(error) << text;
+        EXPECT_EQ(error->message, message);
+    }
 }
 
 TEST(ArmourForm, NotGivenIsAStateOfItsOwn) {
@@ -196,6 +257,11 @@ TEST(ArmourForm, NotGivenIsAStateOfItsOwn) {
     ASSERT_TRUE(error);
     EXPECT_EQ(error->control, IDC_PLATES + 1);
     EXPECT_EQ(error->message, "\"Upper front angle\" must be a whole number from 0 to 90");
+    // The other plates follow what is typed all the same.
+    port.texts[IDC_PLATES + 3] = "70";
+    followPlates(port, armour);
+    EXPECT_EQ(port.texts[IDC_PLATES + 2], "?");
+    EXPECT_EQ(port.texts[IDC_PLATES + 5], "70 mm");
 }
 
 TEST(DriveForm, EnginesBringTheirHorsepower) {

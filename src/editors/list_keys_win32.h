@@ -1,0 +1,33 @@
+#pragma once
+// Keys of a list box that do what the buttons beside it do.
+
+#include <windows.h>
+
+#include <span>
+
+namespace varrocade {
+
+/// A key and the button that it presses while that can be pressed.
+struct ListKey {
+    WPARAM key;
+    bool withAlt;
+    int button;
+    const char* tip; ///< what the button says of it while the mouse rests there
+};
+
+/// Lets a list box of a dialog take these keys, which must live as long as the dialog, and has the buttons
+/// tell of them.
+void bindListKeys(HWND dialog, int listBox, const std::span<const ListKey>& keys);
+
+/// A text that a control shows while the mouse rests on it.
+struct Tip {
+    int control;
+    const char* text;
+};
+void addTips(HWND dialog, std::span<const Tip> tips);
+
+/// Gives the keyboard to a control when `former`, which had it, has been disabled: the dialog would take no
+/// key any more.
+void keepKeyboard(HWND dialog, HWND former, int control);
+
+} // namespace varrocade
