@@ -21,31 +21,13 @@ ReadUnit readWithDiagnostics(std::string_view content) {
     return read;
 }
 
-/// `before`, the lines of `entry` a number of times, then one entry too many on a line of its own, then
-/// `after`.
-struct LimitCase {
-    const char* what;
-    std::string before;
-    std::string entry;
-    std::size_t limit;
-    std::string tooMany;
-    std::string after;
-    std::string complaint;
-};
-
-std::string withEntries(const LimitCase& c, bool withTooMany) {
-    return c.before + "\n" + repeated(c.entry + "\n", c.limit) + (withTooMany ? c.tooMany + "\n" : "") +
-           c.after;
-}
-
 const std::string FullMan =
     "<man><job>JOB_DRIVER</job><language>xx</language><body_armour>yes</body_armour>"
     "<weapon><type>LEAK</type></weapon><ammo><for>LEAK</for><rounds>9</rounds></ammo></man>";
 const std::string FullTurret =
-    "<turret><width>9</width><diameter>9</diameter><image_view>LEAK</image_view><rotate_left>9</"
-    "rotate_left><AA>yes</AA>"
-    "<armour><front>9@9</front><top>9</top></armour><smoke_discharger><angle>9</angle><ammo>9</ammo></"
-    "smoke_discharger>"
+    "<turret><width>9</width><diameter>9</diameter><image_view>LEAK</image_view><rotate_left>9</rotate_left>"
+    "<AA>yes</AA><armour><front>9@9</front><top>9</top></armour>"
+    "<smoke_discharger><angle>9</angle><ammo>9</ammo></smoke_discharger>"
     "<weapon><type>LEAK</type><offsetX>9</offsetX></weapon><ammo><for>LEAK</for><rounds>9</rounds></ammo>" +
     FullMan + "</turret>";
 const std::string FullGun =
@@ -56,53 +38,41 @@ const std::string FullGun =
 } // namespace
 
 TEST(UnitLimits, LeaveOutWhatFindsNoRoomWithAllItHolds) {
-    const std::vector<LimitCase> cases = {
-        {"components", "<squad><vehicle>",
-         "<turret><armour></armour><smoke_discharger></smoke_discharger><weapon></weapon><ammo></ammo>"
-         "<man><weapon></weapon><ammo></ammo></man></turret>",
-         MaxSquadMembers, FullTurret, "</vehicle></squad>", "more than 13 components"},
-        {"infantrymen", "<squad>", "<man><weapon></weapon><ammo></ammo></man>", MaxSquadMembers, FullMan,
-         "</squad>", "more than 13 infantrymen"},
-        {"infantrymen beside a heavy weapon", "<squad><hmg><weapon></weapon><ammo></ammo></hmg>",
-         "<man><ammo></ammo></man>", MaxSquadMembers, FullMan, "</squad>", "more than 13 infantrymen"},
-        {"availability points", "<squad><availability>", "<data></data>", MaxAvailabilityPoints,
+    struct Case {
+        std::string before;
+        std::string entry; ///< a line that finds room `lines` times
+        std::size_t lines;
+        std::string tooMany;
+        std::string after;
+        std::string complaint;
+    };
+    const std::string man = "<man><weapon></weapon><ammo></ammo></man>";
+    const std::string turret = "<turret><armour></armour><smoke_discharger></smoke_discharger>"
+                               "<weapon></weapon><ammo></ammo>" +
+                               man + "</turret>";
+    const std::vector<Case> cases = {
+        {"<squad><vehicle>", turret, 13, FullTurret, "</vehicle></squad>", "more than 13 components"},
+        {"<squad>", man, 13, FullMan, "</squad>", "more than 13 infantrymen"},
+        {"<squad><hmg><weapon></weapon><ammo></ammo></hmg>", man, 13, FullMan, "</squad>",
+         "more than 13 infantrymen"},
+        {"<squad><availability>", "<data></data>", 255,
          "<data><month>9</month><year>9</year><number>9</number></data>", "</availability></squad>",
          "more than 255 availability points"},
-        {"a second heavy weapon", "<squad>", "<mortar><weapon></weapon><ammo></ammo></mortar>", 1, FullGun,
-         "</squad>", "a second heavy weapon"},
+        {"<squad><commonness><1941Q4>9</1941Q4>", "<1942Q1>5</1942Q1><1942Q2>6</1942Q2>", 127,
+         "<1942Q3>7</1942Q3>", "</commonness></squad>", "more than 255 availability points"},
+        {"<squad>", "<mortar><weapon></weapon><ammo></ammo></mortar>", 1, FullGun, "</squad>",
+         "a second heavy weapon"},
     };
-    for (const LimitCase& c : cases) {
-        const ReadUnit full = readWithDiagnostics(withEntries(c, false));
-        EXPECT_TRUE(full.diagnostics.empty()) << c.what << ": " << full.diagnostics.front();
-        const ReadUnit tooFull = readWithDiagnostics(withEntries(c, true));
-        EXPECT_TRUE(tooFull.record == full.record) << c.what;
-        ASSERT_EQ(tooFull.diagnostics.size(), 1U) << c.what;
-        EXPECT_EQ(tooFull.diagnostics[0],
-                  "ERROR: unit: line " + std::to_string(c.limit + 2) + ": " + c.complaint + ": left out");
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.before + c.entry);
+        const std::string most = c.before + "\n" + repeated(c.entry + "\n", c.lines);
+        const ReadUnit full = readWithDiagnostics(most + c.after);
+        EXPECT_EQ(full.diagnostics, Diagnostics());
+        const ReadUnit tooFull = readWithDiagnostics(most + c.tooMany + "\n" + c.after);
+        EXPECT_TRUE(tooFull.record == full.record);
+        EXPECT_EQ(tooFull.diagnostics, Diagnostics({"ERROR: unit: line " + std::to_string(c.lines + 2) +
+                                                    ": " + c.complaint + ": left out"}));
     }
-}
-
-TEST(UnitLimits, HoldForQuarterlyAvailabilityToo) {
-    std::string content = "<squad><commonness>\n";
-    for (std::size_t i = 0; i <= MaxAvailabilityPoints; ++i) {
-        const std::string quarter = std::to_string(1000 + i) + "Q1";
-        content += "<" + quarter + ">" + std::to_string(1 + i) + "</" + quarter + ">\n";
-    }
-    const ReadUnit read = readWithDiagnostics(content + "</commonness></squad>");
-    EXPECT_EQ(read.record.availability.size(), MaxAvailabilityPoints);
-    EXPECT_EQ(read.record.availability.back().number, MaxAvailabilityPoints);
-    ASSERT_EQ(read.diagnostics.size(), 1U);
-    EXPECT_EQ(read.diagnostics[0], "ERROR: unit: line 257: more than 255 availability points: left out");
-}
-
-TEST(UnitLimits, CutLongTexts) {
-    const std::string longText(300, 'x');
-    const SquadRecord record =
-        readUnitText("<squad><description><long_name>" + longText + "</long_name><language>deu</language>" +
-                     "<uniform_game>" + longText + ".png</uniform_game></description></squad>");
-    EXPECT_EQ(record.longName, longText.substr(0, 255));
-    EXPECT_EQ(record.uniformGame, longText.substr(0, 255));
-    EXPECT_EQ(record.language, "de");
 }
 
 TEST(UnitLimits, CallUnknownElementsOfEveryHeavyWeaponAMortar) {
@@ -114,10 +84,9 @@ TEST(UnitLimits, CallUnknownElementsOfEveryHeavyWeaponAMortar) {
         EXPECT_EQ(read.diagnostics, Diagnostics({line, line})) << weapon;
         EXPECT_EQ(read.record.heavyWeapon.value().mass, 5);
     }
-    EXPECT_TRUE(readWithDiagnostics(
-                    "<squad><x></x><man><y>1</y></man><vehicle><hull><z></z></hull></vehicle></squad>")
-                    .diagnostics.empty())
-        << "elsewhere unknown elements are passed over silently";
+    const std::string elsewhere =
+        "<squad><x></x><man><y>1</y></man><vehicle><hull><z></z></hull></vehicle></squad>";
+    EXPECT_EQ(readWithDiagnostics(elsewhere).diagnostics, Diagnostics());
 }
 
 TEST(UnitLimits, BoundTheDiagnostics) {
@@ -126,35 +95,31 @@ TEST(UnitLimits, BoundTheDiagnostics) {
     EXPECT_EQ(readWithDiagnostics(content).diagnostics.size(), 100U);
 }
 
-TEST(UnitLoading, ShowsWhichFileCannotBeOpened) {
+TEST(UnitLoading, ReadsTheCategorysFolderAndShowsWhatCannotBeOpened) {
     const TemporaryFolder folder;
     const MessageRecorder messages;
-    EXPECT_FALSE(loadUnit(folder.path(), Category::AtGuns, "Missing gun"));
-    ASSERT_EQ(MessageRecorder::shown().size(), 1U);
-    const Message& message = MessageRecorder::shown().front();
-    EXPECT_EQ(message.caption, "Couldn't load file");
-    EXPECT_EQ(message.text, folder.path() + "Data\\AT Guns\\Missing gun.txt" +
-                                "\n\nCheck that the filename is made of ASCII characters and not Unicode");
-    EXPECT_EQ(message.icon, MessageIcon::Warning);
-    EXPECT_EQ(message.buttons, MessageButtons::Ok);
-}
-
-TEST(UnitLoading, ReadsTheCategorysFolder) {
-    const TemporaryFolder folder;
-    const MessageRecorder messages;
-    const std::vector<std::pair<Category, std::string>> folders = {{Category::Vehicles, "Vehicles"},
-                                                                   {Category::AtGuns, "AT Guns"},
-                                                                   {Category::Infantry, "Infantry"},
-                                                                   {Category::Aircraft, "Aircraft"}};
-    for (const auto& [category, name] : folders) {
-        folder.write("Data\\" + name + "\\One.txt",
-                     "<squad><description><comment>" + name + "</comment></description></squad>");
+    for (const auto& [category, name] : {std::pair(Category::Vehicles, "Vehicles"),
+                                         {Category::AtGuns, "AT Guns"},
+                                         {Category::Infantry, "Infantry"},
+                                         {Category::Aircraft, "Aircraft"}}) {
+        folder.write("Data\\" + std::string(name) + "\\One.txt", "<squad><description><comment>" +
+                                                                     std::string(name) +
+                                                                     "</comment></description></squad>");
         const std::optional<SquadRecord> record = loadUnit(folder.path(), category, "One");
         ASSERT_TRUE(record) << name;
         EXPECT_EQ(record->fileName, "One");
         EXPECT_EQ(record->comment, name);
     }
     EXPECT_TRUE(MessageRecorder::shown().empty());
+    EXPECT_FALSE(loadUnit(folder.path(), Category::AtGuns, "Missing gun"));
+    ASSERT_EQ(MessageRecorder::shown().size(), 1U);
+    const Message& message = MessageRecorder::shown().front();
+    EXPECT_EQ(message.caption, "Couldn't load file");
+    EXPECT_EQ(message.text, folder.path() +
+                                "Data\\AT Guns\\Missing gun.txt\n\n"
+                                "Check that the filename is made of ASCII characters and not Unicode");
+    EXPECT_EQ(message.icon, MessageIcon::Warning);
+    EXPECT_EQ(message.buttons, MessageButtons::Ok);
 }
 
 } // namespace varrocade::tests
