@@ -13,6 +13,22 @@ namespace varrocade::tests {
 
 namespace {
 
+/// The lines of a text that the writers made; fails the test when one does not end with CR LF.
+std::vector<std::string> linesOf(std::string_view text) {
+    std::vector<std::string> lines;
+    while (!text.empty()) {
+        const std::size_t end = text.find("\r\n");
+        if (end == std::string_view::npos) {
+            ADD_FAILURE() << "the last line has no end: " << text;
+            break;
+        }
+        lines.emplace_back(text.substr(0, end));
+        EXPECT_EQ(lines.back().find_first_of("\r\n"), std::string::npos) << "a stray line end";
+        text.remove_prefix(end + 2);
+    }
+    return lines;
+}
+
 /// The lines of a file that another one of its kind does not have, from the first to the last.
 std::string addedLines(const std::string& plain, const std::string& written) {
     const std::vector<std::string> former = linesOf(plain);

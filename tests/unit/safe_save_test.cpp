@@ -69,17 +69,24 @@ private:
     int failing_;
 };
 
+using Names = std::vector<std::string>;
+
 const std::string UnitFile = "Data\\Infantry\\Squad.txt";
 const std::string OldText = "<squad><description><comment>old</comment></description></squad>";
 
-SquadRecord newSquad() {
+SquadRecord newSquad(std::string_view name = "Squad") {
     SquadRecord record;
-    record.fileName = "Squad";
+    record.fileName = name;
     record.comment = "new";
     return record;
 }
 
-std::size_t count(const std::vector<std::string>& names, std::string_view start) {
+SaveResult save(FileOperations& files, BackupKeeper& backups, const TemporaryFolder& folder,
+                const SquadRecord& record = newSquad()) {
+    return saveUnit(files, backups, folder.path(), Category::Infantry, record);
+}
+
+std::size_t count(const Names& names, std::string_view start) {
     return static_cast<std::size_t>(std::count_if(
         names.begin(), names.end(), [&](const std::string& name) { return name.starts_with(start); }));
 }
@@ -91,31 +98,26 @@ TEST(Saving, KeepsTheOldFileWhicheverStepFails) {
     int failing = 0;
     while (!succeeded) {
         ASSERT_LT(++failing, 200);
+        SCOPED_TRACE("operation " + std::to_string(failing));
         const TemporaryFolder folder;
         folder.write(UnitFile, OldText);
         const MessageRecorder messages;
         FaultyFiles files(failing);
         BackupKeeper backups;
-        const SaveResult result = saveUnit(files, backups, folder.path(), Category::Infantry, newSquad());
-        const std::vector<std::string> names = folder.files();
+        const SaveResult result = save(files, backups, folder);
         succeeded = !files.hasFailed();
-        EXPECT_EQ(result == SaveResult::Saved, succeeded) << "operation " << failing;
-        EXPECT_EQ(folder.read(UnitFile), succeeded ? squadFileText(newSquad()) : OldText)
-            << "operation " << failing;
+        EXPECT_EQ(result == SaveResult::Saved, succeeded);
+        EXPECT_EQ(folder.read(UnitFile), succeeded ? squadFileText(newSquad()) : OldText);
         // Beside the unit there is at most its backup, and that is whole.
+        const std::vector<std::string> names = folder.files();
         const std::size_t kept = count(names, "Backups\\Data\\Infantry\\Squad ");
-        EXPECT_EQ(names.size(), 1 + kept) << "operation " << failing << " left something: " << names.back();
-        EXPECT_LE(kept, 1U);
-        if (kept == 1) {
-            EXPECT_EQ(folder.read(names.front()), OldText);
-        }
-        if (succeeded) {
-            EXPECT_EQ(kept, 1U);
-            EXPECT_TRUE(MessageRecorder::shown().empty());
-        } else {
-            ASSERT_EQ(MessageRecorder::shown().size(), 1U) << "operation " << failing;
-            EXPECT_EQ(MessageRecorder::shown()[0].text, folder.path() + UnitFile);
-            EXPECT_EQ(MessageRecorder::shown()[0].caption, "Couldn't save file");
+        EXPECT_EQ(names.size(), 1 + kept) << "left something: " << names.back();
+        EXPECT_TRUE(kept == 1 || (kept == 0 && !succeeded));
+        EXPECT_TRUE(kept == 0 || folder.read(names.front()) == OldText);
+        EXPECT_EQ(MessageRecorder::shown().size(), succeeded ? 0U : 1U);
+        for (const Message& message : MessageRecorder::shown()) {
+            EXPECT_EQ(message.text, folder.path() + UnitFile);
+            EXPECT_EQ(message.caption, "Couldn't save file");
         }
     }
     // Folders, the old content, and each of two files created, written in pieces, flushed, closed and put in
@@ -127,18 +129,17 @@ TEST(Saving, LeavesNothingBehindWhereThereWasNoFile) {
     bool succeeded = false;
     for (int failing = 1; !succeeded; ++failing) {
         ASSERT_LT(failing, 200);
+        SCOPED_TRACE("operation " + std::to_string(failing));
         const TemporaryFolder folder;
         const MessageRecorder messages;
         FaultyFiles files(failing);
         BackupKeeper backups;
-        WeaponRecord weapon;
-        const SaveResult result = saveWeapon(files, backups, folder.path(), "W", weapon);
+        const SaveResult result = saveWeapon(files, backups, folder.path(), "W", WeaponRecord());
         succeeded = !files.hasFailed();
-        EXPECT_EQ(result, succeeded ? SaveResult::Saved : SaveResult::Failed) << "operation " << failing;
-        EXPECT_EQ(folder.files(),
-                  succeeded ? std::vector<std::string>{"Data\\Weapons\\W.txt"} : std::vector<std::string>())
-            << "operation " << failing;
-        EXPECT_EQ(MessageRecorder::shown().size(), succeeded ? 0U : 1U) << "operation " << failing;
+        EXPECT_EQ(result, succeeded ? SaveResult::Saved : SaveResult::Failed);
+        const Names written = {"Data\\Weapons\\W.txt"};
+        EXPECT_EQ(folder.files(), succeeded ? written : Names());
+        EXPECT_EQ(MessageRecorder::shown().size(), succeeded ? 0U : 1U);
     }
 }
 
@@ -150,46 +151,34 @@ TEST(Saving, SaysWhatFailed) {
     ASSERT_TRUE(failure);
     EXPECT_EQ(failure->path, path);
     EXPECT_EQ(failure->reason, "the disk is full");
-    EXPECT_FALSE(saveFile(systemFiles(), path, "content"));
-    EXPECT_EQ(folder.read("file.txt"), "content");
-    EXPECT_FALSE(saveFile(systemFiles(), path, ""));
-    EXPECT_EQ(folder.read("file.txt"), "");
-    const std::optional<FileFailure> nowhere =
-        saveFile(systemFiles(), folder.path() + "no\\file.txt", "content");
-    ASSERT_TRUE(nowhere);
-    EXPECT_FALSE(nowhere->reason.empty());
+    const auto nowhere = saveFile(systemFiles(), folder.path() + "no\\file.txt", "content");
+    EXPECT_TRUE(nowhere && !nowhere->reason.empty());
 }
 
-TEST(Saving, StepsOverLeftoversOfAnotherRun) {
+TEST(Saving, WritesAnySizeAndStepsOverLeftoversOfAnotherRun) {
     const TemporaryFolder folder;
-    folder.write("file.txt", "old");
     folder.write("file.txt.saving", "cut off");
-    FaultyFiles files(0);
-    EXPECT_FALSE(saveFile(files, folder.path() + "file.txt", "new"));
-    EXPECT_EQ(folder.read("file.txt"), "new");
+    std::string large;
+    for (int i = 0; large.size() < (1U << 20U); ++i) {
+        large += std::to_string(i) + "\r\n";
+    }
+    for (const std::string& content : {std::string("content"), large, std::string()}) {
+        FaultyFiles files(0);
+        EXPECT_FALSE(saveFile(files, folder.path() + "file.txt", content));
+        EXPECT_EQ(folder.read("file.txt"), content);
+    }
     EXPECT_EQ(folder.read("file.txt.saving"), "cut off");
     EXPECT_EQ(folder.files().size(), 2U);
-}
-
-TEST(Saving, WritesLargeFilesWhole) {
-    const TemporaryFolder folder;
-    std::string content;
-    for (int i = 0; content.size() < (1U << 20U); ++i) {
-        content += std::to_string(i) + "\r\n";
-    }
-    FaultyFiles files(0);
-    EXPECT_FALSE(saveFile(files, folder.path() + "file.txt", content));
-    EXPECT_EQ(folder.read("file.txt"), content);
 }
 
 TEST(Saving, DoesNothingForARecordOfAnotherKind) {
     const TemporaryFolder folder;
     const MessageRecorder messages;
     BackupKeeper backups;
-    EXPECT_EQ(saveUnit(systemFiles(), backups, folder.path(), Category::Vehicles, newSquad()),
-              SaveResult::NothingToSave);
-    EXPECT_EQ(saveUnit(systemFiles(), backups, folder.path(), Category::Aircraft, newSquad()),
-              SaveResult::NothingToSave);
+    for (const Category category : {Category::Vehicles, Category::Aircraft}) {
+        EXPECT_EQ(saveUnit(systemFiles(), backups, folder.path(), category, newSquad()),
+                  SaveResult::NothingToSave);
+    }
     EXPECT_TRUE(folder.files().empty());
     EXPECT_TRUE(MessageRecorder::shown().empty());
 }
@@ -198,29 +187,20 @@ TEST(Backups, AreMadeOncePerRunAndFile) {
     const TemporaryFolder folder;
     folder.write(UnitFile, OldText);
     folder.write("Data\\Infantry\\Other.txt", "other");
-    SquadRecord record = newSquad();
+    const auto saveAs = [&](BackupKeeper& backups, std::string_view name) {
+        ASSERT_EQ(save(systemFiles(), backups, folder, newSquad(name)), SaveResult::Saved);
+    };
     BackupKeeper firstRun;
-    ASSERT_EQ(saveUnit(systemFiles(), firstRun, folder.path(), Category::Infantry, record),
-              SaveResult::Saved);
-    record.comment = "newer";
-    ASSERT_EQ(saveUnit(systemFiles(), firstRun, folder.path(), Category::Infantry, record),
-              SaveResult::Saved);
-    EXPECT_EQ(count(folder.files(), "Backups\\"), 1U);
-    record.fileName = "Other";
-    ASSERT_EQ(saveUnit(systemFiles(), firstRun, folder.path(), Category::Infantry, record),
-              SaveResult::Saved);
-    EXPECT_EQ(count(folder.files(), "Backups\\Data\\Infantry\\Other "), 1U);
-    // A file that is new in this run has no former content; saving it again does not make one.
-    record.fileName = "Third";
-    ASSERT_EQ(saveUnit(systemFiles(), firstRun, folder.path(), Category::Infantry, record),
-              SaveResult::Saved);
+    // A new file has no former content.
+    for (const char* name : {"Squad", "Squad", "Other", "Third"}) {
+        saveAs(firstRun, name);
+    }
     EXPECT_EQ(count(folder.files(), "Backups\\"), 2U);
+    EXPECT_EQ(count(folder.files(), "Backups\\Data\\Infantry\\Other "), 1U);
     // The next run keeps what it finds, also within the same second.
     for (std::size_t run = 2; run < 5; ++run) {
         BackupKeeper nextRun;
-        record.fileName = "Squad";
-        ASSERT_EQ(saveUnit(systemFiles(), nextRun, folder.path(), Category::Infantry, record),
-                  SaveResult::Saved);
+        saveAs(nextRun, "Squad");
         EXPECT_EQ(count(folder.files(), "Backups\\Data\\Infantry\\Squad "), run);
     }
 }
@@ -234,9 +214,9 @@ TEST(Backups, OfAFailedSaveServeTheNext) {
     for (int failing = 1; result == SaveResult::Failed; ++failing) {
         ASSERT_LT(failing, 200);
         FaultyFiles files(failing);
-        result = saveUnit(files, backups, folder.path(), Category::Infantry, newSquad());
+        result = save(files, backups, folder);
     }
-    const std::vector<std::string> names = folder.files();
+    const Names names = folder.files();
     ASSERT_EQ(count(names, "Backups\\"), 1U);
     EXPECT_EQ(folder.read(names.front()), OldText);
     EXPECT_EQ(folder.read(UnitFile), squadFileText(newSquad()));
@@ -247,10 +227,10 @@ TEST(Folders, AreListedByEnding) {
     for (const char* name : {"b.txt", "A.TXT", "c.txtx", "txt", ".txt", "d.png", "sub.txt\\e.txt"}) {
         folder.write(name, "");
     }
-    std::vector<std::string> names;
+    Names names;
     ASSERT_TRUE(listFiles(folder.path(), ".txt", names));
     std::sort(names.begin(), names.end());
-    EXPECT_EQ(names, std::vector<std::string>({".txt", "A.TXT", "b.txt"}));
+    EXPECT_EQ(names, Names({".txt", "A.TXT", "b.txt"}));
     EXPECT_FALSE(listFiles(folder.path() + "missing\\", ".txt", names));
     EXPECT_TRUE(isFolder(folder.path() + "sub.txt"));
     EXPECT_FALSE(isFolder(folder.path() + "b.txt"));

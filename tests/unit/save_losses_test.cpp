@@ -1,7 +1,6 @@
 // What a save would lose: each kind of loss by example, then that nothing is missed and nothing invented,
 // over the sample and over thousands of broken copies of it.
 
-#include "cli/command_line.h"
 #include "data/save_losses.h"
 #include "data/tag_tree.h"
 #include "test_support.h"
@@ -197,24 +196,6 @@ TEST(SaveLosses, StaysInProportionWithHostileFiles) {
         ASSERT_LT(losses.size(), levels / 2);
         EXPECT_EQ(losses.back().message, "more than can be listed is lost");
     }
-}
-
-TEST(SaveLosses, AreExplainedOnTheCommandLine) {
-    const TemporaryFolder folder;
-    folder.write("in\\a.txt", "<squad><man></man>\n<x>1</x></squad>");
-    folder.write("in\\b.txt", "<squad></squad>");
-    const std::string in = folder.path() + "in\\";
-    const auto explain = [](const std::string& from, const std::string& to) {
-        return runCommand({"rewrite", "--explain", "infantry", from, to});
-    };
-    const CommandOutcome all = explain(in, folder.path() + "out");
-    EXPECT_EQ(all.status, cli::Findings);
-    EXPECT_EQ(all.output, in + "a.txt:2: dropped: <x> \"1\" in <squad> is not known\n");
-    EXPECT_EQ(folder.read("out\\a.txt"), rewritten(Category::Infantry, "<squad><man></man></squad>"));
-    const CommandOutcome none = explain(in + "b.txt", folder.path() + "b.txt");
-    EXPECT_EQ(none.status, cli::Done);
-    EXPECT_EQ(none.output, "");
-    EXPECT_EQ(explain(in + "c.txt", folder.path() + "c.txt").status, cli::CouldNot);
 }
 
 } // namespace varrocade::tests

@@ -32,11 +32,6 @@ std::string withBackslashes(std::string path) {
     return path;
 }
 
-bool startsLine(std::string_view line, std::string_view start) {
-    const std::size_t tabs = line.find_first_not_of('\t');
-    return tabs != std::string_view::npos && line.substr(tabs).starts_with(start);
-}
-
 std::string unescaped(std::string_view text) {
     std::string result;
     for (std::size_t i = 0; i < text.size(); ++i) {
@@ -88,6 +83,12 @@ void damageOnce(std::string& content, std::mt19937& random) {
     }
 }
 
+std::string readText(const std::string& path) {
+    std::string content;
+    EXPECT_TRUE(readWholeFile(path, content)) << path;
+    return content;
+}
+
 } // namespace
 
 void damage(std::string& content, std::mt19937& random, int times) {
@@ -136,12 +137,6 @@ std::string wholeFile(Category category, std::string_view content) {
     return between("<squad>\n", "</squad>");
 }
 
-std::string readText(const std::string& path) {
-    std::string content;
-    EXPECT_TRUE(readWholeFile(path, content)) << path;
-    return content;
-}
-
 std::string goldenText(std::string_view name) {
     return readText("tests\\golden\\" + std::string(name));
 }
@@ -173,34 +168,9 @@ std::vector<TextCase> textCases(std::string_view name) {
 
 std::string rewritten(Category category, std::string_view content) {
     if (category == Category::Weapons) {
-        WeaponReadReport report;
-        return weaponFileText(readWeapon(content, "weapon", report));
+        return weaponFileText(readWeaponText(content));
     }
     return unitFileText(category, readUnitText(content)).value_or("");
-}
-
-std::vector<std::string> linesOf(std::string_view text) {
-    std::vector<std::string> lines;
-    while (!text.empty()) {
-        const std::size_t end = text.find("\r\n");
-        if (end == std::string_view::npos) {
-            ADD_FAILURE() << "the last line has no end: " << text;
-            break;
-        }
-        lines.emplace_back(text.substr(0, end));
-        EXPECT_EQ(lines.back().find_first_of("\r\n"), std::string::npos) << "a stray line end";
-        text.remove_prefix(end + 2);
-    }
-    return lines;
-}
-
-std::vector<std::string> linesBetween(std::string_view text, std::string_view first, std::string_view last) {
-    const std::vector<std::string> lines = linesOf(text);
-    const auto begin = std::find_if(lines.begin(), lines.end(),
-                                    [&](const std::string& line) { return startsLine(line, first); });
-    const auto end =
-        std::find_if(begin, lines.end(), [&](const std::string& line) { return startsLine(line, last); });
-    return end == lines.end() ? std::vector<std::string>() : std::vector<std::string>(begin, end + 1);
 }
 
 const std::vector<SampleFile>& sampleFiles() {
@@ -225,23 +195,34 @@ SquadRecord readUnitText(std::string_view content) {
     return readUnit(content, "unit", diagnostics);
 }
 
-CommandOutcome runCommand(const std::vector<std::string>& arguments) {
+WeaponRecord readWeaponText(std::string_view content) {
+    WeaponReadReport report;
+    return readWeapon(content, "weapon", report);
+}
+
+CommandOutcome runCommand(const TemporaryFolder& folder, std::string_view call) {
+    std::vector<std::string> arguments;
+    while (!call.empty()) {
+        const std::string_view argument = takePart(call, " ");
+        arguments.push_back((argument.starts_with('$') ? folder.path() : "") +
+                            std::string(argument.substr(argument.starts_with('$') ? 1 : 0)));
+    }
     ::testing::internal::CaptureStdout();
     ::testing::internal::CaptureStderr();
     CommandOutcome outcome{cli::runCommandLine(arguments), {}, {}};
     outcome.output = ::testing::internal::GetCapturedStdout();
     outcome.complaints = ::testing::internal::GetCapturedStderr();
-    std::erase(outcome.output, '\r');
+    for (std::string* printed : {&outcome.output, &outcome.complaints}) {
+        std::erase(*printed, '\r');
+        for (std::size_t at = 0; (at = printed->find(folder.path(), at)) != std::string::npos;) {
+            printed->replace(at, folder.path().size(), "$");
+        }
+    }
     return outcome;
 }
 
 void expectRefused(const TemporaryFolder& folder, std::string_view call) {
-    std::vector<std::string> arguments;
-    for (std::string_view rest = call; !rest.empty();) {
-        std::string argument(takePart(rest, " "));
-        arguments.push_back(argument.starts_with('$') ? folder.path() + argument.substr(1) : argument);
-    }
-    const CommandOutcome outcome = runCommand(arguments);
+    const CommandOutcome outcome = runCommand(folder, call);
     EXPECT_EQ(outcome.status, cli::CouldNot) << call;
     EXPECT_TRUE(outcome.output.empty()) << call;
     EXPECT_FALSE(outcome.complaints.empty()) << call;

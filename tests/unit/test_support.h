@@ -4,6 +4,7 @@
 #include "data/category.h"
 #include "data/unit_reader.h"
 #include "platform/messages.h"
+#include "weapons/weapon_record.h"
 
 #include <random>
 #include <string>
@@ -16,15 +17,7 @@ namespace varrocade::tests {
 inline const std::string SampleBase = "sample\\";
 
 /// The content of a file; fails the test when it cannot be read.
-std::string readText(const std::string& path);
 std::string goldenText(std::string_view name);
-
-/// The lines of a text that the writers made; fails the test when one does not end with CR LF.
-std::vector<std::string> linesOf(std::string_view text);
-
-/// The lines from the one that begins with `first` (after its tabs) to the one that begins with `last`, both
-/// included; empty when there is no such block.
-std::vector<std::string> linesBetween(std::string_view text, std::string_view first, std::string_view last);
 
 std::string repeated(std::string_view text, std::size_t count);
 
@@ -64,22 +57,9 @@ struct SampleFile {
 /// Every data file of the sample, read once.
 const std::vector<SampleFile>& sampleFiles();
 
-/// Reads a unit without looking at its diagnostics.
+/// Read a unit, or a weapon, without looking at its diagnostics.
 SquadRecord readUnitText(std::string_view content);
-
-/// What `varrocade-data` did: its exit status, and what it printed, with line ends of one character.
-struct CommandOutcome {
-    int status;
-    std::string output;
-    std::string complaints;
-};
-CommandOutcome runCommand(const std::vector<std::string>& arguments);
-
-class TemporaryFolder;
-
-/// Expects a call of `varrocade-data` to fail with a word about it. Its arguments stand between blanks; those
-/// with a "$" before them are paths below the folder.
-void expectRefused(const TemporaryFolder& folder, std::string_view call);
+WeaponRecord readWeaponText(std::string_view content);
 
 /// A folder of its own for a test, gone with it.
 class TemporaryFolder {
@@ -102,6 +82,20 @@ public:
 private:
     std::string path_;
 };
+
+/// What `varrocade-data` did: its exit status, and what it printed, with line ends of one character.
+struct CommandOutcome {
+    int status;
+    std::string output;
+    std::string complaints;
+};
+
+/// Calls `varrocade-data`. Its arguments stand between blanks; those with a "$" before them are paths below
+/// the folder, for which a "$" stands in what is printed too.
+CommandOutcome runCommand(const TemporaryFolder& folder, std::string_view call);
+
+/// Expects such a call to fail with a word about it.
+void expectRefused(const TemporaryFolder& folder, std::string_view call);
 
 /// Takes the place of the message boxes while it lives.
 class MessageRecorder {

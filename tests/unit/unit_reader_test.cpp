@@ -24,6 +24,12 @@ SquadRecord readWithin(std::string_view path, std::string_view content) {
     return readUnitText(within(path, content));
 }
 
+bool areReadAlike(std::string_view path, std::string_view one, std::string_view other) {
+    return path.starts_with("weapon")
+               ? readWeaponText(within(path, one)) == readWeaponText(within(path, other))
+               : readWithin(path, one) == readWithin(path, other);
+}
+
 } // namespace
 
 TEST(UnitReader, StartsFromTheDefaults) {
@@ -40,7 +46,7 @@ TEST(UnitReader, StartsFromTheDefaults) {
     EXPECT_TRUE(readWithin("squad/vehicle", parts) == record);
 }
 
-TEST(UnitReader, ReadsOneContentAsAnother) {
+TEST(Readers, TakeOneContentForAnother) {
     for (const TextCase& c : textCases("readings.txt")) {
         std::string_view what = c.heading;
         std::string_view paths = takePart(what, ": ");
@@ -51,9 +57,8 @@ TEST(UnitReader, ReadsOneContentAsAnother) {
             while (!contents.empty() || !meanings.empty()) {
                 const std::string_view content = takePart(contents, "\n");
                 const std::string_view meaning = takePart(meanings, "\n");
-                const SquadRecord record = readWithin(path, content);
-                EXPECT_TRUE(record == readWithin(path, meaning)) << path << ' ' << content;
-                EXPECT_EQ(record == readWithin(path, ""), meaning.empty()) << path << ' ' << content;
+                EXPECT_TRUE(areReadAlike(path, content, meaning)) << path << ' ' << content;
+                EXPECT_EQ(areReadAlike(path, content, ""), meaning.empty()) << path << ' ' << content;
             }
         } while (!paths.empty());
     }
