@@ -5,7 +5,7 @@
 #include "weapons/weapon_files.h"
 
 #include <algorithm>
-#include <array>
+#include <map>
 
 #include <gtest/gtest.h>
 
@@ -17,14 +17,9 @@ namespace {
 std::vector<std::string> linesOf(std::string_view text) {
     std::vector<std::string> lines;
     while (!text.empty()) {
-        const std::size_t end = text.find("\r\n");
-        if (end == std::string_view::npos) {
-            ADD_FAILURE() << "the last line has no end: " << text;
-            break;
-        }
-        lines.emplace_back(text.substr(0, end));
+        EXPECT_NE(text.find("\r\n"), std::string_view::npos) << "the last line has no end: " << text;
+        lines.emplace_back(takePart(text, "\r\n"));
         EXPECT_EQ(lines.back().find_first_of("\r\n"), std::string::npos) << "a stray line end";
-        text.remove_prefix(end + 2);
     }
     return lines;
 }
@@ -56,33 +51,23 @@ TEST(RoundTrip, RewritesByExample) {
     }
 }
 
-TEST(RoundTrip, WritesWhatItWroteOnceMore) {
+TEST(RoundTrip, WritesTheGamesOwnFilesByteForByteAndWhatItWroteOnceMore) {
+    // How many at least; the rest are files kept by hand and files in the older forms.
+    std::map<Category, int> identical = {{Category::Vehicles, 12},
+                                         {Category::AtGuns, 6},
+                                         {Category::Infantry, 7},
+                                         {Category::Aircraft, 5},
+                                         {Category::Weapons, 70}};
+    std::string others;
     for (const SampleFile& file : sampleFiles()) {
         const std::string written = rewritten(file.category, file.content);
         ASSERT_FALSE(written.empty()) << file.name;
         EXPECT_EQ(rewritten(file.category, written), written) << file.name;
+        identical[file.category] -= written == file.content ? 1 : 0;
+        others += written == file.content ? "" : "\n" + file.name;
     }
-}
-
-TEST(RoundTrip, WritesTheGamesOwnFilesByteForByte) {
-    struct Expectation {
-        std::size_t files;
-        std::size_t identical;
-    };
-    // The rest are files kept by hand and files in the older forms.
-    constexpr std::array<Expectation, CategoryCount> least = {{{16, 12}, {7, 6}, {8, 7}, {6, 5}, {75, 70}}};
-    std::array<Expectation, CategoryCount> found{};
-    std::array<std::string, CategoryCount> others;
-    for (const SampleFile& file : sampleFiles()) {
-        const auto category = static_cast<std::size_t>(file.category);
-        const bool isIdentical = rewritten(file.category, file.content) == file.content;
-        ++found[category].files;
-        found[category].identical += isIdentical ? 1 : 0;
-        others[category] += isIdentical ? "" : "\n" + file.name;
-    }
-    for (std::size_t category = 0; category < CategoryCount; ++category) {
-        EXPECT_GE(found[category].files, least[category].files) << categoryName(AllCategories[category]);
-        EXPECT_GE(found[category].identical, least[category].identical) << "changed:" << others[category];
+    for (const auto& [category, missing] : identical) {
+        EXPECT_LE(missing, 0) << categoryName(category) << ", of these files:" << others;
     }
 }
 
@@ -93,12 +78,8 @@ TEST(RoundTrip, WritesOverlongValuesThatItReadsAgain) {
     weapon.fileName = "weapon";
     weapon.name = longest;
     weapon.comments = std::string(2000, 'c');
-    for (int i = 0; i < 3; ++i) {
-        AmmoTypeRecord& ammo = weapon.ammoTypes.emplace_back();
-        ammo.name = ammo.tracerImage = ammo.explodeSound = longest;
-    }
-    WeaponReadReport report;
-    EXPECT_TRUE(readWeapon(weaponFileText(weapon), "weapon", report) == weapon);
+    weapon.ammoTypes = {{.tracerImage = longest, .explodeSound = longest, .name = longest}, {}};
+    EXPECT_TRUE(readWeaponText(weaponFileText(weapon)) == weapon);
     SquadRecord unit;
     unit.fileName = "unit";
     unit.comment = longest;

@@ -52,13 +52,15 @@ constexpr auto References = std::to_array<Reference>({
 
 /// The path of the file that an element names; empty where it names none.
 std::string namedFile(std::string_view parent, const TagNode& node) {
-    const auto row = std::find_if(References.begin(), References.end(), [&](const Reference& reference) {
-        return reference.element == node.name && (reference.parent.empty() || reference.parent == parent);
-    });
     const std::string_view name = imageNameOf(node.text);
-    return row == References.end() || name.empty() || isDefaultImage(name)
-               ? std::string()
-               : SampleBase + std::string(row->folder) + std::string(name) + std::string(row->ending);
+    for (const Reference& row : References) {
+        if (row.element == node.name && (row.parent.empty() || row.parent == parent)) {
+            return name.empty() || isDefaultImage(name)
+                       ? std::string()
+                       : SampleBase + std::string(row.folder) + std::string(name) + std::string(row.ending);
+        }
+    }
+    return {};
 }
 
 struct Sample {

@@ -1,10 +1,8 @@
 // Files that no editor wrote: none may crash a reader, overflow the stack or take for ever.
 
 #include "data/tag_tree.h"
-#include "data/unit_reader.h"
 #include "tag_tree_model.h"
 #include "test_support.h"
-#include "weapons/weapon_files.h"
 
 #include <algorithm>
 #include <chrono>
@@ -17,14 +15,6 @@ namespace {
 
 /// Far above what any case takes, far below what quadratic work on it would.
 constexpr std::chrono::seconds Deadline{30};
-
-std::string numbered(std::string_view before, std::size_t count, std::string_view after) {
-    std::string out;
-    for (std::size_t i = 0; i < count; ++i) {
-        out += std::string(before) + std::to_string(i) + std::string(after);
-    }
-    return out;
-}
 
 /// Every level's content stands in two elements, its sibling and one that begins in it but ends later: the
 /// tree doubles with each level.
@@ -47,9 +37,12 @@ std::size_t depthOf(const TagTree& tree) {
     return *std::max_element(depths.begin(), depths.end());
 }
 
-class Stopwatch {
-public:
-    [[nodiscard]] bool inTime() const { return std::chrono::steady_clock::now() - start_ < Deadline; }
+/// Fails where what is done meanwhile takes too long.
+class HostileFile : public ::testing::Test {
+protected:
+    void TearDown() override { EXPECT_LT(std::chrono::steady_clock::now() - start_, Deadline); }
+
+    TagTree tree;
 
 private:
     std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
@@ -57,10 +50,8 @@ private:
 
 } // namespace
 
-TEST(HostileFile, NestsDeep) {
+TEST_F(HostileFile, NestsDeep) {
     constexpr std::size_t levels = 200000;
-    const Stopwatch watch;
-    TagTree tree;
     tree.parse(nestedInEachOther(levels));
     EXPECT_EQ(depthOf(tree), levels);
     tree.parse(repeated("<a>", levels) + "</a>");
@@ -70,12 +61,9 @@ TEST(HostileFile, NestsDeep) {
     const SquadRecord record =
         readUnitText(repeated("<squad><vehicle><hull>", levels) + "</hull></vehicle></squad>");
     EXPECT_FALSE(record.vehicle && record.vehicle->components.size() > MaxSquadMembers);
-    EXPECT_TRUE(watch.inTime());
 }
 
-TEST(HostileFile, HasMoreTagsThanSense) {
-    const Stopwatch watch;
-    TagTree tree;
+TEST_F(HostileFile, HasMoreTagsThanSense) {
     tree.parse(std::string(std::size_t{64} << 20U, '<'));
     EXPECT_EQ(tree.nodes().size(), 1U);
     constexpr std::size_t length = std::size_t{1} << 20U;
@@ -85,12 +73,9 @@ TEST(HostileFile, HasMoreTagsThanSense) {
     }
     tree.parse("<a>" + repeated("</", length / 2) + "a>");
     EXPECT_EQ(tree.nodes().size(), 2U) << "the last of the closing tags is whole";
-    EXPECT_TRUE(watch.inTime());
 }
 
-TEST(HostileFile, OverlapsExponentially) {
-    const Stopwatch watch;
-    TagTree tree;
+TEST_F(HostileFile, OverlapsExponentially) {
     ModelNode model;
     std::size_t former = 0;
     for (std::size_t levels = 1; levels < 8; ++levels) {
@@ -101,28 +86,25 @@ TEST(HostileFile, OverlapsExponentially) {
         EXPECT_GT(tree.nodes().size(), 2 * former) << "the document does not double";
         former = tree.nodes().size() - 1;
     }
-    const std::string document = doubling(60);
-    tree.parse(document);
+    tree.parse(doubling(60));
     EXPECT_LT(tree.nodes().size(), 100000U);
     EXPECT_GT(tree.nodes().size(), 1000U);
-    EXPECT_TRUE(watch.inTime());
 }
 
-TEST(HostileFile, HasManyDifferentNames) {
+TEST_F(HostileFile, HasManyDifferentNames) {
     constexpr std::size_t count = 200000;
-    const Stopwatch watch;
-    TagTree tree;
-    // Unfinished at the end, so that every closing tag is looked up.
-    tree.parse(numbered("<n", count, "></n>") + "<");
-    EXPECT_EQ(tree.nodes().size(), 1U) << "the first element is not closed";
-    std::string document;
+    // Unfinished at their ends, so that every closing tag is looked up.
+    std::string open;
+    std::string closed;
     for (std::size_t i = 0; i < count; ++i) {
-        const std::string number = std::to_string(i);
-        document += "<n" + number + "></n" + number + ">";
+        const std::string name = "n" + std::to_string(i) + ">";
+        open += "<" + name + "</n>";
+        closed += "<" + name + "</" + name;
     }
-    tree.parse(document + "<");
+    tree.parse(open + "<");
+    EXPECT_EQ(tree.nodes().size(), 1U) << "the first element is not closed";
+    tree.parse(closed + "<");
     EXPECT_EQ(tree.root().childCount, count);
-    EXPECT_TRUE(watch.inTime());
 }
 
 namespace {
@@ -142,18 +124,14 @@ std::vector<std::size_t> cutsOf(const SampleFile& file, std::size_t end) {
     return cuts;
 }
 
-std::size_t entriesOf(const SquadRecord& record) {
-    return (record.vehicle ? record.vehicle->components.size() : 0) + record.infantrymen.size() +
-           (record.heavyWeapon ? 1 : 0) + (record.aircraft ? record.aircraft->weapons.size() : 0);
-}
-
 /// How many entries the reader of the file's category finds in a content.
 std::size_t entriesIn(Category category, std::string_view content) {
     if (category == Category::Weapons) {
-        WeaponReadReport report;
-        return readWeapon(content, "cut", report).ammoTypes.size();
+        return readWeaponText(content).ammoTypes.size();
     }
-    return entriesOf(readUnitText(content));
+    const SquadRecord record = readUnitText(content);
+    return (record.vehicle ? record.vehicle->components.size() : 0) + record.infantrymen.size() +
+           (record.heavyWeapon ? 1 : 0) + (record.aircraft ? record.aircraft->weapons.size() : 0);
 }
 
 } // namespace

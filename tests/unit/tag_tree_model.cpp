@@ -83,23 +83,13 @@ bool isSameNode(const TagTree& tree, std::uint32_t index, const ModelNode& model
 
 void describeNode(const TagTree& tree, std::uint32_t index, std::string& out) {
     const TagNode& node = tree.nodes()[index];
-    out += node.name;
-    if (!node.text.empty()) {
-        out += '=';
-        out += node.text;
-    }
-    if (node.firstChild == TagNode::None) {
-        return;
-    }
-    out += '{';
+    out.append(node.name).append(node.text.empty() ? "" : "=").append(node.text);
     for (std::uint32_t child = node.firstChild; child != TagNode::None;
          child = tree.nodes()[child].nextSibling) {
-        if (child != node.firstChild) {
-            out += ' ';
-        }
+        out += child == node.firstChild ? '{' : ' ';
         describeNode(tree, child, out);
     }
-    out += '}';
+    out += node.firstChild == TagNode::None ? "" : "}";
 }
 
 } // namespace

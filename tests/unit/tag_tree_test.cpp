@@ -59,9 +59,8 @@ TEST(TagTree, TellsTheLineOfAnElement) {
     TagTree tree;
     tree.parse(content);
     ASSERT_EQ(describe(tree), "{a{b=4 c=5 d=7}}");
-    const std::array<std::size_t, 4> lines = {3, 4, 5, 6};
-    for (std::size_t i = 0; i < lines.size(); ++i) {
-        EXPECT_EQ(tree.lineOf(tree.nodes()[i + 1].name, content), lines[i]);
+    for (std::size_t i = 1; i < tree.nodes().size(); ++i) {
+        EXPECT_EQ(tree.lineOf(tree.nodes()[i].name, content), i + 2);
     }
 }
 
@@ -125,19 +124,15 @@ private:
     void change(std::string& document) {
         const std::size_t at = below(document.size());
         const std::size_t length = 1 + below(6);
-        switch (below(4)) {
-        case 0:
+        const std::size_t kind = below(4);
+        if (kind == 0) {
             document.erase(at, length);
-            break;
-        case 1:
+        } else if (kind == 1) {
             document.insert(below(document.size()), document.substr(at, length));
-            break;
-        case 2:
+        } else if (kind == 2) {
             document.insert(at, Tokens[below(Tokens.size())]);
-            break;
-        default:
+        } else {
             document.resize(at);
-            break;
         }
     }
 
