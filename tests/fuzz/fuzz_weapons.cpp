@@ -20,20 +20,6 @@ bool hasBlankEnds(std::string_view text) {
     return !text.empty() && (text.find_first_of(" \t") == 0 || text.find_last_of(" \t") == text.size() - 1);
 }
 
-void checkWriter(const WeaponRecord& first) {
-    const std::string firstText = weaponFileText(first);
-    if (!hasShortLines(firstText)) {
-        return;
-    }
-    const WeaponRecord second = read(firstText);
-    const std::string secondText = weaponFileText(second);
-    require(hasBlankEnds(first.comments) || secondText == firstText, "the second text is another", firstText,
-            secondText);
-    const WeaponRecord third = read(secondText);
-    require(third == second, "the third record is another", firstText, secondText);
-    require(weaponFileText(third) == secondText, "the third text is another", firstText, secondText);
-}
-
 } // namespace
 
 } // namespace varrocade::fuzz
@@ -43,7 +29,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string_view content(reinterpret_cast<const char*>(data), size);
     const WeaponRecord weapon = fuzz::read(content);
     if (fuzz::hasPlainTexts(content)) {
-        fuzz::checkWriter(weapon);
+        fuzz::checkRoundTrip(weapon, fuzz::read, weaponFileText, fuzz::hasBlankEnds(weapon.comments));
     } else {
         fuzz::read(weaponFileText(weapon));
     }

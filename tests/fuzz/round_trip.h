@@ -53,4 +53,22 @@ inline std::string withoutBlankLines(std::string text) {
     return text;
 }
 
+/// Reads what was written of a record, and writes it again, twice: from the second on nothing may change. The
+/// first text may be `otherwise` than the second, but for blank lines.
+template <typename Record, typename Read, typename Write>
+void checkRoundTrip(const Record& first, Read read, Write write, bool otherwise) {
+    const std::string firstText = write(first);
+    if (firstText.empty() || !hasShortLines(firstText)) {
+        return;
+    }
+    const Record second = read(firstText);
+    const std::string secondText = write(second);
+    require(otherwise || withoutBlankLines(secondText) == withoutBlankLines(firstText),
+            "the second text is another", firstText, secondText);
+    const Record third = read(secondText);
+    require(third == second, "the third record is another", firstText, secondText);
+    const std::string thirdText = write(third);
+    require(thirdText == secondText, "the third text is another", secondText, thirdText);
+}
+
 } // namespace varrocade::fuzz

@@ -5,12 +5,12 @@
 #include "data/tag_tree.h"
 #include "platform/file_operations.h"
 #include "test_support.h"
+#include "weapons/weapon_catalogue.h"
 #include "weapons/weapon_files.h"
 #include "weapons/weapon_names.h"
 
 #include <algorithm>
 #include <array>
-#include <map>
 #include <set>
 
 #include <gtest/gtest.h>
@@ -63,25 +63,6 @@ std::string namedFile(std::string_view parent, const TagNode& node) {
     return {};
 }
 
-struct Sample {
-    std::vector<std::pair<Category, SquadRecord>> units;
-    std::map<std::string, WeaponRecord, std::less<>> weapons;
-};
-
-Sample readSample() {
-    Sample sample;
-    for (const SampleFile& file : sampleFiles()) {
-        WeaponReadReport report;
-        if (file.category == Category::Weapons) {
-            sample.weapons[file.name] = readWeapon(file.content, file.name, report);
-        } else {
-            sample.units.emplace_back(file.category, readUnit(file.content, file.name, report.diagnostics));
-        }
-        EXPECT_TRUE(report.diagnostics.empty()) << file.name << ": " << report.diagnostics.front();
-    }
-    return sample;
-}
-
 std::string_view childText(const TagTree& tree, const TagNode& node, std::string_view name) {
     std::uint32_t child = node.firstChild;
     while (child != TagNode::None && tree.nodes()[child].name != name) {
@@ -114,19 +95,18 @@ TEST(Sample, HasTheFilesThatItsFilesName) {
 }
 
 TEST(Sample, HasTheAmmunitionOfItsUnits) {
-    const Sample sample = readSample();
+    WeaponCatalogue weapons;
+    weapons.load(SampleBase);
     for (const SampleFile& file : sampleFiles()) {
         TagTree tree;
         tree.parse(file.content);
         for (const TagNode& node : tree.nodes()) {
-            const auto weapon = sample.weapons.find(childText(tree, node, "for"));
-            const std::string_view flavour = childText(tree, node, "flavour");
-            if (node.name == "ammo" && weapon != sample.weapons.end() && !flavour.empty()) {
-                const std::vector<AmmoTypeRecord>& types = weapon->second.ammoTypes;
-                EXPECT_TRUE(std::any_of(
-                    types.begin(), types.end(),
-                    [&](const AmmoTypeRecord& type) { return type.flavour == flavourOf(flavour); }))
-                    << file.name << ": " << weapon->first << " with " << flavour;
+            const WeaponRecord* weapon = weapons.find(childText(tree, node, "for"));
+            const AmmoFlavour flavour = flavourOf(childText(tree, node, "flavour"));
+            if (node.name == "ammo" && weapon != nullptr && flavour != AmmoFlavour::None) {
+                EXPECT_TRUE(std::any_of(weapon->ammoTypes.begin(), weapon->ammoTypes.end(),
+                                        [&](const AmmoTypeRecord& type) { return type.flavour == flavour; }))
+                    << file.name << ": " << weapon->name << " with " << nameOf(flavour);
             }
         }
     }
@@ -136,20 +116,29 @@ TEST(Sample, UsesTheGamesNames) {
     const auto knows = [](std::span<const std::string_view> names, std::string_view name) {
         return std::find(names.begin(), names.end(), name) != names.end();
     };
-    const Sample sample = readSample();
-    std::set<std::string_view> types;
-    for (const auto& [category, record] : sample.units) {
-        const std::string_view name = record.fileName;
-        EXPECT_TRUE(knows(unitTypeNames(), record.type)) << name;
-        EXPECT_TRUE(knows(nationalityNames(), record.nationality)) << name;
-        // The lists sort a unit under the nation that its file's name begins with.
-        EXPECT_TRUE(name.starts_with(displayName(record.nationality, NationalityPrefix))) << name;
-        EXPECT_EQ(record.vehicle.has_value(), category == Category::Vehicles) << name;
-        EXPECT_EQ(record.aircraft.has_value(), category == Category::Aircraft) << name;
-        if (record.vehicle) {
-            EXPECT_TRUE(knows(steeringNames(), record.vehicle->steering)) << name;
-            EXPECT_TRUE(knows(reliabilityNames(), record.vehicle->reliability)) << name;
+    std::set<std::string> types;
+    std::set<WeaponType> weaponTypes;
+    for (const SampleFile& file : sampleFiles()) {
+        SCOPED_TRACE(file.name);
+        WeaponReadReport report;
+        if (file.category == Category::Weapons) {
+            const WeaponRecord weapon = readWeapon(file.content, file.name, report);
+            EXPECT_EQ(weapon.name, file.name);
+            EXPECT_FALSE(weapon.ammoTypes.empty());
+            weaponTypes.insert(weapon.type);
+            EXPECT_EQ(report.diagnostics, Diagnostics());
+            continue;
         }
+        const SquadRecord record = readUnit(file.content, file.name, report.diagnostics);
+        EXPECT_EQ(report.diagnostics, Diagnostics());
+        EXPECT_TRUE(knows(unitTypeNames(), record.type));
+        EXPECT_TRUE(knows(nationalityNames(), record.nationality));
+        // The lists sort a unit under the nation that its file's name begins with.
+        EXPECT_TRUE(file.name.starts_with(displayName(record.nationality, NationalityPrefix)));
+        EXPECT_EQ(record.vehicle.has_value(), file.category == Category::Vehicles);
+        EXPECT_EQ(record.aircraft.has_value(), file.category == Category::Aircraft);
+        EXPECT_TRUE(!record.vehicle || (knows(steeringNames(), record.vehicle->steering) &&
+                                        knows(reliabilityNames(), record.vehicle->reliability)));
         const NationalUniform* uniform = findNationalUniform(record.nationality);
         if (uniform != nullptr && !record.aircraft) {
             for (const std::string_view image : {uniform->profile, uniform->game, uniform->ranks}) {
@@ -157,15 +146,9 @@ TEST(Sample, UsesTheGamesNames) {
                 EXPECT_TRUE(systemFiles().exists(path)) << path;
             }
         }
-        types.insert(record.type);
+        types.insert(record.type.str());
     }
     EXPECT_GE(types.size(), 12U);
-    std::set<WeaponType> weaponTypes;
-    for (const auto& [name, record] : sample.weapons) {
-        EXPECT_EQ(record.name, name);
-        EXPECT_FALSE(record.ammoTypes.empty()) << name;
-        weaponTypes.insert(record.type);
-    }
     EXPECT_EQ(weaponTypes.size(), 19U) << "one of every type";
 }
 

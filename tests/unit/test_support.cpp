@@ -52,8 +52,7 @@ void damageOnce(std::string& content, std::mt19937& random) {
         return std::uniform_int_distribution<std::size_t>(0, count - 1)(random);
     };
     const auto lineAt = [&](std::size_t offset) {
-        const std::size_t begin = content.rfind('\n', offset);
-        const std::size_t first = begin == std::string::npos ? 0 : begin + 1;
+        const std::size_t first = content.rfind('\n', offset) + 1;
         return std::pair(first, std::min(content.find('\n', first), content.size() - 1) + 1 - first);
     };
     if (content.empty()) {
@@ -61,25 +60,19 @@ void damageOnce(std::string& content, std::mt19937& random) {
     }
     const std::size_t offset = anyOf(content.size());
     const auto [line, length] = lineAt(offset);
-    switch (anyOf(6)) {
-    case 0:
+    const std::size_t kind = anyOf(6);
+    if (kind == 0) {
         content.erase(line, length);
-        break;
-    case 1:
+    } else if (kind == 1) {
         content.insert(lineAt(anyOf(content.size())).first, content.substr(line, length));
-        break;
-    case 2:
+    } else if (kind == 2) {
         content[offset] = "<>/ _@x"[anyOf(7)];
-        break;
-    default: {
-        const std::size_t begin = content.find('>', offset);
-        const std::size_t end = content.find("</", begin == std::string::npos ? begin : begin + 1);
-        if (begin != std::string::npos && end != std::string::npos &&
-            content.substr(begin, end - begin).find('\n') == std::string::npos) {
-            content.replace(begin + 1, end - begin - 1, texts[anyOf(texts.size())]);
+    } else {
+        const std::size_t begin = content.find('>', offset) + 1;
+        const std::size_t end = content.find("</", begin);
+        if (begin != 0 && end < content.find('\n', begin)) {
+            content.replace(begin, end - begin, texts[anyOf(texts.size())]);
         }
-        break;
-    }
     }
 }
 
@@ -117,24 +110,15 @@ std::string nestedInEachOther(std::size_t levels) {
 }
 
 std::string wholeFile(Category category, std::string_view content) {
-    const auto between = [content](std::string_view before, std::string_view after) {
-        return std::string(before).append(content).append(after);
-    };
-    if (content.starts_with("<squad>")) {
-        return std::string(content);
-    }
-    switch (category) {
-    case Category::Vehicles:
-        return between("<squad><vehicle>\n", "</vehicle></squad>");
-    case Category::Aircraft:
-        return between("<aircraft>\n", "</aircraft>");
-    case Category::Weapons:
-        return between("<weapon>\n", "</weapon>");
-    case Category::AtGuns:
-    case Category::Infantry:
-        break;
-    }
-    return between("<squad>\n", "</squad>");
+    using Tags = std::pair<std::string_view, std::string_view>;
+    static constexpr std::array<Tags, CategoryCount> roots = {{{"<squad><vehicle>\n", "</vehicle></squad>"},
+                                                               {"<squad>\n", "</squad>"},
+                                                               {"<squad>\n", "</squad>"},
+                                                               {"<aircraft>\n", "</aircraft>"},
+                                                               {"<weapon>\n", "</weapon>"}}};
+    const auto& [begin, end] = roots[static_cast<std::size_t>(category)];
+    return content.starts_with("<squad>") ? std::string(content)
+                                          : std::string(begin).append(content).append(end);
 }
 
 std::string goldenText(std::string_view name) {
