@@ -15,6 +15,13 @@ constexpr std::string_view MainWindowClass = "VARROCADETANKEDITOR";
 constexpr std::string_view DialogClass = "#32770";
 constexpr UINT StatusOfTerminated = 1000;
 
+GUITHREADINFO threadInfo(DWORD thread) {
+    GUITHREADINFO info{};
+    info.cbSize = sizeof(info);
+    GetGUIThreadInfo(thread, &info);
+    return info;
+}
+
 } // namespace
 
 std::wstring pathBesideTests(std::wstring_view name) {
@@ -128,17 +135,12 @@ UINT EditorProcess::menuState(Window mainWindow, int command) const {
 }
 
 Window EditorProcess::focus() const {
-    GUITHREADINFO info{};
-    info.cbSize = sizeof(info);
-    GetGUIThreadInfo(threadId_, &info);
-    return Window(info.hwndFocus);
+    return Window(threadInfo(threadId_).hwndFocus);
 }
 
 POINT EditorProcess::caret() const {
-    GUITHREADINFO info{};
-    info.cbSize = sizeof(info);
-    GetGUIThreadInfo(threadId_, &info);
-    return {info.rcCaret.left, info.rcCaret.top};
+    const RECT place = threadInfo(threadId_).rcCaret;
+    return {place.left, place.top};
 }
 
 } // namespace varrocade::gui

@@ -2,6 +2,8 @@
 
 #include "gui_test.h"
 
+#include <optional>
+
 namespace varrocade::gui {
 
 class FailureTest : public GuiTest {
@@ -23,21 +25,25 @@ protected:
         EXPECT_TRUE(contentOf(box).text.starts_with(path)) << contentOf(box);
         finish(box);
     }
-    /// Saves a change from the "Details" dialog, which fails, and then again when `obstacle` is gone.
-    template <typename Obstacle>
-    void expectSaveFailsOnlyFor(Obstacle obstacle) {
+    void saveAnotherWeight() const {
+        const Window details = openDetails();
+        details.setText(IDC_WEIGHT, "1");
+        finish(details);
+    }
+    /// Saves a change from the "Details" dialog, which fails, and then again when the obstacle is gone.
+    template <typename Make, typename Clear>
+    void expectSaveFailsOnlyFor(Make makeObstacle, Clear clearIt) {
         const std::string before = game.read(dataFile(Tiger));
         start();
         select(Tiger);
-        {
-            const auto held = obstacle();
-            const Window details = openDetails();
-            details.setText(IDC_WEIGHT, "1");
-            details.startPress(IDOK);
-            answer(couldNotSave(dataFile(Tiger)));
-            EXPECT_TRUE(eventually([&] { return window.isEnabled(); }));
-            EXPECT_EQ(game.names("Data\\Vehicles"), entries()) << "no half-written file is left";
-        }
+        makeObstacle();
+        const Window details = openDetails();
+        details.setText(IDC_WEIGHT, "1");
+        details.startPress(IDOK);
+        answer(couldNotSave(dataFile(Tiger)));
+        EXPECT_TRUE(eventually([&] { return window.isEnabled(); }));
+        EXPECT_EQ(game.names("Data\\Vehicles"), entries()) << "no half-written file is left";
+        clearIt();
         EXPECT_EQ(game.read(dataFile(Tiger)), before);
         const Window again = openDetails();
         EXPECT_EQ(again.control(IDC_WEIGHT).text(), "1") << "the change is not lost";
@@ -53,16 +59,16 @@ TEST_F(FailureTest, FileThatVanished) {
         chooseCategory(category.button);
         const std::vector<std::string> all = entries();
         list().choose(0);
-        game.remove(dataFile(all[1], category.name));
-        list().startChoosing(all[1]);
-        answer(couldNotLoad(dataFile(all[1], category.name)));
-        expectNothingOpen();
-        select(all[2]);
-        EXPECT_TRUE(isEnabled(DuplicateId));
-        game.remove(dataFile(all[2], category.name));
-        list().startChoosing(all[2]);
-        answer(couldNotLoad(dataFile(all[2], category.name)));
-        expectNothingOpen();
+        // Another file vanishes, then the one that is open.
+        for (const std::size_t gone : {1U, 2U}) {
+            const std::string file = dataFile(all[gone], category.name);
+            game.remove(file);
+            list().startChoosing(all[gone]);
+            answer(couldNotLoad(file));
+            expectNothingOpen();
+            select(all[2 * gone]);
+            EXPECT_TRUE(isEnabled(DuplicateId));
+        }
     }
 }
 
@@ -93,21 +99,19 @@ TEST_F(FailureTest, FileThatIsLocked) {
 }
 
 TEST_F(FailureTest, SavingOverAFileInUse) {
-    expectSaveFailsOnlyFor(
-        [&] { return std::make_unique<HeldFile>(game.path() + dataFile(Tiger), HeldFile::Others::CanRead); });
+    std::optional<HeldFile> held;
+    expectSaveFailsOnlyFor([&] { held.emplace(game.path() + dataFile(Tiger), HeldFile::Others::CanRead); },
+                           [&] { held.reset(); });
 }
 
 TEST_F(FailureTest, SavingOverAReadOnlyFile) {
-    struct ReadOnly {
-        explicit ReadOnly(const std::string& file) : path(toWide(file)) {
-            SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_READONLY);
-        }
-        ReadOnly(const ReadOnly&) = delete;
-        ReadOnly& operator=(const ReadOnly&) = delete;
-        ~ReadOnly() { SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_NORMAL); }
-        std::wstring path;
-    };
-    expectSaveFailsOnlyFor([&] { return std::make_unique<ReadOnly>(game.path() + dataFile(Tiger)); });
+    const std::wstring path = toWide(game.path() + dataFile(Tiger));
+    expectSaveFailsOnlyFor([&] { SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_READONLY); },
+                           [&] { SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_NORMAL); });
+}
+
+TEST_F(FailureTest, SavingWithoutARoomForTheBackup) {
+    expectSaveFailsOnlyFor([&] { game.write("Backups", ""); }, [&] { game.remove("Backups"); });
 }
 
 TEST_F(FailureTest, PathsOfNearly260Characters) {
@@ -123,22 +127,9 @@ TEST_F(FailureTest, PathsOfNearly260Characters) {
     answer(couldNotSave(dataFile(longest + " (copy)")));
     finish(dialog, IDCANCEL);
     EXPECT_EQ(game.read(dataFile(longest)), text);
-    const Window details = openDetails();
-    details.setText(IDC_WEIGHT, "1");
-    finish(details);
+    saveAnotherWeight();
     EXPECT_EQ(game.read(dataFile(longest)), withReplaced(text, "56900", "1"))
         << "although its backup's is longer";
-}
-
-TEST_F(FailureTest, SavingWithoutARoomForTheBackup) {
-    struct InTheWay {
-        explicit InTheWay(const TempGame& into) : game(into) { game.write("Backups", ""); }
-        InTheWay(const InTheWay&) = delete;
-        InTheWay& operator=(const InTheWay&) = delete;
-        ~InTheWay() { game.remove("Backups"); }
-        const TempGame& game;
-    };
-    expectSaveFailsOnlyFor([&] { return std::make_unique<InTheWay>(game); });
 }
 
 TEST_F(FailureTest, NewFilesInAFolderThatCannotBe) {
@@ -164,9 +155,7 @@ TEST_F(FailureTest, NamesBeyondAscii) {
     start();
     select(umlaut);
     EXPECT_TRUE(isEnabled(DuplicateId));
-    const Window details = openDetails();
-    details.setText(IDC_WEIGHT, "1");
-    finish(details);
+    saveAnotherWeight();
     EXPECT_EQ(game.read(dataFile(umlaut)), withReplaced(text, "56900", "1"));
     // Letters that the system's 8-bit character set does not have.
     list().startChoosing("German ??");

@@ -8,19 +8,14 @@ namespace varrocade::gui {
 
 namespace {
 
-/// A file of each category that the editor's writer would write as it is.
-struct FileRow {
-    CategoryParts category;
-    std::string_view name;
-};
+/// Of each category a file that the editor's writer would write as it is.
+constexpr std::string_view WrittenAlike[] = {Tiger, "German 88mm FlaK 36", "German Grenadier Gruppe 1944",
+                                             "American P-47D Thunderbolt", "WEAPON_CANNON_88_KWK36_L56"};
 
-constexpr FileRow WrittenAlike[] = {
-    {Categories[0], Tiger},
-    {Categories[1], "German 88mm FlaK 36"},
-    {Categories[2], "German Grenadier Gruppe 1944"},
-    {Categories[3], "American P-47D Thunderbolt"},
-    {Categories[4], "WEAPON_CANNON_88_KWK36_L56"},
-};
+constexpr std::string_view NoName = "A name must be entered";
+constexpr std::string_view NoCharacter = "Ilegal characters in the filename";
+constexpr std::string_view NoNation =
+    "The filename must begin with the squad's nationality name:\n\n        German";
 
 Box refusal(std::string_view text) {
     return {.caption = "Error", .text = std::string(text)};
@@ -40,11 +35,27 @@ protected:
     }
     void expectNameRefusals(Window dialog, std::string_view goodName,
                             std::string_view badCharacters = "\\.") const {
-        expectRefusal(dialog, "", "A name must be entered");
+        expectRefusal(dialog, "", NoName);
         for (const char character : badCharacters) {
-            expectRefusal(dialog, std::string(goodName) + character + "2",
-                          "Ilegal characters in the filename");
+            expectRefusal(dialog, std::string(goodName) + character + "2", NoCharacter);
         }
+    }
+    /// Opens each of the files written alike, and what it holds.
+    template <typename Test>
+    void forEachWrittenAlike(Test test) const {
+        for (std::size_t i = 0; i < std::size(WrittenAlike); ++i) {
+            SCOPED_TRACE(WrittenAlike[i]);
+            chooseCategory(Categories[i].button);
+            select(WrittenAlike[i]);
+            test(std::string(WrittenAlike[i]), Categories[i].name,
+                 game.read(dataFile(WrittenAlike[i], Categories[i].name)));
+        }
+    }
+    /// Presses "Delete..." and answers.
+    void startDeleting(int button, std::string_view kind = "squad") const {
+        window.startPress(DeleteId);
+        const std::string question = "Are you sure you want to delete this " + std::string(kind) + "?";
+        answer({"Delete", question, {IDYES, IDNO}}, button);
     }
     void takeName(Window dialog, std::string_view name) const {
         dialog.setText(IDC_NEW_NAME, name);
@@ -86,8 +97,7 @@ TEST_F(FileCommandsTest, NewSquadRefusesBadNames) {
     const Window dialog = openDialog(NewId, "New Squad");
     dialog.control(IDC_NEW_NATIONALITY).choose("German");
     expectNameRefusals(dialog, "German 2", "<>:\"/\\|?*.");
-    expectRefusal(dialog, "Tiger",
-                  "The filename must begin with the squad's nationality name:\n\n        German");
+    expectRefusal(dialog, "Tiger", NoNation);
     expectRefusal(dialog, Tiger, "Squad name already exists");
     finish(dialog, IDCANCEL);
     EXPECT_EQ(entries(), game.names("Data\\Vehicles"));
@@ -112,52 +122,41 @@ TEST_F(FileCommandsTest, NewWeapon) {
 TEST_F(FileCommandsTest, DuplicateWritesTheOpenRecordUnderAnotherName) {
     game.copyFromSample("Data\\Weapons");
     start();
-    for (const FileRow& row : WrittenAlike) {
-        SCOPED_TRACE(row.name);
-        chooseCategory(row.category.button);
-        select(row.name);
-        const std::string original = game.read(dataFile(row.name, row.category.name));
+    forEachWrittenAlike([&](const std::string& name, std::string_view category, const std::string& original) {
         const Window dialog = openDialog(DuplicateId, "Duplicate");
         const std::string copy = dialog.control(IDC_NEW_NAME).text();
-        EXPECT_EQ(copy, std::string(row.name) + " (copy)");
-        expectRefusal(dialog, row.name, "File already exists");
+        EXPECT_EQ(copy, name + " (copy)");
+        expectRefusal(dialog, name, "File already exists");
         takeName(dialog, copy);
-        EXPECT_EQ(game.read(dataFile(copy, row.category.name)), original);
-        EXPECT_EQ(game.read(dataFile(row.name, row.category.name)), original);
-        EXPECT_TRUE(isListed(copy) && isListed(row.name));
+        EXPECT_EQ(game.read(dataFile(copy, category)), original);
+        EXPECT_EQ(game.read(dataFile(name, category)), original);
+        EXPECT_TRUE(isListed(copy) && isListed(name));
         expectOpen(copy);
-    }
+    });
     chooseCategory(VehiclesId);
     const Window dialog = openDialog(DuplicateId, "Duplicate");
     expectNameRefusals(dialog, "German");
-    expectRefusal(dialog, "Tiger",
-                  "The filename must begin with the squad's nationality name:\n\n        German");
+    expectRefusal(dialog, "Tiger", NoNation);
     finish(dialog, IDCANCEL);
 }
 
 TEST_F(FileCommandsTest, RenameMovesTheFileAndTheOpenRecord) {
     game.copyFromSample("Data\\Weapons");
     start();
-    for (const FileRow& row : WrittenAlike) {
-        SCOPED_TRACE(row.name);
-        chooseCategory(row.category.button);
-        select(row.name);
-        const std::string original = game.read(dataFile(row.name, row.category.name));
-        const std::string other = game.names("Data\\" + std::string(row.category.name)).front();
-        const std::string renamed = std::string(row.name) + " II";
+    forEachWrittenAlike([&](const std::string& name, std::string_view category, const std::string& original) {
+        const std::string renamed = name + " II";
         const Window dialog = openDialog(RenameId, "Rename");
-        EXPECT_EQ(dialog.control(IDC_NEW_NAME).text(), row.name);
-        expectRefusal(dialog, "", "A name must be entered");
-        expectRefusal(dialog, std::string(row.name) + "?", "Ilegal characters in the filename");
-        game.write(dataFile(renamed, row.category.name), "in the way");
+        EXPECT_EQ(dialog.control(IDC_NEW_NAME).text(), name);
+        expectRefusal(dialog, "", NoName);
+        expectRefusal(dialog, name + "?", NoCharacter);
+        game.write(dataFile(renamed, category), "in the way");
         expectRefusal(dialog, renamed, "That file already exists");
-        game.remove(dataFile(renamed, row.category.name));
+        game.remove(dataFile(renamed, category));
         takeName(dialog, renamed);
-        EXPECT_EQ(game.read(dataFile(renamed, row.category.name)), original);
-        EXPECT_FALSE(game.exists(dataFile(row.name, row.category.name)));
-        EXPECT_FALSE(isListed(row.name));
+        EXPECT_EQ(game.read(dataFile(renamed, category)), original);
+        EXPECT_FALSE(game.exists(dataFile(name, category)) || isListed(name));
         expectOpen(renamed);
-    }
+    });
     EXPECT_FALSE(game.exists("Backups")) << "a new name alone is no unsaved change";
     // What is saved from now on goes to the new name.
     chooseCategory(VehiclesId);
@@ -171,18 +170,15 @@ TEST_F(FileCommandsTest, RenameMovesTheFileAndTheOpenRecord) {
 }
 
 TEST_F(FileCommandsTest, DeleteKeepsABackupAndSelectsTheNeighbour) {
-    const Box squadQuestion = {"Delete", "Are you sure you want to delete this squad?", {IDYES, IDNO}};
     game.copyFromSample("Data\\Weapons");
     start();
     const std::vector<std::string> all = entries();
     const std::string original = game.read(dataFile(all[1]));
     select(all[1]);
-    window.startPress(DeleteId);
-    answer(squadQuestion, IDNO);
+    startDeleting(IDNO);
     EXPECT_TRUE(game.exists(dataFile(all[1])));
     EXPECT_FALSE(game.exists("Backups"));
-    window.startPress(DeleteId);
-    answer(squadQuestion, IDYES);
+    startDeleting(IDYES);
     EXPECT_TRUE(eventually([&] { return selected() == all[2]; }));
     expectOpen(all[2]);
     EXPECT_FALSE(game.exists(dataFile(all[1])));
@@ -190,15 +186,13 @@ TEST_F(FileCommandsTest, DeleteKeepsABackupAndSelectsTheNeighbour) {
     EXPECT_EQ(game.backups(dataFile(all[1])), std::vector<std::string>{original});
 
     select(all.back());
-    window.startPress(DeleteId);
-    answer(squadQuestion, IDYES);
+    startDeleting(IDYES);
     EXPECT_TRUE(eventually([&] { return selected() == all[all.size() - 2]; }));
 
     chooseCategory(WeaponsId);
     list().choose(0);
     const std::string weapon = selected();
-    window.startPress(DeleteId);
-    answer({"Delete", "Are you sure you want to delete this weapon?", {IDYES, IDNO}}, IDYES);
+    startDeleting(IDYES, "weapon");
     EXPECT_TRUE(eventually([&] { return !isListed(weapon); }));
     EXPECT_FALSE(game.exists(dataFile(weapon, "Weapons")));
 }
@@ -209,8 +203,7 @@ TEST_F(FileCommandsTest, DeletingTheLastFileLeavesNothingOpen) {
     start();
     chooseCategory(AircraftId);
     list().choose(0);
-    window.startPress(DeleteId);
-    answer({"Delete", "Are you sure you want to delete this squad?", {IDYES, IDNO}}, IDYES);
+    startDeleting(IDYES);
     EXPECT_TRUE(eventually([&] { return entries().empty() && !isEnabled(DuplicateId); }));
     EXPECT_FALSE(isEnabled(RenameId) || isEnabled(DeleteId));
     EXPECT_TRUE(isEnabled(NewId));

@@ -7,9 +7,7 @@ namespace varrocade::gui {
 class FileListTest : public GuiTest {};
 
 TEST_F(FileListTest, HoldsTheFilesOfEachCategoryAndOpensThem) {
-    if (TempGame::sampleHas("Images")) {
-        game.copyFromSample("Images");
-    }
+    game.copyFromSample("Images");
     game.copyFromSample("Data\\Weapons");
     start();
     for (const CategoryParts& category : Categories) {
@@ -105,10 +103,7 @@ TEST_F(FileListTest, KeysMoveAndCommand) {
     finish(rename, IDCANCEL);
 
     list().pressKey(VK_DELETE);
-    answer({.caption = "Delete",
-            .text = "Are you sure you want to delete this squad?",
-            .buttons = {IDYES, IDNO}},
-           IDNO);
+    answer({"Delete", "Are you sure you want to delete this squad?", {IDYES, IDNO}}, IDNO);
     EXPECT_TRUE(game.exists(dataFile(name)));
 
     game.write(dataFile("Polish New One"), "<squad>");

@@ -2,54 +2,30 @@
 
 #include <algorithm>
 #include <array>
+#include <memory>
+#include <utility>
 
 namespace varrocade::gui {
 
 namespace {
 
-/// The menu and the accelerators as the program file holds them.
-class ProgramResources {
-public:
-    ProgramResources()
-        : module_(LoadLibraryExW(pathBesideTests(L"VarrocadeDataEditor.exe").c_str(), nullptr,
-                                 LOAD_LIBRARY_AS_DATAFILE)),
-          menu_(LoadMenuW(module_, MAKEINTRESOURCEW(109))) {}
-    ProgramResources(const ProgramResources&) = delete;
-    ProgramResources& operator=(const ProgramResources&) = delete;
-    ~ProgramResources() {
-        DestroyMenu(menu_);
-        FreeLibrary(module_);
-    }
+std::string itemText(HMENU menu, UINT item, UINT flags) {
+    std::array<wchar_t, 128> text{};
+    GetMenuStringW(menu, item, text.data(), static_cast<int>(text.size()), flags);
+    return toUtf8(text.data());
+}
 
-    /// "&File/E&xit", without the accelerator's name.
-    [[nodiscard]] std::string menuPath(int command) const {
-        for (int i = 0; i < GetMenuItemCount(menu_); ++i) {
-            std::string item = itemText(GetSubMenu(menu_, i), static_cast<UINT>(command), MF_BYCOMMAND);
-            if (!item.empty()) {
-                item.resize(std::min(item.size(), item.find('\t')));
-                return itemText(menu_, static_cast<UINT>(i), MF_BYPOSITION) + "/" + item;
-            }
+/// "&File/E&xit", without the accelerator's name.
+std::string menuPath(HMENU menu, int command) {
+    for (int i = 0; i < GetMenuItemCount(menu); ++i) {
+        std::string item = itemText(GetSubMenu(menu, i), static_cast<UINT>(command), MF_BYCOMMAND);
+        if (!item.empty()) {
+            item.resize(std::min(item.size(), item.find('\t')));
+            return itemText(menu, static_cast<UINT>(i), MF_BYPOSITION) + "/" + item;
         }
-        return {};
     }
-
-    [[nodiscard]] std::vector<ACCEL> accelerators() const {
-        std::array<ACCEL, 100> table{};
-        const int count = CopyAcceleratorTableW(LoadAcceleratorsW(module_, MAKEINTRESOURCEW(109)),
-                                                table.data(), static_cast<int>(table.size()));
-        return {table.begin(), table.begin() + count};
-    }
-
-private:
-    static std::string itemText(HMENU menu, UINT item, UINT flags) {
-        std::array<wchar_t, 128> text{};
-        GetMenuStringW(menu, item, text.data(), static_cast<int>(text.size()), flags);
-        return toUtf8(text.data());
-    }
-
-    HMODULE module_;
-    HMENU menu_;
-};
+    return {};
+}
 
 struct ControlRow {
     int id;
@@ -121,11 +97,7 @@ TEST_F(MainWindowTest, ControlsKeepTheirPlacesAtEverySize) {
 }
 
 TEST_F(MainWindowTest, MenuAndAcceleratorsHaveTheirCommands) {
-    struct Row {
-        int command;
-        std::string_view path;
-    };
-    constexpr Row items[] = {
+    constexpr std::pair<int, std::string_view> items[] = {
         {105, "&File/E&xit"},
         {ModModeCommand, "&Mod/&Mod Mode"},
         {EditModCommand, "&Mod/&Edit Mod Settings..."},
@@ -140,16 +112,23 @@ TEST_F(MainWindowTest, MenuAndAcceleratorsHaveTheirCommands) {
         {32786, "&Options/&Show destroyed vehicle images"},
         {104, "&Help/&About..."},
     };
-    const ProgramResources resources;
-    for (const Row& item : items) {
-        EXPECT_EQ(resources.menuPath(item.command), item.path);
+    const std::unique_ptr<HINSTANCE__, decltype(&FreeLibrary)> program(
+        LoadLibraryExW(pathBesideTests(L"VarrocadeDataEditor.exe").c_str(), nullptr,
+                       LOAD_LIBRARY_AS_DATAFILE),
+        FreeLibrary);
+    const std::unique_ptr<HMENU__, decltype(&DestroyMenu)> menu(
+        LoadMenuW(program.get(), MAKEINTRESOURCEW(109)), DestroyMenu);
+    for (const auto& [command, path] : items) {
+        EXPECT_EQ(menuPath(menu.get(), command), path);
     }
     constexpr ACCEL keys[] = {{FVIRTKEY | FCONTROL, 'S', 32786},
                               {FALT, '/', 104},
                               {FALT, '?', 104},
                               {FVIRTKEY | FCONTROL, 'R', 32789},
                               {FVIRTKEY | FCONTROL, 'F', IDM_FIND}};
-    const std::vector<ACCEL> table = resources.accelerators();
+    std::array<ACCEL, 100> table{};
+    CopyAcceleratorTableW(LoadAcceleratorsW(program.get(), MAKEINTRESOURCEW(109)), table.data(),
+                          static_cast<int>(table.size()));
     for (const ACCEL& key : keys) {
         EXPECT_TRUE(std::any_of(table.begin(), table.end(), [&](const ACCEL& row) {
             return (row.fVirt & (FVIRTKEY | FCONTROL | FALT | FSHIFT)) == key.fVirt && row.key == key.key &&
@@ -185,34 +164,25 @@ TEST_F(MainWindowTest, MenuFollowsTheOpenRecord) {
 TEST_F(MainWindowTest, BulkToolsAskFirst) {
     struct Row {
         int command;
-        Box box;
+        std::string_view caption;
+        std::string_view text;
     };
-    const std::vector<int> yesNo = {IDYES, IDNO};
-    const Row rows[] = {
-        {32772,
-         {"Generate vehicle thumbnails",
-          "This will create PNGs of thumbnails of all the vehicles for each nationality", yesNo}},
-        {32789,
-         {"Reduce image sizes", "Are you sure you want to reduce the sizes\nof the vehicle's images?",
-          yesNo}},
-        {32780,
-         {"Generate unit spreadsheets",
-          "This will create the tab separated .csv files:\n\n    Vehicles.csv\n    Infantry.csv\n    AT "
-          "Guns.csv\n\n"
-          "containing the unit data",
-          yesNo}},
-        {32779,
-         {"Create PNG usage files",
-          "This will create a .txt file showing which vehicle PNGs are not being used, and which PNGs are "
-          "used by which "
-          "vehicles",
-          yesNo}},
+    constexpr Row rows[] = {
+        {32772, "Generate vehicle thumbnails",
+         "This will create PNGs of thumbnails of all the vehicles for each nationality"},
+        {32789, "Reduce image sizes", "Are you sure you want to reduce the sizes\nof the vehicle's images?"},
+        {32780, "Generate unit spreadsheets",
+         "This will create the tab separated .csv files:\n\n    Vehicles.csv\n    Infantry.csv\n"
+         "    AT Guns.csv\n\ncontaining the unit data"},
+        {32779, "Create PNG usage files",
+         "This will create a .txt file showing which vehicle PNGs are not being used, and which PNGs are "
+         "used by which vehicles"},
     };
     start();
     select(Tiger);
     for (const Row& row : rows) {
         window.post(WM_COMMAND, MAKEWPARAM(row.command, 0));
-        answer(row.box, IDNO);
+        answer({std::string(row.caption), std::string(row.text), {IDYES, IDNO}}, IDNO);
     }
     finish(openDialog(IDM_ABOUT, "About Varrocade Data Editor"));
 }

@@ -5,7 +5,6 @@ namespace varrocade::gui {
 namespace {
 
 constexpr int ModOnlyCommands[] = {EditModCommand, 32782, 32783, 32785};
-constexpr std::string_view PlainTitle = "Varrocade Data Editor";
 
 } // namespace
 
@@ -14,7 +13,7 @@ protected:
     /// Title, check mark and enabling that show the mode. `folder` is the mod's, or empty outside mod mode.
     void expectMode(const std::string& folder) const {
         const bool isOn = !folder.empty();
-        EXPECT_EQ(window.text(), std::string(PlainTitle) + (isOn ? " - Mod Mode from: " + folder : ""));
+        EXPECT_EQ(window.text(), "Varrocade Data Editor" + (isOn ? " - Mod Mode from: " + folder : ""));
         EXPECT_EQ((menuState(ModModeCommand) & MF_CHECKED) != 0, isOn);
         for (const int command : ModOnlyCommands) {
             EXPECT_EQ((menuState(command) & MF_GRAYED) == 0, isOn) << command;
@@ -25,14 +24,8 @@ protected:
                 "This will create a new mod (starting with the default WW2 settings) in the folder:\n\n" +
                     userMod.modFolder() +
                     "\n\nWhen you next run the game this mod will be used. To return to the orignal game "
-                    "with no mod, "
-                    "just rename or move this folder",
+                    "with no mod, just rename or move this folder",
                 {IDOK, IDCANCEL}};
-    }
-    void createMod() const {
-        window.post(WM_COMMAND, MAKEWPARAM(ModModeCommand, 0));
-        answer(createQuestion(), IDOK);
-        finish(editor->waitForDialog("Edit Mod"));
     }
     /// Nothing is open, as far as the buttons show it.
     void expectNothingOpen() const {
@@ -60,7 +53,9 @@ TEST_F(ModModeTest, CreatingAModIsAskedFor) {
 TEST_F(ModModeTest, NewModStartsEmptyAndKeepsItsOwnFiles) {
     start();
     select(Tiger);
-    createMod();
+    window.post(WM_COMMAND, MAKEWPARAM(ModModeCommand, 0));
+    answer(createQuestion(), IDOK);
+    finish(editor->waitForDialog("Edit Mod"));
     expectMode(userMod.modFolder());
     EXPECT_TRUE(fileExists(userMod.modFolder() + "Mod.txt"));
     EXPECT_TRUE(entries().empty());
@@ -104,9 +99,8 @@ TEST_F(ModModeTest, ExistingModKeepsTheOpenUnitAndSavesItThere) {
     EXPECT_TRUE(fileExists(userMod.modFolder() + "Backups"));
     EXPECT_FALSE(game.exists("Backups"));
 
-    const Box question = {"Delete", "Are you sure you want to delete this squad?", {IDYES, IDNO}};
     window.startPress(DeleteId);
-    answer(question, IDYES);
+    answer({"Delete", "Are you sure you want to delete this squad?", {IDYES, IDNO}}, IDYES);
     EXPECT_TRUE(eventually([&] { return entries().empty(); }));
     EXPECT_FALSE(fileExists(userMod.modFolder() + dataFile(Tiger)));
     EXPECT_EQ(game.read(dataFile(Tiger)), original);

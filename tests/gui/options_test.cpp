@@ -27,25 +27,18 @@ class OptionsTest : public GuiTest {
 };
 
 TEST_F(OptionsTest, AreWrittenAgainAtTheEnd) {
-    struct Row {
-        std::string_view what;
-        std::string before;
-        std::string after;
-    };
-    const std::string longest(259, 'x');
-    const Row rows[] = {
-        {"empty", "", options(1000, 0, "")},
-        {"cut off in the header", "\xE8\x03\x04", options(1000, 0, "")},
-        {"of another version", options(7, 8, "C:\\Game\\"), options(1000, 8, "C:\\Game\\")},
-        {"with more behind", options(1000, 8, "C:\\Game\\more"), options(1000, 8, "C:\\Game\\")},
-        {"as long as can be", options(1000, 259, longest), options(1000, 259, longest)},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.what);
-        game.write("options.dat", row.before);
+    const std::string longest = options(1000, 259, std::string(259, 'x'));
+    // Empty, cut off in the header, of another version, with more behind, as long as can be.
+    for (const auto& [before, after] : {std::pair(std::string(), options(1000, 0, "")),
+                                        {"\xE8\x03\x04", options(1000, 0, "")},
+                                        {options(7, 8, "C:\\Game\\"), options(1000, 8, "C:\\Game\\")},
+                                        {options(1000, 8, "C:\\Game\\more"), options(1000, 8, "C:\\Game\\")},
+                                        {longest, longest}}) {
+        SCOPED_TRACE(before);
+        game.write("options.dat", before);
         start();
         close();
-        EXPECT_EQ(game.read("options.dat"), row.after);
+        EXPECT_EQ(game.read("options.dat"), after);
     }
 }
 

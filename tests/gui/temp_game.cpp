@@ -66,10 +66,6 @@ TempGame::~TempGame() {
     removeFolder(pathOf(path_));
 }
 
-bool TempGame::sampleHas(std::string_view folder) {
-    return fs::exists(sampleFolder() / pathOf(folder));
-}
-
 void TempGame::copyFromSample(std::string_view folder) const {
     const std::string target = path_ + std::string(folder);
     std::error_code error;

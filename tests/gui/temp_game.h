@@ -18,7 +18,6 @@ public:
     TempGame& operator=(const TempGame&) = delete;
     ~TempGame();
 
-    [[nodiscard]] static bool sampleHas(std::string_view folder);
     /// Copies a folder of the sample ("Data\Weapons") here. The sample is `sample` below the working
     /// directory, or where the environment variable VARROCADE_SAMPLE says.
     void copyFromSample(std::string_view folder) const;

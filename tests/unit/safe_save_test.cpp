@@ -91,56 +91,58 @@ std::size_t count(const Names& names, std::string_view start) {
         names.begin(), names.end(), [&](const std::string& name) { return name.starts_with(start); }));
 }
 
+/// Does a save whose first operation fails, then one whose second does, until none fails, each in a folder of
+/// its own; returns how many there were.
+template <typename Save>
+int failEachOperation(Save saveInto) {
+    for (int failing = 1; failing < 200; ++failing) {
+        SCOPED_TRACE("operation " + std::to_string(failing));
+        const TemporaryFolder folder;
+        const MessageRecorder messages;
+        FaultyFiles files(failing);
+        BackupKeeper backups;
+        saveInto(folder, files, backups);
+        EXPECT_EQ(MessageRecorder::shown().size(), files.hasFailed() ? 1U : 0U);
+        if (!files.hasFailed()) {
+            return failing;
+        }
+    }
+    ADD_FAILURE() << "every operation fails";
+    return 0;
+}
+
 } // namespace
 
 TEST(Saving, KeepsTheOldFileWhicheverStepFails) {
-    bool succeeded = false;
-    int failing = 0;
-    while (!succeeded) {
-        ASSERT_LT(++failing, 200);
-        SCOPED_TRACE("operation " + std::to_string(failing));
-        const TemporaryFolder folder;
-        folder.write(UnitFile, OldText);
-        const MessageRecorder messages;
-        FaultyFiles files(failing);
-        BackupKeeper backups;
-        const SaveResult result = save(files, backups, folder);
-        succeeded = !files.hasFailed();
-        EXPECT_EQ(result == SaveResult::Saved, succeeded);
-        EXPECT_EQ(folder.read(UnitFile), succeeded ? squadFileText(newSquad()) : OldText);
-        // Beside the unit there is at most its backup, and that is whole.
-        const std::vector<std::string> names = folder.files();
-        const std::size_t kept = count(names, "Backups\\Data\\Infantry\\Squad ");
-        EXPECT_EQ(names.size(), 1 + kept) << "left something: " << names.back();
-        EXPECT_TRUE(kept == 1 || (kept == 0 && !succeeded));
-        EXPECT_TRUE(kept == 0 || folder.read(names.front()) == OldText);
-        EXPECT_EQ(MessageRecorder::shown().size(), succeeded ? 0U : 1U);
-        for (const Message& message : MessageRecorder::shown()) {
-            EXPECT_EQ(message.text, folder.path() + UnitFile);
-            EXPECT_EQ(message.caption, "Couldn't save file");
-        }
-    }
+    const int operations =
+        failEachOperation([](const TemporaryFolder& folder, FaultyFiles& files, BackupKeeper& backups) {
+            folder.write(UnitFile, OldText);
+            const SaveResult result = save(files, backups, folder);
+            const bool succeeded = !files.hasFailed();
+            EXPECT_EQ(result == SaveResult::Saved, succeeded);
+            EXPECT_EQ(folder.read(UnitFile), succeeded ? squadFileText(newSquad()) : OldText);
+            // Beside the unit there is at most its backup, and that is whole.
+            const Names names = folder.files();
+            const std::size_t kept = count(names, "Backups\\Data\\Infantry\\Squad ");
+            EXPECT_EQ(names.size(), 1 + kept) << "left something: " << names.back();
+            EXPECT_TRUE(kept == 1 || (kept == 0 && !succeeded));
+            EXPECT_TRUE(kept == 0 || folder.read(names.front()) == OldText);
+            for (const Message& message : MessageRecorder::shown()) {
+                EXPECT_EQ(message.text, folder.path() + UnitFile);
+                EXPECT_EQ(message.caption, "Couldn't save file");
+            }
+        });
     // Folders, the old content, and each of two files created, written in pieces, flushed, closed and put in
     // place.
-    EXPECT_GT(failing, 20);
+    EXPECT_GT(operations, 20);
 }
 
 TEST(Saving, LeavesNothingBehindWhereThereWasNoFile) {
-    bool succeeded = false;
-    for (int failing = 1; !succeeded; ++failing) {
-        ASSERT_LT(failing, 200);
-        SCOPED_TRACE("operation " + std::to_string(failing));
-        const TemporaryFolder folder;
-        const MessageRecorder messages;
-        FaultyFiles files(failing);
-        BackupKeeper backups;
+    failEachOperation([](const TemporaryFolder& folder, FaultyFiles& files, BackupKeeper& backups) {
         const SaveResult result = saveWeapon(files, backups, folder.path(), "W", WeaponRecord());
-        succeeded = !files.hasFailed();
-        EXPECT_EQ(result, succeeded ? SaveResult::Saved : SaveResult::Failed);
-        const Names written = {"Data\\Weapons\\W.txt"};
-        EXPECT_EQ(folder.files(), succeeded ? written : Names());
-        EXPECT_EQ(MessageRecorder::shown().size(), succeeded ? 0U : 1U);
-    }
+        EXPECT_EQ(result, files.hasFailed() ? SaveResult::Failed : SaveResult::Saved);
+        EXPECT_EQ(folder.files(), files.hasFailed() ? Names() : Names({"Data\\Weapons\\W.txt"}));
+    });
 }
 
 TEST(Saving, SaysWhatFailed) {
