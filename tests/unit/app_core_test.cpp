@@ -14,6 +14,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <tuple>
 
 namespace varrocade::tests {
 namespace {
@@ -66,20 +67,16 @@ TEST(NameFilter, WantsEveryWord) {
 }
 
 TEST(Positions, QuestionNamesWhatWouldBeLost) {
-    struct Case {
-        Category category;
-        bool weapon;
-        bool exhaust;
-        std::string_view question;
-    };
-    for (const Case& row :
-         {Case{Category::Vehicles, true, true, "Save your changes to weapon and exhaust positions?"},
-          Case{Category::Vehicles, true, false, "Save your changes to weapon positions?"},
-          Case{Category::Vehicles, false, true, "Save your changes to exhaust positions?"},
+    const std::string begin = "Save your changes to ";
+    using Case = std::tuple<Category, bool, bool, std::string>;
+    for (const auto& [category, weapon, exhaust, question] :
+         {Case{Category::Vehicles, true, true, begin + "weapon and exhaust positions?"},
+          Case{Category::Vehicles, true, false, begin + "weapon positions?"},
+          Case{Category::Vehicles, false, true, begin + "exhaust positions?"},
           Case{Category::Vehicles, false, false, ""},
-          Case{Category::Aircraft, true, true, "Save your changes to weapon positions?"},
+          Case{Category::Aircraft, true, true, begin + "weapon positions?"},
           Case{Category::Aircraft, false, true, ""}, Case{Category::Infantry, true, true, ""}}) {
-        EXPECT_EQ(unsavedPositionsQuestion(true, row.category, row.weapon, row.exhaust), row.question);
+        EXPECT_EQ(unsavedPositionsQuestion(true, category, weapon, exhaust), question);
     }
     EXPECT_EQ(unsavedPositionsQuestion(false, Category::Vehicles, true, true), "");
 }

@@ -17,17 +17,52 @@ std::string cleanSquad() {
     return rewritten(Category::Infantry, LooseSquad);
 }
 
+/// What `varrocade-data` did: its exit status, and what it printed, with line ends of one character.
+struct CommandOutcome {
+    int status;
+    std::string output;
+    std::string complaints;
+};
+
+/// Calls `varrocade-data`. Its arguments stand between blanks; those with a "$" before them are paths below
+/// the folder, for which a "$" stands in what is printed too.
+CommandOutcome runCommand(const TemporaryFolder& folder, std::string_view call) {
+    std::vector<std::string> arguments;
+    while (!call.empty()) {
+        const std::string_view argument = takePart(call, " ");
+        arguments.push_back((argument.starts_with('$') ? folder.path() : "") +
+                            std::string(argument.substr(argument.starts_with('$') ? 1 : 0)));
+    }
+    ::testing::internal::CaptureStdout();
+    ::testing::internal::CaptureStderr();
+    CommandOutcome outcome{cli::runCommandLine(arguments), {}, {}};
+    outcome.output = ::testing::internal::GetCapturedStdout();
+    outcome.complaints = ::testing::internal::GetCapturedStderr();
+    for (std::string* printed : {&outcome.output, &outcome.complaints}) {
+        std::erase(*printed, '\r');
+        for (std::size_t at = 0; (at = printed->find(folder.path(), at)) != std::string::npos;) {
+            printed->replace(at, folder.path().size(), "$");
+        }
+    }
+    return outcome;
+}
+
+/// Writes the files of a case, each as "$name: content".
+void writeFiles(const TemporaryFolder& folder, std::string_view files) {
+    for (files.remove_prefix(1); !files.empty();) {
+        std::string_view content = takePart(files, "\n$");
+        const std::string_view name = takePart(content, ": ");
+        folder.write(name, content);
+    }
+}
+
 } // namespace
 
 TEST(CommandLine, AnswersByExample) {
     for (const TextCase& c : textCases("commands.txt")) {
         SCOPED_TRACE(c.heading);
         const TemporaryFolder folder;
-        for (std::string_view files = std::string_view(c.text).substr(1); !files.empty();) {
-            std::string_view content = takePart(files, "\n$");
-            const std::string_view name = takePart(content, ": ");
-            folder.write(name, content);
-        }
+        writeFiles(folder, c.text);
         const std::vector<std::string> before = folder.files();
         std::string_view call = c.heading;
         const std::string_view status = takePart(call, " ");
@@ -45,43 +80,20 @@ TEST(CommandLine, AnswersByExample) {
 
 TEST(CommandLine, RefusesWhatItDoesNotUnderstand) {
     const TemporaryFolder folder;
-    folder.write("in.txt", LooseSquad);
-    folder.write("gun.txt", "<weapon><name>GUN</name><ammo><type></type></ammo></weapon>");
-    folder.write("empty.txt", "");
-    for (const char* call : {"",
-                             "explode",
-                             "rewrite",
-                             "rewrite infantry $in.txt",
-                             "rewrite infantry $in.txt $out.txt $out.txt",
-                             "rewrite Infantry $in.txt $out.txt",
-                             "rewrite tanks $in.txt $out.txt",
-                             "tree",
-                             "tree $in.txt $in.txt",
-                             "tree $missing.txt",
-                             "tree $",
-                             "rewrite infantry $missing.txt $out.txt",
-                             "rewrite --explain infantry $missing.txt $out.txt",
-                             "rewrite vehicles $in.txt $out.txt",
-                             "rewrite infantry $in.txt $missing\\out.txt",
-                             "penetration",
-                             "penetration $gun.txt",
-                             "penetration $gun.txt 0 30",
-                             "penetration $gun.txt 0 30 12 12",
-                             "penetration $gun.txt 1 30 12",
-                             "penetration $gun.txt -1 30 12",
-                             "penetration $gun.txt  30 12",
-                             "penetration $gun.txt 0x 30 12",
-                             "penetration $gun.txt 99999999999999999999999 30 12",
-                             "penetration $missing.txt 0 30 12",
-                             "penetration $empty.txt 0 30 12",
-                             "penetration --matrix",
-                             "penetration --matrix $",
-                             "penetration --matrix $ $"}) {
-        expectRefused(folder, call);
-    }
-    EXPECT_EQ(folder.files().size(), 3U);
-    EXPECT_NE(runCommand(folder, "").complaints.find("rewrite [--explain] CATEGORY IN OUT"),
-              std::string::npos);
+    const TextCase refused = textCases("refusals.txt").front();
+    writeFiles(folder, refused.text);
+    const std::vector<std::string> before = folder.files();
+    std::string_view calls = refused.expected;
+    do {
+        const std::string_view call = takePart(calls, "\n");
+        const CommandOutcome outcome = runCommand(folder, call);
+        EXPECT_EQ(outcome.status, cli::CouldNot) << call;
+        EXPECT_TRUE(outcome.output.empty() && !outcome.complaints.empty()) << call;
+    } while (!calls.empty());
+    EXPECT_EQ(folder.files(), before);
+    const CommandOutcome usage = runCommand(folder, "");
+    EXPECT_EQ(usage.status, cli::CouldNot);
+    EXPECT_NE(usage.complaints.find("rewrite [--explain] CATEGORY IN OUT"), std::string::npos);
 }
 
 TEST(CommandLine, RewritesAFile) {

@@ -1,6 +1,5 @@
 #include "test_support.h"
 
-#include "cli/command_line.h"
 #include "data/unit_writers.h"
 #include "platform/file_operations.h"
 #include "weapons/weapon_files.h"
@@ -42,40 +41,6 @@ std::string unescaped(std::string_view text) {
     return result;
 }
 
-void damageOnce(std::string& content, std::mt19937& random) {
-    static constexpr auto texts = std::to_array<std::string_view>(
-        {"0",          "7",           "-30",          "007",          "5 kg",          "1e3",
-         "99999",      "2.50",        "yes",          "no",           "Default",       "x.PNG",
-         "MOUNT_REAR", "QUALITY_RAW", "FLAVOUR_BALL", "WEAPON_HMG_A", "WEAPON_BOMB_B", "//",
-         "",           " a "});
-    const auto anyOf = [&](std::size_t count) {
-        return std::uniform_int_distribution<std::size_t>(0, count - 1)(random);
-    };
-    const auto lineAt = [&](std::size_t offset) {
-        const std::size_t first = content.rfind('\n', offset) + 1;
-        return std::pair(first, std::min(content.find('\n', first), content.size() - 1) + 1 - first);
-    };
-    if (content.empty()) {
-        return;
-    }
-    const std::size_t offset = anyOf(content.size());
-    const auto [line, length] = lineAt(offset);
-    const std::size_t kind = anyOf(6);
-    if (kind == 0) {
-        content.erase(line, length);
-    } else if (kind == 1) {
-        content.insert(lineAt(anyOf(content.size())).first, content.substr(line, length));
-    } else if (kind == 2) {
-        content[offset] = "<>/ _@x"[anyOf(7)];
-    } else {
-        const std::size_t begin = content.find('>', offset) + 1;
-        const std::size_t end = content.find("</", begin);
-        if (begin != 0 && end < content.find('\n', begin)) {
-            content.replace(begin, end - begin, texts[anyOf(texts.size())]);
-        }
-    }
-}
-
 std::string readText(const std::string& path) {
     std::string content;
     EXPECT_TRUE(readWholeFile(path, content)) << path;
@@ -83,12 +48,6 @@ std::string readText(const std::string& path) {
 }
 
 } // namespace
-
-void damage(std::string& content, std::mt19937& random, int times) {
-    for (; times > 0; --times) {
-        damageOnce(content, random);
-    }
-}
 
 std::string repeated(std::string_view text, std::size_t count) {
     std::string out;
@@ -182,34 +141,6 @@ SquadRecord readUnitText(std::string_view content) {
 WeaponRecord readWeaponText(std::string_view content) {
     WeaponReadReport report;
     return readWeapon(content, "weapon", report);
-}
-
-CommandOutcome runCommand(const TemporaryFolder& folder, std::string_view call) {
-    std::vector<std::string> arguments;
-    while (!call.empty()) {
-        const std::string_view argument = takePart(call, " ");
-        arguments.push_back((argument.starts_with('$') ? folder.path() : "") +
-                            std::string(argument.substr(argument.starts_with('$') ? 1 : 0)));
-    }
-    ::testing::internal::CaptureStdout();
-    ::testing::internal::CaptureStderr();
-    CommandOutcome outcome{cli::runCommandLine(arguments), {}, {}};
-    outcome.output = ::testing::internal::GetCapturedStdout();
-    outcome.complaints = ::testing::internal::GetCapturedStderr();
-    for (std::string* printed : {&outcome.output, &outcome.complaints}) {
-        std::erase(*printed, '\r');
-        for (std::size_t at = 0; (at = printed->find(folder.path(), at)) != std::string::npos;) {
-            printed->replace(at, folder.path().size(), "$");
-        }
-    }
-    return outcome;
-}
-
-void expectRefused(const TemporaryFolder& folder, std::string_view call) {
-    const CommandOutcome outcome = runCommand(folder, call);
-    EXPECT_EQ(outcome.status, cli::CouldNot) << call;
-    EXPECT_TRUE(outcome.output.empty()) << call;
-    EXPECT_FALSE(outcome.complaints.empty()) << call;
 }
 
 TemporaryFolder::TemporaryFolder() {

@@ -6,7 +6,6 @@
 #include "platform/messages.h"
 #include "weapons/weapon_record.h"
 
-#include <random>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -23,9 +22,6 @@ std::string repeated(std::string_view text, std::size_t count);
 
 /// "<n0><n1>...</n1></n0>"
 std::string nestedInEachOther(std::size_t levels);
-
-/// Makes small things of a file otherwise, as a hand or an accident would.
-void damage(std::string& content, std::mt19937& random, int times);
 
 /// A content of the outer elements of a category's files, from line 2 on, in these; whole squads as they are.
 std::string wholeFile(Category category, std::string_view content);
@@ -82,20 +78,6 @@ public:
 private:
     std::string path_;
 };
-
-/// What `varrocade-data` did: its exit status, and what it printed, with line ends of one character.
-struct CommandOutcome {
-    int status;
-    std::string output;
-    std::string complaints;
-};
-
-/// Calls `varrocade-data`. Its arguments stand between blanks; those with a "$" before them are paths below
-/// the folder, for which a "$" stands in what is printed too.
-CommandOutcome runCommand(const TemporaryFolder& folder, std::string_view call);
-
-/// Expects such a call to fail with a word about it.
-void expectRefused(const TemporaryFolder& folder, std::string_view call);
 
 /// Takes the place of the message boxes while it lives.
 class MessageRecorder {

@@ -108,15 +108,14 @@ TEST_F(WeaponCatalogueTest, FindsByFileNameBeforeName) {
     inProgram("WEAPON_Y", {.name = "WEAPON_Y", .calibre = "88"});
     inProgram("copy", {.name = "WEAPON_Z"});
     load();
-    const auto fileOf = [this](std::string_view name) {
+    for (const auto& [name, file] : {std::pair("WEAPON_Y", "WEAPON_Y"),
+                                     {"weapon_x", "WEAPON_X"},
+                                     {"Weapon_Z", "copy"},
+                                     {"WEAPON", "none"},
+                                     {"", "none"}}) {
         const WeaponRecord* weapon = catalogue.find(name);
-        return weapon == nullptr ? "none" : weapon->fileName;
-    };
-    EXPECT_EQ(fileOf("WEAPON_Y"), "WEAPON_Y");
-    EXPECT_EQ(fileOf("weapon_x"), "WEAPON_X");
-    EXPECT_EQ(fileOf("Weapon_Z"), "copy");
-    EXPECT_EQ(fileOf("WEAPON"), "none");
-    EXPECT_EQ(fileOf(""), "none");
+        EXPECT_EQ(weapon == nullptr ? "none" : weapon->fileName, file) << name;
+    }
 }
 
 TEST_F(WeaponCatalogueTest, ListsByTypeNationalityAndPeriod) {
