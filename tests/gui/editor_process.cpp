@@ -15,6 +15,12 @@ constexpr std::string_view MainWindowClass = "VARROCADETANKEDITOR";
 constexpr std::string_view DialogClass = "#32770";
 constexpr UINT StatusOfTerminated = 1000;
 
+std::vector<Window> windowsOfClass(DWORD process, std::string_view name) {
+    std::vector<Window> found = topLevelWindows(process);
+    std::erase_if(found, [&](Window window) { return window.className() != name; });
+    return found;
+}
+
 GUITHREADINFO threadInfo(DWORD thread) {
     GUITHREADINFO info{};
     info.cbSize = sizeof(info);
@@ -56,26 +62,16 @@ EditorProcess::~EditorProcess() {
 }
 
 Window EditorProcess::waitForMainWindow() const {
-    Window window;
+    std::vector<Window> found;
     eventually([&] {
-        for (const Window candidate : topLevelWindows(processId_)) {
-            if (candidate.className() == MainWindowClass) {
-                window = candidate;
-            }
-        }
-        return window || !isRunning();
+        found = windowsOfClass(processId_, MainWindowClass);
+        return !found.empty() || !isRunning();
     });
-    return window;
+    return found.empty() ? Window() : found.front();
 }
 
 std::vector<Window> EditorProcess::dialogs() const {
-    std::vector<Window> found;
-    for (const Window window : topLevelWindows(processId_)) {
-        if (window.className() == DialogClass) {
-            found.push_back(window);
-        }
-    }
-    return found;
+    return windowsOfClass(processId_, DialogClass);
 }
 
 Window EditorProcess::waitForDialog(std::string_view caption) const {

@@ -1,4 +1,3 @@
-#include "analysis/armour_plates.h"
 #include "analysis/penetration.h"
 #include "test_support.h"
 #include "weapons/weapon_names.h"
@@ -187,27 +186,6 @@ TEST(Penetration, TellsHowFarAPlateIsPierced) {
     const PenetrationCurve heat = penetrationCurve({.flavour = AmmoFlavour::Heat, .calibre = 100}, 25);
     EXPECT_EQ(rangeThrough(heat, 130, 0), 3000);
     EXPECT_EQ(rangeThrough(heat, 131, 0), std::nullopt);
-}
-
-TEST(Penetration, FindsThePlatesOfAVehicle) {
-    VehicleRecord vehicle;
-    vehicle.components.resize(3);
-    ArmourRecord& hull = vehicle.components[0].armour;
-    hull.upperFront = {80, 55};
-    hull.lowerRear = {40, -30};
-    hull.top = 16;
-    hull.frontSpaced = 5;
-    ArmourRecord& turret = vehicle.components[2].armour;
-    turret.upperLeft = {45, 25};
-    turret.mantlet = 100;
-    turret.bottom = 0;
-    std::string plates;
-    for (const VehiclePlate& plate : armourPlates(vehicle)) {
-        plates += std::to_string(plate.component) + " " + std::string(plate.name) + " " +
-                  std::to_string(plate.plate.thickness) + "@" + std::to_string(plate.plate.angle) + ", ";
-    }
-    EXPECT_EQ(plates, "0 upper_front 80@55, 0 lower_rear 40@-30, 0 top 16@90, 2 upper_left 45@25, "
-                      "2 mantlet 100@0, ");
 }
 
 } // namespace varrocade::tests

@@ -97,7 +97,9 @@ TEST(Sample, HasTheFilesThatItsFilesName) {
 TEST(Sample, HasTheAmmunitionOfItsUnits) {
     WeaponCatalogue weapons;
     weapons.load(SampleBase);
+    EXPECT_TRUE(weapons.problems().empty()) << weapons.problems().front().path;
     for (const SampleFile& file : sampleFiles()) {
+        EXPECT_EQ(weapons.find(file.name) != nullptr, file.category == Category::Weapons) << file.name;
         TagTree tree;
         tree.parse(file.content);
         for (const TagNode& node : tree.nodes()) {

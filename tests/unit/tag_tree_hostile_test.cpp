@@ -109,20 +109,12 @@ TEST_F(HostileFile, HasManyDifferentNames) {
 
 namespace {
 
-/// Where to cut a file: at every byte, or at every seventh under the sanitizers, which are slow,
-/// beginning elsewhere in each file.
-std::vector<std::size_t> cutsOf(const SampleFile& file) {
+/// How far the cuts of a file lie apart: its bytes are many, and the sanitizers slow.
 #ifdef NDEBUG
-    constexpr std::size_t stride = 1;
+constexpr std::size_t Stride = 1;
 #else
-    constexpr std::size_t stride = 7;
+constexpr std::size_t Stride = 7;
 #endif
-    std::vector<std::size_t> cuts;
-    for (std::size_t at = file.name.size() % stride; at < file.content.size(); at += stride) {
-        cuts.push_back(at);
-    }
-    return cuts;
-}
 
 /// How many entries the reader of the file's category finds in a content.
 std::size_t entriesIn(Category category, std::string_view content) {
@@ -142,7 +134,8 @@ TEST(TruncatedFile, LosesAllUnlessItsRootIsClosedAgain) {
         const std::size_t root = file.content.rfind("</");
         const std::size_t all = entriesIn(file.category, file.content);
         std::size_t former = 0;
-        for (const std::size_t length : cutsOf(file)) {
+        // Beginning elsewhere in each file.
+        for (std::size_t length = file.name.size() % Stride; length < file.content.size(); length += Stride) {
             // Copied to a block of its own, so that a look beyond its end is found out.
             const std::vector<char> cut(file.content.begin(),
                                         file.content.begin() + static_cast<std::ptrdiff_t>(length));

@@ -26,19 +26,6 @@ TEST(TagTree, ParsesAsTheGameDoes) {
     }
 }
 
-TEST(TagTree, TakesEveryLineEnd) {
-    const std::string lines = "// first|<a>|\t<b>one // comment|\t two</b>|| <c>3</c> \t|</a>|";
-    for (const char* lineEnd : {"\r\n", "\n", "\r", "\n\r", "\r\r\n"}) {
-        std::string content;
-        for (const char c : lines) {
-            content += c == '|' ? std::string(lineEnd) : std::string(1, c);
-        }
-        EXPECT_EQ(described(content), "{a{b=onetwo c=3}}");
-    }
-    // What an editor appended to the last line's end does not matter either.
-    EXPECT_EQ(described("<a>1</a>"), described("<a>1</a>\r"));
-}
-
 TEST(TagTree, ReadsLongLinesInPieces) {
     constexpr std::size_t pieceLength = 510;
     for (std::size_t length = pieceLength - 4; length <= pieceLength + 4; ++length) {

@@ -225,16 +225,4 @@ TEST_F(WeaponCatalogueTest, FollowsWhatIsSavedCreatedAndDeleted) {
     EXPECT_EQ(catalogue.entries().front().path, program.path() + below("c"));
 }
 
-TEST(WeaponCatalogue, HoldsTheWholeSample) {
-    WeaponCatalogue catalogue;
-    catalogue.load(SampleBase);
-    EXPECT_TRUE(catalogue.problems().empty()) << catalogue.problems().front().path;
-    std::size_t weapons = 0;
-    for (const SampleFile& file : sampleFiles()) {
-        weapons += file.category == Category::Weapons ? 1 : 0;
-        EXPECT_EQ(catalogue.find(file.name) != nullptr, file.category == Category::Weapons) << file.name;
-    }
-    EXPECT_EQ(catalogue.entries().size(), weapons);
-}
-
 } // namespace varrocade::tests
