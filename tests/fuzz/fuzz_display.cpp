@@ -34,12 +34,10 @@ void look(const DrawList& list) {
     for (const double edge : {list.least.x, list.least.y, list.greatest.x, list.greatest.y}) {
         require(std::isfinite(edge), "a drawing without bounds", "", "");
     }
-    constexpr int width = 400;
-    constexpr int height = 800;
-    const Fit fit = fitInto(list, width, height, 20);
+    const Fit fit = fitInto(list, 400, 800, 20);
     require(fit.pixelsPerMetre > 0, "a drawing without a scale", "", "");
-    partAt(list, fit.pointAt(width / 2, height / 2), 9, pictures);
-    zoomedAbout(fit, width / 2, height / 2, 5);
+    partAt(list, fit.pointAt(200, 400), 9, pictures);
+    zoomedAbout(fit, 200, 400, 5);
 }
 
 void moveParts(SquadRecord& unit, const DrawList& list) {

@@ -6,6 +6,7 @@
 #include <clocale>
 #include <cmath>
 #include <limits>
+#include <random>
 #include <utility>
 
 #include <gtest/gtest.h>
@@ -121,17 +122,21 @@ TEST(Penetration, DependsOnTheAngleAlone) {
 }
 
 TEST(Penetration, IsANumberWhateverTheFileHolds) {
-    const double huge = static_cast<double>(std::numeric_limits<float>::max());
-    const std::array<double, 5> values = {-huge, -5, 0, 5, huge};
-    const std::array<AmmoFlavour, 4> flavours = {AmmoFlavour::Ball, AmmoFlavour::Apds, AmmoFlavour::He,
-                                                 AmmoFlavour::Heat};
-    for (std::size_t i = 0; i < 4 * 5 * 5 * 5 * 5; ++i) {
-        const Projectile shell{.flavour = flavours[i % 4],
-                               .calibre = values[i / 4 % 5],
-                               .muzzleVelocity = values[i / 20 % 5],
-                               .mass = values[i / 100 % 5],
-                               .highExplosive = values[i / 100 % 5]};
-        const double drag = std::array<double, 5>{-1e308, 0, 12, 25, 1e308}[i / 500];
+    constexpr double huge = std::numeric_limits<float>::max();
+    std::mt19937 random(1943);
+    const auto anyOf = [&](const auto&... values) {
+        const std::array among = {values...};
+        return among[random() % among.size()];
+    };
+    for (int i = 0; i < 20000; ++i) {
+        const auto anyValue = [&] { return anyOf(-huge, -5.0, 0.0, 5.0, huge); };
+        const Projectile shell{
+            .flavour = anyOf(AmmoFlavour::Ball, AmmoFlavour::Apds, AmmoFlavour::He, AmmoFlavour::Heat),
+            .calibre = anyValue(),
+            .muzzleVelocity = anyValue(),
+            .mass = anyValue(),
+            .highExplosive = anyValue()};
+        const double drag = anyOf(-1e308, 0.0, 12.0, 1e308);
         const Impact impact = impactAt(shell, drag, 1000, 30);
         EXPECT_FALSE(std::isnan(impact.velocity) || std::isnan(impact.penetration))
             << shell.muzzleVelocity << ' ' << drag << ' ' << shell.mass << ' ' << shell.calibre;
