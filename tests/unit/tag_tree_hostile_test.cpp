@@ -37,6 +37,8 @@ std::size_t depthOf(const TagTree& tree) {
     return *std::max_element(depths.begin(), depths.end());
 }
 
+} // namespace
+
 /// Fails where what is done meanwhile takes too long.
 class HostileFile : public ::testing::Test {
 protected:
@@ -47,8 +49,6 @@ protected:
 private:
     std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
 };
-
-} // namespace
 
 TEST_F(HostileFile, NestsDeep) {
     constexpr std::size_t levels = 200000;
