@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
+#include <fstream>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -94,10 +95,7 @@ std::string tankText(std::string text, int set) {
 }
 
 void writeFile(const std::string& path, const std::string& content) {
-    if (std::FILE* file = std::fopen(path.c_str(), "wb")) {
-        std::fwrite(content.data(), 1, content.size(), file);
-        std::fclose(file);
-    }
+    std::ofstream(path, std::ios::binary) << content;
 }
 
 void copyFolder(const std::string& base, const std::string& folder, std::string_view ending) {

@@ -284,7 +284,7 @@ void tellSelection(HWND window) {
     }
 }
 
-void paint(HWND window) {
+void paintDrawingWindow(HWND window) {
     PAINTSTRUCT paintStruct{};
     HDC device = BeginPaint(window, &paintStruct);
     RECT client{};
@@ -373,7 +373,7 @@ LRESULT CALLBACK drawingProcedure(HWND window, UINT message, WPARAM parameter, L
     case WM_ERASEBKGND:
         return 1;
     case WM_PAINT:
-        paint(window);
+        paintDrawingWindow(window);
         return 0;
     default:
         return DefWindowProcA(window, message, parameter, detail);

@@ -117,7 +117,7 @@ LRESULT create(HWND window) {
     return 0;
 }
 
-void paint(HWND window) {
+void paintMainWindow(HWND window) {
     PAINTSTRUCT paintStruct{};
     HDC device = BeginPaint(window, &paintStruct);
     // Only the band of the list is not covered by controls.
@@ -243,7 +243,7 @@ LRESULT CALLBACK mainWindowProcedure(HWND window, UINT message, WPARAM parameter
     case WM_ERASEBKGND:
         return 1;
     case WM_PAINT:
-        paint(window);
+        paintMainWindow(window);
         return 0;
     case WM_CLOSE:
         if (mayLeavePositions()) {

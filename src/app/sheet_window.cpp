@@ -98,7 +98,7 @@ int requestOfKey(WPARAM key) {
     }
 }
 
-void paint(HWND window) {
+void paintSheetWindow(HWND window) {
     PAINTSTRUCT paintStruct{};
     HDC device = BeginPaint(window, &paintStruct);
     RECT client{};
@@ -180,7 +180,7 @@ LRESULT CALLBACK sheetProcedure(HWND window, UINT message, WPARAM parameter, LPA
     case WM_ERASEBKGND:
         return 1;
     case WM_PAINT:
-        paint(window);
+        paintSheetWindow(window);
         return 0;
     default:
         return DefWindowProcA(window, message, parameter, detail);
