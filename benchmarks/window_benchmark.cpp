@@ -64,8 +64,10 @@ std::string pictureName(const UnitPicture& picture, int set) {
     return std::string(picture.name) + " " + std::to_string(set);
 }
 
+/// Of four digits, so that the first ones stand in sight: scrolling to them is no part of a click.
 std::string unitName(int number) {
-    return "German Tank " + std::to_string(number);
+    constexpr int leastOfFourDigits = 1000;
+    return "German Tank " + std::to_string(leastOfFourDigits + number);
 }
 
 std::string unitPath(const std::string& base, int number) {

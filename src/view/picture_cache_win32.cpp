@@ -1,7 +1,6 @@
 #include "view/picture_cache_win32.h"
 
 #include "platform/file_operations.h"
-#include "view/picture_decoder_win32.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -114,7 +113,7 @@ const Pixmap* PictureCache::pixels(const std::string& path) {
     if (!readWholeFile(path, content)) {
         return nullptr;
     }
-    Pixmap pixmap = decodedPicture(std::move(content));
+    Pixmap pixmap = decoder_.decode(std::move(content));
     if (pixmap.pixels.empty()) {
         return nullptr;
     }
@@ -179,6 +178,7 @@ void PictureCache::clear() {
     byKey_.clear();
     sizes_.clear();
     bytes_ = 0;
+    decoder_ = {};
 }
 
 } // namespace varrocade

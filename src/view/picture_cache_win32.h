@@ -3,6 +3,7 @@
 #include "view/draw_list.h"
 #include "view/gdi_object_win32.h"
 #include "view/gdiplus_win32.h"
+#include "view/picture_decoder_win32.h"
 #include "view/pixmap.h"
 
 #include <cstddef>
@@ -45,7 +46,7 @@ public:
     std::optional<PictureSize> sizeOf(const std::string& path) override;
     bool isSolidAt(const std::string& path, double x, double y) override;
 
-    /// Forgets everything: files may have changed.
+    /// Forgets everything: files may have changed. Must be called before COM ends.
     void clear();
 
 private:
@@ -69,6 +70,7 @@ private:
     std::map<Key, std::list<Entry>::iterator> byKey_;
     std::map<std::string, std::optional<PictureSize>, std::less<>> sizes_;
     std::size_t bytes_ = 0;
+    PictureDecoder decoder_;
 };
 
 /// How the system is told of pixels that lie as those of a `Pixmap` do.

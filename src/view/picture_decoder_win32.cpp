@@ -1,13 +1,7 @@
 #include "view/picture_decoder_win32.h"
 
-#include <windows.h>
-
-#include <objbase.h>
-#include <wincodec.h>
-
 #include <cstddef>
 #include <cstdint>
-#include <memory>
 #include <string_view>
 #include <utility>
 
@@ -20,32 +14,11 @@ constexpr std::string_view PngSignature = "\x89PNG\r\n\x1A\n";
 /// A file of a few bytes can say that it is larger than the memory.
 constexpr std::uint64_t MostPixels = std::uint64_t{1} << 26U;
 
-struct ReleaseInterface {
-    void operator()(IUnknown* object) const { object->Release(); }
-};
-
-template <typename Interface>
-using Owned = std::unique_ptr<Interface, ReleaseInterface>;
-
 /// The interface that a call hands out, or null.
 template <typename Interface, typename Call>
 Owned<Interface> obtained(Call call) {
     Interface* object = nullptr;
     return SUCCEEDED(call(&object)) ? Owned<Interface>(object) : nullptr;
-}
-
-Owned<IWICBitmapDecoder> decoderOf(IWICImagingFactory& factory, IWICStream& stream, bool isPng) {
-    if (!isPng) {
-        return obtained<IWICBitmapDecoder>([&](IWICBitmapDecoder** out) {
-            return factory.CreateDecoderFromStream(&stream, nullptr, WICDecodeMetadataCacheOnDemand, out);
-        });
-    }
-    // Asking whose file it is makes some decoders read all of it, and then once more.
-    auto decoder = obtained<IWICBitmapDecoder>([&](IWICBitmapDecoder** out) {
-        return factory.CreateDecoder(GUID_ContainerFormatPng, nullptr, out);
-    });
-    const bool isRead = decoder && SUCCEEDED(decoder->Initialize(&stream, WICDecodeMetadataCacheOnDemand));
-    return isRead ? std::move(decoder) : nullptr;
 }
 
 Pixmap pixelsOfSource(IWICBitmapSource& source) {
@@ -65,32 +38,58 @@ Pixmap pixelsOfSource(IWICBitmapSource& source) {
 
 } // namespace
 
-Pixmap decodedPicture(std::string content) {
-    const auto factory = obtained<IWICImagingFactory>([](IWICImagingFactory** out) {
-        return CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER,
-                                IID_IWICImagingFactory, reinterpret_cast<void**>(out));
+bool PictureDecoder::findDecoders() {
+    if (!imaging_) {
+        imaging_ = obtained<IWICImagingFactory>([](IWICImagingFactory** out) {
+            return CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER,
+                                    IID_IWICImagingFactory, reinterpret_cast<void**>(out));
+        });
+    }
+    if (!pngDecoders_) {
+        pngDecoders_ = obtained<IClassFactory>([](IClassFactory** out) {
+            return CoGetClassObject(CLSID_WICPngDecoder, CLSCTX_INPROC_SERVER, nullptr, IID_IClassFactory,
+                                    reinterpret_cast<void**>(out));
+        });
+    }
+    return imaging_ && pngDecoders_;
+}
+
+Owned<IWICBitmapDecoder> PictureDecoder::decoderOf(IWICStream& stream, bool isPng) {
+    if (!isPng) {
+        return obtained<IWICBitmapDecoder>([&](IWICBitmapDecoder** out) {
+            return imaging_->CreateDecoderFromStream(&stream, nullptr, WICDecodeMetadataCacheOnDemand, out);
+        });
+    }
+    // Asking whose file it is makes some decoders read all of it, and then once more.
+    auto decoder = obtained<IWICBitmapDecoder>([&](IWICBitmapDecoder** out) {
+        return pngDecoders_->CreateInstance(nullptr, IID_IWICBitmapDecoder, reinterpret_cast<void**>(out));
     });
-    if (!factory) {
+    const bool isRead = decoder && SUCCEEDED(decoder->Initialize(&stream, WICDecodeMetadataCacheOnDemand));
+    return isRead ? std::move(decoder) : nullptr;
+}
+
+Pixmap PictureDecoder::decode(std::string content) {
+    if (!findDecoders()) {
         return {};
     }
-    const auto stream = obtained<IWICStream>([&](IWICStream** out) { return factory->CreateStream(out); });
+    const auto stream = obtained<IWICStream>([&](IWICStream** out) { return imaging_->CreateStream(out); });
     if (!stream || FAILED(stream->InitializeFromMemory(reinterpret_cast<BYTE*>(content.data()),
                                                        static_cast<DWORD>(content.size())))) {
         return {};
     }
-    const auto decoder = decoderOf(*factory, *stream, content.starts_with(PngSignature));
+    const auto decoder = decoderOf(*stream, content.starts_with(PngSignature));
     if (!decoder) {
         return {};
     }
     const auto frame = obtained<IWICBitmapFrameDecode>(
         [&](IWICBitmapFrameDecode** out) { return decoder->GetFrame(0, out); });
-    if (!frame) {
-        return {};
-    }
-    const auto converted = obtained<IWICBitmapSource>([&](IWICBitmapSource** out) {
-        return WICConvertBitmapSource(GUID_WICPixelFormat32bppPBGRA, frame.get(), out);
-    });
-    return converted ? pixelsOfSource(*converted) : Pixmap{};
+    const auto converter = obtained<IWICFormatConverter>(
+        [&](IWICFormatConverter** out) { return imaging_->CreateFormatConverter(out); });
+    const bool isConverted =
+        frame && converter &&
+        SUCCEEDED(converter->Initialize(frame.get(), GUID_WICPixelFormat32bppPBGRA, WICBitmapDitherTypeNone,
+                                        nullptr, 0, WICBitmapPaletteTypeCustom));
+    return isConverted ? pixelsOfSource(*converter) : Pixmap{};
 }
 
 } // namespace varrocade
