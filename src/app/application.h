@@ -2,6 +2,7 @@
 // The state of the running program: folders, mode, category, the open record, the drawing objects. It stands
 // here and nowhere else.
 
+#include "app/picture_prefetch.h"
 #include "app/undo_history.h"
 #include "app/unit_display.h"
 #include "app/weapon_users.h"
@@ -53,6 +54,7 @@ struct Application {
 
     DrawingObjects drawing;
     PictureCache pictures;
+    PicturePrefetch prefetch;
     BackupKeeper backups;
     UnitDisplay display;
 };

@@ -5,6 +5,7 @@
 #include "app/commands.h"
 #include "app/main_window.h"
 #include "app/part_selection.h"
+#include "app/picture_prefetch.h"
 #include "resources/resource.h"
 #include "view/drawing_angles.h"
 #include "view/part_positions.h"
@@ -20,6 +21,7 @@ namespace varrocade {
 namespace {
 
 constexpr char DrawingClass[] = "VARROCADEDRAWING";
+constexpr UINT_PTR PrefetchTimer = 1;
 constexpr int PartReach = 9; ///< pixels of 96 dpi that a click may miss a mark by
 
 HWND drawingWindow() {
@@ -330,6 +332,15 @@ void doubleClick(POINT pixel) {
     }
 }
 
+/// The timer's messages come only while there are no others.
+void prefetch(HWND window) {
+    if (prefetchStep()) {
+        SetTimer(window, PrefetchTimer, USER_TIMER_MINIMUM, nullptr);
+    } else {
+        KillTimer(window, PrefetchTimer);
+    }
+}
+
 LRESULT CALLBACK drawingProcedure(HWND window, UINT message, WPARAM parameter, LPARAM detail) {
     switch (message) {
     case WM_LBUTTONDOWN:
@@ -370,6 +381,9 @@ LRESULT CALLBACK drawingProcedure(HWND window, UINT message, WPARAM parameter, L
     case WM_KILLFOCUS:
         DestroyCaret();
         return 0;
+    case WM_TIMER:
+        prefetch(window);
+        return 0;
     case WM_ERASEBKGND:
         return 1;
     case WM_PAINT:
@@ -394,6 +408,13 @@ void redrawDrawing() {
     shown().isDrawingStale = true;
     InvalidateRect(drawingWindow(), nullptr, FALSE);
     UpdateWindow(drawingWindow());
+}
+
+void prefetchNeighbours() {
+    // Whoever holds an arrow key down is not kept waiting.
+    constexpr UINT rest = 150;
+    startPrefetch();
+    SetTimer(drawingWindow(), PrefetchTimer, rest, nullptr);
 }
 
 void resetView() {

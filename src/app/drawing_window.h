@@ -11,6 +11,9 @@ HWND createDrawingWindow(HWND parent);
 /// Paints the drawing at once.
 void redrawDrawing();
 
+/// Decodes the pictures of the selected entry's neighbours, a while later.
+void prefetchNeighbours();
+
 /// Shows the whole unit again, every turret at its rest.
 void resetView();
 

@@ -178,6 +178,20 @@ std::string selectedEntry() {
     return entryText(list, SendMessageA(list, LB_GETCURSEL, 0, 0));
 }
 
+std::vector<std::string> neighbouringEntries() {
+    HWND list = listWindow();
+    const LRESULT selected = SendMessageA(list, LB_GETCURSEL, 0, 0);
+    const LRESULT count = SendMessageA(list, LB_GETCOUNT, 0, 0);
+    std::vector<std::string> names;
+    if (selected > 0) {
+        names.push_back(entryText(list, selected - 1));
+    }
+    if (selected >= 0 && selected + 1 < count) {
+        names.push_back(entryText(list, selected + 1));
+    }
+    return names;
+}
+
 std::vector<std::string> listedEntries() {
     HWND list = listWindow();
     const LRESULT count = SendMessageA(list, LB_GETCOUNT, 0, 0);

@@ -23,6 +23,9 @@ bool selectEntry(const std::string& name);
 /// The name of the selected entry, or empty.
 std::string selectedEntry();
 
+/// The entries before and after the selected one, as far as they are there.
+std::vector<std::string> neighbouringEntries();
+
 /// The names that the list shows, from top to bottom.
 std::vector<std::string> listedEntries();
 

@@ -315,6 +315,7 @@ void showOpenRecord() {
     displayChanged();
     updateButtons();
     redrawNow();
+    prefetchNeighbours();
 }
 
 void displayChanged() {

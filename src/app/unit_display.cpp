@@ -6,8 +6,38 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace varrocade {
+
+namespace {
+
+DrawOptions drawOptions(std::vector<double> turns) {
+    const Application& app = application();
+    return {.bases = imageBases(),
+            .showDestroyed = app.showDestroyed,
+            .showMarks = app.showMarks,
+            .turns = std::move(turns)};
+}
+
+} // namespace
+
+DrawList drawingOf(const SquadRecord& unit, const std::vector<double>& turns) {
+    Application& app = application();
+    const DrawOptions options = drawOptions(turns);
+    DrawList drawing;
+    if (unit.vehicle) {
+        drawing = drawVehicle(*unit.vehicle, options, app.pictures);
+    } else if (unit.heavyWeapon) {
+        drawing = drawHeavyWeapon(*unit.heavyWeapon, options, app.pictures);
+    } else if (unit.aircraft) {
+        drawing = drawAircraft(*unit.aircraft, options, app.pictures);
+    }
+    if (!unit.infantrymen.empty()) {
+        addMen(drawing, unit, app.catalogue, options, app.pictures);
+    }
+    return drawing;
+}
 
 namespace {
 
@@ -17,28 +47,14 @@ void composeDrawing(UnitDisplay& display) {
     display.drawingCanvas.isPainted = false;
     display.drawing = {};
     display.hasDrawing = false;
-    const DrawOptions options{.bases = imageBases(),
-                              .showDestroyed = app.showDestroyed,
-                              .showMarks = app.showMarks,
-                              .turns = display.turns};
     if (app.openWeapon) {
         display.hasDrawing = true;
-        display.drawing = drawWeapon(*app.openWeapon, options, app.pictures);
+        display.drawing = drawWeapon(*app.openWeapon, drawOptions({}), app.pictures);
     }
-    if (!app.openUnit) {
-        return;
-    }
-    const SquadRecord& unit = *app.openUnit;
-    display.hasDrawing = unit.vehicle || unit.heavyWeapon || unit.aircraft || !unit.infantrymen.empty();
-    if (unit.vehicle) {
-        display.drawing = drawVehicle(*unit.vehicle, options, app.pictures);
-    } else if (unit.heavyWeapon) {
-        display.drawing = drawHeavyWeapon(*unit.heavyWeapon, options, app.pictures);
-    } else if (unit.aircraft) {
-        display.drawing = drawAircraft(*unit.aircraft, options, app.pictures);
-    }
-    if (!unit.infantrymen.empty()) {
-        addMen(display.drawing, unit, app.catalogue, options, app.pictures);
+    if (app.openUnit) {
+        const SquadRecord& unit = *app.openUnit;
+        display.hasDrawing = unit.vehicle || unit.heavyWeapon || unit.aircraft || !unit.infantrymen.empty();
+        display.drawing = drawingOf(unit, display.turns);
     }
 }
 

@@ -51,6 +51,9 @@ struct UnitDisplay {
     std::optional<Drag> drag;
 };
 
+/// The drawing of a unit as the present options show it; `turns` as in `UnitDisplay`.
+DrawList drawingOf(const SquadRecord& unit, const std::vector<double>& turns);
+
 /// Paints the drawing into the whole of its window.
 void paintUnit(HDC device, const RECT& client);
 
