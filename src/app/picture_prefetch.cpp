@@ -10,16 +10,18 @@ namespace varrocade {
 
 namespace {
 
-void addPictures(const std::string& name, std::vector<std::string>& pictures) {
+void addPictures(const std::string& name) {
     Application& app = application();
     Diagnostics diagnostics;
     const auto unit = readUnitFile(dataFilePath(baseFolder(), app.category, name), name, diagnostics);
     if (!unit) {
         return;
     }
-    for (DrawItem& item : drawingOf(*unit, {}).items) {
+    DrawList drawing = drawingOf(*unit, {});
+    app.prefetch.fit = wholeFit(drawing, app.display.drawingCanvas.size);
+    for (DrawItem& item : drawing.items) {
         if (auto* picture = std::get_if<PictureItem>(&item)) {
-            pictures.push_back(std::move(picture->path));
+            app.prefetch.pictures.push_back(std::move(*picture));
         }
     }
 }
@@ -38,14 +40,15 @@ bool prefetchStep() {
     Application& app = application();
     PicturePrefetch& prefetch = app.prefetch;
     if (!prefetch.pictures.empty()) {
-        app.pictures.pixels(prefetch.pictures.back());
+        const SIZE size = app.display.drawingCanvas.size;
+        preparePicture(prefetch.pictures.back(), {0, 0, size.cx, size.cy}, prefetch.fit, app.pictures);
         prefetch.pictures.pop_back();
         return true;
     }
     if (prefetch.units.empty()) {
         return false;
     }
-    addPictures(prefetch.units.back(), prefetch.pictures);
+    addPictures(prefetch.units.back());
     prefetch.units.pop_back();
     return true;
 }

@@ -1,6 +1,9 @@
 #pragma once
-// Decodes the pictures of the units beside the selected one while the window has nothing else to do: going
-// through the list with the arrow keys then paints at once.
+// Decodes and places the pictures of the units beside the selected one while the window has nothing else to
+// do: going through the list with the arrow keys then paints at once.
+
+#include "view/draw_list.h"
+#include "view/view_place.h"
 
 #include <string>
 #include <vector>
@@ -9,7 +12,8 @@ namespace varrocade {
 
 struct PicturePrefetch {
     std::vector<std::string> units;    ///< whose files are still to be looked at
-    std::vector<std::string> pictures; ///< still to be decoded
+    std::vector<PictureItem> pictures; ///< of one of them, still to be decoded
+    Fit fit;                           ///< how it will be shown
 };
 
 /// Takes the neighbours of the selected entry for the next ones to be shown.

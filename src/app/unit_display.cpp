@@ -39,6 +39,12 @@ DrawList drawingOf(const SquadRecord& unit, const std::vector<double>& turns) {
     return drawing;
 }
 
+Fit wholeFit(const DrawList& drawing, SIZE size) {
+    const Application& app = application();
+    return fitInto(drawing, size.cx, size.cy - app.drawing.scaled(ScaleHeight),
+                   app.drawing.scaled(DrawingMargin), app.openWeapon ? GreatestScale : GreatestFittedScale);
+}
+
 namespace {
 
 void composeDrawing(UnitDisplay& display) {
@@ -117,9 +123,7 @@ void paintUnit(HDC device, const RECT& client) {
     HDC memory = deviceOf(display.drawingCanvas, device, size);
     if (!display.drawingCanvas.isPainted) {
         display.drawingCanvas.isPainted = true;
-        display.shownFit = display.ownFit.value_or(
-            fitInto(display.drawing, size.cx, size.cy - app.drawing.scaled(ScaleHeight),
-                    app.drawing.scaled(DrawingMargin), app.openWeapon ? GreatestScale : GreatestFittedScale));
+        display.shownFit = display.ownFit.value_or(wholeFit(display.drawing, size));
         if (display.hasDrawing) {
             const DrawingView view{.fit = display.shownFit,
                                    .selected = display.selected,

@@ -54,6 +54,9 @@ struct UnitDisplay {
 /// The drawing of a unit as the present options show it; `turns` as in `UnitDisplay`.
 DrawList drawingOf(const SquadRecord& unit, const std::vector<double>& turns);
 
+/// How a drawing that the user has not zoomed is shown in a window of this size.
+Fit wholeFit(const DrawList& drawing, SIZE size);
+
 /// Paints the drawing into the whole of its window.
 void paintUnit(HDC device, const RECT& client);
 

@@ -34,6 +34,22 @@ HPEN penOf(const DrawingObjects& objects, Ink ink) {
     return objects.bluePen.get();
 }
 
+POINT centreOf(const PictureItem& item, const RECT& area, const Fit& fit) {
+    return {std::lround(area.left + fit.screenX(item.centre.x)),
+            std::lround(area.top + fit.screenY(item.centre.y))};
+}
+
+/// A picture as it is shown, so far as it lies in the area.
+const PlacedBitmap* placedPicture(const PictureItem& item, const RECT& area, const Fit& fit,
+                                  PictureCache& pictures) {
+    const POINT centre = centreOf(item, area, fit);
+    const PixelBox visible{area.left - centre.x, area.top - centre.y, area.right - area.left,
+                           area.bottom - area.top};
+    const PixmapPlacement placement{
+        .width = fit.length(item.width), .height = fit.length(item.height), .angle = item.angle};
+    return pictures.placed(item.path, placement, visible);
+}
+
 /// One drawing on one device, through GDI.
 class DrawingPainter {
 public:
@@ -74,14 +90,9 @@ public:
                                     item.angle, false, item.part});
             return;
         }
-        const int centreX = rounded(x(item.centre));
-        const int centreY = rounded(y(item.centre));
-        const PixelBox visible{area_.left - centreX, area_.top - centreY, area_.right - area_.left,
-                               area_.bottom - area_.top};
-        const PixmapPlacement placement{
-            .width = fit_.length(item.width), .height = fit_.length(item.height), .angle = item.angle};
-        if (const PlacedBitmap* placed = pictures_.placed(item.path, placement, visible)) {
-            blend(device_, centreX, centreY, *placed);
+        const POINT centre = centreOf(item, area_, fit_);
+        if (const PlacedBitmap* placed = placedPicture(item, area_, fit_, pictures_)) {
+            blend(device_, centre.x, centre.y, *placed);
         }
     }
 
@@ -397,6 +408,10 @@ HDC deviceOf(Canvas& canvas, HDC screen, SIZE size) {
         canvas.isPainted = false;
     }
     return canvas.bitmap->device();
+}
+
+void preparePicture(const PictureItem& item, const RECT& area, const Fit& fit, PictureCache& pictures) {
+    placedPicture(item, area, fit, pictures);
 }
 
 void paintDrawing(HDC device, const RECT& area, const DrawList& list, const DrawingView& view,

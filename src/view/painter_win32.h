@@ -51,6 +51,9 @@ inline constexpr int ScaleHeight = 12;
 void paintDrawing(HDC device, const RECT& area, const DrawList& list, const DrawingView& view,
                   const DrawingObjects& objects, PictureCache& pictures);
 
+/// Decodes and places a picture of a drawing, so that painting it into `area` finds that done.
+void preparePicture(const PictureItem& item, const RECT& area, const Fit& fit, PictureCache& pictures);
+
 /// Where flags come from.
 struct SheetOptions {
     std::vector<std::string> bases;
