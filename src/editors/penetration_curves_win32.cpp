@@ -37,8 +37,7 @@ struct ChartPlaces {
     RECT legend{};
     int rows = 1; ///< of the legend, below its head
     int columns = 1;
-    double top = 1;  ///< millimetres at the plot's upper edge
-    double step = 1; ///< millimetres between two lines of the axis
+    ChartAxis axis;
 
     [[nodiscard]] int x(int range) const {
         return plot.left + MulDiv(range, plot.right - plot.left, CurveEnd);
@@ -49,7 +48,7 @@ struct ChartPlaces {
     }
     [[nodiscard]] int y(double value) const {
         const double share =
-            std::isfinite(value) ? std::clamp(value / top, 0.0, 1.0) : (value > 0 ? 1.0 : 0.0);
+            std::isfinite(value) ? std::clamp(value / axis.top(), 0.0, 1.0) : (value > 0 ? 1.0 : 0.0);
         return plot.bottom - static_cast<int>(std::lround(share * (plot.bottom - plot.top)));
     }
 };
@@ -76,9 +75,7 @@ ChartPlaces placesOf(const RECT& area, const PenetrationChart& chart, const Draw
                      area.bottom - margin / 2};
     places.plot = {area.left + drawing.scaled(LeftMargin), area.top + 2 * margin, area.right - 2 * margin,
                    places.legend.top - drawing.scaled(AxisText) - margin / 2};
-    const double greatest = greatestValue(chart);
-    places.step = chartStep(greatest, MostSteps);
-    places.top = std::ceil(greatest / places.step) * places.step;
+    places.axis = chartAxis(greatestValue(chart), MostSteps);
     return places;
 }
 
@@ -112,8 +109,8 @@ void paintAxes(HDC device, const ChartPlaces& places, const DrawingObjects& draw
                   {x - 3 * half, places.plot.bottom + 2, x + 3 * half, places.plot.bottom + 2 + 2 * half},
                   grouped(range) + (range == CurveEnd ? " m" : ""), DT_CENTER);
     }
-    for (int line = 0; line * places.step <= places.top; ++line) {
-        const double value = line * places.step;
+    for (int line = 0; line <= places.axis.steps; ++line) {
+        const double value = line * places.axis.step;
         const int y = places.y(value);
         MoveToEx(device, places.plot.left, y, nullptr);
         LineTo(device, places.plot.right, y);

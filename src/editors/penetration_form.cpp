@@ -116,15 +116,16 @@ void showPenetration(FormPort& port, const WeaponRecord* weapon, std::size_t she
     }
 }
 
-double chartStep(double greatest, int mostSteps) {
-    const double least = greatest / mostSteps;
+ChartAxis chartAxis(double greatest, int mostSteps) {
+    constexpr double kilometre = 1e6;
+    const double reached = std::min(greatest, kilometre);
+    const double least = reached / mostSteps;
     const double power = std::pow(10.0, std::floor(std::log10(least)));
-    for (const double factor : {1.0, 2.0, 5.0}) {
-        if (factor * power >= least) {
-            return factor * power;
-        }
+    double step = 10 * power;
+    for (const double factor : {5.0, 2.0, 1.0}) {
+        step = factor * power >= least ? factor * power : step;
     }
-    return 10 * power;
+    return {.step = step, .steps = static_cast<int>(std::ceil(reached / step))};
 }
 
 std::string weaponFileNote(const WeaponCatalogue& catalogue, std::size_t weapon) {

@@ -214,13 +214,13 @@ void WeaponCatalogue::addFolder(const std::string& folder, Reading& reading) {
     }
     entries_.reserve(entries_.size() + diskNames.size());
     for (const std::string& diskName : diskNames) {
-        // A folder may hold names that differ in letter case only, where the system lets it.
-        const bool isNew = !present.contains(loweredText(withoutEnding(diskName)));
-        if (isNew) {
-            addFile(folder, diskName, reading);
+        std::string key = loweredText(withoutEnding(diskName));
+        if (present.contains(key)) {
+            continue;
         }
-        if (isNew && entries_.back().holdsWeapon) {
-            present.insert(loweredText(withoutEnding(diskName)));
+        addFile(folder, diskName, reading);
+        if (entries_.back().holdsWeapon) {
+            present.insert(std::move(key));
         }
     }
 }

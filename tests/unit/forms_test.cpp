@@ -328,10 +328,16 @@ TEST(WeaponChoices, FollowTheUnitsNationAndTime) {
     EXPECT_EQ(ammunitionWarning(smoke, {}, catalogue), "This ammunition is for a weapon that is not there.");
 }
 
-TEST(PenetrationForm, StepsOfAnAxisAreRound) {
-    for (const auto& [greatest, step] : std::map<double, double>{
-             {0.5, 0.1}, {1, 0.2}, {6, 1}, {6.1, 2}, {152, 50}, {200, 50}, {301, 100}, {1e9, 2e8}}) {
-        EXPECT_DOUBLE_EQ(chartStep(greatest, 6), step) << greatest;
+TEST(PenetrationForm, StepsOfAnAxisAreRoundAndFew) {
+    for (const auto& [greatest, expected] : std::map<double, std::pair<double, int>>{{0.5, {0.1, 5}},
+                                                                                     {6, {1, 6}},
+                                                                                     {6.1, {2, 4}},
+                                                                                     {152, {50, 4}},
+                                                                                     {301, {100, 4}},
+                                                                                     {1.7e308, {2e5, 5}}}) {
+        const ChartAxis axis = chartAxis(greatest, 6);
+        EXPECT_DOUBLE_EQ(axis.step, expected.first) << greatest;
+        EXPECT_EQ(axis.steps, expected.second) << greatest;
     }
 }
 
