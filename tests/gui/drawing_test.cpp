@@ -291,12 +291,18 @@ TEST_F(DrawingTest, TheMouseOpensTheEditorOfWhatItPointsAt) {
         POINT place = gun;
         MapWindowPoints(drawing.handle(), nullptr, &place, 1);
         drawing.post(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(drawing.handle()), at(place));
-        HWND menu = nullptr;
+        // A menu is in sight before it takes keys: one that is still there after a while is asked again.
+        constexpr ULONGLONG patience = 300;
+        ULONGLONG asked = 0;
         EXPECT_TRUE(eventually([&] {
-            menu = FindWindowW(L"#32768", nullptr);
-            return menu != nullptr && IsWindowVisible(menu) != FALSE;
+            HWND menu = FindWindowW(L"#32768", nullptr);
+            const bool isThere = menu != nullptr && IsWindowVisible(menu) != FALSE;
+            if (isThere && GetTickCount64() >= asked + patience) {
+                asked = GetTickCount64();
+                Window(menu).pressKey('E');
+            }
+            return asked != 0 && !isThere;
         }));
-        Window(menu).pressKey('E');
     };
     for (const std::function<void()>& open : {std::function<void()>(doubleClick), {chooseFromMenu}}) {
         selectPart("Exhaust pipe 2");
