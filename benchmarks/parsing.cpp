@@ -1,6 +1,6 @@
 #include "benchmarks.h"
 #include "corpus.h"
-#include "data/tag_tree.h"
+#include "data/format/tag_tree.h"
 
 #include <benchmark/benchmark.h>
 #include <pugixml.hpp>

@@ -2,8 +2,8 @@
 
 #include "benchmarks.h"
 #include "corpus.h"
-#include "data/unit_reader.h"
-#include "data/unit_writers.h"
+#include "data/unit/unit_reader.h"
+#include "data/unit/unit_writers.h"
 #include "platform/safe_save.h"
 #include "weapons/weapon_files.h"
 

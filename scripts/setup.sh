@@ -13,7 +13,7 @@ readonly ProgramPackages=("${BuildPackages[@]}" g++-mingw-w64-x86-64-posix mingw
 readonly BenchPackages=("${BuildPackages[@]}" g++ libbenchmark-dev libpugixml-dev)
 readonly SamplePackages=("${BuildPackages[@]}" g++ pkg-config libcairo2-dev)
 # shellcheck disable=SC2034 # used where this file is sourced
-readonly TestPackages=("${ProgramPackages[@]}" "${BenchPackages[@]}" "${SamplePackages[@]}"
+readonly TestPackages=("${ProgramPackages[@]}" "${BenchPackages[@]}"
     git googletest clang clang-tidy clang-format libclang-rt-14-dev)
 
 export WINEPREFIX=$BuildRoot/wine WINEARCH=win64 WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml="
@@ -101,7 +101,8 @@ stopWine() {
     fi
 }
 
-# projectFiles PATTERN...: the project's own files of these names, NUL-terminated, relative to its root.
+# projectFiles PATTERN...: the project's own files of these names, NUL-terminated, relative to its root. The makers of the
+# sample are left to themselves: they are run once in a while, and nothing of the program depends on them.
 projectFiles() {
     local file
     cd "$ProjectRoot" || return
@@ -109,5 +110,5 @@ projectFiles() {
         if [ -f "$file" ]; then
             printf '%s\0' "$file"
         fi
-    done < <(git -c safe.directory='*' ls-files -z --cached --others --exclude-standard --deduplicate -- "$@")
+    done < <(git -c safe.directory='*' ls-files -z --cached --others --exclude-standard --deduplicate -- "$@" ':!sample/makers')
 }

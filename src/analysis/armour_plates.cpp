@@ -1,6 +1,6 @@
 #include "analysis/armour_plates.h"
 
-#include "data/elements.h"
+#include "data/unit/elements.h"
 
 #include <array>
 

@@ -1,7 +1,7 @@
 #pragma once
 // The plates that a shot can meet on a vehicle.
 
-#include "data/unit_record.h"
+#include "data/unit/unit_record.h"
 
 #include <cstddef>
 #include <string_view>

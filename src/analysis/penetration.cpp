@@ -1,6 +1,6 @@
 #include "analysis/penetration.h"
 
-#include "data/numbers.h"
+#include "data/format/numbers.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,5 +1,5 @@
 #include "cli/command_line.h"
-#include "data/tag_tree.h"
+#include "data/format/tag_tree.h"
 #include "platform/file_operations.h"
 
 #include <cstdio>

@@ -1,8 +1,8 @@
 #include "mod/mod_settings.h"
 
-#include "data/file_text.h"
-#include "data/numbers.h"
-#include "data/tag_tree.h"
+#include "data/format/file_text.h"
+#include "data/format/numbers.h"
+#include "data/format/tag_tree.h"
 
 namespace varrocade {
 

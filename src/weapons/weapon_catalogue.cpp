@@ -1,8 +1,9 @@
 #include "weapons/weapon_catalogue.h"
 
 #include "data/category.h"
-#include "data/enumerations.h"
-#include "data/image_names.h"
+#include "data/format/texts.h"
+#include "data/unit/enumerations.h"
+#include "data/unit/image_names.h"
 #include "weapons/weapon_files.h"
 
 #include <algorithm>
@@ -13,16 +14,6 @@
 namespace varrocade {
 
 namespace {
-
-char lowered(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
-std::string loweredText(std::string_view text) {
-    std::string result(text);
-    std::transform(result.begin(), result.end(), result.begin(), lowered);
-    return result;
-}
 
 /// Identifiers and words for people compare alike: "NORTH_KOREAN" and "North Korean".
 char folded(char c) {
@@ -84,14 +75,6 @@ bool isUntouched(const WeaponRecord& weapon) {
     WeaponRecord untouched;
     untouched.fileName = weapon.fileName;
     return weapon == untouched;
-}
-
-constexpr std::string_view Blanks = " \t";
-
-std::string_view trimmed(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(Blanks);
-    return first == std::string_view::npos ? std::string_view()
-                                           : text.substr(first, text.find_last_not_of(Blanks) - first + 1);
 }
 
 /// The forms of nationalities in old files, and the ones that stand for the same nation today.

@@ -1,9 +1,9 @@
 #pragma once
 // Reading and writing weapon files.
 
-#include "data/tag_tree.h"
-#include "data/unit_reader.h"
-#include "data/unit_writers.h"
+#include "data/format/tag_tree.h"
+#include "data/unit/unit_reader.h"
+#include "data/unit/unit_writers.h"
 #include "weapons/weapon_record.h"
 
 #include <optional>

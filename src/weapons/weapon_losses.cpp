@@ -1,6 +1,6 @@
 #include "weapons/weapon_losses.h"
 
-#include "data/loss_finder.h"
+#include "data/losses/loss_finder.h"
 #include "weapons/weapon_files.h"
 #include "weapons/weapon_rules.h"
 

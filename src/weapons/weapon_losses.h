@@ -1,7 +1,7 @@
 #pragma once
 // What saving a weapon file anew would lose, as `unitSaveLosses` tells it of units.
 
-#include "data/save_losses.h"
+#include "data/losses/save_losses.h"
 
 #include <string_view>
 #include <vector>

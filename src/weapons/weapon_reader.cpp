@@ -1,5 +1,5 @@
-#include "data/image_names.h"
-#include "data/numbers.h"
+#include "data/format/numbers.h"
+#include "data/unit/image_names.h"
 #include "platform/file_operations.h"
 #include "platform/messages.h"
 #include "weapons/weapon_elements.h"

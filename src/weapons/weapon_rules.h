@@ -1,8 +1,8 @@
 #pragma once
 // The weapon reader's walk over a tree, for those who ask what became of each element.
 
-#include "data/reading_trace.h"
-#include "data/tag_tree.h"
+#include "data/format/tag_tree.h"
+#include "data/losses/reading_trace.h"
 #include "weapons/weapon_files.h"
 
 #include <string>

@@ -1,6 +1,6 @@
 // The layout of weapon files, top to bottom.
 
-#include "data/file_text.h"
+#include "data/format/file_text.h"
 #include "platform/messages.h"
 #include "weapons/weapon_elements.h"
 #include "weapons/weapon_files.h"

@@ -1,14 +1,14 @@
 // Reads any bytes as a unit and as a weapon, composes what the window shows of them, and moves every part
 // that can be moved: whatever a file says, it can be looked at.
 
-#include "data/unit_reader.h"
+#include "data/unit/unit_reader.h"
 #include "round_trip.h"
-#include "view/data_sheet.h"
-#include "view/draw_list.h"
-#include "view/part_positions.h"
-#include "view/plate_outline.h"
-#include "view/timeline.h"
-#include "view/view_place.h"
+#include "view/drawing/draw_list.h"
+#include "view/drawing/part_positions.h"
+#include "view/drawing/plate_outline.h"
+#include "view/drawing/view_place.h"
+#include "view/sheet/data_sheet.h"
+#include "view/sheet/timeline.h"
 #include "weapons/weapon_files.h"
 
 #include <cmath>

@@ -1,7 +1,7 @@
 #pragma once
 // What the fuzz targets of the readers and writers share.
 
-#include "data/tag_tree.h"
+#include "data/format/tag_tree.h"
 
 #include <algorithm>
 #include <cstdio>

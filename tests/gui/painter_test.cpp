@@ -3,8 +3,8 @@
 #include "temp_game.h"
 #include "windows_driver.h"
 
-#include "view/drawing_angles.h"
-#include "view/painter_win32.h"
+#include "view/drawing/drawing_angles.h"
+#include "view/painting/painter_win32.h"
 
 #include <gtest/gtest.h>
 

@@ -1,13 +1,13 @@
 // What the program decides without its window.
 
-#include "app/file_names.h"
-#include "app/name_filter.h"
-#include "app/options_file.h"
-#include "app/positions.h"
-#include "app/undo_history.h"
-#include "app/weapon_users.h"
-#include "app/window_layout.h"
-#include "data/unit_writers.h"
+#include "app/workspace/file_names.h"
+#include "app/workspace/name_filter.h"
+#include "app/workspace/options_file.h"
+#include "app/workspace/positions.h"
+#include "app/workspace/undo_history.h"
+#include "app/workspace/weapon_users.h"
+#include "app/workspace/window_layout.h"
+#include "data/unit/unit_writers.h"
 #include "mod/mod_settings.h"
 #include "test_support.h"
 

@@ -1,9 +1,9 @@
 // Working in the drawing: what lies where, moving it, looking at it closer.
 
-#include "view/component_places.h"
-#include "view/drawing_angles.h"
-#include "view/part_positions.h"
-#include "view/view_place.h"
+#include "view/drawing/component_places.h"
+#include "view/drawing/drawing_angles.h"
+#include "view/drawing/part_positions.h"
+#include "view/drawing/view_place.h"
 #include "view_support.h"
 
 #include <gtest/gtest.h>

@@ -1,9 +1,9 @@
-#include "data/enumerations.h"
+#include "data/unit/enumerations.h"
 
-#include "data/engine_table.h"
-#include "data/fixed_string.h"
-#include "data/image_names.h"
-#include "data/unit_record.h"
+#include "data/format/fixed_string.h"
+#include "data/unit/engine_table.h"
+#include "data/unit/image_names.h"
+#include "data/unit/unit_record.h"
 
 #include <algorithm>
 #include <set>

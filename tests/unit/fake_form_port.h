@@ -1,6 +1,6 @@
 #pragma once
 
-#include "editors/form.h"
+#include "editors/form/form.h"
 
 #include <algorithm>
 #include <map>

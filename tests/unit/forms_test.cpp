@@ -1,13 +1,13 @@
 // The dialogs' forms, driven without windows.
 
-#include "editors/armour_form.h"
-#include "editors/component_form.h"
-#include "editors/component_list.h"
-#include "editors/drive_form.h"
-#include "editors/penetration_form.h"
-#include "editors/unit_lists.h"
-#include "editors/vehicle_form.h"
-#include "editors/weapon_choices.h"
+#include "editors/penetration/penetration_form.h"
+#include "editors/unit/unit_lists.h"
+#include "editors/unit/weapon_choices.h"
+#include "editors/vehicle/armour_form.h"
+#include "editors/vehicle/component_form.h"
+#include "editors/vehicle/component_list.h"
+#include "editors/vehicle/drive_form.h"
+#include "editors/vehicle/vehicle_form.h"
 #include "fake_form_port.h"
 #include "resources/resource.h"
 

@@ -1,4 +1,4 @@
-#include "data/numbers.h"
+#include "data/format/numbers.h"
 
 #include <cstdint>
 #include <limits>

@@ -1,6 +1,6 @@
 // Stretching and turning of pictures, compared pixel by pixel with a tolerance.
 
-#include "view/pixmap.h"
+#include "view/painting/pixmap.h"
 
 #include <gtest/gtest.h>
 

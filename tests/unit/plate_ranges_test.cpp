@@ -1,9 +1,9 @@
 // What goes through the plates of a vehicle, as a table and as an outline.
 
 #include "analysis/plate_ranges.h"
-#include "editors/can_penetrate_form.h"
+#include "editors/penetration/can_penetrate_form.h"
 #include "test_support.h"
-#include "view/plate_outline.h"
+#include "view/drawing/plate_outline.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // Saving: whatever fails, the old file is still there, whole.
 
-#include "data/unit_writers.h"
+#include "data/unit/unit_writers.h"
 #include "platform/safe_save.h"
 #include "test_support.h"
 #include "weapons/weapon_files.h"

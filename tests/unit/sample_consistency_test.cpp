@@ -1,8 +1,8 @@
 // The sample game holds everything that its files name.
 
-#include "data/enumerations.h"
-#include "data/image_names.h"
-#include "data/tag_tree.h"
+#include "data/format/tag_tree.h"
+#include "data/unit/enumerations.h"
+#include "data/unit/image_names.h"
 #include "platform/file_operations.h"
 #include "test_support.h"
 #include "weapons/weapon_catalogue.h"

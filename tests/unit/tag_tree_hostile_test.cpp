@@ -1,6 +1,6 @@
 // Files that no editor wrote: none may crash a reader, overflow the stack or take for ever.
 
-#include "data/tag_tree.h"
+#include "data/format/tag_tree.h"
 #include "tag_tree_model.h"
 #include "test_support.h"
 

@@ -2,7 +2,7 @@
 // The tagged text as plainly as it can be parsed, to compare the real parser with: one line after the other,
 // one recursive call an element.
 
-#include "data/tag_tree.h"
+#include "data/format/tag_tree.h"
 
 #include <string>
 #include <string_view>

@@ -1,4 +1,4 @@
-#include "data/tag_tree.h"
+#include "data/format/tag_tree.h"
 
 #include "tag_tree_model.h"
 #include "test_support.h"

@@ -1,6 +1,6 @@
 #include "test_support.h"
 
-#include "data/unit_writers.h"
+#include "data/unit/unit_writers.h"
 #include "platform/file_operations.h"
 #include "weapons/weapon_files.h"
 

@@ -2,7 +2,7 @@
 // What the tests share: texts and folders, recorded message boxes, the sample's files.
 
 #include "data/category.h"
-#include "data/unit_reader.h"
+#include "data/unit/unit_reader.h"
 #include "platform/messages.h"
 #include "weapons/weapon_record.h"
 

@@ -1,6 +1,6 @@
 // What a unit file holds beyond what its record can take, and what is said about it.
 
-#include "data/unit_reader.h"
+#include "data/unit/unit_reader.h"
 #include "platform/messages.h"
 #include "test_support.h"
 

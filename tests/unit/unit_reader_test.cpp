@@ -1,6 +1,6 @@
-#include "data/unit_reader.h"
+#include "data/unit/unit_reader.h"
 
-#include "data/enumerations.h"
+#include "data/unit/enumerations.h"
 #include "test_support.h"
 
 #include <utility>

@@ -1,7 +1,7 @@
 #pragma once
 // Pictures that exist in a test only, and what a drawing holds.
 
-#include "view/draw_list.h"
+#include "view/drawing/draw_list.h"
 
 #include <map>
 #include <optional>

@@ -1,10 +1,10 @@
 // What the drawing, the timeline and the data sheet consist of, without a device.
 
-#include "data/unit_reader.h"
+#include "data/unit/unit_reader.h"
 #include "test_support.h"
-#include "view/data_sheet.h"
-#include "view/timeline.h"
-#include "view/weapon_shapes.h"
+#include "view/drawing/weapon_shapes.h"
+#include "view/sheet/data_sheet.h"
+#include "view/sheet/timeline.h"
 #include "view_support.h"
 
 #include <gtest/gtest.h>

@@ -1,0 +1,247 @@
+#include "app/commands/commands.h"
+
+#include "app/commands/file_commands.h"
+#include "app/commands/game_folder.h"
+#include "app/commands/mod_mode.h"
+#include "app/commands/open_record.h"
+#include "app/commands/stubs.h"
+#include "app/commands/weapon_problems.h"
+#include "app/windows/application.h"
+#include "app/windows/drawing_window.h"
+#include "app/windows/file_list.h"
+#include "app/windows/main_window.h"
+#include "app/windows/part_selection.h"
+#include "editors/form/form_port_win32.h"
+#include "editors/penetration/penetration_dialog.h"
+#include "editors/penetration/penetration_form.h"
+#include "resources/resource.h"
+
+#include <algorithm>
+#include <array>
+#include <string>
+
+namespace varrocade {
+
+namespace {
+
+struct Command {
+    int id;
+    void (*run)();
+    bool (*isEnabled)();
+};
+
+bool always() {
+    return true;
+}
+
+bool inModMode() {
+    return application().modMode;
+}
+
+bool isVehicleOpen() {
+    return application().category == Category::Vehicles && application().openUnit.has_value();
+}
+
+bool canDuplicate() {
+    return isRecordOpen() && !application().fileNames.empty();
+}
+
+/// The open record's file is the one that is selected in the list.
+bool isSelectionOpen() {
+    return isRecordOpen() && !selectedEntry().empty();
+}
+
+bool canUndo() {
+    return application().openUnit && application().history.canUndo();
+}
+
+bool canRedo() {
+    return application().openUnit && application().history.canRedo();
+}
+
+bool hasWeaponProblems() {
+    return !application().catalogue.problems().empty();
+}
+
+bool canSave() {
+    const Application& app = application();
+    return isUnitModified() || app.weaponPosChanged || app.exhaustPosChanged;
+}
+
+void saveRecord() {
+    saveOpenRecord();
+    redrawSelectedEntry();
+}
+
+void exitProgram() {
+    SendMessageA(application().window, WM_CLOSE, 0, 0);
+}
+
+void toggleDestroyed() {
+    Application& app = application();
+    app.showDestroyed = !app.showDestroyed;
+    CheckMenuItem(app.menu, IDM_SHOW_DESTROYED,
+                  MF_BYCOMMAND | (app.showDestroyed ? MF_CHECKED : MF_UNCHECKED));
+    displayChanged();
+    redrawNow();
+}
+
+void toggleMarks() {
+    Application& app = application();
+    app.showMarks = !app.showMarks;
+    displayChanged();
+    redrawNow();
+}
+
+void putBack() {
+    putPartBack();
+}
+
+bool hasDrawing() {
+    return application().display.hasDrawing;
+}
+
+void findInList() {
+    HWND filter = GetDlgItem(application().window, IDC_FILTER);
+    SetFocus(filter);
+    SendMessageA(filter, EM_SETSEL, 0, -1);
+}
+
+void refreshFiles() {
+    application().pictures.clear();
+    loadCatalogue();
+    SendMessageA(application().window, RefreshListMessage, 0, 0);
+    updateButtons();
+    if (isSelectionOpen()) {
+        reopenIfChanged();
+    }
+    displayChanged();
+    redrawNow();
+}
+
+INT_PTR CALLBACK aboutProcedure(HWND dialog, UINT message, WPARAM parameter, LPARAM) {
+    if (message == WM_COMMAND && (LOWORD(parameter) == IDOK || LOWORD(parameter) == IDCANCEL)) {
+        EndDialog(dialog, 0);
+        return TRUE;
+    }
+    return message == WM_INITDIALOG ? TRUE : FALSE;
+}
+
+PenetrationTools penetrationTools() {
+    const Application& app = application();
+    return {.catalogue = app.catalogue,
+            .drawing = app.drawing,
+            .vehicleBases = imageBases(),
+            .openUnit = isVehicleOpen() ? &*app.openUnit : nullptr};
+}
+
+/// Figures that were tuned in another program count at once.
+void penetrationCalculations() {
+    loadCatalogue();
+    calculatePenetration(application().window, penetrationTools());
+}
+
+void canItPenetrate() {
+    loadCatalogue();
+    const Application& app = application();
+    askWhatPenetrates(app.window, penetrationTools(), {.weapon = firstPenetrationWeapon(app.catalogue)});
+}
+
+void showAbout() {
+    runDialog(application().window, IDD_ABOUT, aboutProcedure, nullptr);
+}
+
+template <Category Chosen>
+void choose() {
+    chooseCategory(Chosen);
+}
+
+constexpr auto Commands = std::to_array<Command>({
+    {IDC_VEHICLES, choose<Category::Vehicles>, always},
+    {IDC_AT_GUNS, choose<Category::AtGuns>, always},
+    {IDC_INFANTRY, choose<Category::Infantry>, always},
+    {IDC_AIRCRAFT, choose<Category::Aircraft>, always},
+    {IDC_WEAPONS, choose<Category::Weapons>, always},
+    {IDC_NEW, newFile, always},
+    {IDC_DUPLICATE, duplicateFile, canDuplicate},
+    {IDC_RENAME, renameFile, isSelectionOpen},
+    {IDC_DELETE, deleteFile, isSelectionOpen},
+    {IDC_EDIT_DETAILS, editOpenRecord, canEditOpenRecord},
+    {IDM_EXIT, exitProgram, always},
+    {IDM_MOD_MODE, switchModMode, always},
+    {IDM_EDIT_MOD, editModSettings, inModMode},
+    {IDM_PENETRATION, penetrationCalculations, always},
+    {IDM_CAN_PENETRATE, canItPenetrate, always},
+    {IDM_WEAPON_PROBLEMS, showWeaponProblems, hasWeaponProblems},
+    {IDM_REDUCE_IMAGES, reduceImageSizes, isVehicleOpen},
+    {IDM_GENERATE_THUMBNAILS, generateThumbnails, always},
+    {IDM_PNG_USAGE, generatePngUsage, always},
+    {IDM_SPREADSHEETS, generateSpreadsheets, always},
+    {IDM_CHECK_DUPLICATES, checkDuplicateFiles, inModMode},
+    {IDM_CHECK_UNUSED, checkUnusedFiles, inModMode},
+    {IDM_CHECK_VOICES, checkVoiceFiles, inModMode},
+    {IDM_SHOW_DESTROYED, toggleDestroyed, always},
+    {IDM_ABOUT, showAbout, always},
+    {IDM_FIND, findInList, always},
+    {IDM_REFRESH, refreshFiles, always},
+    {IDM_RENAME, renameFile, isSelectionOpen},
+    {IDM_DELETE, deleteFile, isSelectionOpen},
+    {IDM_SAVE, saveRecord, canSave},
+    {IDM_UNDO, undoChange, canUndo},
+    {IDM_REDO, redoChange, canRedo},
+    {IDM_EDIT_PART, editSelectedPart, canEditSelectedPart},
+    {IDM_PUT_BACK, putBack, always},
+    {IDM_WHOLE_UNIT, resetView, hasDrawing},
+    {IDM_SHOW_MARKS, toggleMarks, always},
+    {IDM_GAME_FOLDER, browseForGameFolder, always},
+});
+
+const Command* commandOf(int id) {
+    const auto found =
+        std::find_if(Commands.begin(), Commands.end(), [id](const Command& row) { return row.id == id; });
+    return found == Commands.end() ? nullptr : &*found;
+}
+
+} // namespace
+
+bool runCommand(int id) {
+    const Command* command = commandOf(id);
+    if (command == nullptr || !command->isEnabled()) {
+        return false;
+    }
+    command->run();
+    return true;
+}
+
+void updateMenu(HMENU menu) {
+    const UndoHistory& history = application().history;
+    const std::string undo = "&Undo " + std::string(history.undoName()) + "\tCtrl+Z";
+    const std::string redo = "&Redo " + std::string(history.redoName()) + "\tCtrl+Y";
+    ModifyMenuA(menu, IDM_UNDO, MF_BYCOMMAND | MF_STRING, IDM_UNDO, undo.c_str());
+    ModifyMenuA(menu, IDM_REDO, MF_BYCOMMAND | MF_STRING, IDM_REDO, redo.c_str());
+    CheckMenuRadioItem(menu, IDC_VEHICLES, IDC_WEAPONS,
+                       static_cast<UINT>(IDC_VEHICLES + static_cast<int>(application().category)),
+                       MF_BYCOMMAND);
+    CheckMenuItem(menu, IDM_SHOW_MARKS, MF_BYCOMMAND | (application().showMarks ? MF_CHECKED : MF_UNCHECKED));
+    for (const Command& command : Commands) {
+        EnableMenuItem(menu, static_cast<UINT>(command.id),
+                       MF_BYCOMMAND | (command.isEnabled() ? MF_ENABLED : MF_GRAYED));
+    }
+}
+
+void updateButtons() {
+    // Each question for a window goes to the system: so the few children are asked for their commands.
+    const auto update = [](HWND child, LPARAM) -> BOOL {
+        const int id = GetDlgCtrlID(child);
+        if (const Command* command = commandOf(id)) {
+            EnableWindow(child, command->isEnabled() ? TRUE : FALSE);
+        }
+        if (id == IDC_EDIT_DETAILS) {
+            ShowWindow(child, canEditOpenRecord() ? SW_SHOWNA : SW_HIDE);
+        }
+        return TRUE;
+    };
+    EnumChildWindows(application().window, update, 0);
+}
+
+} // namespace varrocade

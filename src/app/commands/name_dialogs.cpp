@@ -1,0 +1,90 @@
+#include "app/commands/name_dialogs.h"
+
+#include "data/unit/enumerations.h"
+#include "editors/form/form_port_win32.h"
+#include "platform/messages.h"
+#include "resources/resource.h"
+
+#include <vector>
+
+namespace varrocade {
+
+namespace {
+
+int templateOf(NameDialogKind kind) {
+    switch (kind) {
+    case NameDialogKind::NewSquad:
+        return IDD_NEW_SQUAD;
+    case NameDialogKind::NewWeapon:
+        return IDD_NEW_WEAPON;
+    case NameDialogKind::Duplicate:
+        return IDD_DUPLICATE;
+    case NameDialogKind::Rename:
+        break;
+    }
+    return IDD_RENAME;
+}
+
+void fillNationalities(HWND window) {
+    std::vector<std::string> names;
+    for (const std::string_view name : nationalityNames()) {
+        names.push_back(displayName(name, NationalityPrefix));
+    }
+    DialogPort(window).setChoices(IDC_NEW_NATIONALITY, names);
+    SendDlgItemMessageA(window, IDC_NEW_NATIONALITY, CB_SETCURSEL, 0, 0);
+}
+
+void readChoice(HWND window, NameDialog& dialog) {
+    dialog.choice.name = DialogPort(window).text(IDC_NEW_NAME);
+    if (dialog.kind == NameDialogKind::NewSquad) {
+        const LRESULT chosen = SendDlgItemMessageA(window, IDC_NEW_NATIONALITY, CB_GETCURSEL, 0, 0);
+        const auto names = nationalityNames();
+        dialog.choice.nationality = chosen >= 0 && static_cast<std::size_t>(chosen) < names.size()
+                                        ? names[static_cast<std::size_t>(chosen)]
+                                        : "";
+    }
+}
+
+void takeChoice(HWND window, NameDialog& dialog) {
+    readChoice(window, dialog);
+    const NameCheck refusal = dialog.take(dialog.choice);
+    if (!refusal) {
+        EndDialog(window, 1);
+        return;
+    }
+    if (!refusal->empty()) {
+        showMessage({.text = *refusal, .caption = "Error", .icon = MessageIcon::Information});
+    }
+    DialogPort(window).focus(IDC_NEW_NAME);
+}
+
+INT_PTR CALLBACK nameProcedure(HWND window, UINT message, WPARAM parameter, LPARAM pointer) {
+    auto* dialog = dialogContext<NameDialog>(window, message, pointer);
+    if (message == WM_INITDIALOG) {
+        DialogPort port(window);
+        if (dialog->kind == NameDialogKind::NewSquad) {
+            fillNationalities(window);
+        }
+        port.setLimit(IDC_NEW_NAME, 255);
+        port.setText(IDC_NEW_NAME, dialog->choice.name);
+        port.focus(IDC_NEW_NAME);
+        return FALSE;
+    }
+    if (message == WM_COMMAND && LOWORD(parameter) == IDOK) {
+        takeChoice(window, *dialog);
+        return TRUE;
+    }
+    if (message == WM_COMMAND && LOWORD(parameter) == IDCANCEL) {
+        EndDialog(window, 0);
+        return TRUE;
+    }
+    return FALSE;
+}
+
+} // namespace
+
+bool askForName(NameDialog& dialog) {
+    return runDialog(dialog.owner, templateOf(dialog.kind), nameProcedure, &dialog) != 0;
+}
+
+} // namespace varrocade

@@ -1,0 +1,34 @@
+#pragma once
+// The part of the open unit that is selected in the drawing and on the data sheet, and what can be done with
+// it.
+
+#include "view/drawing/unit_part.h"
+
+#include <windows.h>
+
+namespace varrocade {
+
+/// Selects a part, or none, and shows that.
+void selectPart(const UnitPart& part);
+
+/// Whether there is an editor for the selected part.
+bool canEditSelectedPart();
+void editSelectedPart();
+
+/// Moves the selected part by whole centimetres, to the right and upwards in the drawing; false when it
+/// cannot be moved. Moves that follow one another are one step of the undo history.
+bool nudgeSelectedPart(int right, int up);
+
+/// Ends a move of the selected part that began with `before`: one step of the undo history.
+void partMoved(const SquadRecord& before);
+
+/// Puts the selected part back to where it was before its last move; false when it was not moved.
+bool putPartBack();
+
+/// Marks the positions that are unsaved after a part has been moved.
+void markMoved(const UnitPart& part);
+
+/// The menu of the selected part, at a pixel of the screen.
+void showPartMenu(POINT screenPixel);
+
+} // namespace varrocade

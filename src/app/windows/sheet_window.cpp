@@ -1,0 +1,222 @@
+#include "app/windows/sheet_window.h"
+
+#include "app/windows/application.h"
+#include "app/windows/child_window.h"
+#include "app/windows/part_selection.h"
+#include "resources/resource.h"
+
+#include <windowsx.h>
+
+#include <algorithm>
+#include <chrono>
+
+namespace varrocade {
+
+namespace {
+
+constexpr char SheetClass[] = "VARROCADESHEET";
+constexpr UINT_PTR UsersTimer = 1;
+constexpr int LineHeight = 20; ///< pixels of 96 dpi that an arrow scrolls by
+
+HWND sheetWindow() {
+    return GetDlgItem(application().window, IDC_SHEET);
+}
+
+int visibleHeight() {
+    RECT client{};
+    GetClientRect(sheetWindow(), &client);
+    return client.bottom;
+}
+
+/// The bar keeps its place when there is nothing to scroll, so that the text does not jump.
+void updateBar(HWND window) {
+    const UnitDisplay& display = application().display;
+    SCROLLINFO former{};
+    former.cbSize = sizeof(former);
+    former.fMask = SIF_RANGE | SIF_PAGE | SIF_POS;
+    GetScrollInfo(window, SB_VERT, &former);
+    SCROLLINFO info = former;
+    info.fMask = SIF_RANGE | SIF_PAGE | SIF_POS | SIF_DISABLENOSCROLL;
+    info.nMax = std::max(0, display.sheetLayout.height - 1);
+    info.nPage = static_cast<UINT>(visibleHeight());
+    info.nPos = display.scroll;
+    // It would be painted anew, which takes as long as painting the sheet does.
+    if (info.nMax != former.nMax || info.nPage != former.nPage || info.nPos != former.nPos) {
+        SetScrollInfo(window, SB_VERT, &info, TRUE);
+    }
+}
+
+void scrollBy(int pixels) {
+    scrollSheet(pixels, visibleHeight());
+    redrawSheet();
+}
+
+void scrollByBar(HWND window, int request) {
+    const int line = application().drawing.scaled(LineHeight);
+    SCROLLINFO info{};
+    info.cbSize = sizeof(info);
+    info.fMask = SIF_TRACKPOS | SIF_RANGE;
+    GetScrollInfo(window, SB_VERT, &info);
+    switch (request) {
+    case SB_LINEUP:
+        return scrollBy(-line);
+    case SB_LINEDOWN:
+        return scrollBy(line);
+    case SB_PAGEUP:
+        return scrollBy(-visibleHeight());
+    case SB_PAGEDOWN:
+        return scrollBy(visibleHeight());
+    case SB_TOP:
+        return scrollBy(-info.nMax);
+    case SB_BOTTOM:
+        return scrollBy(info.nMax);
+    case SB_THUMBTRACK:
+    case SB_THUMBPOSITION:
+        return scrollBy(info.nTrackPos - application().display.scroll);
+    default:
+        return;
+    }
+}
+
+/// The request of the scroll bar that a key stands for, or -1.
+int requestOfKey(WPARAM key) {
+    switch (key) {
+    case VK_UP:
+        return SB_LINEUP;
+    case VK_DOWN:
+        return SB_LINEDOWN;
+    case VK_PRIOR:
+        return SB_PAGEUP;
+    case VK_NEXT:
+        return SB_PAGEDOWN;
+    case VK_HOME:
+        return SB_TOP;
+    case VK_END:
+        return SB_BOTTOM;
+    default:
+        return -1;
+    }
+}
+
+void paintSheetWindow(HWND window) {
+    PAINTSTRUCT paintStruct{};
+    HDC device = BeginPaint(window, &paintStruct);
+    RECT client{};
+    GetClientRect(window, &client);
+    paintSheetArea(device, client);
+    EndPaint(window, &paintStruct);
+    updateBar(window);
+}
+
+bool keyDown(HWND window, WPARAM key) {
+    if (key == VK_RETURN) {
+        editSelectedPart();
+        return true;
+    }
+    const int request = requestOfKey(key);
+    if (request >= 0) {
+        scrollByBar(window, request);
+    }
+    return request >= 0;
+}
+
+void contextMenu(HWND window, LPARAM detail) {
+    POINT pixel{GET_X_LPARAM(detail), GET_Y_LPARAM(detail)};
+    if (pixel.x == -1 && pixel.y == -1) {
+        pixel = {};
+        ClientToScreen(window, &pixel);
+    } else {
+        POINT inside = pixel;
+        ScreenToClient(window, &inside);
+        selectPart(sheetPartAt(inside));
+    }
+    showPartMenu(pixel);
+}
+
+/// A part of the search that nobody feels.
+void lookForUsers(HWND window) {
+    constexpr std::chrono::milliseconds slice{10};
+    const auto end = std::chrono::steady_clock::now() + slice;
+    WeaponUsers& users = application().weaponUsers;
+    while (users.step()) {
+        if (std::chrono::steady_clock::now() >= end) {
+            return;
+        }
+    }
+    KillTimer(window, UsersTimer);
+    if (updateWeaponUsers()) {
+        redrawSheet();
+    }
+}
+
+LRESULT CALLBACK sheetProcedure(HWND window, UINT message, WPARAM parameter, LPARAM detail) {
+    switch (message) {
+    case WM_LBUTTONDOWN:
+        SetFocus(window);
+        selectPart(sheetPartAt({GET_X_LPARAM(detail), GET_Y_LPARAM(detail)}));
+        return 0;
+    case WM_RBUTTONDOWN:
+        SetFocus(window);
+        return 0;
+    case WM_LBUTTONDBLCLK:
+        editSelectedPart();
+        return 0;
+    case WM_CONTEXTMENU:
+        contextMenu(window, detail);
+        return 0;
+    case WM_GETDLGCODE: {
+        const auto* asked = reinterpret_cast<const MSG*>(detail);
+        const bool isReturn = asked != nullptr && asked->message == WM_KEYDOWN && asked->wParam == VK_RETURN;
+        return isReturn ? DLGC_WANTMESSAGE : DLGC_WANTARROWS;
+    }
+    case WM_KEYDOWN:
+        return keyDown(window, parameter) ? 0 : DefWindowProcA(window, message, parameter, detail);
+    case WM_TIMER:
+        lookForUsers(window);
+        return 0;
+    case WM_VSCROLL:
+        scrollByBar(window, LOWORD(parameter));
+        return 0;
+    case WM_ERASEBKGND:
+        return 1;
+    case WM_PAINT:
+        paintSheetWindow(window);
+        return 0;
+    default:
+        return DefWindowProcA(window, message, parameter, detail);
+    }
+}
+
+} // namespace
+
+bool registerSheetWindow() {
+    return registerChildWindow(SheetClass, sheetProcedure);
+}
+
+HWND createSheetWindow(HWND parent) {
+    // The button "Details..." lies over it.
+    return createChildWindow(SheetClass, "Data sheet", parent, IDC_SHEET, WS_CLIPSIBLINGS | WS_VSCROLL);
+}
+
+void redrawSheet() {
+    application().display.sheetCanvas.isPainted = false;
+    InvalidateRect(sheetWindow(), nullptr, FALSE);
+    UpdateWindow(sheetWindow());
+}
+
+void startLookingForUsers() {
+    application().weaponUsers.start(imageBases());
+    SetTimer(sheetWindow(), UsersTimer, USER_TIMER_MINIMUM, nullptr);
+}
+
+void scrollSheetByWheel(int delta) {
+    constexpr int step = 3 * LineHeight;
+    scrollBy(-MulDiv(delta, application().drawing.scaled(step), WHEEL_DELTA));
+}
+
+void showSelectedRow() {
+    showSelectedOnSheet(visibleHeight());
+    redrawSheet();
+}
+
+} // namespace varrocade

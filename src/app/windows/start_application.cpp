@@ -1,0 +1,136 @@
+#include "app/windows/start_application.h"
+
+#include "app/commands/mod_mode.h"
+#include "app/windows/application.h"
+#include "app/windows/main_window.h"
+#include "app/windows/message_boxes.h"
+#include "app/workspace/options_file.h"
+#include "platform/messages.h"
+#include "resources/resource.h"
+#include "view/drawing/image_folders.h"
+
+#include <commctrl.h>
+
+#include <array>
+
+namespace varrocade {
+
+namespace {
+
+std::string currentFolder() {
+    std::array<char, MaxPathLength> path{};
+    const DWORD length = GetCurrentDirectoryA(static_cast<DWORD>(path.size()), path.data());
+    std::string folder(path.data(), length < path.size() ? length : 0);
+    if (!folder.ends_with('\\')) {
+        folder += '\\';
+    }
+    return folder;
+}
+
+std::string optionsPath() {
+    return application().programFolder + std::string(OptionsFileName);
+}
+
+/// Under a debugger-less system a crash ends the process with a failing status instead of a dialog.
+LONG WINAPI endOnCrash(EXCEPTION_POINTERS* exception) {
+    debugLine("ERROR: the program crashed");
+    TerminateProcess(GetCurrentProcess(), exception->ExceptionRecord->ExceptionCode);
+    return EXCEPTION_EXECUTE_HANDLER;
+}
+
+int runMessageLoop() {
+    const HACCEL accelerators = LoadAcceleratorsA(application().instance, MAKEINTRESOURCEA(IDR_ACCELERATORS));
+    MSG message{};
+    while (GetMessageA(&message, nullptr, 0, 0) > 0) {
+        if (TranslateAcceleratorA(application().window, accelerators, &message) == 0 &&
+            !isWindowNavigation(message)) {
+            TranslateMessage(&message);
+            DispatchMessageA(&message);
+        }
+    }
+    return static_cast<int>(message.wParam);
+}
+
+/// What is released while GDI+ is still running. The mark of the dischargers and the grid stay to the end of
+/// the process.
+void releaseRecordsAndDrawing() {
+    Application& app = application();
+    closeRecord();
+    app.modSettings.reset();
+    app.display = {};
+    app.pictures.clear();
+    DrawingObjects& drawing = app.drawing;
+    for (GdiObject<HFONT>* font :
+         {&drawing.smallFont, &drawing.normalFont, &drawing.boldFont, &drawing.largeFont}) {
+        font->reset();
+    }
+    for (GdiObject<HBRUSH>& brush : drawing.greenBrushes) {
+        brush.reset();
+    }
+    for (GdiObject<HBRUSH>* brush : {&drawing.beigeBrush, &drawing.whiteBrush, &drawing.highlightBrush}) {
+        brush->reset();
+    }
+    for (GdiObject<HPEN>* pen :
+         {&drawing.redPen, &drawing.greenPen, &drawing.blackPen, &drawing.paleGreenPen, &drawing.yellowPen,
+          &drawing.whitePen, &drawing.bluePen, &drawing.secondGreenPen}) {
+        pen->reset();
+    }
+    drawing.weaponMark.reset();
+    drawing.exhaustMark.reset();
+    static_cast<void>(drawing.grid.release());
+}
+
+} // namespace
+
+void readOptions() {
+    Application& app = application();
+    app.gameFolder.clear();
+    std::string content;
+    if (!readWholeFile(optionsPath(), content)) {
+        return;
+    }
+    Options options = decodeOptions(content);
+    if (options.isFatal) {
+        ExitProcess(1);
+    }
+    app.gameFolder = std::move(options.gameFolder);
+}
+
+int writeOptions() {
+    const std::string path = optionsPath();
+    if (saveFile(systemFiles(), path, encodeOptions(application().gameFolder))) {
+        showCouldNotSave(path);
+        return 0;
+    }
+    return 1;
+}
+
+int startApplication(HINSTANCE instance, int showCommand) {
+    SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOGPFAULTERRORBOX);
+    SetUnhandledExceptionFilter(endOnCrash);
+    useMessageBoxes();
+    Application& app = application();
+    app.instance = instance;
+    app.programFolder = currentFolder();
+    readOptions();
+    const PictureSession pictures;
+    app.drawing =
+        createDrawingObjects(instance, std::string(image_folder::Grid), static_cast<int>(GetDpiForSystem()));
+    const INITCOMMONCONTROLSEX controls{sizeof(INITCOMMONCONTROLSEX),
+                                        ICC_STANDARD_CLASSES | ICC_LISTVIEW_CLASSES};
+    InitCommonControlsEx(&controls);
+    if (createMainWindow() == nullptr) {
+        releaseRecordsAndDrawing();
+        return 0;
+    }
+    app.menu = GetMenu(app.window);
+    detectModMode();
+    ShowWindow(app.window, showCommand);
+    UpdateWindow(app.window);
+    const int status = runMessageLoop();
+    writeOptions();
+    releaseRecordsAndDrawing();
+    return status;
+}
+
+} // namespace varrocade

@@ -1,0 +1,27 @@
+#pragma once
+// What a user may call a new file.
+
+#include "data/category.h"
+#include "data/unit/unit_record.h"
+#include "weapons/weapon_record.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace varrocade {
+
+/// The message that refuses a name, or nothing: it must not be empty nor hold characters that file names
+/// cannot have. A full stop is refused too, since the program adds the ending.
+std::optional<std::string> refusalOfName(std::string_view name);
+
+/// The message that refuses a unit's name which does not begin with its nationality ("German").
+std::optional<std::string> refusalOfNationality(std::string_view name, std::string_view nationality);
+
+/// A new unit of a category as its first file holds it.
+SquadRecord newUnit(Category category, std::string_view name, std::string_view nationality);
+
+/// A new weapon.
+WeaponRecord newWeapon(std::string_view name);
+
+} // namespace varrocade

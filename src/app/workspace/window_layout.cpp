@@ -1,0 +1,50 @@
+#include "app/workspace/window_layout.h"
+
+#include <algorithm>
+
+namespace varrocade {
+
+namespace {
+
+constexpr int PlainDpi = 96;
+
+int scaled(int length, int dpi) {
+    return length * dpi / PlainDpi;
+}
+
+} // namespace
+
+Place firstWindowPlace(int workWidth, int workHeight, const FrameMetrics& metrics, int dpi) {
+    const int height = workHeight;
+    const int pictureWidth =
+        ((height - (2 * metrics.frame + 8) - metrics.caption - metrics.menu) * PictureAspectWidth) /
+        PictureAspectHeight;
+    const int width = pictureWidth + 2 * (metrics.frame + scaled(BandWidth / 2, dpi));
+    return {(workWidth - width) / 2, (workHeight - height) / 2, width, height};
+}
+
+Place fileListPlace(int height) {
+    return {4, 68, 350, std::max(0, height - 102)};
+}
+
+Place filterPlace() {
+    return {4, 43, 350, 22};
+}
+
+std::array<Place, FileButtonCount> fileButtonPlaces(int height) {
+    const int y = height - 34;
+    return {{{8, y, 82, 24}, {94, y, 82, 24}, {180, y, 82, 24}, {266, y, 82, 24}}};
+}
+
+Place picturePlace(int width, int height, int dpi) {
+    const int left = scaled(ListWidth, dpi);
+    return {left, 0, std::max(0, width - scaled(BandWidth, dpi)), height};
+}
+
+Place sheetPlace(int width, int height, int dpi) {
+    const Place picture = picturePlace(width, height, dpi);
+    const int left = picture.x + picture.width;
+    return {left, 0, std::max(0, width - left), height};
+}
+
+} // namespace varrocade

@@ -1,0 +1,323 @@
+#include "data/losses/loss_finder.h"
+
+#include "data/losses/entry_pairs.h"
+#include "data/losses/loss_list.h"
+#include "data/losses/lost_text.h"
+#include "data/losses/value_meaning.h"
+
+#include <algorithm>
+#include <functional>
+#include <set>
+#include <string>
+#include <utility>
+
+namespace varrocade {
+
+namespace {
+
+struct FieldKey {
+    std::uint32_t entry;
+    FieldId field;
+};
+
+bool isBefore(const FieldKey& a, const FieldKey& b) {
+    return a.entry != b.entry ? a.entry < b.entry : std::less<>()(a.field, b.field);
+}
+
+FieldKey keyOf(const TracedValue* value) {
+    return {value->entry, value->field};
+}
+
+class LossFinder {
+public:
+    LossFinder(const TracedFile& file, const TracedFile& saved, const LossKnowledge& knowledge)
+        : file_(file), saved_(saved), knowledge_(knowledge), lines_(file.content), history_(file.trace),
+          savedHistory_(saved.trace), pairs_(file, history_, saved, savedHistory_, knowledge.keys),
+          nodes_(file.tree.nodes().size()) {}
+
+    std::vector<SaveLoss> run() {
+        findLostComments(lines_, file_.content, saved_.content, losses_);
+        findBrokenNesting(lines_, file_.tree, losses_);
+        judgeValues();
+        foldLostGroups();
+        reportNodes();
+        return losses_.take();
+    }
+
+private:
+    /// What became of a node's values, and of those below it.
+    struct NodeState {
+        bool isLost = false; ///< the node's own value is not in the saved file
+        std::uint32_t kept = 0;
+        std::uint32_t lost = 0;
+        bool isWhole = false;  ///< reported with everything in it
+        bool isSilent = false; ///< stands in one that is
+    };
+
+    using Values = std::span<const TracedValue>;
+
+    [[nodiscard]] const TagNode& node(std::uint32_t index) const { return file_.tree.nodes()[index]; }
+    [[nodiscard]] std::size_t lineOf(std::uint32_t index) const {
+        return lines_.lineAt(file_.tree.offsetOf(node(index).name) - 1);
+    }
+    void add(std::uint32_t index, LossKind kind, std::string message) {
+        losses_.add(lineOf(index), kind, std::move(message));
+    }
+    [[nodiscard]] std::string placeOf(std::uint32_t index) const {
+        const std::uint32_t parent = node(index).parent;
+        return parent == 0 ? std::string(" at the top of the file") : " in " + tagText(node(parent).name);
+    }
+
+    void judgeValues();
+    void judgeConverted(const TracedValue& value);
+    void judgeNode(Values values);
+    void judgeEffective(std::uint32_t index, const std::vector<const TracedValue*>& effective);
+    void judgeWritten(std::uint32_t index, const std::vector<const TracedValue*>& effective);
+    [[nodiscard]] bool isDefault(const TracedValue& value) const;
+    [[nodiscard]] const TracedValue* savedValue(const TracedValue& value) const {
+        return savedHistory_.last(pairs_.partnerOf(value.entry), value.field);
+    }
+    void foldLostGroups();
+    /// The groups of the saved file, each by the entry it stands in.
+    using Groups = std::set<std::pair<std::uint32_t, std::string_view>>;
+    [[nodiscard]] Groups savedGroups() const;
+    void reportNodes();
+    void reportEntry(std::uint32_t index);
+
+    const TracedFile& file_;
+    const TracedFile& saved_;
+    const LossKnowledge& knowledge_;
+    LineMap lines_;
+    FieldHistory history_;
+    FieldHistory savedHistory_;
+    EntryPairs pairs_;
+    std::vector<NodeState> nodes_;
+    LossList losses_;
+};
+
+void LossFinder::judgeValues() {
+    const Values values = file_.trace.values();
+    for (std::size_t begin = 0; begin < values.size();) {
+        std::size_t end = begin + 1;
+        while (end < values.size() && values[end].node == values[begin].node) {
+            ++end;
+        }
+        judgeNode(values.subspan(begin, end - begin));
+        begin = end;
+    }
+}
+
+void LossFinder::judgeNode(Values values) {
+    const std::uint32_t index = values.front().node;
+    const Fate fate = file_.trace.fateOf(index);
+    if (fate == Fate::Converted) {
+        judgeConverted(values.front());
+        return;
+    }
+    if (fate == Fate::LeftOut) {
+        return;
+    }
+    std::vector<const TracedValue*> effective;
+    const TracedValue* overwriting = nullptr;
+    for (const TracedValue& value : values) {
+        if (pairs_.isGone(value.entry)) {
+            continue;
+        }
+        const TracedValue* last = history_.last(value.entry, value.field);
+        if (last == &value) {
+            effective.push_back(&value);
+        } else if (last->after != value.after) {
+            overwriting = last;
+        }
+    }
+    if (!effective.empty()) {
+        judgeEffective(index, effective);
+    } else if (overwriting != nullptr) {
+        add(index, LossKind::Dropped,
+            elementText(node(index)) + " is overwritten by " + elementText(node(overwriting->node)) +
+                " on line " + std::to_string(lineOf(overwriting->node)));
+    }
+}
+
+void LossFinder::judgeConverted(const TracedValue& value) {
+    const TagNode& quarter = node(value.node);
+    if (!means(quarter.text, value)) {
+        add(value.node, LossKind::Changed, elementText(quarter) + " is read as " + quoted(value.after));
+    }
+    NodeState& block = nodes_[quarter.parent];
+    if (block.kept++ == 0) {
+        add(quarter.parent, LossKind::Respelt,
+            tagText(node(quarter.parent).name) + " is written as dated points of availability");
+    }
+}
+
+bool LossFinder::isDefault(const TracedValue& value) const {
+    return value.after == history_.first(value.entry, value.field)->before ||
+           knowledge_.goesWithoutSaying(history_, value);
+}
+
+void LossFinder::judgeEffective(std::uint32_t index, const std::vector<const TracedValue*>& effective) {
+    const auto isWritten = [this](const TracedValue* value) { return savedValue(*value) != nullptr; };
+    const auto isLost = [&](const TracedValue* value) { return !isWritten(value) && !isDefault(*value); };
+    if (std::any_of(effective.begin(), effective.end(), isWritten)) {
+        nodes_[index].kept = 1;
+        judgeWritten(index, effective);
+        findJoinedLines(lines_, file_.tree, node(index), losses_);
+    } else if (std::any_of(effective.begin(), effective.end(), isLost)) {
+        nodes_[index].isLost = true;
+        nodes_[index].lost = 1;
+    } else if (const TracedValue& value = *effective.front();
+               !node(index).text.empty() &&
+               !means(node(index).text, value, file_.trace.understandingOf(index))) {
+        add(index, LossKind::Changed, elementText(node(index)) + " " + misreadText(node(index).text, value));
+    }
+}
+
+/// For an element some of whose values the saved file has: whether there they are the same, and in what
+/// words.
+void LossFinder::judgeWritten(std::uint32_t index, const std::vector<const TracedValue*>& effective) {
+    const TagNode& element = node(index);
+    const std::vector<TagNode>& savedNodes = saved_.tree.nodes();
+    std::vector<const TagNode*> written;
+    for (const TracedValue* value : effective) {
+        const TracedValue* saved = savedValue(*value);
+        const bool countsOtherWay = saved != nullptr && savedNodes[saved->node].name != element.name &&
+                                    meansOpposite(element.text, *value);
+        if (!countsOtherWay && !means(element.text, *value, file_.trace.understandingOf(index))) {
+            add(index, LossKind::Changed, elementText(element) + " " + misreadText(element.text, *value));
+            return;
+        }
+        if (saved == nullptr) {
+            continue;
+        }
+        if (saved->after != value->after) {
+            add(index, LossKind::Changed,
+                elementText(element) + " will be read back as " + quoted(saved->after));
+            return;
+        }
+        if (std::find(written.begin(), written.end(), &savedNodes[saved->node]) == written.end()) {
+            written.push_back(&savedNodes[saved->node]);
+        }
+    }
+    const TagNode& first = *written.front();
+    const std::string_view savedGroup = savedNodes[first.parent].name;
+    if (written.size() == 1 && first.name == element.name && first.text == element.text) {
+        if (savedGroup != node(element.parent).name) {
+            add(index, LossKind::Respelt,
+                elementText(element) + placeOf(index) + " is written in " + tagText(savedGroup));
+        }
+        return;
+    }
+    if (written.size() == 1 && first.name == element.name) {
+        add(index, LossKind::Respelt, elementText(element) + " is written as " + quoted(first.text));
+        return;
+    }
+    std::string text;
+    for (const TagNode* savedNode : written) {
+        text.append(text.empty() ? "" : " and ").append(elementText(*savedNode));
+    }
+    add(index, LossKind::Respelt, elementText(element) + " is written as " + text);
+}
+
+LossFinder::Groups LossFinder::savedGroups() const {
+    Groups groups;
+    const std::vector<TagNode>& savedNodes = saved_.tree.nodes();
+    for (std::uint32_t i = 1; i < savedNodes.size(); ++i) {
+        if (saved_.trace.fateOf(i) == Fate::Group) {
+            groups.emplace(saved_.trace.entryAround(i), savedNodes[i].name);
+        }
+    }
+    return groups;
+}
+
+/// A group that the saved file does not have is one loss, not as many as it has values.
+void LossFinder::foldLostGroups() {
+    constexpr std::uint32_t fewest = 2;
+    const Groups groups = savedGroups();
+    for (auto i = static_cast<std::uint32_t>(nodes_.size()); i-- > 1;) {
+        NodeState& state = nodes_[i];
+        const std::uint32_t entry = file_.trace.entryAround(i);
+        state.isWhole = file_.trace.fateOf(i) == Fate::Group && state.kept == 0 && state.lost >= fewest &&
+                        !groups.contains({pairs_.partnerOf(entry), node(i).name});
+        NodeState& above = nodes_[node(i).parent];
+        above.kept += state.kept;
+        above.lost += state.lost;
+    }
+}
+
+void LossFinder::reportEntry(std::uint32_t index) {
+    const Fate fate = file_.trace.fateOf(index);
+    nodes_[index].isWhole = true;
+    add(index, LossKind::Dropped,
+        elementText(node(index)) + (fate == Fate::Replaced ? ": a later one takes its place"
+                                                           : " is not written in files of this kind"));
+}
+
+void LossFinder::reportNodes() {
+    for (std::uint32_t i = 1; i < nodes_.size(); ++i) {
+        NodeState& state = nodes_[i];
+        const Fate fate = file_.trace.fateOf(i);
+        const std::uint32_t parent = node(i).parent;
+        // A unit is read wherever it stands, also in an element that nobody knows.
+        const bool isReadAnyway = file_.trace.fateOf(parent) == Fate::Ignored && fate != Fate::Ignored;
+        state.isSilent = parent != 0 && !isReadAnyway && (nodes_[parent].isSilent || nodes_[parent].isWhole);
+        if (state.isSilent) {
+            continue;
+        }
+        const bool isEntry = fate == Fate::Entry || fate == Fate::Replaced || fate == Fate::Item;
+        if (fate == Fate::Ignored) {
+            state.isWhole = true;
+            add(i, LossKind::Dropped,
+                elementText(node(i)) + placeOf(i) +
+                    (knowledge_.isElement(node(i).name) ? " is in the wrong place" : " is not known"));
+        } else if (fate == Fate::LeftOut) {
+            state.isWhole = true;
+            add(i, LossKind::Dropped,
+                elementText(node(i)) + " is left out: " + std::string(file_.trace.reasonOf(i)));
+        } else if (isEntry && pairs_.isGone(i)) {
+            reportEntry(i);
+        } else if ((fate == Fate::Group || fate == Fate::Entry) && !node(i).text.empty()) {
+            add(i, LossKind::Dropped, elementText(node(i)) + " begins with text where elements should be");
+        } else if (state.isLost) {
+            add(i, LossKind::Dropped, elementText(node(i)) + placeOf(i) + " is not written");
+        } else if (state.isWhole) {
+            add(i, LossKind::Dropped,
+                tagText(node(i).name) + placeOf(i) + " is not written, with the " +
+                    std::to_string(state.lost) + " values in it");
+        }
+    }
+}
+
+} // namespace
+
+FieldHistory::FieldHistory(const ReadingTrace& trace) {
+    values_.reserve(trace.values().size());
+    for (const TracedValue& value : trace.values()) {
+        values_.push_back(&value);
+    }
+    std::stable_sort(values_.begin(), values_.end(),
+                     [](const TracedValue* a, const TracedValue* b) { return isBefore(keyOf(a), keyOf(b)); });
+}
+
+const TracedValue* FieldHistory::first(std::uint32_t entry, FieldId field) const {
+    const FieldKey key{entry, field};
+    const auto found = std::lower_bound(
+        values_.begin(), values_.end(), key,
+        [](const TracedValue* value, const FieldKey& k) { return isBefore(keyOf(value), k); });
+    return found != values_.end() && !isBefore(key, keyOf(*found)) ? *found : nullptr;
+}
+
+const TracedValue* FieldHistory::last(std::uint32_t entry, FieldId field) const {
+    const FieldKey key{entry, field};
+    const auto behind = std::upper_bound(
+        values_.begin(), values_.end(), key,
+        [](const FieldKey& k, const TracedValue* value) { return isBefore(k, keyOf(value)); });
+    return behind != values_.begin() && !isBefore(keyOf(behind[-1]), key) ? behind[-1] : nullptr;
+}
+
+std::vector<SaveLoss> findLosses(const TracedFile& file, const TracedFile& saved,
+                                 const LossKnowledge& knowledge) {
+    return LossFinder(file, saved, knowledge).run();
+}
+
+} // namespace varrocade

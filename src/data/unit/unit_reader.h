@@ -1,0 +1,29 @@
+#pragma once
+// Reading unit files of all four kinds, in today's form and in the older ones.
+
+#include "data/category.h"
+#include "data/unit/unit_record.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace varrocade {
+
+/// Lines for the debugger about data that a file holds and the record cannot take.
+using Diagnostics = std::vector<std::string>;
+
+/// Reads the content of a unit file. Nothing is refused: unknown elements are left out, absent ones leave
+/// their defaults. `fileName` is the name to give the record, without folder and ".txt".
+SquadRecord readUnit(std::string_view fileContent, std::string_view fileName, Diagnostics& diagnostics);
+
+/// Reads the unit file at `path`; nothing when it cannot be opened.
+std::optional<SquadRecord> readUnitFile(const std::string& path, std::string_view fileName,
+                                        Diagnostics& diagnostics);
+
+/// Loads a unit of a category below `base` for the window: a file that cannot be opened shows the "Couldn't
+/// load file" box, and data errors go to the debugger.
+std::optional<SquadRecord> loadUnit(std::string_view base, Category category, std::string_view fileName);
+
+} // namespace varrocade

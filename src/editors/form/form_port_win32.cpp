@@ -1,0 +1,158 @@
+#include "editors/form/form_port_win32.h"
+
+#include "resources/resource.h"
+
+#include <algorithm>
+#include <array>
+
+namespace varrocade {
+
+namespace {
+
+/// Whether a control is a drop-down list, whose messages are others than an edit's.
+bool isComboBox(HWND control) {
+    std::array<char, 16> name{};
+    GetClassNameA(control, name.data(), static_cast<int>(name.size()));
+    return lstrcmpiA(name.data(), "ComboBox") == 0;
+}
+
+/// Records hold LF-free texts on one line; edits of several lines show CR LF.
+std::string onOneLine(std::string_view text) {
+    std::string line;
+    for (const char c : text) {
+        if (c == '\n') {
+            line += ' ';
+        } else if (c != '\r') {
+            line += c;
+        }
+    }
+    return line;
+}
+
+} // namespace
+
+std::string DialogPort::text(int control) {
+    HWND window = GetDlgItem(dialog_, control);
+    std::string text(static_cast<std::size_t>(GetWindowTextLengthA(window)) + 1, '\0');
+    text.resize(static_cast<std::size_t>(GetWindowTextA(window, text.data(), static_cast<int>(text.size()))));
+    return onOneLine(text);
+}
+
+void DialogPort::setText(int control, std::string_view text) {
+    HWND window = GetDlgItem(dialog_, control);
+    const std::string words(text);
+    const bool isPureList =
+        isComboBox(window) && (GetWindowLongA(window, GWL_STYLE) & CBS_DROPDOWNLIST) == CBS_DROPDOWNLIST;
+    if (isPureList) {
+        const LRESULT index = SendMessageA(window, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
+                                           reinterpret_cast<LPARAM>(words.c_str()));
+        SendMessageA(window, CB_SETCURSEL, static_cast<WPARAM>(index), 0);
+        return;
+    }
+    SetWindowTextA(window, words.c_str());
+}
+
+bool DialogPort::isChecked(int control) {
+    return IsDlgButtonChecked(dialog_, control) == BST_CHECKED;
+}
+
+void DialogPort::setChecked(int control, bool checked) {
+    CheckDlgButton(dialog_, control, checked ? BST_CHECKED : BST_UNCHECKED);
+}
+
+void DialogPort::setEnabled(int control, bool enabled) {
+    EnableWindow(GetDlgItem(dialog_, control), enabled ? TRUE : FALSE);
+}
+
+void DialogPort::setChoices(int control, std::span<const std::string> choices) {
+    HWND window = GetDlgItem(dialog_, control);
+    // Emptying the list empties its edit part too.
+    const std::string kept = text(control);
+    SendMessageA(window, CB_RESETCONTENT, 0, 0);
+    for (const std::string& choice : choices) {
+        SendMessageA(window, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(choice.c_str()));
+    }
+    setText(control, kept);
+}
+
+bool DialogPort::offers(int control, std::string_view text) {
+    return SendDlgItemMessageA(dialog_, control, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
+                               reinterpret_cast<LPARAM>(std::string(text).c_str())) != CB_ERR;
+}
+
+void DialogPort::setLimit(int control, std::size_t characters) {
+    HWND window = GetDlgItem(dialog_, control);
+    SendMessageA(window, isComboBox(window) ? CB_LIMITTEXT : EM_LIMITTEXT, characters, 0);
+}
+
+void DialogPort::focus(int control) {
+    // As the dialog manager does it: the default button follows, and an edit's text is selected.
+    SendMessageA(dialog_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(GetDlgItem(dialog_, control)), TRUE);
+}
+
+void completeChoice(HWND dialog, int control) {
+    HWND box = GetDlgItem(dialog, control);
+    const LRESULT chosen = SendMessageA(box, CB_GETCURSEL, 0, 0);
+    const LRESULT length =
+        chosen < 0 ? -1 : SendMessageA(box, CB_GETLBTEXTLEN, static_cast<WPARAM>(chosen), 0);
+    if (length >= 0) {
+        std::string text(static_cast<std::size_t>(length) + 1, '\0');
+        SendMessageA(box, CB_GETLBTEXT, static_cast<WPARAM>(chosen), reinterpret_cast<LPARAM>(text.data()));
+        SetWindowTextA(box, text.c_str());
+    }
+}
+
+void showUnknown(HWND dialog, std::string_view text) {
+    DialogPort port(dialog);
+    if (port.text(IDC_UNKNOWN) != text) {
+        port.setText(IDC_UNKNOWN, text);
+    }
+    ShowWindow(GetDlgItem(dialog, IDC_UNKNOWN), text.empty() ? SW_HIDE : SW_SHOWNA);
+}
+
+void showUnknownChoices(HWND dialog, std::span<const ChoiceField> fields) {
+    DialogPort port(dialog);
+    showUnknown(dialog, unknownChoices(port, fields));
+}
+
+bool followChoices(HWND dialog, std::span<const ChoiceField> fields, int control, int notification) {
+    const bool isField = std::any_of(fields.begin(), fields.end(), [control](const ChoiceField& field) {
+        return field.control == control;
+    });
+    if (!isField || (notification != CBN_SELCHANGE && notification != CBN_EDITCHANGE)) {
+        return false;
+    }
+    if (notification == CBN_SELCHANGE) {
+        completeChoice(dialog, control);
+    }
+    showUnknownChoices(dialog, fields);
+    return true;
+}
+
+void placeBesideDrawing(HWND dialog) {
+    HWND mainWindow = GetAncestor(dialog, GA_ROOTOWNER);
+    MONITORINFO monitor{};
+    monitor.cbSize = sizeof monitor;
+    RECT main{};
+    RECT place{};
+    if (mainWindow == dialog || GetWindowRect(mainWindow, &main) == 0 || GetWindowRect(dialog, &place) == 0 ||
+        GetMonitorInfoA(MonitorFromWindow(mainWindow, MONITOR_DEFAULTTONEAREST), &monitor) == 0) {
+        return;
+    }
+    const RECT& screen = monitor.rcWork;
+    const LONG width = place.right - place.left;
+    const LONG height = place.bottom - place.top;
+    const LONG left = std::min(main.right, screen.right) - width;
+    const LONG top = (main.top + main.bottom - height) / 2;
+    SetWindowPos(dialog, nullptr, std::max(left, screen.left),
+                 std::max(std::min(top, screen.bottom - height), screen.top), 0, 0,
+                 SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+INT_PTR runDialog(HWND owner, int dialogTemplate, DLGPROC procedure, void* context) {
+    const INT_PTR result = DialogBoxParamA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(dialogTemplate), owner,
+                                           procedure, reinterpret_cast<LPARAM>(context));
+    return result > 0 ? result : 0;
+}
+
+} // namespace varrocade

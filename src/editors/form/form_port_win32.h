@@ -1,0 +1,60 @@
+#pragma once
+
+#include "editors/form/form.h"
+
+#include <windows.h>
+
+namespace varrocade {
+
+/// The controls of a real dialog.
+class DialogPort : public FormPort {
+public:
+    explicit DialogPort(HWND dialog) : dialog_(dialog) {}
+
+    std::string text(int control) override;
+    void setText(int control, std::string_view text) override;
+    bool isChecked(int control) override;
+    void setChecked(int control, bool checked) override;
+    void setEnabled(int control, bool enabled) override;
+    void setChoices(int control, std::span<const std::string> choices) override;
+    bool offers(int control, std::string_view text) override;
+    void setLimit(int control, std::size_t characters) override;
+    void focus(int control) override;
+
+private:
+    HWND dialog_;
+};
+
+/// Shows a text in IDC_UNKNOWN, which is there only while there is something to say. It can be as long as it
+/// likes: the control is scrolled.
+void showUnknown(HWND dialog, std::string_view text);
+
+/// Shows there what a dialog's drop-down lists hold and do not offer.
+void showUnknownChoices(HWND dialog, std::span<const ChoiceField> fields);
+
+/// The same when a notification tells that one of them was changed; false when it tells something else.
+bool followChoices(HWND dialog, std::span<const ChoiceField> fields, int control, int notification);
+
+/// Puts what was chosen from a drop-down list into its edit part, which it reaches only after the
+/// notification.
+void completeChoice(HWND dialog, int control);
+
+/// Moves a dialog that is opening to the right edge of the main window, over the data sheet: the drawing,
+/// which follows what is edited, stays in sight as far as there is room.
+void placeBesideDrawing(HWND dialog);
+
+/// Runs a modal dialog whose procedure finds `context` as its user data from WM_INITDIALOG on.
+/// Returns what the dialog ended with, 0 when it could not be shown.
+INT_PTR runDialog(HWND owner, int dialogTemplate, DLGPROC procedure, void* context);
+
+/// The context that a dialog was opened with; null before WM_INITDIALOG. The procedure passes its parameters.
+template <typename Context>
+Context* dialogContext(HWND dialog, UINT message, LPARAM parameter) {
+    if (message == WM_INITDIALOG) {
+        SetWindowLongPtrA(dialog, DWLP_USER, parameter);
+    }
+    // The system keeps an integer for the dialog.
+    return reinterpret_cast<Context*>(GetWindowLongPtrA(dialog, DWLP_USER));
+}
+
+} // namespace varrocade

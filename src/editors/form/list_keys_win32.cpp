@@ -1,0 +1,73 @@
+#include "editors/form/list_keys_win32.h"
+
+#include <commctrl.h>
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+namespace varrocade {
+
+namespace {
+
+LRESULT CALLBACK listKeysProcedure(HWND list, UINT message, WPARAM parameter, LPARAM detail, UINT_PTR,
+                                   DWORD_PTR data) {
+    if (message != WM_KEYDOWN && message != WM_SYSKEYDOWN) {
+        return DefSubclassProc(list, message, parameter, detail);
+    }
+    const auto& keys = *reinterpret_cast<const std::span<const ListKey>*>(data);
+    const bool withAlt = message == WM_SYSKEYDOWN;
+    const auto found = std::find_if(keys.begin(), keys.end(), [&](const ListKey& row) {
+        return row.key == parameter && row.withAlt == withAlt;
+    });
+    if (found == keys.end()) {
+        return DefSubclassProc(list, message, parameter, detail);
+    }
+    HWND dialog = GetParent(list);
+    HWND button = GetDlgItem(dialog, found->button);
+    if (IsWindowEnabled(button) != FALSE) {
+        SendMessageA(dialog, WM_COMMAND, MAKEWPARAM(found->button, BN_CLICKED),
+                     reinterpret_cast<LPARAM>(button));
+    }
+    // The system must see that Alt was held for a key, or letting it go would open the window's menu.
+    return withAlt ? DefWindowProcA(list, message, parameter, detail) : 0;
+}
+
+} // namespace
+
+void bindListKeys(HWND dialog, int listBox, const std::span<const ListKey>& keys) {
+    SetWindowSubclass(GetDlgItem(dialog, listBox), listKeysProcedure, 0, reinterpret_cast<DWORD_PTR>(&keys));
+    std::vector<Tip> tips;
+    for (const ListKey& row : keys) {
+        tips.push_back({row.button, row.tip});
+    }
+    addTips(dialog, tips);
+}
+
+void addTips(HWND dialog, std::span<const Tip> tips) {
+    // The dialog owns it and takes it along.
+    HWND window = CreateWindowExA(0, TOOLTIPS_CLASSA, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, 0, 0,
+                                  0, 0, dialog, nullptr, GetModuleHandleA(nullptr), nullptr);
+    for (const Tip& tip : tips) {
+        HWND control = GetDlgItem(dialog, tip.control);
+        if (control == nullptr) {
+            continue;
+        }
+        std::string text(tip.text);
+        TOOLINFOA tool{};
+        tool.cbSize = sizeof tool;
+        tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
+        tool.hwnd = dialog;
+        tool.uId = reinterpret_cast<UINT_PTR>(control);
+        tool.lpszText = text.data();
+        SendMessageA(window, TTM_ADDTOOLA, 0, reinterpret_cast<LPARAM>(&tool));
+    }
+}
+
+void keepKeyboard(HWND dialog, HWND former, int control) {
+    if (former != nullptr && IsChild(dialog, former) != FALSE && IsWindowEnabled(former) == FALSE) {
+        SendMessageA(dialog, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(GetDlgItem(dialog, control)), TRUE);
+    }
+}
+
+} // namespace varrocade

@@ -1,0 +1,109 @@
+#pragma once
+// A list of entries of which the chosen one is shown in a form: crew, exhaust pipes, ammunition and their
+// like.
+
+#include "editors/form/form.h"
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace varrocade {
+
+/// What a list dialog does with its entries, whatever they are.
+class ListModel {
+public:
+    ListModel() = default;
+    ListModel(const ListModel&) = delete;
+    ListModel& operator=(const ListModel&) = delete;
+    virtual ~ListModel() = default;
+
+    [[nodiscard]] virtual std::size_t count() const = 0;
+    [[nodiscard]] virtual std::string line(std::size_t index) const = 0;
+    /// Whether another entry fits.
+    [[nodiscard]] virtual bool hasRoom() const = 0;
+    [[nodiscard]] virtual bool canMirror() const = 0;
+    virtual void show(std::size_t index, FormPort& port) = 0;
+    virtual std::optional<FormError> read(std::size_t index, FormPort& port) = 0;
+    virtual void add() = 0;
+    virtual void copy(std::size_t index) = 0;
+    virtual void mirror(std::size_t index) = 0;
+    virtual void erase(std::size_t index) = 0;
+    virtual void swap(std::size_t index, std::size_t other) = 0;
+    /// Enables or disables the form as a whole.
+    virtual void enable(FormPort& port, bool enabled) = 0;
+};
+
+/// How entries of one kind are shown.
+template <typename Entry>
+struct ListShape {
+    std::span<const FormField<Entry>> fields;
+    std::string (*line)(std::size_t place, const Entry& entry); ///< `place` counts from 1
+    std::size_t most = SIZE_MAX;
+    void (*mirror)(Entry& entry) = nullptr; ///< to the other side of the vehicle
+    /// What a new entry holds.
+    Entry blank = {};
+    /// What the fields do not say: enabling, choices that depend on other fields.
+    void (*afterShow)(FormPort& port, const Entry& entry) = nullptr;
+    void (*afterRead)(FormPort& port, Entry& entry) = nullptr;
+};
+
+/// The entries of a vector.
+template <typename Entry>
+class VectorListModel : public ListModel {
+public:
+    VectorListModel(std::vector<Entry>& entries, const ListShape<Entry>& shape)
+        : entries_(entries), shape_(shape) {}
+
+    [[nodiscard]] std::size_t count() const override { return entries_.size(); }
+    [[nodiscard]] std::string line(std::size_t index) const override {
+        return shape_.line(index + 1, entries_[index]);
+    }
+    [[nodiscard]] bool hasRoom() const override { return entries_.size() < shape_.most; }
+    [[nodiscard]] bool canMirror() const override { return shape_.mirror != nullptr; }
+
+    void show(std::size_t index, FormPort& port) override {
+        fillForm(port, shape_.fields, entries_[index]);
+        if (shape_.afterShow != nullptr) {
+            shape_.afterShow(port, entries_[index]);
+        }
+    }
+    std::optional<FormError> read(std::size_t index, FormPort& port) override {
+        Entry copy = entries_[index];
+        if (auto error = readForm(port, shape_.fields, copy)) {
+            return error;
+        }
+        if (shape_.afterRead != nullptr) {
+            shape_.afterRead(port, copy);
+        }
+        entries_[index] = std::move(copy);
+        return std::nullopt;
+    }
+    void add() override { entries_.push_back(shape_.blank); }
+    void copy(std::size_t index) override {
+        Entry twin = entries_[index];
+        entries_.push_back(std::move(twin));
+    }
+    void mirror(std::size_t index) override {
+        Entry twin = entries_[index];
+        shape_.mirror(twin);
+        entries_.push_back(std::move(twin));
+    }
+    void erase(std::size_t index) override {
+        entries_.erase(entries_.begin() + static_cast<std::ptrdiff_t>(index));
+    }
+    void swap(std::size_t index, std::size_t other) override { std::swap(entries_[index], entries_[other]); }
+    void enable(FormPort& port, bool enabled) override {
+        for (const FormField<Entry>& field : shape_.fields) {
+            port.setEnabled(field.control, enabled);
+        }
+    }
+
+private:
+    std::vector<Entry>& entries_;
+    const ListShape<Entry>& shape_;
+};
+
+} // namespace varrocade

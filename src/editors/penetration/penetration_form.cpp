@@ -1,0 +1,155 @@
+#include "editors/penetration/penetration_form.h"
+
+#include "data/format/numbers.h"
+#include "data/format/texts.h"
+#include "resources/resource.h"
+#include "view/sheet/sheet_text.h"
+#include "weapons/weapon_names.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace varrocade {
+
+namespace {
+
+/// The controls of the drag coefficients, in the order of `DragClass`.
+constexpr std::array<int, 8> DragControls = {IDC_DRAG_AP,   IDC_DRAG_APC,  IDC_DRAG_APCBC,  IDC_DRAG_APCNR,
+                                             IDC_DRAG_APCR, IDC_DRAG_APDS, IDC_DRAG_APFSDS, IDC_DRAG_BULLET};
+
+constexpr std::string_view NoValue = "-";
+
+std::string number(double value) {
+    std::string text;
+    appendShortest(text, static_cast<float>(value));
+    return text;
+}
+
+void showDashes(FormPort& port) {
+    for (const int control : {IDC_PEN_VELOCITY, IDC_PEN_MASS, IDC_PEN_HE, IDC_PEN_CALIBRE}) {
+        port.setText(control, NoValue);
+    }
+    for (int row = 0; row < static_cast<int>(PenetrationRanges.size()); ++row) {
+        port.setText(IDC_PENETRATION_ROWS + row, NoValue);
+        port.setText(IDC_VELOCITY_ROWS + row, NoValue);
+    }
+}
+
+} // namespace
+
+std::vector<std::string> penetrationWeapons(const WeaponCatalogue& catalogue) {
+    std::vector<std::string> names;
+    for (const CatalogueEntry& entry : catalogue.entries()) {
+        names.push_back(entry.weapon.fileName);
+    }
+    return names;
+}
+
+std::size_t firstPenetrationWeapon(const WeaponCatalogue& catalogue) {
+    const auto& entries = catalogue.entries();
+    const auto first = std::find_if(entries.begin(), entries.end(), [](const CatalogueEntry& entry) {
+        return equalsIgnoringCase(entry.weapon.fileName, FirstPenetrationWeapon);
+    });
+    return first == entries.end() ? 0 : static_cast<std::size_t>(first - entries.begin());
+}
+
+std::vector<std::string> shellTypes(const WeaponRecord& weapon) {
+    std::vector<std::string> names;
+    for (const AmmoTypeRecord& ammo : weapon.ammoTypes) {
+        std::string name(displayNameOf(ammo.flavour));
+        if (name.empty()) {
+            name = nameOf(ammo.flavour);
+        }
+        names.push_back(ammo.name.empty() ? name : name + " - " + ammo.name);
+    }
+    return names;
+}
+
+void fillPenetrationDefaults(FormPort& port) {
+    const DragTexts drags = defaultDragTexts();
+    for (std::size_t i = 0; i < DragControls.size(); ++i) {
+        port.setText(DragControls[i], drags[i]);
+    }
+    std::vector<std::string> angles;
+    angles.reserve(OfferedAngles.size());
+    for (const int angle : OfferedAngles) {
+        angles.push_back(std::to_string(angle));
+    }
+    port.setChoices(IDC_PEN_ANGLE, angles);
+    port.setText(IDC_PEN_ANGLE, "0");
+}
+
+DragTexts formDrags(FormPort& port) {
+    DragTexts texts;
+    for (std::size_t i = 0; i < DragControls.size(); ++i) {
+        texts[i] = port.text(DragControls[i]);
+    }
+    return texts;
+}
+
+double formDrag(FormPort& port, AmmoFlavour flavour) {
+    return toReal(port.text(DragControls[static_cast<std::size_t>(dragClassOf(flavour))]));
+}
+
+double formAngle(FormPort& port) {
+    return toReal(port.text(IDC_PEN_ANGLE));
+}
+
+void showPenetration(FormPort& port, const WeaponRecord* weapon, std::size_t shell) {
+    if (weapon == nullptr || shell >= weapon->ammoTypes.size()) {
+        showDashes(port);
+        return;
+    }
+    const AmmoTypeRecord& ammo = weapon->ammoTypes[shell];
+    const Projectile projectile = projectileOf(*weapon, ammo);
+    port.setText(IDC_PEN_VELOCITY, number(projectile.muzzleVelocity));
+    port.setText(IDC_PEN_MASS, number(projectile.mass));
+    port.setText(IDC_PEN_HE, number(projectile.highExplosive));
+    port.setText(IDC_PEN_CALIBRE, number(projectile.calibre));
+    const double drag = formDrag(port, ammo.flavour);
+    const double angle = formAngle(port);
+    for (std::size_t row = 0; row < PenetrationRanges.size(); ++row) {
+        const Impact impact = impactAt(projectile, drag, PenetrationRanges[row], angle);
+        port.setText(IDC_PENETRATION_ROWS + static_cast<int>(row), penetrationText(impact.penetration));
+        port.setText(IDC_VELOCITY_ROWS + static_cast<int>(row), velocityText(impact.velocity));
+    }
+}
+
+ChartAxis chartAxis(double greatest, int mostSteps) {
+    constexpr double kilometre = 1e6;
+    const double reached = std::min(greatest, kilometre);
+    const double least = reached / mostSteps;
+    const double power = std::pow(10.0, std::floor(std::log10(least)));
+    double step = 10 * power;
+    for (const double factor : {5.0, 2.0, 1.0}) {
+        step = factor * power >= least ? factor * power : step;
+    }
+    return {.step = step, .steps = static_cast<int>(std::ceil(reached / step))};
+}
+
+std::string weaponFileNote(const WeaponCatalogue& catalogue, std::size_t weapon) {
+    const auto& entries = catalogue.entries();
+    if (weapon < entries.size()) {
+        const auto reasons = catalogue.problemsOf(entries[weapon].path);
+        if (!reasons.empty()) {
+            return "This weapon's file: " + reasons.front();
+        }
+    }
+    return catalogue.problems().empty() ? ""
+                                        : "Some weapon files have problems: see Tools, Weapon file problems.";
+}
+
+std::string penetrationTable(FormPort& port, const WeaponRecord& weapon, std::size_t shell) {
+    std::string table =
+        weapon.name + "\t" + shellTypes(weapon)[shell] + "\t" + port.text(IDC_PEN_ANGLE) + " degrees\r\n";
+    table += "Range\tPenetration\tVelocity\r\n";
+    for (std::size_t row = 0; row < PenetrationRanges.size(); ++row) {
+        table += grouped(PenetrationRanges[row]) + " m\t" +
+                 port.text(IDC_PENETRATION_ROWS + static_cast<int>(row)) + "\t" +
+                 port.text(IDC_VELOCITY_ROWS + static_cast<int>(row)) + "\r\n";
+    }
+    return table;
+}
+
+} // namespace varrocade

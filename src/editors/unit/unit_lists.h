@@ -1,0 +1,31 @@
+#pragma once
+// How the lists inside a unit are shown and edited: exhaust pipes, smoke dischargers, crew, weapons,
+// ammunition, availability. Without any window.
+
+#include "editors/form/list_model.h"
+
+#include "data/unit/unit_record.h"
+
+namespace varrocade {
+
+/// A personal weapon as a list entry.
+struct PersonalWeapon {
+    Text type;
+    bool operator==(const PersonalWeapon&) const = default;
+};
+
+const ListShape<ExhaustPipeRecord>& exhaustPipeShape();
+const ListShape<SmokeDischargerRecord>& smokeDischargerShape();
+const ListShape<CrewManRecord>& crewShape();
+const ListShape<WeaponMountRecord>& weaponShape();
+const ListShape<PersonalWeapon>& personalWeaponShape();
+const ListShape<AmmoLoadRecord>& ammunitionShape();
+const ListShape<AvailabilityPoint>& availabilityShape();
+
+/// Enables a discharger's angle, elevation and speed as its check boxes say.
+void enableDischarger(FormPort& port);
+
+/// Brings points into the order of their dates; equal dates keep theirs.
+void sortByDate(std::vector<AvailabilityPoint>& points);
+
+} // namespace varrocade

@@ -1,0 +1,40 @@
+#pragma once
+// Where the parts that can be moved in the drawing stand, and moving them: weapons and exhaust pipes of
+// vehicles, weapons of aircraft. Points are those of the drawing: centimetres from the centre of the hull, x
+// to the right, y towards the front. Files keep whole centimetres.
+
+#include "view/drawing/draw_list.h"
+#include "view/drawing/unit_part.h"
+
+#include <optional>
+#include <span>
+#include <string>
+
+namespace varrocade {
+
+/// What the files allow to be moved. A fixed weapon has one position, which moves with any of its weapons.
+bool isMovable(const SquadRecord& unit, const UnitPart& part);
+
+/// Where a movable part stands, `turns` being how far each component is turned for looking at.
+std::optional<Point> positionOf(const SquadRecord& unit, const UnitPart& part,
+                                std::span<const double> turns = {});
+
+/// The position as the file has it: "X 30 cm, Y 120 cm", from the pivot of the component.
+std::string positionText(const SquadRecord& unit, const UnitPart& part);
+
+/// Moves a part to the whole centimetre nearest to a point; false when that is where it is.
+bool movePart(SquadRecord& unit, const UnitPart& part, Point to, std::span<const double> turns = {});
+
+/// Moves a part by whole centimetres as an arrow key says: to the right and upwards in the drawing, exactly
+/// along the axis of the component that lies nearest, so that the opposite key leads back.
+bool nudgePart(SquadRecord& unit, const UnitPart& part, int right, int up,
+               std::span<const double> turns = {});
+
+/// Which positions of two states of a unit differ.
+struct MovedPositions {
+    bool weapons = false;
+    bool exhausts = false;
+};
+MovedPositions movedPositions(const SquadRecord& before, const SquadRecord& after);
+
+} // namespace varrocade

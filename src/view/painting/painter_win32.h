@@ -1,0 +1,80 @@
+#pragma once
+// Puts a draw list and a data sheet on a device.
+
+#include "view/drawing/view_place.h"
+#include "view/painting/drawing_objects_win32.h"
+#include "view/painting/picture_cache_win32.h"
+#include "view/sheet/data_sheet.h"
+
+#include <memory>
+
+namespace varrocade {
+
+/// A bitmap in memory that painting goes to first, so that the screen changes in one step.
+class MemoryBitmap {
+public:
+    MemoryBitmap(HDC screen, int width, int height);
+    MemoryBitmap(const MemoryBitmap&) = delete;
+    MemoryBitmap& operator=(const MemoryBitmap&) = delete;
+    ~MemoryBitmap();
+    [[nodiscard]] HDC device() const { return device_; }
+
+private:
+    HDC device_;
+    HBITMAP bitmap_;
+    HGDIOBJ former_;
+};
+
+/// A bitmap that is kept from one painting to the next.
+struct Canvas {
+    std::unique_ptr<MemoryBitmap> bitmap;
+    SIZE size{};
+    bool isPainted = false; ///< shows what it is to show
+};
+
+/// The device of a canvas, which is unpainted when it was of another size.
+HDC deviceOf(Canvas& canvas, HDC screen, SIZE size);
+
+/// How a drawing is looked at.
+struct DrawingView {
+    Fit fit;
+    UnitPart selected = {};
+    std::string caption = {}; ///< beside the selected part, while it is moved
+};
+
+/// Pixels of 96 dpi that a drawing leaves free at the edges of its area.
+inline constexpr int DrawingMargin = 24;
+/// And more of them at its lower edge, for the scale.
+inline constexpr int ScaleHeight = 12;
+
+/// Paints a drawing into `area`: the ground with its metre grid, the unit, a scale in metres.
+void paintDrawing(HDC device, const RECT& area, const DrawList& list, const DrawingView& view,
+                  const DrawingObjects& objects, PictureCache& pictures);
+
+/// Decodes and places a picture of a drawing, so that painting it into `area` finds that done.
+void preparePicture(const PictureItem& item, const RECT& area, const Fit& fit, PictureCache& pictures);
+
+/// Where flags come from.
+struct SheetOptions {
+    std::vector<std::string> bases;
+    int scroll = 0; ///< pixels that the sheet is scrolled down
+    UnitPart selected = {};
+};
+
+/// A part of the unit and where the sheet shows it.
+struct SheetPlace {
+    RECT place{}; ///< from the top of the sheet
+    UnitPart part;
+};
+
+struct SheetLayout {
+    int height = 0;                 ///< pixels of the whole sheet
+    int headHeight = 0;             ///< pixels of its title, which does not scroll
+    std::vector<SheetPlace> places; ///< rows before the sections that they are in
+};
+
+/// Paints a sheet into `area`.
+SheetLayout paintSheet(HDC device, const RECT& area, const DataSheet& sheet, const SheetOptions& options,
+                       const DrawingObjects& objects, PictureCache& pictures);
+
+} // namespace varrocade

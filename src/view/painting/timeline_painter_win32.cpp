@@ -1,0 +1,73 @@
+#include "view/painting/timeline_painter_win32.h"
+
+#include "view/sheet/sheet_text.h"
+
+#include <algorithm>
+#include <string>
+
+namespace varrocade {
+
+namespace {
+
+constexpr int YearsHeight = 16;
+
+void paintYears(HDC device, const RECT& area, const TimelineScale& scale, const DrawingObjects& objects) {
+    constexpr int labelWidth = 34;
+    constexpr COLORREF tickColour = RGB(150, 134, 100);
+    const int step = timelineLabelStep(scale, objects.scaled(labelWidth));
+    const GdiObject<HPEN> pen(CreatePen(PS_SOLID, 1, tickColour));
+    const Selection selectedPen(device, pen.get());
+    const Selection font(device, objects.smallFont.get());
+    SetBkMode(device, TRANSPARENT);
+    SetTextColor(device, RGB(40, 34, 24));
+    for (int year = scale.firstYear; year <= scale.lastYear; year += step) {
+        const int x = area.left + scale.xOf(year, 1);
+        MoveToEx(device, x, area.top, nullptr);
+        LineTo(device, x, area.top + scale.height + objects.scaled(3));
+        const std::string label = std::to_string(year);
+        TextOutA(device, x + objects.scaled(2), area.top + scale.height + 1, label.data(),
+                 static_cast<int>(label.size()));
+    }
+}
+
+} // namespace
+
+TimelineScale timelineScaleIn(const RECT& area, std::span<const AvailabilityPoint> points,
+                              const DrawingObjects& objects) {
+    return timelineScale(points, area.right - area.left,
+                         std::max<int>(1, area.bottom - area.top - objects.scaled(YearsHeight)));
+}
+
+TimelineScale paintTimeline(HDC device, const RECT& area, std::span<const AvailabilityPoint> points,
+                            const DrawingObjects& objects) {
+    const TimelineScale scale = timelineScaleIn(area, points, objects);
+    RECT ground = area;
+    ground.bottom = area.top + scale.height;
+    FillRect(device, &ground, objects.whiteBrush.get());
+    const std::vector<TimelineStep> steps = timelineSteps(points, scale);
+    for (std::size_t i = 0; i < steps.size(); ++i) {
+        const RECT band{area.left + steps[i].left, area.top + steps[i].top, area.left + steps[i].right,
+                        ground.bottom};
+        FillRect(device, &band, objects.greenBrushes[i % objects.greenBrushes.size()].get());
+    }
+    paintYears(device, area, scale, objects);
+    const Selection font(device, objects.smallFont.get());
+    for (const TimelineStep& step : steps) {
+        const std::string number = grouped(step.number);
+        SIZE size{};
+        GetTextExtentPoint32A(device, number.data(), static_cast<int>(number.size()), &size);
+        if (size.cx + objects.scaled(2) > step.right - step.left) {
+            continue;
+        }
+        // Inside the band where it is high enough, otherwise above it.
+        const bool isInside = scale.height - step.top >= size.cy;
+        SetTextColor(device, isInside ? RGB(255, 255, 255) : RGB(40, 34, 24));
+        TextOutA(device, area.left + step.left + objects.scaled(2),
+                 area.top + (isInside ? step.top + 1 : step.top - size.cy), number.data(),
+                 static_cast<int>(number.size()));
+    }
+    FrameRect(device, &ground, static_cast<HBRUSH>(GetStockObject(GRAY_BRUSH)));
+    return scale;
+}
+
+} // namespace varrocade
