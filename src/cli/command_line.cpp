@@ -42,6 +42,10 @@ void complain(std::string_view text) {
     std::fputs(line.c_str(), stderr);
 }
 
+bool print(std::string_view text) {
+    return std::fwrite(text.data(), 1, text.size(), stdout) == text.size();
+}
+
 std::string asFolder(std::string path) {
     if (path.empty() || (path.back() != '\\' && path.back() != '/')) {
         path += '\\';

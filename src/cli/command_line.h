@@ -30,6 +30,9 @@ int runCommandLine(Arguments arguments);
 /// Says on standard error what went wrong.
 void complain(std::string_view text);
 
+/// To standard output; false when not all of it could be written.
+bool print(std::string_view text);
+
 /// A folder as paths are built from it: ending in a separator.
 std::string asFolder(std::string path);
 

@@ -10,7 +10,6 @@
 #include "weapons/weapon_losses.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <vector>
 
 namespace varrocade::cli {
@@ -58,8 +57,7 @@ int explainLosses(Category category, const std::string& path, const std::string&
         return Done;
     }
     for (const SaveLoss& loss : *losses) {
-        const std::string line = path + ":" + lossText(loss) + "\n";
-        std::fwrite(line.data(), 1, line.size(), stdout);
+        print(path + ":" + lossText(loss) + "\n");
     }
     return Findings;
 }

@@ -2,6 +2,8 @@
 // All weapons of the game and of the mod in use: what the drop-down lists of the editors offer, and where the
 // figures behind a weapon's name are looked up.
 
+#include "data/format/tag_tree.h"
+#include "data/game_files.h"
 #include "platform/file_operations.h"
 #include "weapons/weapon_record.h"
 
@@ -61,14 +63,12 @@ public:
     [[nodiscard]] std::vector<std::string> problemsOf(std::string_view path) const;
 
 private:
-    struct Reading;
-
-    void addFile(const std::string& folder, std::string_view diskName, Reading& reading);
-    void addFolder(const std::string& folder, Reading& reading);
-    void dropShadowed();
+    void addFiles(GameFileList list);
+    CatalogueEntry* entryToReplace(const GameFile& file);
+    CatalogueEntry readEntry(const GameFile& file, std::string_view content, TagTree& tree);
     void sortEntries();
 
-    std::vector<std::string> folders_; ///< of the weapon files; the first one counts
+    GameFolders folders_;
     std::vector<CatalogueEntry> entries_;
     std::vector<FileFailure> problems_;
 };

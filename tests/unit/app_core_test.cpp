@@ -5,7 +5,6 @@
 #include "app/workspace/options_file.h"
 #include "app/workspace/positions.h"
 #include "app/workspace/undo_history.h"
-#include "app/workspace/weapon_users.h"
 #include "app/workspace/window_layout.h"
 #include "data/unit/unit_writers.h"
 #include "mod/mod_settings.h"
@@ -126,46 +125,6 @@ TEST(UndoHistory, AChangeThatGoesOnIsOneStep) {
     }
     EXPECT_EQ(history.undo().longName, "");
     EXPECT_EQ(history.redo().longName, "three");
-}
-
-TEST(WeaponUsers, KnowsWhoCarriesAWeaponAndReadsNoFileTwice) {
-    const TemporaryFolder folder;
-    constexpr std::string_view tank =
-        "<squad><vehicle><turret><weapon><type>WEAPON_A</type></weapon>"
-        "<man><weapon><type>WEAPON_B</type></weapon></man></turret></vehicle></squad>";
-    folder.write("Game\\Data\\Vehicles\\German Tank.txt", tank);
-    folder.write("Game\\Data\\Infantry\\German Squad.txt",
-                 "<squad><man><ammo><for>WEAPON_B</for><rounds>2</rounds></ammo></man></squad>");
-    folder.write("Mod\\Data\\Vehicles\\German Tank.txt", "<squad><vehicle></vehicle></squad>");
-    WeaponUsers users;
-    const auto usersOf = [&](std::string_view weapon, std::initializer_list<const char*> bases) {
-        std::vector<std::string> folders;
-        for (const char* base : bases) {
-            folders.push_back(folder.path() + base + "\\");
-        }
-        users.start(folders);
-        const auto before = users.usersOf(std::array{weapon});
-        // In small steps: one file at most for each.
-        for (std::size_t read = users.filesRead(); users.step(); read = users.filesRead()) {
-            EXPECT_LE(users.filesRead(), read + 1);
-            EXPECT_EQ(users.usersOf(std::array{weapon}), before) << "half of the answer";
-        }
-        return users.usersOf(std::array{weapon}).value();
-    };
-    using Names = std::vector<std::string>;
-    EXPECT_FALSE(users.usersOf(std::array<std::string_view, 1>{"WEAPON_A"})) << "nobody has looked yet";
-    EXPECT_EQ(usersOf("WEAPON_A", {"Game"}), Names{"Vehicles: German Tank"});
-    EXPECT_EQ(usersOf("WEAPON_B", {"Game"}), (Names{"Infantry: German Squad", "Vehicles: German Tank"}));
-    EXPECT_EQ(usersOf("WEAPON_C", {"Game"}), Names{});
-    EXPECT_EQ(users.filesRead(), 2U);
-    EXPECT_EQ(usersOf("WEAPON_A", {"Mod", "Game"}), Names{}) << "the mod's tank has none";
-    EXPECT_EQ(users.filesRead(), 3U);
-    folder.write("Game\\Data\\Vehicles\\German Tank.txt", std::string(tank) + "\n");
-    EXPECT_EQ(usersOf("WEAPON_A", {"Game"}), Names{"Vehicles: German Tank"});
-    EXPECT_EQ(users.filesRead(), 4U) << "the changed one only";
-    EXPECT_FALSE(users.step());
-    EXPECT_EQ(users.usersOf(std::array<std::string_view, 1>{"WEAPON_A"}), Names{"Vehicles: German Tank"});
-    EXPECT_EQ(usersOf("WEAPON_A", {"None"}), Names{});
 }
 
 TEST(ModSettings, ReadsWhatItWrote) {

@@ -168,10 +168,11 @@ TEST_F(WeaponCatalogueTest, GoesOnPastBadFiles) {
     EXPECT_EQ(names(), (Names{"good", "program's", "strange", "no weapon: empty", "no weapon: Picture"}));
     EXPECT_EQ(select({}), (Names{"good", "program's", "strange"})) << "a unit cannot have them";
     EXPECT_EQ(catalogue.find("empty"), nullptr);
-    EXPECT_EQ(problemPaths(), (Names{mod.path() + below("Picture"), mod.path() + below("shadowed"),
-                                     program.path() + below("empty"), program.path() + below("picture"),
-                                     program.path() + below("strange")}));
-    EXPECT_NE(catalogue.problems().back().reason.find("WEAPON_SLINGSHOT"), std::string::npos);
+    EXPECT_EQ(problemPaths(), (Names{program.path() + below("empty"), mod.path() + below("Picture"),
+                                     mod.path() + below("shadowed"), program.path() + below("strange"),
+                                     program.path() + below("picture")}));
+    EXPECT_NE(catalogue.problemsOf(program.path() + below("strange")).front().find("WEAPON_SLINGSHOT"),
+              std::string::npos);
 }
 
 TEST_F(WeaponCatalogueTest, ListsFilesThatCannotBeOpened) {

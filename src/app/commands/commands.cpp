@@ -131,7 +131,7 @@ PenetrationTools penetrationTools() {
     const Application& app = application();
     return {.catalogue = app.catalogue,
             .drawing = app.drawing,
-            .vehicleBases = imageBases(),
+            .folders = gameFolders(),
             .openUnit = isVehicleOpen() ? &*app.openUnit : nullptr};
 }
 

@@ -14,6 +14,11 @@ const std::string& baseFolder() {
     return app.modMode ? app.modFolder : app.programFolder;
 }
 
+GameFolders gameFolders() {
+    const Application& app = application();
+    return {.program = app.programFolder, .mod = app.modMode ? app.modFolder : std::string()};
+}
+
 std::vector<std::string> imageBases() {
     const Application& app = application();
     if (app.modMode) {
@@ -23,8 +28,8 @@ std::vector<std::string> imageBases() {
 }
 
 void loadCatalogue() {
-    Application& app = application();
-    app.catalogue.load(app.programFolder, app.modMode ? app.modFolder : "");
+    const GameFolders folders = gameFolders();
+    application().catalogue.load(folders.program, folders.mod);
 }
 
 bool isRecordOpen() {

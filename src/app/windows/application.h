@@ -5,11 +5,12 @@
 #include "app/windows/picture_prefetch.h"
 #include "app/windows/unit_display.h"
 #include "app/workspace/undo_history.h"
-#include "app/workspace/weapon_users.h"
 #include "data/category.h"
+#include "data/game_files.h"
 #include "data/unit/unit_record.h"
 #include "mod/mod_settings.h"
 #include "platform/safe_save.h"
+#include "tools/weapon_users.h"
 #include "view/painting/drawing_objects_win32.h"
 #include "view/painting/picture_cache_win32.h"
 #include "weapons/weapon_catalogue.h"
@@ -64,6 +65,9 @@ Application& application();
 
 /// The folder that data files are read from and written to: the mod's in mod mode, otherwise the program's.
 const std::string& baseFolder();
+
+/// Where data files are read from: in mod mode, the mod's count before the game's.
+GameFolders gameFolders();
 
 /// Where pictures are looked for: the mod's folder before the program's.
 std::vector<std::string> imageBases();

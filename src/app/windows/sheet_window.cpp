@@ -205,7 +205,7 @@ void redrawSheet() {
 }
 
 void startLookingForUsers() {
-    application().weaponUsers.start(imageBases());
+    application().weaponUsers.start(gameFolders());
     SetTimer(sheetWindow(), UsersTimer, USER_TIMER_MINIMUM, nullptr);
 }
 

@@ -49,4 +49,7 @@ bool isDefaultFlavour(std::string_view weaponType, std::string_view flavour);
 /// A name for people: "NATIONALITY_NORTH_KOREAN" without its prefix as "North Korean".
 std::string displayName(std::string_view name, std::string_view prefix);
 
+/// A weapon type for people: "Cannon 75 KWK42 L70".
+std::string weaponWord(std::string_view weaponType);
+
 } // namespace varrocade

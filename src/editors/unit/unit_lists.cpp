@@ -1,8 +1,9 @@
 #include "editors/unit/unit_lists.h"
 
+#include "data/format/words.h"
 #include "data/unit/enumerations.h"
 #include "resources/resource.h"
-#include "view/sheet/sheet_text.h"
+#include "weapons/ammo_words.h"
 
 #include <algorithm>
 #include <array>

@@ -2,7 +2,6 @@
 
 #include "data/unit/enumerations.h"
 #include "view/sheet/data_sheet.h"
-#include "view/sheet/sheet_text.h"
 
 namespace varrocade {
 

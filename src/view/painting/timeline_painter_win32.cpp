@@ -1,6 +1,6 @@
 #include "view/painting/timeline_painter_win32.h"
 
-#include "view/sheet/sheet_text.h"
+#include "data/format/words.h"
 
 #include <algorithm>
 #include <string>

@@ -1,10 +1,11 @@
 #include "view/sheet/data_sheet.h"
 
 #include "data/format/numbers.h"
+#include "data/format/words.h"
 #include "data/unit/enumerations.h"
 #include "data/unit/image_names.h"
 #include "view/drawing/image_folders.h"
-#include "view/sheet/sheet_text.h"
+#include "weapons/ammo_words.h"
 
 #include <algorithm>
 #include <array>

@@ -3,8 +3,9 @@
 #include "view/sheet/data_sheet.h"
 
 #include "data/format/numbers.h"
+#include "data/format/words.h"
 #include "data/unit/enumerations.h"
-#include "view/sheet/sheet_text.h"
+#include "weapons/ammo_words.h"
 #include "weapons/weapon_names.h"
 
 #include <array>

@@ -1,24 +1,14 @@
 #pragma once
-// How figures and names read on the data sheet.
+// How ammunition reads to people.
 
 #include "data/unit/unit_record.h"
 
-#include <cstdint>
 #include <span>
 #include <string>
 #include <string_view>
 
 namespace varrocade {
 
-/// With commas between the thousands: "56,900".
-std::string grouped(std::int32_t value);
-/// "632 cm", or "-" when there is none.
-std::string centimetres(std::int32_t value);
-std::string yesNo(bool value);
-/// Horsepower a metric ton with one decimal, "-" without a weight.
-std::string powerToWeight(std::int32_t horsepower, std::int32_t kilograms);
-/// A weapon type for people: "Cannon 75 KWK42 L70".
-std::string weaponWord(std::string_view weaponType);
 /// A flavour for people: its display name where there is one, otherwise its name without the prefix.
 std::string flavourWord(std::string_view flavour);
 
