@@ -24,8 +24,8 @@ struct GameFolders {
 struct GameFile {
     Category category = Category::Vehicles;
     bool isOfMod = false;
-    std::string name; ///< without ".txt", in the letter case that it has on the disk
-    std::string path;
+    std::string name = {}; ///< without ".txt", in the letter case that it has on the disk
+    std::string path = {};
     std::uint64_t size = 0;   ///< 0 where no stamps were asked for, as the next
     std::int64_t changed = 0; ///< in the system's own count
     bool operator==(const GameFile&) const = default;
@@ -70,8 +70,8 @@ public:
         }
         const GameFile& file = files_[done_];
         if (read(file)) {
-            using Answer = std::invoke_result_t<Visit&, const GameFile&, std::string_view>;
-            if constexpr (std::is_void_v<Answer>) {
+            using OfVisit = std::invoke_result_t<Visit&, const GameFile&, std::string_view>;
+            if constexpr (std::is_void_v<OfVisit>) {
                 visit(file, std::string_view(content_));
             } else {
                 isStopped_ = !visit(file, std::string_view(content_));

@@ -75,7 +75,7 @@ bool PenetrationMatrix::read(const GameFolders& folders) {
     if (!vehicles.failures.empty()) {
         return false;
     }
-    // By the whole names on the disk, ending included, as scripts that compare matrices sort them.
+    // A folder by the whole names on the disk, ending included: scripts compare matrices line by line.
     std::sort(vehicles.files.begin(), vehicles.files.end(),
               [](const GameFile& a, const GameFile& b) { return a.path < b.path; });
     GameFileWalk walk(std::move(vehicles.files));
