@@ -45,8 +45,8 @@ private:
 
 std::string rewritten(const FilesOnDisk::File& file) {
     if (file.category == Category::Weapons) {
-        WeaponReadReport report;
-        const auto weapon = readWeaponFile(file.path, "weapon", report);
+        Diagnostics diagnostics;
+        const auto weapon = readWeaponFile(file.path, "weapon", diagnostics);
         return weapon ? weaponFileText(*weapon) : std::string();
     }
     Diagnostics diagnostics;

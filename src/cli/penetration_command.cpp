@@ -2,6 +2,7 @@
 #include "analysis/penetration.h"
 #include "cli/command_line.h"
 #include "data/category.h"
+#include "data/finding_text.h"
 #include "data/format/numbers.h"
 #include "data/unit/elements.h"
 #include "data/unit/unit_reader.h"
@@ -111,8 +112,8 @@ int readPlates(const std::string& base, std::vector<PlateRow>& rows) {
         } else if (unit->vehicle) {
             addPlates(name, *unit->vehicle, rows);
         }
-        for (const std::string& line : diagnostics) {
-            complain(line);
+        for (const Finding& finding : diagnostics) {
+            complain(debuggerLine(finding));
         }
     }
     return status;
@@ -155,8 +156,8 @@ int printMatrix(const std::string& base) {
     }
     WeaponCatalogue catalogue;
     catalogue.load(base);
-    for (const FileFailure& problem : catalogue.problems()) {
-        complainOf(problem);
+    for (const Finding& problem : catalogue.problems()) {
+        complain(problem.file + ": " + explanation(problem));
     }
     std::vector<PlateRow> plates;
     const int status = std::max(readPlates(base, plates), catalogue.problems().empty() ? Done : Findings);
@@ -183,14 +184,14 @@ std::optional<std::size_t> indexOf(std::string_view text) {
 }
 
 int printTable(const std::string& path, std::string_view shellText, double angle, double drag) {
-    WeaponReadReport report;
-    const std::optional<WeaponRecord> weapon = readWeaponFile(path, path, report);
+    Diagnostics diagnostics;
+    const std::optional<WeaponRecord> weapon = readWeaponFile(path, path, diagnostics);
     if (!weapon) {
         complain(path + ": cannot be read: " + systemFiles().lastError());
         return CouldNot;
     }
-    for (const std::string& line : report.diagnostics) {
-        complain(line);
+    for (const Finding& finding : diagnostics) {
+        complain(debuggerLine(finding));
     }
     const std::optional<std::size_t> shell = indexOf(shellText);
     if (!shell || *shell >= weapon->ammoTypes.size()) {

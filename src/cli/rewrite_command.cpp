@@ -1,5 +1,6 @@
 #include "cli/command_line.h"
 #include "data/category.h"
+#include "data/finding_text.h"
 #include "data/format/texts.h"
 #include "data/losses/save_losses.h"
 #include "data/unit/unit_reader.h"
@@ -31,15 +32,15 @@ std::string_view stemOf(std::string_view path) {
 }
 
 std::optional<std::string> rewritten(Category category, const std::string& content, std::string_view name) {
-    WeaponReadReport report;
+    Diagnostics diagnostics;
     std::optional<std::string> text;
     if (category == Category::Weapons) {
-        text = weaponFileText(readWeapon(content, name, report));
+        text = weaponFileText(readWeapon(content, name, diagnostics));
     } else {
-        text = unitFileText(category, readUnit(content, name, report.diagnostics));
+        text = unitFileText(category, readUnit(content, name, diagnostics));
     }
-    for (const std::string& line : report.diagnostics) {
-        complain(line);
+    for (const Finding& finding : diagnostics) {
+        complain(debuggerLine(finding));
     }
     return text;
 }
@@ -52,12 +53,12 @@ struct Task {
 
 /// Prints what the rewritten file loses; returns the exit status that follows from it.
 int explainLosses(Category category, const std::string& path, const std::string& content) {
-    const std::optional<std::vector<SaveLoss>> losses =
+    const std::optional<std::vector<Finding>> losses =
         category == Category::Weapons ? weaponSaveLosses(content) : unitSaveLosses(category, content);
     if (!losses || losses->empty()) {
         return Done;
     }
-    for (const SaveLoss& loss : *losses) {
+    for (const Finding& loss : *losses) {
         const std::string line = path + ":" + lossText(loss) + "\n";
         std::fwrite(line.data(), 1, line.size(), stdout);
     }

@@ -4,10 +4,12 @@
 #include "data/format/texts.h"
 #include "data/unit/enumerations.h"
 #include "data/unit/image_names.h"
+#include "platform/file_operations.h"
 #include "weapons/weapon_files.h"
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <unordered_set>
 #include <utility>
 
@@ -119,6 +121,14 @@ bool lists(std::string_view list, std::string_view wanted, std::string_view (*me
     return isEmpty;
 }
 
+/// A file or folder that the system does not give out, in the system's words.
+Finding cannotRead(const std::string& path, std::string reason) {
+    return {.key = finding_key::CannotRead,
+            .severity = Severity::Error,
+            .file = path,
+            .message = std::move(reason)};
+}
+
 } // namespace
 
 /// What reading one file after the other uses again.
@@ -184,7 +194,7 @@ void WeaponCatalogue::addFolder(const std::string& folder, Reading& reading) {
         std::string reason = systemFiles().lastError();
         // Only the last folder, the program's, must be there.
         if (&folder == &folders_.back() || isFolder(folder)) {
-            problems_.push_back({folder, std::move(reason)});
+            problems_.push_back(cannotRead(folder, std::move(reason)));
         }
         return;
     }
@@ -213,17 +223,21 @@ void WeaponCatalogue::addFile(const std::string& folder, std::string_view diskNa
     CatalogueEntry entry{.path = folder + std::string(diskName)};
     const std::string_view fileName = withoutEnding(diskName);
     if (readWholeFile(entry.path, reading.content)) {
-        WeaponReadReport report;
-        entry.weapon = readWeapon(reading.tree, reading.content, fileName, report);
-        for (std::string& line : report.diagnostics) {
-            problems_.push_back({entry.path, std::move(line)});
+        Diagnostics diagnostics;
+        entry.weapon = readWeapon(reading.tree, reading.content, fileName, diagnostics);
+        for (Finding& finding : diagnostics) {
+            finding.file = entry.path;
+            problems_.push_back(std::move(finding));
         }
         entry.holdsWeapon = !isUntouched(entry.weapon);
         if (!entry.holdsWeapon) {
-            problems_.push_back({entry.path, "holds no weapon"});
+            problems_.push_back({.key = finding_key::NoWeapon,
+                                 .severity = Severity::Error,
+                                 .file = entry.path,
+                                 .message = "holds no weapon"});
         }
     } else {
-        problems_.push_back({entry.path, systemFiles().lastError()});
+        problems_.push_back(cannotRead(entry.path, systemFiles().lastError()));
         entry.holdsWeapon = false;
         entry.weapon.fileName = fileName;
     }
@@ -234,8 +248,8 @@ void WeaponCatalogue::refresh(std::string_view fileName) {
     std::erase_if(entries_, [fileName](const CatalogueEntry& entry) {
         return equalsIgnoringCase(entry.weapon.fileName, fileName);
     });
-    std::erase_if(problems_, [fileName](const FileFailure& problem) {
-        return isFileNamed(nameInFolder(problem.path), fileName);
+    std::erase_if(problems_, [fileName](const Finding& problem) {
+        return isFileNamed(nameInFolder(problem.file), fileName);
     });
     std::vector<std::string> diskNames;
     Reading reading;
@@ -287,14 +301,11 @@ const WeaponRecord* WeaponCatalogue::find(std::string_view name) const {
     return named;
 }
 
-std::vector<std::string> WeaponCatalogue::problemsOf(std::string_view path) const {
-    std::vector<std::string> reasons;
-    for (const FileFailure& problem : problems_) {
-        if (problem.path == path) {
-            reasons.push_back(problem.reason);
-        }
-    }
-    return reasons;
+std::vector<Finding> WeaponCatalogue::problemsOf(std::string_view path) const {
+    std::vector<Finding> found;
+    std::copy_if(problems_.begin(), problems_.end(), std::back_inserter(found),
+                 [path](const Finding& problem) { return problem.file == path; });
+    return found;
 }
 
 } // namespace varrocade

@@ -2,7 +2,7 @@
 // All weapons of the game and of the mod in use: what the drop-down lists of the editors offer, and where the
 // figures behind a weapon's name are looked up.
 
-#include "platform/file_operations.h"
+#include "data/finding.h"
 #include "weapons/weapon_record.h"
 
 #include <span>
@@ -54,11 +54,11 @@ public:
     [[nodiscard]] const WeaponRecord* find(std::string_view name) const;
 
     /// The files that could not be read or hold no weapon, and those with data that a record cannot take,
-    /// with the reasons.
-    [[nodiscard]] const std::vector<FileFailure>& problems() const { return problems_; }
+    /// by their paths.
+    [[nodiscard]] const std::vector<Finding>& problems() const { return problems_; }
 
-    /// The reasons that concern one file.
-    [[nodiscard]] std::vector<std::string> problemsOf(std::string_view path) const;
+    /// Those that concern one file.
+    [[nodiscard]] std::vector<Finding> problemsOf(std::string_view path) const;
 
 private:
     struct Reading;
@@ -70,7 +70,7 @@ private:
 
     std::vector<std::string> folders_; ///< of the weapon files; the first one counts
     std::vector<CatalogueEntry> entries_;
-    std::vector<FileFailure> problems_;
+    std::vector<Finding> problems_;
 };
 
 } // namespace varrocade

@@ -1,3 +1,4 @@
+#include "data/finding_text.h"
 #include "data/format/numbers.h"
 #include "data/unit/image_names.h"
 #include "platform/file_operations.h"
@@ -21,9 +22,8 @@ namespace we = weapon_element;
 /// passed.
 struct Reading {
     WeaponRecord& weapon;
-    WeaponReadReport& report;
-    std::string_view fileContent;
     const TagTree& tree;
+    ReaderFindings* findings; ///< may be null, as the trace
     ReadingTrace* trace;
     const TagNode* node = nullptr;
     AmmoTypeRecord* ammoType = nullptr;
@@ -118,13 +118,6 @@ void setWord(Reading& reading, std::string_view text) {
     }
 }
 
-void report(Reading& reading, const std::string& line) {
-    constexpr std::size_t mostLines = 100;
-    if (reading.report.diagnostics.size() < mostLines) {
-        reading.report.diagnostics.push_back(line);
-    }
-}
-
 void setType(Reading& reading, std::string_view text) {
     const WeaponType type = weaponTypeOf(text);
     WeaponRecord* weapon = targetOf<&WeaponRecord::type>(reading);
@@ -132,11 +125,12 @@ void setType(Reading& reading, std::string_view text) {
         weapon->type = type;
         return;
     }
-    report(reading, "\xF0\x9F\x92\xA5 ERROR: WeaponDataList: getListEntryForWeapon() unknown <type> in '" +
-                        std::string(text) + "'");
-    constexpr std::size_t mostBoxes = 3;
-    if (!reading.weapon.name.empty() && reading.report.unknownTypes.size() < mostBoxes) {
-        reading.report.unknownTypes.emplace_back(text);
+    if (reading.findings != nullptr) {
+        reading.findings->addAtText(*reading.node, {.key = finding_key::UnknownWeaponType,
+                                                    .severity = Severity::Error,
+                                                    .field = std::string(we::Type),
+                                                    .message = quoted(text) + " is not a weapon type",
+                                                    .subject = weapon->name});
     }
 }
 
@@ -176,12 +170,13 @@ void addAmmoType(Reading& reading, std::string_view) {
         }
         return;
     }
+    constexpr std::string_view what = "more than 255 ammunition types";
     if (reading.trace != nullptr) {
-        reading.trace->noteLeftOut("more than 255 ammunition types");
+        reading.trace->noteLeftOut(what);
     }
-    report(reading, "ERROR: " + reading.weapon.fileName + ": line " +
-                        std::to_string(reading.tree.lineOf(reading.node->name, reading.fileContent)) +
-                        ": more than 255 ammunition types: left out");
+    if (reading.findings != nullptr) {
+        reading.findings->addLeftOut(*reading.node, what);
+    }
 }
 
 using Weapon = WeaponRecord;
@@ -253,13 +248,11 @@ bool visit(Reading& reading, const TagNode& node) {
 
 } // namespace
 
-WeaponRecord weapon_rules::readTree(const TagTree& tree, std::string_view fileContent,
-                                    std::string_view fileName, WeaponReadReport& report,
+WeaponRecord weapon_rules::readTree(const TagTree& tree, std::string_view fileName, ReaderFindings* findings,
                                     ReadingTrace* trace) {
     WeaponRecord weapon;
     weapon.fileName = fileName;
-    Reading reading{
-        .weapon = weapon, .report = report, .fileContent = fileContent, .tree = tree, .trace = trace};
+    Reading reading{.weapon = weapon, .tree = tree, .findings = findings, .trace = trace};
     const std::vector<TagNode>& nodes = tree.nodes();
     for (std::uint32_t i = 1; i < nodes.size(); ++i) {
         if (trace == nullptr) {
@@ -299,39 +292,47 @@ std::string valueText(ReloadMode value) {
     return value == ReloadMode::None ? std::string() : std::string(nameOf(value));
 }
 
-WeaponRecord readWeapon(std::string_view fileContent, std::string_view fileName, WeaponReadReport& report) {
+WeaponRecord readWeapon(std::string_view fileContent, std::string_view fileName, Diagnostics& diagnostics) {
     TagTree tree;
-    return readWeapon(tree, fileContent, fileName, report);
+    return readWeapon(tree, fileContent, fileName, diagnostics);
 }
 
 WeaponRecord readWeapon(TagTree& tree, std::string_view fileContent, std::string_view fileName,
-                        WeaponReadReport& report) {
+                        Diagnostics& diagnostics) {
     tree.parse(fileContent);
-    return weapon_rules::readTree(tree, fileContent, fileName, report, nullptr);
+    ReaderFindings findings(diagnostics, fileName, tree, fileContent);
+    return weapon_rules::readTree(tree, fileName, &findings, nullptr);
 }
 
 std::optional<WeaponRecord> readWeaponFile(const std::string& path, std::string_view fileName,
-                                           WeaponReadReport& report) {
+                                           Diagnostics& diagnostics) {
     std::string content;
     if (!readWholeFile(path, content)) {
         return std::nullopt;
     }
-    return readWeapon(content, fileName, report);
+    return readWeapon(content, fileName, diagnostics);
 }
 
 std::optional<WeaponRecord> loadWeapon(std::string_view base, std::string_view fileName) {
     const std::string path = dataFilePath(base, Category::Weapons, fileName);
-    WeaponReadReport report;
-    std::optional<WeaponRecord> weapon = readWeaponFile(path, fileName, report);
+    Diagnostics diagnostics;
+    std::optional<WeaponRecord> weapon = readWeaponFile(path, fileName, diagnostics);
     if (!weapon) {
         showCouldNotLoad(path);
     }
-    for (const std::string& line : report.diagnostics) {
-        debugLine(line);
+    for (const Finding& finding : diagnostics) {
+        debugLine(debuggerLine(finding));
     }
-    for (const std::string& type : report.unknownTypes) {
-        showMessage(
-            {.text = "unknown <type> '" + type + "'", .caption = weapon->name, .icon = MessageIcon::Error});
+    constexpr int mostBoxes = 3;
+    int boxes = 0;
+    for (const Finding& finding : diagnostics) {
+        // The weapon's name is the caption: without one there is no box.
+        if (finding.key == finding_key::UnknownWeaponType && !finding.subject.empty() && boxes < mostBoxes) {
+            ++boxes;
+            showMessage({.text = "unknown <type> '" + finding.value + "'",
+                         .caption = finding.subject,
+                         .icon = MessageIcon::Error});
+        }
     }
     return weapon;
 }

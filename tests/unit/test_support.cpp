@@ -1,5 +1,6 @@
 #include "test_support.h"
 
+#include "data/finding_text.h"
 #include "data/unit/unit_writers.h"
 #include "platform/file_operations.h"
 #include "weapons/weapon_files.h"
@@ -139,8 +140,14 @@ SquadRecord readUnitText(std::string_view content) {
 }
 
 WeaponRecord readWeaponText(std::string_view content) {
-    WeaponReadReport report;
-    return readWeapon(content, "weapon", report);
+    Diagnostics diagnostics;
+    return readWeapon(content, "weapon", diagnostics);
+}
+
+std::vector<std::string> debuggerLines(const Diagnostics& diagnostics) {
+    std::vector<std::string> lines(diagnostics.size());
+    std::transform(diagnostics.begin(), diagnostics.end(), lines.begin(), debuggerLine);
+    return lines;
 }
 
 TemporaryFolder::TemporaryFolder() {

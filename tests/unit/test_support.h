@@ -57,6 +57,9 @@ const std::vector<SampleFile>& sampleFiles();
 SquadRecord readUnitText(std::string_view content);
 WeaponRecord readWeaponText(std::string_view content);
 
+/// What readers write to the debugger.
+std::vector<std::string> debuggerLines(const Diagnostics& diagnostics);
+
 /// A folder of its own for a test, gone with it.
 class TemporaryFolder {
 public:

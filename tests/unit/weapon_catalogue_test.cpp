@@ -60,9 +60,9 @@ protected:
     }
     std::vector<std::string> problemPaths() const {
         std::vector<std::string> paths;
-        for (const FileFailure& problem : catalogue.problems()) {
-            EXPECT_FALSE(problem.reason.empty()) << problem.path;
-            paths.push_back(problem.path);
+        for (const Finding& problem : catalogue.problems()) {
+            EXPECT_FALSE(problem.message.empty()) << problem.file;
+            paths.push_back(problem.file);
         }
         return paths;
     }
@@ -171,7 +171,7 @@ TEST_F(WeaponCatalogueTest, GoesOnPastBadFiles) {
     EXPECT_EQ(problemPaths(), (Names{mod.path() + below("Picture"), mod.path() + below("shadowed"),
                                      program.path() + below("empty"), program.path() + below("picture"),
                                      program.path() + below("strange")}));
-    EXPECT_NE(catalogue.problems().back().reason.find("WEAPON_SLINGSHOT"), std::string::npos);
+    EXPECT_NE(catalogue.problems().back().message.find("WEAPON_SLINGSHOT"), std::string::npos);
 }
 
 TEST_F(WeaponCatalogueTest, ListsFilesThatCannotBeOpened) {

@@ -40,8 +40,7 @@ void reopenIfChanged() {
     bool isSame = false;
     if (readWholeFile(path, content)) {
         Diagnostics diagnostics;
-        WeaponReadReport report;
-        isSame = app.openWeapon ? readWeapon(content, name, report) == *app.openWeapon
+        isSame = app.openWeapon ? readWeapon(content, name, diagnostics) == *app.openWeapon
                                 : readUnit(content, name, diagnostics) == *app.savedUnit;
     }
     if (!isSame) {
@@ -52,7 +51,7 @@ void reopenIfChanged() {
 namespace {
 
 /// The first lines of what a save would lose, for a box of a readable size.
-std::string lossSummary(const std::vector<SaveLoss>& losses) {
+std::string lossSummary(const std::vector<Finding>& losses) {
     constexpr std::size_t mostLines = 12;
     std::string text;
     for (std::size_t i = 0; i < losses.size() && i < mostLines; ++i) {
@@ -76,7 +75,7 @@ bool mayReplaceFile(Category category, const std::string& path) {
     if (!losses) {
         return true;
     }
-    std::erase_if(*losses, [](const SaveLoss& loss) { return loss.kind == LossKind::Respelt; });
+    std::erase_if(*losses, [](const Finding& loss) { return loss.key == finding_key::Respelt; });
     if (losses->empty()) {
         return true;
     }

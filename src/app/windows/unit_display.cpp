@@ -70,7 +70,7 @@ std::optional<std::vector<std::string>> usersOfOpenWeapon() {
     return app.weaponUsers.usersOf(names);
 }
 
-std::vector<std::string> problemsOfOpenWeapon() {
+std::vector<Finding> problemsOfOpenWeapon() {
     const Application& app = application();
     return app.catalogue.problemsOf(dataFilePath(baseFolder(), Category::Weapons, app.openWeapon->fileName));
 }

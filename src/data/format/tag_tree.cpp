@@ -173,8 +173,4 @@ void TagTree::parseCleaned(std::string_view fileContent) {
     }
 }
 
-std::size_t TagTree::lineOf(std::string_view part, std::string_view fileContent) const {
-    return isVerbatim_ ? lineAt(content_, offsetOf(part)) : lineOfOffset(fileContent, offsetOf(part));
-}
-
 } // namespace varrocade

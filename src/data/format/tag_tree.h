@@ -50,9 +50,8 @@ public:
     [[nodiscard]] std::size_t offsetOf(std::string_view part) const {
         return static_cast<std::size_t>(part.data() - content_.data());
     }
-    /// The line (from 1) on which a part stands in the file that was parsed. Costs a pass over the file: for
-    /// messages only.
-    [[nodiscard]] std::size_t lineOf(std::string_view part, std::string_view fileContent) const;
+    /// Whether the content is the file as it stands. `SourceMap` finds the places of either in the file.
+    [[nodiscard]] bool isVerbatim() const { return isVerbatim_; }
 
 private:
     std::string content_;
@@ -94,13 +93,6 @@ struct KeptPiece {
     std::size_t cleanedOffset; ///< where it begins in the cleaned content
 };
 std::vector<KeptPiece> keptPieces(std::string_view fileContent);
-
-/// The line (from 1) of the file on which the character at `cleanedOffset` of the cleaned content stands.
-/// Cleans again, so it costs as much as reading: for messages only.
-std::size_t lineOfOffset(std::string_view fileContent, std::size_t cleanedOffset);
-
-/// The line (from 1) on which the character at an offset of a file stands.
-std::size_t lineAt(std::string_view fileContent, std::size_t offset);
 
 /// The game's buffer for a line: a longer one is cleaned in pieces of this many characters.
 inline constexpr std::size_t LinePieceLength = 510;

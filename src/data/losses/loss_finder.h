@@ -2,9 +2,9 @@
 // Comparing what a reader made of a file with what it makes of the file that the writer would put in its
 // place.
 
+#include "data/finding.h"
 #include "data/format/tag_tree.h"
 #include "data/losses/reading_trace.h"
-#include "data/losses/save_losses.h"
 
 #include <cstdint>
 #include <span>
@@ -50,7 +50,7 @@ struct LossKnowledge {
 };
 
 /// What of `file` is not in `saved`, or is otherwise there.
-std::vector<SaveLoss> findLosses(const TracedFile& file, const TracedFile& saved,
-                                 const LossKnowledge& knowledge);
+std::vector<Finding> findLosses(const TracedFile& file, const TracedFile& saved,
+                                const LossKnowledge& knowledge);
 
 } // namespace varrocade

@@ -69,9 +69,7 @@ bool goesWithoutSayingInVehicle(const FieldHistory& history, const TracedValue& 
 
 SquadRecord readTraced(TracedFile& file) {
     SquadRecord record;
-    Diagnostics ignored;
-    unit_rules::Reading reading{
-        .record = record, .diagnostics = ignored, .fileContent = file.content, .tree = file.tree};
+    unit_rules::Reading reading{.record = record, .tree = file.tree};
     reading.trace = &file.trace;
     unit_rules::readTree(reading);
     return record;
@@ -79,7 +77,7 @@ SquadRecord readTraced(TracedFile& file) {
 
 } // namespace
 
-std::optional<std::vector<SaveLoss>> unitSaveLosses(Category category, std::string_view fileContent) {
+std::optional<std::vector<Finding>> unitSaveLosses(Category category, std::string_view fileContent) {
     TracedFile file(fileContent);
     const std::optional<std::string> text = unitFileText(category, readTraced(file));
     if (!text) {

@@ -1,6 +1,6 @@
 #include "data/losses/value_meaning.h"
 
-#include "data/losses/loss_list.h"
+#include "data/finding_text.h"
 #include "data/unit/image_names.h"
 
 #include <charconv>

@@ -1,5 +1,6 @@
 #include "data/unit/unit_reader.h"
 
+#include "data/finding_text.h"
 #include "data/unit/enumerations.h"
 #include "data/unit/unit_rules.h"
 #include "platform/file_operations.h"
@@ -12,9 +13,17 @@ namespace {
 using unit_rules::Place;
 using unit_rules::Reading;
 
-// As the game prints it: the name is not filled in, and every heavy weapon is called a mortar.
-constexpr std::string_view UnknownInHeavyWeapon =
-    "\xF0\x9F\x92\xA5 ERROR: Game: createSquadOnSide() Unknown tag <%s> in <mortar>...</mortar>";
+/// The game tells of unknown elements in heavy weapons only.
+void reportUnknown(Reading& reading, const TagNode& node) {
+    if (reading.findings != nullptr && reading.heavyWeapon != nullptr) {
+        reading.findings->addAtElement(node, {.key = finding_key::UnknownElement,
+                                              .severity = Severity::Error,
+                                              .message = elementText(node) + " in " +
+                                                         tagText(reading.tree.nodes()[node.parent].name) +
+                                                         " is not known",
+                                              .value = std::string(node.name)});
+    }
+}
 
 Place visit(Reading& reading, Place parent, const TagNode& node) {
     reading.node = &node;
@@ -24,8 +33,8 @@ Place visit(Reading& reading, Place parent, const TagNode& node) {
         return Place::Unknown;
     }
     if (rule == nullptr) {
-        if (parent == Place::HeavyWeapon && reading.heavyWeapon != nullptr) {
-            unit_rules::report(reading, UnknownInHeavyWeapon);
+        if (parent == Place::HeavyWeapon) {
+            reportUnknown(reading, node);
         }
         return Place::Unknown;
     }
@@ -72,7 +81,8 @@ SquadRecord readUnit(std::string_view fileContent, std::string_view fileName, Di
     record.fileName = fileName;
     TagTree tree;
     tree.parse(fileContent);
-    Reading reading{.record = record, .diagnostics = diagnostics, .fileContent = fileContent, .tree = tree};
+    ReaderFindings findings(diagnostics, record.fileName.view(), tree, fileContent);
+    Reading reading{.record = record, .tree = tree, .findings = &findings};
     unit_rules::readTree(reading);
     return record;
 }
@@ -93,8 +103,8 @@ std::optional<SquadRecord> loadUnit(std::string_view base, Category category, st
     if (!record) {
         showCouldNotLoad(path);
     }
-    for (const std::string& line : diagnostics) {
-        debugLine(line);
+    for (const Finding& finding : diagnostics) {
+        debugLine(debuggerLine(finding));
     }
     return record;
 }

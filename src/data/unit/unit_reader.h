@@ -2,20 +2,18 @@
 // Reading unit files of all four kinds, in today's form and in the older ones.
 
 #include "data/category.h"
+#include "data/finding.h"
 #include "data/unit/unit_record.h"
 
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace varrocade {
 
-/// Lines for the debugger about data that a file holds and the record cannot take.
-using Diagnostics = std::vector<std::string>;
-
 /// Reads the content of a unit file. Nothing is refused: unknown elements are left out, absent ones leave
-/// their defaults. `fileName` is the name to give the record, without folder and ".txt".
+/// their defaults. `fileName` is the name to give the record, without folder and ".txt"; the findings call
+/// the file so too.
 SquadRecord readUnit(std::string_view fileContent, std::string_view fileName, Diagnostics& diagnostics);
 
 /// Reads the unit file at `path`; nothing when it cannot be opened.

@@ -340,22 +340,13 @@ const Rule* findRule(Place parent, std::string_view element) {
     return parent == Place::Unknown ? nullptr : ruleIndex().find(parent, element);
 }
 
-void report(Reading& reading, std::string_view line) {
-    if (reading.diagnostics.size() < MaxDiagnostics) {
-        reading.diagnostics.emplace_back(line);
-    }
-}
-
 void reportLeftOut(Reading& reading, std::string_view what) {
     if (reading.trace != nullptr) {
         reading.trace->noteLeftOut(what);
     }
-    if (reading.diagnostics.size() >= MaxDiagnostics || reading.node == nullptr) {
-        return;
+    if (reading.findings != nullptr && reading.node != nullptr) {
+        reading.findings->addLeftOut(*reading.node, what);
     }
-    const std::size_t line = reading.tree.lineOf(reading.node->name, reading.fileContent);
-    report(reading, "ERROR: " + reading.record.fileName.str() + ": line " + std::to_string(line) + ": " +
-                        std::string(what) + ": left out");
 }
 
 } // namespace varrocade::unit_rules

@@ -3,7 +3,8 @@
 
 #include "data/format/tag_tree.h"
 #include "data/losses/reading_trace.h"
-#include "data/unit/unit_reader.h"
+#include "data/reader_findings.h"
+#include "data/unit/unit_record.h"
 
 #include <cstdint>
 #include <string_view>
@@ -55,9 +56,9 @@ enum class Place : std::uint8_t {
 /// found no room is passed over.
 struct Reading {
     SquadRecord& record;
-    Diagnostics& diagnostics;
-    std::string_view fileContent;
     const TagTree& tree;
+    /// Where to note what the record cannot take, or null.
+    ReaderFindings* findings = nullptr;
     const TagNode* node = nullptr;
     /// Where to note what becomes of each element, or null.
     ReadingTrace* trace = nullptr;
@@ -90,13 +91,7 @@ void readTree(Reading& reading);
 /// A point of the older quarterly availability, such as "1942Q3" with its number.
 void addQuarter(Reading& reading, std::string_view name, std::string_view text);
 
-/// A file tells at most so much about itself: finding a line costs a pass over the file.
-inline constexpr std::size_t MaxDiagnostics = 100;
-
-/// Adds a line to the diagnostics.
-void report(Reading& reading, std::string_view line);
-
-/// Notes what was left out and on which line of the file.
+/// Notes that the element being read was left out, and why.
 void reportLeftOut(Reading& reading, std::string_view what);
 
 } // namespace varrocade::unit_rules

@@ -1,5 +1,6 @@
 #include "editors/penetration/penetration_form.h"
 
+#include "data/finding_text.h"
 #include "data/format/numbers.h"
 #include "data/format/texts.h"
 #include "resources/resource.h"
@@ -131,9 +132,9 @@ ChartAxis chartAxis(double greatest, int mostSteps) {
 std::string weaponFileNote(const WeaponCatalogue& catalogue, std::size_t weapon) {
     const auto& entries = catalogue.entries();
     if (weapon < entries.size()) {
-        const auto reasons = catalogue.problemsOf(entries[weapon].path);
-        if (!reasons.empty()) {
-            return "This weapon's file: " + reasons.front();
+        const auto problems = catalogue.problemsOf(entries[weapon].path);
+        if (!problems.empty()) {
+            return "This weapon's file: " + explanation(problems.front());
         }
     }
     return catalogue.problems().empty() ? ""

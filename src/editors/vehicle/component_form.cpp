@@ -1,9 +1,12 @@
 #include "editors/vehicle/component_form.h"
 
 #include "data/format/numbers.h"
+#include "data/unit/elements.h"
 #include "data/unit/image_names.h"
+#include "data/unit/unit_consistency.h"
 #include "resources/resource.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -15,7 +18,6 @@ using Component = ComponentRecord;
 using Field = FormField<Component>;
 
 constexpr std::int32_t FullCircle = 360;
-constexpr std::int32_t HalfCircle = 180;
 constexpr int DegreesDecimals = 1;
 
 constexpr auto SizeFields = std::to_array<Field>({
@@ -87,28 +89,30 @@ std::optional<ComponentFormError> readFields(FormPort& port, std::span<const Fie
     return std::nullopt;
 }
 
-/// The checks of the angles; a turret's messages name it.
-std::optional<ComponentFormError> checkTraverse(const Component& component) {
-    const bool isTurret = component.kind == ComponentKind::Turret;
-    const std::string rotateWho = isTurret ? "The turret rotate" : "The rotate";
-    const auto isLimit = [](std::int32_t angle) { return angle >= 0 && angle <= FullCircle; };
-    if (!isLimit(component.rotateLeft) || !isLimit(component.rotateRight)) {
-        return ComponentFormError{isLimit(component.rotateLeft) ? IDC_ROTATE_RIGHT : IDC_ROTATE_LEFT,
-                                  rotateWho + " left and right angles must be between 0 and 360 degrees",
-                                  "Rotate angles"};
+/// Where a refusal stands in the dialog, and what the caption of its box is.
+struct RefusalPlace {
+    std::string_view field;
+    int control;
+    std::string_view caption;
+};
+
+constexpr std::string_view RotateSpeedCaption = "Rotate speed";
+
+constexpr auto RefusalPlaces = std::to_array<RefusalPlace>({
+    {element::RotateLeft, IDC_ROTATE_LEFT, "Rotate angles"},
+    {element::RotateRight, IDC_ROTATE_RIGHT, "Rotate angles"},
+    {element::OffsetAngle, IDC_OFFSET_ANGLE, "Offset angle"},
+    {element::OffsetZ, IDC_OFFSET_Z, "Error"},
+    {element::RotateTime, IDC_ROTATE_SPEED, RotateSpeedCaption},
+});
+
+std::optional<ComponentFormError> refusalOf(const std::optional<Finding>& finding) {
+    if (!finding) {
+        return std::nullopt;
     }
-    if (component.rotateLeft + component.rotateRight > FullCircle) {
-        return ComponentFormError{IDC_ROTATE_LEFT,
-                                  rotateWho + " left and right angles must add up to less that 360 degrees",
-                                  "Rotate angles"};
-    }
-    if (component.offsetAngle < -HalfCircle || component.offsetAngle > HalfCircle) {
-        return ComponentFormError{IDC_OFFSET_ANGLE,
-                                  std::string(isTurret ? "The turret offset" : "The offset") +
-                                      " angle must be between -180 and 180 degrees",
-                                  "Offset angle"};
-    }
-    return std::nullopt;
+    const auto place = std::find_if(RefusalPlaces.begin(), RefusalPlaces.end(),
+                                    [&](const RefusalPlace& row) { return row.field == finding->field; });
+    return ComponentFormError{place->control, finding->message, std::string(place->caption)};
 }
 
 /// A speed that was not touched keeps its time to the second.
@@ -118,21 +122,18 @@ std::optional<ComponentFormError> readRotateSpeed(FormPort& port, Component& com
         return std::nullopt;
     }
     if (text.find_first_not_of(" \t+-.0123456789") != std::string::npos) {
-        return ComponentFormError{IDC_ROTATE_SPEED, "\"Rotate speed\" must be a number", "Rotate speed"};
+        return ComponentFormError{IDC_ROTATE_SPEED, "\"Rotate speed\" must be a number",
+                                  std::string(RotateSpeedCaption)};
     }
     const auto time = rotateTimeOf(text);
-    if (!time) {
-        return ComponentFormError{IDC_ROTATE_SPEED, "The rotate speed must be greater than zero",
-                                  "Rotate speed"};
-    }
-    if (*time == 0) {
+    if (time == 0) {
         return ComponentFormError{IDC_ROTATE_SPEED,
                                   "The rotate speed must be at most 360 degrees per second: the file counts "
                                   "the seconds for a full circle",
-                                  "Rotate speed"};
+                                  std::string(RotateSpeedCaption)};
     }
-    component.rotateTime = *time;
-    return std::nullopt;
+    component.rotateTime = time.value_or(0);
+    return refusalOf(rotateTimeFinding(component));
 }
 
 std::optional<ComponentFormError> readTurret(FormPort& port, Component& turret) {
@@ -141,7 +142,7 @@ std::optional<ComponentFormError> readTurret(FormPort& port, Component& turret) 
         if (auto error = readFields(port, TraverseFields, turret)) {
             return error;
         }
-        if (auto error = checkTraverse(turret)) {
+        if (auto error = refusalOf(traverseFinding(turret))) {
             return error;
         }
     }
@@ -161,14 +162,14 @@ std::optional<ComponentFormError> readFixedWeapon(FormPort& port, Component& wea
     if (auto error = readFields(port, TraverseFields, weapon)) {
         return error;
     }
-    if (auto error = checkTraverse(weapon)) {
+    if (auto error = refusalOf(traverseFinding(weapon))) {
         return error;
     }
     if (auto error = readFields(port, OffsetFields, weapon)) {
         return error;
     }
-    if (weapon.offsetZ <= 0) {
-        return ComponentFormError{IDC_OFFSET_Z, "OffsetZ must be greater than zero", "Error"};
+    if (auto error = refusalOf(offsetHeightFinding(weapon))) {
+        return error;
     }
     if (auto error = readRotateSpeed(port, weapon)) {
         return error;

@@ -1,6 +1,7 @@
 #include "editors/vehicle/drive_form.h"
 
 #include "data/unit/engine_table.h"
+#include "data/unit/unit_consistency.h"
 #include "resources/resource.h"
 
 #include <algorithm>
@@ -37,8 +38,8 @@ std::optional<FormError> readDriveForm(FormPort& port, VehicleRecord& vehicle) {
     }
     const bool isTouched =
         copy.revolutionLimit != vehicle.revolutionLimit || copy.idleRevolutions != vehicle.idleRevolutions;
-    if (isTouched && copy.revolutionLimit < copy.idleRevolutions) {
-        return FormError{IDC_RPM_LIMIT, "The revolution limit must not be below the idle revolutions"};
+    if (const auto finding = revolutionsFinding(copy); finding && isTouched) {
+        return FormError{IDC_RPM_LIMIT, finding->message};
     }
     const auto mount =
         std::find(EngineMountNames.begin(), EngineMountNames.end(), port.text(IDC_ENGINE_MOUNT));

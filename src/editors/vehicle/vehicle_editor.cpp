@@ -4,6 +4,7 @@
 
 #include "data/unit/enumerations.h"
 #include "data/unit/image_names.h"
+#include "data/unit/unit_consistency.h"
 #include "editors/form/form_port_win32.h"
 #include "editors/form/image_choices.h"
 #include "editors/form/list_keys_win32.h"
@@ -125,10 +126,9 @@ void updateMoveButtons(HWND dialog, const VehicleRecord& vehicle) {
 
 void addToList(HWND dialog, VehicleEditor& context) {
     const std::vector<ComponentRecord>& components = context.vehicle().components;
-    if (components.size() >= MaxSquadMembers) {
-        showMessage({.text = std::string(TooManyComponentsText),
-                     .caption = std::string(SquadFullCaption),
-                     .icon = MessageIcon::Error});
+    if (const auto full = componentRoomFinding(context.vehicle())) {
+        showMessage(
+            {.text = full->message, .caption = std::string(SquadFullCaption), .icon = MessageIcon::Error});
         return;
     }
     if (runDialog(dialog, IDD_ADD_COMPONENT, addComponentProcedure, &context) != 0) {

@@ -87,7 +87,7 @@ DataSheet unitSheet(const SquadRecord& record, std::span<const std::string> miss
 
 /// The sheet of a weapon, what could not be read of its file, and the units that use it, as far as these are
 /// known yet.
-DataSheet weaponSheet(const WeaponRecord& weapon, std::span<const std::string> problems,
+DataSheet weaponSheet(const WeaponRecord& weapon, std::span<const Finding> problems,
                       const std::optional<std::vector<std::string>>& users);
 
 /// The sections that only infantry and heavy weapons, and only aircraft, have.
