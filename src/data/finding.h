@@ -28,7 +28,8 @@ struct Finding {
     /// The value that it is about, by element names from the record on that was looked at, such as
     /// "rotate_left" of a component and "vehicle.turret[2].rotate_left" of a unit.
     std::string field = {};
-    /// What is so, without a capital at its start or a stop at its end. Never empty.
+    /// What is so, never empty; no stop at its end, and no capital at its start but where a box shows it
+    /// alone.
     std::string message = {};
     std::string value = {};    ///< the text found, where there is one
     std::string expected = {}; ///< what should be there, such as "0 to 360"

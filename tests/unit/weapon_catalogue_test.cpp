@@ -1,3 +1,4 @@
+#include "data/finding_text.h"
 #include "test_support.h"
 #include "weapons/weapon_catalogue.h"
 
@@ -171,7 +172,8 @@ TEST_F(WeaponCatalogueTest, GoesOnPastBadFiles) {
     EXPECT_EQ(problemPaths(), (Names{mod.path() + below("Picture"), mod.path() + below("shadowed"),
                                      program.path() + below("empty"), program.path() + below("picture"),
                                      program.path() + below("strange")}));
-    EXPECT_NE(catalogue.problems().back().message.find("WEAPON_SLINGSHOT"), std::string::npos);
+    EXPECT_EQ(sentence(catalogue.problems().back()), "Line 1: \"WEAPON_SLINGSHOT\" is not a weapon type.");
+    EXPECT_EQ(catalogue.problemsOf(program.path() + below("empty")).at(0).message, "holds no weapon");
 }
 
 TEST_F(WeaponCatalogueTest, ListsFilesThatCannotBeOpened) {

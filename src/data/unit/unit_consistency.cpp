@@ -96,9 +96,9 @@ std::optional<Finding> componentRoomFinding(const VehicleRecord& vehicle) {
     if (vehicle.components.size() < MaxSquadMembers) {
         return std::nullopt;
     }
-    return inconsistency(
-        finding_key::NoRoom, e::Vehicle, static_cast<std::int32_t>(vehicle.components.size()),
-        std::string(TooManyComponentsText), "at most " + std::to_string(MaxSquadMembers - 1));
+    return inconsistency(finding_key::NoRoom, e::Vehicle,
+                         static_cast<std::int32_t>(vehicle.components.size()),
+                         std::string(TooManyComponentsText), "fewer than " + std::to_string(MaxSquadMembers));
 }
 
 std::vector<Finding> vehicleFindings(const VehicleRecord& vehicle) {
