@@ -83,7 +83,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string_view content(reinterpret_cast<const char*>(data), size);
     Diagnostics diagnostics;
     fuzz::showUnit(readUnit(content, "unit", diagnostics));
-    Diagnostics diagnostics;
     const WeaponRecord weapon = readWeapon(content, "weapon", diagnostics);
     fuzz::HalfThePictures pictures;
     fuzz::look(drawWeapon(weapon, {.bases = {"a\\", "bc\\"}}, pictures));
