@@ -5,9 +5,9 @@
 #include "app/windows/main_window.h"
 #include "app/windows/message_boxes.h"
 #include "app/workspace/options_file.h"
+#include "data/unit/image_folders.h"
 #include "platform/messages.h"
 #include "resources/resource.h"
-#include "view/drawing/image_folders.h"
 
 #include <commctrl.h>
 

@@ -1,17 +1,13 @@
 #pragma once
 
+#include "data/unit/image_folders.h"
+
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace varrocade {
-
-/// A folder of pictures below "Images\" and what their names begin with.
-struct ImageSource {
-    std::string_view folder;
-    std::string_view prefix = {};
-};
 
 /// The names, without ".png", of the pictures in `sources` below each of `bases`, as the folders list them,
 /// each name once.

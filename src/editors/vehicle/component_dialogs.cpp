@@ -1,5 +1,6 @@
 #include "editors/vehicle/component_dialogs.h"
 
+#include "data/unit/image_folders.h"
 #include "data/unit/image_names.h"
 #include "editors/form/form_port_win32.h"
 #include "editors/form/image_choices.h"
@@ -8,7 +9,6 @@
 #include "editors/vehicle/component_form.h"
 #include "platform/messages.h"
 #include "resources/resource.h"
-#include "view/drawing/image_folders.h"
 #include "view/sheet/data_sheet.h"
 
 #include <array>

@@ -3,6 +3,7 @@
 #include "editors/vehicle/vehicle_editor.h"
 
 #include "data/unit/enumerations.h"
+#include "data/unit/image_folders.h"
 #include "data/unit/image_names.h"
 #include "editors/form/form_port_win32.h"
 #include "editors/form/image_choices.h"
@@ -14,7 +15,6 @@
 #include "editors/vehicle/vehicle_form.h"
 #include "platform/messages.h"
 #include "resources/resource.h"
-#include "view/drawing/image_folders.h"
 #include "view/sheet/data_sheet.h"
 
 #include <array>

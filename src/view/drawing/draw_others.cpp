@@ -1,8 +1,8 @@
 // The drawings of heavy weapons and of aircraft: their records have no sizes, so the pictures' own count.
 
+#include "data/unit/image_folders.h"
 #include "data/unit/image_names.h"
 #include "view/drawing/drawing_angles.h"
-#include "view/drawing/image_folders.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 // The drawings of infantry: the men from above, with what they carry beside them, all to one scale.
 
 #include "data/unit/enumerations.h"
+#include "data/unit/image_folders.h"
 #include "data/unit/image_names.h"
-#include "view/drawing/image_folders.h"
 #include "view/drawing/weapon_shapes.h"
 #include "view/sheet/sheet_text.h"
 

@@ -1,7 +1,7 @@
 #include "data/unit/enumerations.h"
+#include "data/unit/image_folders.h"
 #include "data/unit/image_names.h"
 #include "view/drawing/drawing_angles.h"
-#include "view/drawing/image_folders.h"
 
 #include <algorithm>
 #include <array>

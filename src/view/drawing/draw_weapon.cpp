@@ -1,7 +1,7 @@
 // The drawing of a weapon: the piece, its tracer and its rounds, all to one scale.
 
+#include "data/unit/image_folders.h"
 #include "data/unit/image_names.h"
-#include "view/drawing/image_folders.h"
 #include "view/drawing/weapon_shapes.h"
 #include "view/sheet/sheet_text.h"
 #include "weapons/weapon_names.h"

@@ -1,7 +1,7 @@
 #include "view/painting/flag_painter_win32.h"
 
+#include "data/unit/image_folders.h"
 #include "data/unit/image_names.h"
-#include "view/drawing/image_folders.h"
 
 #include <algorithm>
 

@@ -2,8 +2,8 @@
 
 #include "data/format/numbers.h"
 #include "data/unit/enumerations.h"
+#include "data/unit/image_folders.h"
 #include "data/unit/image_names.h"
-#include "view/drawing/image_folders.h"
 #include "view/sheet/sheet_text.h"
 
 #include <algorithm>

@@ -17,3 +17,13 @@ inline constexpr std::string_view StaticFlags = "Images\\Flags\\Static\\";
 inline constexpr std::string_view AnimatedFlags = "Images\\Flags\\Animated\\";
 
 } // namespace varrocade::image_folder
+
+namespace varrocade {
+
+/// A folder of pictures and what the names begin with that belong to a field.
+struct ImageSource {
+    std::string_view folder;
+    std::string_view prefix = {};
+};
+
+} // namespace varrocade
