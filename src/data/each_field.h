@@ -1,0 +1,164 @@
+#pragma once
+// Looping over all values of a unit, with the path to each: what checks, differences and tables are made of.
+
+#include "data/unit/elements.h"
+#include "data/unit_fields.h"
+
+#include <string>
+#include <string_view>
+#include <tuple>
+
+namespace varrocade {
+
+/// One value of a record while it is visited.
+struct FieldPlace {
+    std::string_view path; ///< such as "vehicle.turret[2].armour.mantlet"; entries count from 1
+    const FieldInfo& field;
+    Holder holder; ///< of the record that the value belongs to
+
+    /// Whether the file of this record has the value. One that is not stored is lost with saving.
+    [[nodiscard]] bool isStored() const { return field.isStoredBy(holder); }
+};
+
+/// The element of a component or a heavy weapon.
+std::string_view elementOf(ComponentKind kind);
+std::string_view elementOf(HeavyWeaponKind kind);
+/// What holds the fields of a component or a heavy weapon: its kind.
+Holder holderOf(ComponentKind kind);
+Holder holderOf(HeavyWeaponKind kind);
+/// The file that a unit is written to.
+Holder holderOf(const SquadRecord& unit);
+
+namespace each_field {
+
+/// The path while it grows and shrinks.
+class Path {
+public:
+    /// Adds a step for as long as the object lives; a number of 0 is none.
+    class Step {
+    public:
+        Step(Path& path, std::string_view name, std::size_t number = 0);
+        ~Step() { path_.text_.resize(length_); }
+        Step(const Step&) = delete;
+        Step& operator=(const Step&) = delete;
+
+    private:
+        Path& path_;
+        std::size_t length_;
+    };
+
+    [[nodiscard]] std::string_view text() const { return text_; }
+
+private:
+    std::string text_;
+};
+
+/// The walk over a record and what it holds. `Visit` takes a `FieldPlace` and a reference to the value.
+template <typename Visit>
+class Walk {
+public:
+    explicit Walk(Visit& visit) : visit_(visit) {}
+
+    template <typename Unit>
+    void unit(Unit& unit) {
+        const Holder file = holderOf(unit);
+        values(unit, file);
+        list(unit.availability, element::Availability, file);
+        if (unit.vehicle) {
+            const Path::Step step(path_, element::Vehicle);
+            vehicle(*unit.vehicle, file);
+        }
+        men(unit.infantrymen, Holder::Infantryman);
+        if (unit.heavyWeapon) {
+            const Path::Step step(path_, elementOf(unit.heavyWeapon->kind));
+            const Holder holder = holderOf(unit.heavyWeapon->kind);
+            values(*unit.heavyWeapon, holder);
+            armament(*unit.heavyWeapon, holder);
+        }
+        if (unit.aircraft) {
+            const Path::Step step(path_, element::Aircraft);
+            values(*unit.aircraft, Holder::AircraftFile);
+            armament(*unit.aircraft, Holder::AircraftFile);
+            list(unit.aircraft->rotorBlades, element::RotorBlades, Holder::AircraftFile);
+        }
+    }
+
+    /// The fields of one record, without those of the records in it.
+    template <typename Record>
+    void values(Record& record, Holder holder) {
+        std::apply([&](const auto&... fields) { (value(record, fields, holder), ...); },
+                   fieldsOf<std::remove_const_t<Record>>);
+    }
+
+private:
+    template <typename Record, typename FieldType>
+    void value(Record& record, const FieldType& field, Holder holder) {
+        auto& value = field.of(record);
+        if constexpr (std::is_same_v<const FieldType, decltype(field::PersonalWeapons)>) {
+            for (std::size_t i = 0; i < value.size(); ++i) {
+                const Path::Step step(path_, element::Weapon, i + 1);
+                visit_(FieldPlace{path_.text(), field, holder}, value[i]);
+            }
+        } else {
+            const Path::Step step(path_, field.element);
+            visit_(FieldPlace{path_.text(), field, holder}, value);
+        }
+    }
+
+    template <typename List>
+    void list(List& entries, std::string_view name, Holder holder) {
+        for (std::size_t i = 0; i < entries.size(); ++i) {
+            const Path::Step step(path_, name, i + 1);
+            values(entries[i], holder);
+        }
+    }
+
+    template <typename Armed>
+    void armament(Armed& armed, Holder holder) {
+        list(armed.weapons, element::Weapon, holder);
+        list(armed.ammo, element::Ammo, holder);
+    }
+
+    template <typename Men>
+    void men(Men& men, Holder holder) {
+        for (std::size_t i = 0; i < men.size(); ++i) {
+            const Path::Step step(path_, element::Man, i + 1);
+            values(men[i], holder);
+            list(men[i].ammo, element::Ammo, holder);
+        }
+    }
+
+    template <typename Vehicle>
+    void vehicle(Vehicle& vehicle, Holder file) {
+        values(vehicle, file);
+        list(vehicle.exhaustPipes, element::ExhaustPipe, file);
+        std::array<std::size_t, 4> counts{};
+        for (auto& component : vehicle.components) {
+            const std::size_t number = ++counts.at(static_cast<std::size_t>(component.kind));
+            const Path::Step step(path_, elementOf(component.kind), number);
+            const Holder holder = holderOf(component.kind);
+            values(component, holder);
+            {
+                const Path::Step armour(path_, element::Armour);
+                values(component.armour, holder);
+            }
+            list(component.smokeDischargers, element::SmokeDischarger, holder);
+            armament(component, holder);
+            men(component.crew, Holder::CrewMan);
+        }
+    }
+
+    Visit& visit_;
+    Path path_;
+};
+
+} // namespace each_field
+
+/// Visits every value of a unit, in the order of its records' members. `visit` is called with a `FieldPlace` and a
+/// reference to the value, which it may change where the unit is not constant. The path is good until it returns.
+template <typename Unit, typename Visit>
+void forEachField(Unit& unit, Visit&& visit) {
+    each_field::Walk<Visit>(visit).unit(unit);
+}
+
+} // namespace varrocade
