@@ -19,7 +19,7 @@ enum class FieldKind : std::uint8_t {
     Number,      ///< whole, within `range`
     Real,        ///< with decimals
     Flag,        ///< "yes" or "no"
-    Text,        ///< words for people
+    Prose,       ///< words for people
     Word,        ///< one of `words`
     Nationality, ///< one of `words`
     Plate,       ///< a thickness, and an angle behind "@"
@@ -123,8 +123,6 @@ struct FieldInfo {
     [[nodiscard]] constexpr bool isStoredBy(Holder holder) const { return traits.stored.has(holder); }
 };
 
-using FieldId = const FieldInfo*;
-
 /// A field of a record. `Value` is what the record holds it in.
 template <typename Record, typename Value>
 struct Field : FieldInfo {
@@ -205,7 +203,7 @@ constexpr auto flag(bool R::*member, std::string_view element, std::string_view 
 template <typename R, typename V>
 constexpr auto text(V R::*member, std::string_view element, std::string_view label,
                     const FieldTraits& traits = {}) {
-    return make(FieldKind::Text, member, element, label, traits);
+    return make(FieldKind::Prose, member, element, label, traits);
 }
 
 template <typename R, typename V>

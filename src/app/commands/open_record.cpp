@@ -5,7 +5,7 @@
 #include "app/windows/main_window.h"
 #include "data/losses/save_losses.h"
 #include "data/unit/unit_reader.h"
-#include "editors/vehicle/vehicle_editor.h"
+#include "editors/vehicle/details_dialog.h"
 #include "platform/messages.h"
 #include "view/drawing/part_positions.h"
 #include "weapons/weapon_files.h"

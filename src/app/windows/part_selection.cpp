@@ -7,7 +7,7 @@
 #include "app/windows/file_list.h"
 #include "app/windows/main_window.h"
 #include "app/windows/sheet_window.h"
-#include "editors/vehicle/part_editor.h"
+#include "editors/vehicle/part_editor_win32.h"
 #include "resources/resource.h"
 #include "view/drawing/part_positions.h"
 

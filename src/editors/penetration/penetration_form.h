@@ -2,7 +2,7 @@
 // What the "Penetration Calculation" dialog shows, without any window.
 
 #include "analysis/penetration.h"
-#include "editors/form/form.h"
+#include "editors/form/form_port.h"
 #include "editors/penetration/can_penetrate_form.h"
 #include "weapons/weapon_catalogue.h"
 

@@ -1,9 +1,8 @@
 #include "editors/vehicle/armour_dialog.h"
 
-#include "editors/form/form_port_win32.h"
+#include "editors/form/form_dialog_win32.h"
 #include "editors/form/list_keys_win32.h"
 #include "editors/vehicle/armour_form.h"
-#include "platform/messages.h"
 #include "resources/resource.h"
 #include "view/painting/drawing_objects_win32.h"
 
@@ -15,33 +14,6 @@
 namespace varrocade {
 
 namespace {
-
-struct ArmourDialog {
-    ArmourRecord armour; ///< what the fields hold, as far as it can be taken
-    ComponentKind kind;
-    bool isFilling = false;
-};
-
-bool isTurret(const ArmourDialog& context) {
-    return context.kind == ComponentKind::Turret;
-}
-
-void fillDialog(HWND dialog, ArmourDialog& context) {
-    DialogPort port(dialog);
-    context.isFilling = true;
-    fillArmourForm(port, context.armour, isTurret(context));
-    context.isFilling = false;
-    InvalidateRect(GetDlgItem(dialog, IDC_ARMOUR_DRAWING), nullptr, TRUE);
-}
-
-/// The effective thicknesses and the drawing follow what is typed.
-void followTyping(HWND dialog, ArmourDialog& context) {
-    DialogPort port(dialog);
-    enableGiven(port, isTurret(context));
-    readArmourForm(port, context.armour, isTurret(context));
-    followPlates(port, context.armour);
-    InvalidateRect(GetDlgItem(dialog, IDC_ARMOUR_DRAWING), nullptr, TRUE);
-}
 
 // ---- the small drawing: a cut from the front (left) to the rear, and one across
 
@@ -142,15 +114,15 @@ void paintCut(HDC device, const RECT& area, const Cut& cut, const ArmourRecord& 
     TextOutA(device, area.left + 4, area.top + 2, cut.title, lstrlenA(cut.title));
 }
 
-void drawArmour(const DRAWITEMSTRUCT& item, const ArmourDialog& context) {
+/// `isTurret`: a mantlet can stand before the front.
+void drawArmour(const DRAWITEMSTRUCT& item, const ArmourRecord& armour, bool isTurret) {
     const GdiObject<HBRUSH> paper(CreateSolidBrush(Paper));
     FillRect(item.hDC, &item.rcItem, paper.get());
     SetBkMode(item.hDC, TRANSPARENT);
-    const ArmourRecord& armour = context.armour;
     std::int32_t thickest =
         std::max({1, armour.mantlet, armour.frontSpaced, armour.sideSpaced, armour.rearSpaced});
-    for (const PlateRow& row : plateRows()) {
-        thickest = std::max(thickest, (armour.*row.member).thickness);
+    for (const auto* plate : plateFields()) {
+        thickest = std::max(thickest, plate->of(armour).thickness);
     }
     RECT upper = item.rcItem;
     upper.bottom = (upper.top + upper.bottom) / 2;
@@ -165,7 +137,7 @@ void drawArmour(const DRAWITEMSTRUCT& item, const ArmourDialog& context) {
               .rightLower = armour.lowerRear,
               .leftSpaced = armour.frontSpaced,
               .rightSpaced = armour.rearSpaced,
-              .mantlet = isTurret(context) ? armour.mantlet : 0},
+              .mantlet = isTurret ? armour.mantlet : 0},
              armour, scale);
     paintCut(item.hDC, lower,
              {.title = "left to right",
@@ -186,72 +158,50 @@ constexpr auto ButtonTips = std::to_array<Tip>({
     {IDC_SIDES_ALIKE, "Makes all four side plates, upper and lower, as the upper left one"},
 });
 
-/// Takes the fields over into the context; false after telling what is wrong.
-bool takeFields(HWND dialog, ArmourDialog& context) {
-    DialogPort port(dialog);
-    if (const auto error = readArmourForm(port, context.armour, isTurret(context))) {
-        showMessage({.text = error->message, .caption = "Armour", .icon = MessageIcon::Information});
-        port.focus(error->control);
-        return false;
+class ArmourDialog final : public FormDialog {
+public:
+    /// `component` is the copy that the dialog works on: what the fields hold, as far as it can be taken.
+    explicit ArmourDialog(ComponentRecord& component)
+        : FormDialog({.dialogTemplate = IDD_ARMOUR, .caption = "Armour"}, form_), component_(component),
+          form_(component, armourShape()) {
+        onButton(IDC_MIRROR_ARMOUR, [this] { rearrange(mirrorLeftToRight); });
+        onButton(IDC_SIDES_ALIKE, [this] { rearrange(makeSidesAlike); });
     }
-    return true;
-}
 
-INT_PTR handleCommand(HWND dialog, ArmourDialog& context, WPARAM parameter) {
-    switch (LOWORD(parameter)) {
-    case IDOK:
-        if (takeFields(dialog, context)) {
-            EndDialog(dialog, 1);
+private:
+    void prepare() override {
+        addTips(handle(), ButtonTips);
+        if (component_.kind == ComponentKind::FixedWeapon) {
+            port().setText(IDC_NOT_STORED, "The armour of a fixed weapon is not stored in the file.");
         }
-        return TRUE;
-    case IDCANCEL:
-        EndDialog(dialog, 0);
-        return TRUE;
-    case IDC_MIRROR_ARMOUR:
-    case IDC_SIDES_ALIKE:
-        if (takeFields(dialog, context)) {
-            (LOWORD(parameter) == IDC_MIRROR_ARMOUR ? mirrorLeftToRight : makeSidesAlike)(context.armour);
-            fillDialog(dialog, context);
-        }
-        return TRUE;
-    default:
-        if (!context.isFilling && (HIWORD(parameter) == EN_CHANGE || HIWORD(parameter) == BN_CLICKED)) {
-            followTyping(dialog, context);
-        }
-        return TRUE;
     }
-}
+    /// The effective thicknesses and the drawing follow what is typed.
+    void follow() override {
+        followPlates(port(), component_);
+        InvalidateRect(GetDlgItem(handle(), IDC_ARMOUR_DRAWING), nullptr, TRUE);
+    }
+    void paint(const DRAWITEMSTRUCT& item) override {
+        drawArmour(item, component_.armour, component_.kind == ComponentKind::Turret);
+    }
+    void rearrange(void (*how)(ArmourRecord&)) {
+        if (take()) {
+            how(component_.armour);
+            show();
+        }
+    }
 
-INT_PTR CALLBACK armourProcedure(HWND dialog, UINT message, WPARAM parameter, LPARAM pointer) {
-    auto* context = dialogContext<ArmourDialog>(dialog, message, pointer);
-    switch (message) {
-    case WM_INITDIALOG:
-        placeBesideDrawing(dialog);
-        fillDialog(dialog, *context);
-        addTips(dialog, ButtonTips);
-        if (context->kind == ComponentKind::FixedWeapon) {
-            DialogPort(dialog).setText(IDC_NOT_STORED,
-                                       "The armour of a fixed weapon is not stored in the file.");
-        }
-        return TRUE;
-    case WM_DRAWITEM:
-        drawArmour(*reinterpret_cast<const DRAWITEMSTRUCT*>(pointer), *context);
-        return TRUE;
-    case WM_COMMAND:
-        return context == nullptr ? FALSE : handleCommand(dialog, *context, parameter);
-    default:
-        return FALSE;
-    }
-}
+    ComponentRecord& component_;
+    RecordForm<ComponentRecord> form_;
+};
 
 } // namespace
 
 bool editArmour(HWND owner, EditContext&, ComponentRecord& component) {
-    ArmourDialog context{.armour = component.armour, .kind = component.kind};
-    if (runDialog(owner, IDD_ARMOUR, armourProcedure, &context) == 0 || context.armour == component.armour) {
+    ComponentRecord copy = component;
+    if (!ArmourDialog(copy).run(owner) || copy.armour == component.armour) {
         return false;
     }
-    component.armour = context.armour;
+    component.armour = copy.armour;
     return true;
 }
 

@@ -1,11 +1,11 @@
-#include "editors/vehicle/part_editor.h"
+#include "editors/vehicle/part_editor_win32.h"
 
 #include "editors/unit/availability_dialog.h"
 #include "editors/unit/list_dialogs.h"
 #include "editors/vehicle/armour_dialog.h"
 #include "editors/vehicle/component_dialogs.h"
 #include "editors/vehicle/drive_dialog.h"
-#include "editors/vehicle/vehicle_editor.h"
+#include "editors/vehicle/details_dialog.h"
 
 #include <algorithm>
 #include <array>
