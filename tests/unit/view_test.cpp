@@ -2,8 +2,10 @@
 
 #include "data/unit/unit_reader.h"
 #include "test_support.h"
+#include "view/drawing/part_at.h"
 #include "view/drawing/weapon_shapes.h"
 #include "view/sheet/data_sheet.h"
+#include "view/sheet/sheet_text.h"
 #include "view/sheet/timeline.h"
 #include "view_support.h"
 

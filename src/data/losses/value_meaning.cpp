@@ -1,5 +1,6 @@
 #include "data/losses/value_meaning.h"
 
+#include "data/format/texts.h"
 #include "data/losses/loss_list.h"
 #include "data/unit/image_names.h"
 
@@ -11,13 +12,8 @@ namespace varrocade {
 namespace {
 
 /// A text that is a number from its first to its last character, blanks at the ends aside.
-std::optional<double> wholeNumber(std::string_view text) {
-    constexpr std::string_view blanks = " \t";
-    const std::size_t first = text.find_first_not_of(blanks);
-    if (first == std::string_view::npos) {
-        return std::nullopt;
-    }
-    text = text.substr(first, text.find_last_not_of(blanks) - first + 1);
+std::optional<double> numberOf(std::string_view text) {
+    text = trimmed(text);
     if (text.starts_with('+') && !text.starts_with("+-")) {
         text.remove_prefix(1);
     }
@@ -31,8 +27,8 @@ bool isSameNumber(std::string_view text, std::string_view value) {
     if (text.empty()) {
         return value == "0";
     }
-    const std::optional<double> number = wholeNumber(text);
-    return number && number == wholeNumber(value);
+    const std::optional<double> number = numberOf(text);
+    return number && number == numberOf(value);
 }
 
 bool isSamePlate(std::string_view text, std::string_view value) {
@@ -74,8 +70,8 @@ bool means(std::string_view text, const TracedValue& value, Understanding unders
 }
 
 bool meansOpposite(std::string_view text, const TracedValue& value) {
-    const std::optional<double> number = wholeNumber(text);
-    const std::optional<double> read = wholeNumber(value.after);
+    const std::optional<double> number = numberOf(text);
+    const std::optional<double> read = numberOf(value.after);
     return value.kind == ValueKind::Number && number && read && *number == -*read;
 }
 

@@ -1,6 +1,6 @@
 #include "editors/form/form.h"
 
-#include "data/format/tag_tree.h"
+#include "data/format/clean_text.h"
 
 #include <charconv>
 

@@ -4,7 +4,6 @@
 #include "data/format/numbers.h"
 #include "data/format/texts.h"
 #include "platform/file_operations.h"
-#include "view/sheet/data_sheet.h"
 #include "view/sheet/sheet_text.h"
 
 #include <algorithm>

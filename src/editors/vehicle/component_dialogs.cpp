@@ -9,7 +9,7 @@
 #include "platform/messages.h"
 #include "resources/resource.h"
 #include "view/drawing/image_folders.h"
-#include "view/sheet/data_sheet.h"
+#include "view/sheet/sheet_text.h"
 
 #include <array>
 

@@ -1,7 +1,6 @@
 #include "view/drawing/unit_part.h"
 
 #include "data/unit/enumerations.h"
-#include "view/sheet/data_sheet.h"
 #include "view/sheet/sheet_text.h"
 
 namespace varrocade {

@@ -1,6 +1,7 @@
 #include "view/painting/painter_win32.h"
 
 #include "view/drawing/drawing_angles.h"
+#include "view/drawing/part_at.h"
 
 #include <cmath>
 #include <string>
@@ -22,10 +23,6 @@ HPEN penOf(const DrawingObjects& objects, Ink ink) {
         return objects.whitePen.get();
     case Ink::Red:
         return objects.redPen.get();
-    case Ink::Green:
-        return objects.greenPen.get();
-    case Ink::PaleGreen:
-        return objects.paleGreenPen.get();
     case Ink::Yellow:
         return objects.yellowPen.get();
     case Ink::Blue:

@@ -1,9 +1,8 @@
 #include "view/painting/flag_painter_win32.h"
 
+#include "data/format/texts.h"
 #include "data/unit/image_names.h"
 #include "view/drawing/image_folders.h"
-
-#include <algorithm>
 
 namespace varrocade {
 
@@ -12,9 +11,7 @@ bool paintFlag(HDC device, const RECT& area, std::string_view nationalityWord,
     if (nationalityWord.empty()) {
         return false;
     }
-    std::string name(nationalityWord);
-    std::transform(name.begin(), name.end(), name.begin(),
-                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
+    const std::string name = loweredText(nationalityWord);
     for (const std::string& base : bases) {
         const std::string path =
             base + std::string(image_folder::StaticFlags) + name + std::string(ImageEnding);
