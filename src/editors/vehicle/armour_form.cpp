@@ -1,5 +1,6 @@
 #include "editors/vehicle/armour_form.h"
 
+#include "data/unit/plate_rows.h"
 #include "resources/resource.h"
 #include "view/drawing/armour_sketch.h"
 
@@ -14,17 +15,6 @@ using Armour = ArmourRecord;
 constexpr NumberRange Thickness = {.least = 0, .greatest = 100000};
 constexpr NumberRange Angle = {.least = 0, .greatest = 90};
 constexpr int NumbersPerPlate = 3;
-
-constexpr std::array<PlateRow, PlateCount> Plates = {{
-    {"Upper front", &Armour::upperFront},
-    {"Lower front", &Armour::lowerFront},
-    {"Upper left", &Armour::upperLeft},
-    {"Upper right", &Armour::upperRight},
-    {"Lower left", &Armour::lowerLeft},
-    {"Lower right", &Armour::lowerRight},
-    {"Upper rear", &Armour::upperRear},
-    {"Lower rear", &Armour::lowerRear},
-}};
 
 constexpr auto OtherFields = std::to_array<FormField<Armour>>({
     {IDC_FRONT_SPACED, "Front spaced", &Armour::frontSpaced, {.zeroForOtherTexts = true}},
@@ -59,7 +49,7 @@ int firstControl(std::size_t plate) {
 std::optional<FormError> readPlate(FormPort& port, std::size_t index, ArmourPlate& plate) {
     for (const FormField<ArmourPlate>& row : PlateFields) {
         FormField<ArmourPlate> field = row;
-        const std::string label = std::string(Plates[index].name) + " " + std::string(row.label);
+        const std::string label = std::string(ArmourPlateRows[index].label) + " " + std::string(row.label);
         field.control += firstControl(index);
         field.label = label;
         if (auto error = readForm<ArmourPlate>(port, std::span(&field, 1), plate)) {
@@ -71,18 +61,14 @@ std::optional<FormError> readPlate(FormPort& port, std::size_t index, ArmourPlat
 
 } // namespace
 
-const std::array<PlateRow, PlateCount>& plateRows() {
-    return Plates;
-}
-
 std::string effectiveText(const ArmourPlate& plate) {
     const auto thickness = effectiveThickness(plate);
     return thickness ? std::to_string(std::lround(*thickness)) + " mm" : "-";
 }
 
 void fillArmourForm(FormPort& port, const ArmourRecord& armour, bool isTurret) {
-    for (std::size_t i = 0; i < PlateCount; ++i) {
-        const ArmourPlate& plate = armour.*Plates[i].member;
+    for (std::size_t i = 0; i < ArmourPlateRows.size(); ++i) {
+        const ArmourPlate& plate = armour.*ArmourPlateRows[i].member;
         port.setText(firstControl(i), std::to_string(plate.thickness));
         port.setText(firstControl(i) + 1, std::to_string(plate.angle));
         port.setText(firstControl(i) + 2, effectiveText(plate));
@@ -106,8 +92,8 @@ void enableGiven(FormPort& port, bool isTurret) {
 
 std::optional<FormError> readArmourForm(FormPort& port, ArmourRecord& armour, bool isTurret) {
     Armour copy = armour;
-    for (std::size_t i = 0; i < PlateCount; ++i) {
-        if (auto error = readPlate(port, i, copy.*Plates[i].member)) {
+    for (std::size_t i = 0; i < ArmourPlateRows.size(); ++i) {
+        if (auto error = readPlate(port, i, copy.*ArmourPlateRows[i].member)) {
             return error;
         }
     }
@@ -132,11 +118,11 @@ std::optional<FormError> readArmourForm(FormPort& port, ArmourRecord& armour, bo
 }
 
 void followPlates(FormPort& port, ArmourRecord& armour) {
-    for (std::size_t i = 0; i < PlateCount; ++i) {
-        ArmourPlate plate = armour.*Plates[i].member;
+    for (std::size_t i = 0; i < ArmourPlateRows.size(); ++i) {
+        ArmourPlate plate = armour.*ArmourPlateRows[i].member;
         const bool isTaken = !readPlate(port, i, plate);
         if (isTaken) {
-            armour.*Plates[i].member = plate;
+            armour.*ArmourPlateRows[i].member = plate;
         }
         port.setText(firstControl(i) + 2, isTaken ? effectiveText(plate) : "?");
     }

@@ -5,22 +5,10 @@
 
 #include "data/unit/unit_record.h"
 
-#include <array>
 #include <optional>
 #include <string>
 
 namespace varrocade {
-
-inline constexpr std::size_t PlateCount = 8;
-
-/// A plate by its name and place in the record.
-struct PlateRow {
-    std::string_view name;
-    ArmourPlate ArmourRecord::*member;
-};
-
-/// The eight plates in the order of the dialog: upper and lower front, left, right and rear.
-const std::array<PlateRow, PlateCount>& plateRows();
 
 /// As the dialog and the drawing show it: "58 mm", or "-" for a horizontal plate.
 std::string effectiveText(const ArmourPlate& plate);

@@ -1,5 +1,6 @@
 #include "editors/vehicle/component_dialogs.h"
 
+#include "data/unit/component_words.h"
 #include "data/unit/image_names.h"
 #include "editors/form/form_port_win32.h"
 #include "editors/form/image_choices.h"
@@ -9,7 +10,6 @@
 #include "platform/messages.h"
 #include "resources/resource.h"
 #include "view/drawing/image_folders.h"
-#include "view/sheet/sheet_text.h"
 
 #include <array>
 

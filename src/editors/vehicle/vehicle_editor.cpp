@@ -2,6 +2,7 @@
 
 #include "editors/vehicle/vehicle_editor.h"
 
+#include "data/unit/component_words.h"
 #include "data/unit/enumerations.h"
 #include "data/unit/image_names.h"
 #include "editors/form/form_port_win32.h"
@@ -15,7 +16,6 @@
 #include "platform/messages.h"
 #include "resources/resource.h"
 #include "view/drawing/image_folders.h"
-#include "view/sheet/sheet_text.h"
 
 #include <array>
 

@@ -1,5 +1,6 @@
 #include "view/drawing/unit_part.h"
 
+#include "data/unit/component_words.h"
 #include "data/unit/enumerations.h"
 #include "view/sheet/sheet_text.h"
 

@@ -2,6 +2,7 @@
 
 #include "view/drawing/drawing_angles.h"
 #include "view/drawing/part_at.h"
+#include "view/painting/paint_device.h"
 
 #include <cmath>
 #include <string>
@@ -12,7 +13,7 @@ namespace varrocade {
 namespace {
 
 constexpr COLORREF Ground = RGB(206, 200, 170);
-constexpr COLORREF LabelInk = RGB(40, 34, 24);
+constexpr COLORREF LabelInk = colourRef(TextInk);
 constexpr int MarkRadius = 6;
 
 HPEN penOf(const DrawingObjects& objects, Ink ink) {
@@ -164,7 +165,7 @@ public:
         for (const Point corner : item.corners) {
             corners.push_back(pixel(corner));
         }
-        const GdiObject<HBRUSH> brush(CreateSolidBrush(RGB(item.fill.red, item.fill.green, item.fill.blue)));
+        const GdiObject<HBRUSH> brush(CreateSolidBrush(colourRef(item.fill)));
         const Selection selectedBrush(device_, brush.get());
         const Selection pen(device_, objects_.blackPen.get());
         Polygon(device_, corners.data(), static_cast<int>(corners.size()));

@@ -1,6 +1,7 @@
 #include "view/sheet/data_sheet.h"
 
 #include "data/format/numbers.h"
+#include "data/unit/component_words.h"
 #include "data/unit/enumerations.h"
 #include "data/unit/image_names.h"
 #include "view/drawing/image_folders.h"

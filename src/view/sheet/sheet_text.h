@@ -27,12 +27,4 @@ std::string ammoText(const AmmoLoadRecord& ammo);
 /// "40 APCBC, 39 HE" for a weapon; ammunition is carried for a weapon type, not for one piece.
 std::string ammoFor(std::span<const AmmoLoadRecord> loads, std::string_view weaponType);
 
-/// "Hull", "Superstructure", "Turret" or "Fixed Weapon".
-std::string_view componentKindWord(ComponentKind kind);
-/// A component's place in the vehicle (from 1) and its kind: "2. Turret".
-std::string componentTitle(std::size_t place, ComponentKind kind);
-
-/// The line that names a component in lists: its place in the vehicle (from 1), its kind and its crew.
-std::string componentLine(std::size_t place, const ComponentRecord& component);
-
 } // namespace varrocade

@@ -1,0 +1,21 @@
+#pragma once
+// Armour as the data sheet and the armour dialog show it.
+
+#include "view/painting/paint_device.h"
+#include "view/sheet/data_sheet.h"
+
+#include <string_view>
+
+namespace varrocade {
+
+/// The pixels that one component takes on the sheet.
+int armourHeight(const PaintDevice& device);
+
+/// A component's armour from the side and across, side by side.
+void paintArmour(PaintDevice& device, const PixelRect& area, const SheetArmour& armour);
+
+/// One sketch in the middle of its area, as high as that is, below a caption in the corner.
+void paintPlates(PaintDevice& device, const PixelRect& area, const ArmourSketch& sketch,
+                 std::string_view caption);
+
+} // namespace varrocade
