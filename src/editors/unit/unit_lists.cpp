@@ -95,7 +95,7 @@ constexpr auto CrewFields = std::to_array<FormField<CrewManRecord>>({
 });
 
 std::string crewLine(std::size_t place, const CrewManRecord& man) {
-    std::string text = displayName(man.job, "JOB_");
+    std::string text = displayName(man.job, JobPrefix);
     for (const Text& weapon : man.weapons) {
         text += ", " + weaponWord(weapon);
     }

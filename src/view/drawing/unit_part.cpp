@@ -37,10 +37,6 @@ std::size_t countAround(const SquadRecord& unit, const UnitPart& part) {
     }
 }
 
-std::string jobText(const Text& job) {
-    return displayName(job, "JOB_");
-}
-
 } // namespace
 
 const std::vector<WeaponMountRecord>* weaponsAround(const SquadRecord& unit, const UnitPart& part) {
@@ -100,11 +96,11 @@ std::string partName(const SquadRecord& unit, const UnitPart& part) {
     case PartKind::Discharger:
         return "Smoke discharger " + number;
     case PartKind::CrewMan:
-        return jobText(componentOf(unit, part)->crew[part.index].job);
+        return displayName(componentOf(unit, part)->crew[part.index].job, JobPrefix);
     case PartKind::Exhaust:
         return "Exhaust pipe " + number;
     case PartKind::Man:
-        return number + ". " + jobText(unit.infantrymen[part.index].job);
+        return number + ". " + displayName(unit.infantrymen[part.index].job, JobPrefix);
     case PartKind::Rotor:
         return "Rotor " + number;
     case PartKind::HeavyWeapon:

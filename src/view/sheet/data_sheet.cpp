@@ -172,7 +172,7 @@ SheetSection crewSection(const VehicleRecord& vehicle) {
                 rounds += (rounds.empty() ? "" : ", ") + ammoText(ammo);
             }
             table.rows.push_back(
-                {{place, displayName(man.job, "JOB_"), arms, rounds}, {PartKind::CrewMan, i, j}});
+                {{place, displayName(man.job, JobPrefix), arms, rounds}, {PartKind::CrewMan, i, j}});
             place.clear();
         }
     }
