@@ -204,7 +204,7 @@ TEST(ArmourPainter, DrawsPlatesAsThickAsTheyAre) {
     armour.lowerFront = {32, 0};
     armour.upperRear = {0, 0};
     NotebookDevice device;
-    paintPlates(device, {0, 0, 300, 100}, sideSketch(armour), "front");
+    paintPlates(device, {0, 0, 300, 100}, sideSketch(armour), "front", 192);
     EXPECT_EQ(device.texts.size(), 1U) << "no figures beside plates";
     ASSERT_EQ(device.lines.size(), 2U);
     EXPECT_EQ(device.lines[0].width, 10);

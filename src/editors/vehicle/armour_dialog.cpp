@@ -1,5 +1,6 @@
 #include "editors/vehicle/armour_dialog.h"
 
+#include "data/unit/plate_rows.h"
 #include "editors/form/form_port_win32.h"
 #include "editors/form/list_keys_win32.h"
 #include "editors/vehicle/armour_form.h"
@@ -8,6 +9,7 @@
 #include "view/painting/armour_painter.h"
 #include "view/painting/gdi_device_win32.h"
 
+#include <algorithm>
 #include <array>
 
 namespace varrocade {
@@ -52,9 +54,14 @@ void drawArmour(const DRAWITEMSTRUCT& item, const ArmourDialog& context) {
     GdiDevice device(item.hDC, context.drawing);
     const PixelRect area = pixelRect(item.rcItem);
     const int middle = (area.top + area.bottom) / 2;
-    paintPlates(device, {area.left, area.top, area.right, middle}, sideSketch(armour),
-                "front (left) to rear");
-    paintPlates(device, {area.left, middle, area.right, area.bottom}, crossSketch(armour), "left to right");
+    int thickest = std::max({1, armour.mantlet, armour.frontSpaced, armour.sideSpaced, armour.rearSpaced});
+    for (const ArmourPlateRow& row : ArmourPlateRows) {
+        thickest = std::max(thickest, (armour.*row.member).thickness);
+    }
+    paintPlates(device, {area.left, area.top, area.right, middle}, sideSketch(armour), "front (left) to rear",
+                thickest);
+    paintPlates(device, {area.left, middle, area.right, area.bottom}, crossSketch(armour), "left to right",
+                thickest);
 }
 
 // ---- the dialog

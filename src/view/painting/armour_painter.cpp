@@ -8,12 +8,14 @@ namespace varrocade {
 namespace {
 
 constexpr int SketchHeight = 92;
+constexpr int WidestLine = 12;
+constexpr int ThickestOnSheet = 16 * WidestLine; ///< the same for all components, so that they compare
 constexpr Colour PlateSteel = {70, 74, 80};
 
 class SketchPainter {
 public:
-    SketchPainter(PaintDevice& device, const PixelRect& area)
-        : device_(device), area_(area), height_(area.bottom - area.top),
+    SketchPainter(PaintDevice& device, const PixelRect& area, int thickest = ThickestOnSheet)
+        : device_(device), area_(area), thickest_(thickest), height_(area.bottom - area.top),
           left_((area.left + area.right) / 2 - rounded(height_ * ArmourSketch::Width / 2)),
           lineHeight_(device.scaled(14)) {}
 
@@ -40,12 +42,11 @@ private:
     void line(Point from, Point to, int width) { device_.line(pixel(from), pixel(to), PlateSteel, width); }
 
     void paintPlate(const SketchPlate& plate) {
-        constexpr int millimetresPerPixel = 16;
-        constexpr int thickest = 12;
         constexpr double apart = 0.09;
         if (plate.thickness > 0) {
+            const double width = static_cast<double>(WidestLine) * plate.thickness / thickest_;
             line(plate.from, plate.to,
-                 device_.scaled(std::clamp(plate.thickness / millimetresPerPixel, 1, thickest)));
+                 device_.scaled(static_cast<int>(std::clamp<double>(width, 1, WidestLine))));
         }
         if (plate.spaced > 0) {
             const double away = plate.side * apart;
@@ -85,6 +86,7 @@ private:
 
     PaintDevice& device_;
     const PixelRect& area_;
+    int thickest_;
     int height_;
     int left_;
     int lineHeight_;
@@ -98,9 +100,11 @@ int armourHeight(const PaintDevice& device) {
 }
 
 void paintPlates(PaintDevice& device, const PixelRect& area, const ArmourSketch& sketch,
-                 std::string_view caption) {
-    SketchPainter(device, area).paintPlates(sketch);
-    device.text(caption, {area.left + device.scaled(4), area.top}, TextFont::Small, FaintInk);
+                 std::string_view caption, int thickest) {
+    const int top = area.top + device.lineHeight(TextFont::Small);
+    device.text(caption, {area.left + device.scaled(4), area.top}, TextFont::Small, TextInk);
+    const PixelRect place{area.left, top, area.right, area.bottom};
+    SketchPainter(device, place, thickest).paintPlates(sketch);
 }
 
 void paintArmour(PaintDevice& device, const PixelRect& area, const SheetArmour& armour) {

@@ -14,8 +14,9 @@ int armourHeight(const PaintDevice& device);
 /// A component's armour from the side and across, side by side.
 void paintArmour(PaintDevice& device, const PixelRect& area, const SheetArmour& armour);
 
-/// One sketch in the middle of its area, as high as that is, below a caption in the corner.
+/// One sketch in the middle of its area, below a caption, without figures. A plate of `thickest` millimetres
+/// is drawn as thick as plates get.
 void paintPlates(PaintDevice& device, const PixelRect& area, const ArmourSketch& sketch,
-                 std::string_view caption);
+                 std::string_view caption, int thickest);
 
 } // namespace varrocade
