@@ -4,6 +4,7 @@
 #include "data/unit/unit_reader.h"
 #include "round_trip.h"
 #include "view/drawing/draw_list.h"
+#include "view/drawing/part_at.h"
 #include "view/drawing/part_positions.h"
 #include "view/drawing/plate_outline.h"
 #include "view/drawing/view_place.h"

@@ -2,7 +2,9 @@
 
 #include "view/drawing/component_places.h"
 #include "view/drawing/drawing_angles.h"
+#include "view/drawing/part_at.h"
 #include "view/drawing/part_positions.h"
+#include "view/drawing/traverse.h"
 #include "view/drawing/view_place.h"
 #include "view_support.h"
 

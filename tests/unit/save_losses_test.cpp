@@ -1,7 +1,7 @@
 // What a save would lose: each kind of loss by example, then that nothing is missed and nothing invented,
 // over the sample and over thousands of broken copies of it.
 
-#include "data/format/tag_tree.h"
+#include "data/format/clean_text.h"
 #include "data/losses/save_losses.h"
 #include "test_support.h"
 #include "weapons/weapon_losses.h"

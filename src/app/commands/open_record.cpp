@@ -204,6 +204,7 @@ void withEditContext(const std::function<bool(EditContext&)>& work) {
     Application& app = application();
     EditContext edit{.record = *app.openUnit,
                      .catalogue = app.catalogue,
+                     .drawing = app.drawing,
                      .imageBases = imageBases(),
                      .rearranged = carryComponents,
                      .redraw =

@@ -8,7 +8,9 @@
 #include "app/windows/picture_prefetch.h"
 #include "resources/resource.h"
 #include "view/drawing/drawing_angles.h"
+#include "view/drawing/part_at.h"
 #include "view/drawing/part_positions.h"
+#include "view/drawing/traverse.h"
 
 #include <windowsx.h>
 

@@ -5,7 +5,8 @@
 #include "app/workspace/name_filter.h"
 #include "platform/file_operations.h"
 #include "resources/resource.h"
-#include "view/painting/flag_painter_win32.h"
+#include "view/painting/flag_painter.h"
+#include "view/painting/gdi_device_win32.h"
 
 #include <commctrl.h>
 
@@ -226,7 +227,8 @@ void drawListEntry(const DRAWITEMSTRUCT& item) {
         const LONG top = place.top + (height - objects.scaled(flagHeight)) / 2;
         const RECT flag{place.left, top, place.left + objects.scaled(flagWidth),
                         top + objects.scaled(flagHeight)};
-        paintFlag(item.hDC, flag, nationalityOfName(name), imageBases(), app.pictures);
+        GdiDevice device(item.hDC, app.drawing, &app.pictures);
+        paintFlag(device, pixelRect(flag), nationalityOfName(name), imageBases());
         place.left += objects.scaled(flagWidth + gap + 2);
     }
     const Selection font(item.hDC, objects.normalFont.get());

@@ -3,6 +3,7 @@
 #include "app/windows/application.h"
 #include "app/windows/sheet_window.h"
 #include "view/drawing/part_positions.h"
+#include "view/painting/gdi_device_win32.h"
 
 #include <algorithm>
 #include <array>
@@ -102,11 +103,27 @@ void composeDisplay(UnitDisplay& display) {
 
 void paintHint(HDC device, const RECT& area, const DrawingObjects& objects) {
     constexpr char hint[] = "Choose a file in the list.";
-    FillRect(device, &area, objects.beigeBrush.get());
     const Selection font(device, objects.normalFont.get());
     SetBkMode(device, TRANSPARENT);
     RECT place = area;
     DrawTextA(device, hint, -1, &place, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
+}
+
+/// Shows a canvas in its window. It is painted once for each state and size; painting again only copies it.
+template <typename Paint>
+void show(Canvas& canvas, HDC device, const RECT& client, Paint paint) {
+    const SIZE size{client.right, client.bottom};
+    if (size.cx <= 0 || size.cy <= 0) {
+        return;
+    }
+    composeDisplay(application().display);
+    HDC memory = deviceOf(canvas, device, size);
+    if (!canvas.isPainted) {
+        canvas.isPainted = true;
+        FillRect(memory, &client, application().drawing.beigeBrush.get());
+        paint(memory);
+    }
+    BitBlt(device, 0, 0, size.cx, size.cy, memory, 0, 0, SRCCOPY);
 }
 
 } // namespace
@@ -114,52 +131,34 @@ void paintHint(HDC device, const RECT& area, const DrawingObjects& objects) {
 void paintUnit(HDC device, const RECT& client) {
     Application& app = application();
     UnitDisplay& display = app.display;
-    const SIZE size{client.right, client.bottom};
-    if (size.cx <= 0 || size.cy <= 0) {
-        return;
-    }
-    composeDisplay(display);
-    // Painted once for each state and size; painting again only copies it.
-    HDC memory = deviceOf(display.drawingCanvas, device, size);
-    if (!display.drawingCanvas.isPainted) {
-        display.drawingCanvas.isPainted = true;
-        display.shownFit = display.ownFit.value_or(wholeFit(display.drawing, size));
-        if (display.hasDrawing) {
-            const DrawingView view{.fit = display.shownFit,
-                                   .selected = display.selected,
-                                   .caption = display.caption.empty() && app.openUnit
-                                                  ? positionText(*app.openUnit, display.selected)
-                                                  : display.caption};
-            paintDrawing(memory, client, display.drawing, view, app.drawing, app.pictures);
-        } else {
-            FillRect(memory, &client, app.drawing.beigeBrush.get());
+    show(display.drawingCanvas, device, client, [&](HDC memory) {
+        display.shownFit = display.ownFit.value_or(wholeFit(display.drawing, {client.right, client.bottom}));
+        if (!display.hasDrawing) {
+            return;
         }
-    }
-    BitBlt(device, 0, 0, size.cx, size.cy, memory, 0, 0, SRCCOPY);
+        const DrawingView view{.fit = display.shownFit,
+                               .selected = display.selected,
+                               .caption = display.caption.empty() && app.openUnit
+                                              ? positionText(*app.openUnit, display.selected)
+                                              : display.caption};
+        paintDrawing(memory, client, display.drawing, view, app.drawing, app.pictures);
+    });
 }
 
 void paintSheetArea(HDC device, const RECT& client) {
     Application& app = application();
     UnitDisplay& display = app.display;
-    const SIZE size{client.right, client.bottom};
-    if (size.cx <= 0 || size.cy <= 0) {
-        return;
-    }
-    composeDisplay(display);
-    HDC memory = deviceOf(display.sheetCanvas, device, size);
-    if (!display.sheetCanvas.isPainted) {
-        display.sheetCanvas.isPainted = true;
+    show(display.sheetCanvas, device, client, [&](HDC memory) {
         display.sheetLayout = {};
-        if (isRecordOpen()) {
-            const SheetOptions options{
-                .bases = imageBases(), .scroll = display.scroll, .selected = display.selected};
-            display.sheetLayout =
-                paintSheet(memory, client, display.sheet, options, app.drawing, app.pictures);
-        } else {
+        if (!isRecordOpen()) {
             paintHint(memory, client, app.drawing);
+            return;
         }
-    }
-    BitBlt(device, 0, 0, size.cx, size.cy, memory, 0, 0, SRCCOPY);
+        GdiDevice canvas(memory, app.drawing, &app.pictures);
+        display.sheetLayout =
+            paintSheet(canvas, pixelRect(client), display.sheet,
+                       {.bases = imageBases(), .scroll = display.scroll, .selected = display.selected});
+    });
 }
 
 bool updateWeaponUsers() {
@@ -196,16 +195,7 @@ void showSelectedOnSheet(int visibleHeight) {
 
 UnitPart sheetPartAt(POINT pixel) {
     const UnitDisplay& display = application().display;
-    if (pixel.y < display.sheetLayout.headHeight) {
-        return {PartKind::Details};
-    }
-    pixel.y += display.scroll;
-    for (const SheetPlace& place : display.sheetLayout.places) {
-        if (PtInRect(&place.place, pixel) != FALSE) {
-            return place.part;
-        }
-    }
-    return {};
+    return sheetPartAt(display.sheetLayout, display.scroll, {pixel.x, pixel.y});
 }
 
 } // namespace varrocade

@@ -2,6 +2,7 @@
 // The picture and the data sheet of the open record in the main window.
 
 #include "view/painting/painter_win32.h"
+#include "view/painting/sheet_painter.h"
 #include "view/sheet/data_sheet.h"
 
 #include <windows.h>

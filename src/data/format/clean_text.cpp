@@ -1,4 +1,4 @@
-#include "data/format/tag_tree.h"
+#include "data/format/clean_text.h"
 
 #include "data/format/texts.h"
 

@@ -1,5 +1,6 @@
 #include "data/format/tag_tree.h"
 
+#include "data/format/clean_text.h"
 #include "data/format/plain_tags.h"
 
 #include <algorithm>

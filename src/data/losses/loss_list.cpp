@@ -1,7 +1,6 @@
 #include "data/losses/loss_list.h"
 
 #include <algorithm>
-#include <array>
 
 namespace varrocade {
 
@@ -25,15 +24,6 @@ std::string shownBetween(char before, std::string_view text, char after) {
 }
 
 } // namespace
-
-std::string_view lossKindWord(LossKind kind) {
-    constexpr std::array<std::string_view, 3> words = {"dropped", "changed", "respelt"};
-    return words[static_cast<std::size_t>(kind)];
-}
-
-std::string lossText(const SaveLoss& loss) {
-    return std::to_string(loss.line) + ": " + std::string(lossKindWord(loss.kind)) + ": " + loss.message;
-}
 
 std::size_t LineMap::lineAt(std::size_t cleanedOffset) const {
     const std::size_t behind = firstPieceBehind(cleanedOffset);

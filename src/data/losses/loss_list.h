@@ -1,8 +1,9 @@
 #pragma once
 // Collecting what a save would lose.
 
-#include "data/format/tag_tree.h"
-#include "data/losses/save_losses.h"
+#include "data/format/clean_text.h"
+#include "data/format/tag_node.h"
+#include "data/losses/save_loss.h"
 
 #include <string>
 #include <string_view>

@@ -1,6 +1,7 @@
 #pragma once
 // What a file loses before any rule sees it: comments, and content that its broken nesting hides.
 
+#include "data/format/tag_tree.h"
 #include "data/losses/loss_list.h"
 
 #include <string_view>

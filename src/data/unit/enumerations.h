@@ -26,6 +26,7 @@ inline constexpr std::string_view MountFront = "MOUNT_FRONT";
 inline constexpr std::string_view MountMiddle = "MOUNT_MIDDLE";
 inline constexpr std::string_view MountRear = "MOUNT_REAR";
 inline constexpr std::string_view NationalityPrefix = "NATIONALITY_";
+inline constexpr std::string_view JobPrefix = "JOB_";
 inline constexpr std::string_view EnginePrefix = "ENGINE_";
 inline constexpr std::string_view WeaponPrefix = "WEAPON_";
 inline constexpr std::string_view BombPrefix = "WEAPON_BOMB_";

@@ -1,6 +1,6 @@
 #include "editors/form/codec.h"
 
-#include "data/format/tag_tree.h"
+#include "data/format/clean_text.h"
 #include "editors/form/form_port.h"
 
 namespace varrocade {

@@ -3,8 +3,8 @@
 #include "data/category.h"
 #include "data/format/numbers.h"
 #include "data/format/texts.h"
+#include "data/unit/component_words.h"
 #include "platform/file_operations.h"
-#include "view/sheet/data_sheet.h"
 #include "view/sheet/sheet_text.h"
 
 #include <algorithm>

@@ -109,7 +109,7 @@ constexpr auto CrewRows = std::to_array<FormRow<CrewManRecord>>({
 });
 
 std::string crewLine(std::size_t place, const CrewManRecord& man) {
-    std::string text = displayName(man.job, "JOB_");
+    std::string text = displayName(man.job, JobPrefix);
     for (const Text& weapon : man.weapons) {
         text += ", " + weaponWord(weapon);
     }

@@ -1,6 +1,7 @@
 #include "editors/vehicle/armour_form.h"
 
 #include "data/each_field.h"
+#include "data/unit/plate_rows.h"
 #include "data/unit_fields.h"
 #include "resources/resource.h"
 #include "view/drawing/armour_sketch.h"
@@ -41,11 +42,7 @@ constexpr FormRow<Component> angleRow(std::size_t plate) {
     return {firstControl(plate) + 1, OfPlate<Plate>(), field::PlateAngle, {.of = Plate.label}};
 }
 
-constexpr std::array<const Field<ArmourRecord, ArmourPlate>*, PlateCount> Plates = {
-    &field::UpperFront, &field::LowerFront, &field::UpperLeft, &field::UpperRight,
-    &field::LowerLeft,  &field::LowerRight, &field::UpperRear, &field::LowerRear};
-
-/// The plates' rows come first, in the order of the plates.
+/// The plates' rows come first, in the order of `ArmourPlateRows`.
 constexpr auto ArmourRows = std::to_array<FormRow<Component>>({
     thicknessRow<field::UpperFront>(0),
     angleRow<field::UpperFront>(0),
@@ -79,10 +76,6 @@ constexpr FormShape<Component> ArmourShape = {
 
 } // namespace
 
-const std::array<const Field<ArmourRecord, ArmourPlate>*, PlateCount>& plateFields() {
-    return Plates;
-}
-
 const FormShape<ComponentRecord>& armourShape() {
     return ArmourShape;
 }
@@ -95,13 +88,13 @@ std::string effectiveText(const ArmourPlate& plate) {
 void followPlates(FormPort& port, ComponentRecord& component) {
     const Component former = component;
     readPossible(port, ArmourShape, component);
-    for (std::size_t i = 0; i < PlateCount; ++i) {
+    for (std::size_t i = 0; i < ArmourPlateRows.size(); ++i) {
         const auto rows = ArmourShape.rows.subspan(RowsPerPlate * i, RowsPerPlate);
         const bool isTaken = std::none_of(rows.begin(), rows.end(), [&](const FormRow<Component>& row) {
             Component copy = former;
             return row.read(port, copy).has_value();
         });
-        port.setText(firstControl(i) + 2, isTaken ? effectiveText(Plates[i]->of(component.armour)) : "?");
+        port.setText(firstControl(i) + 2, isTaken ? effectiveText(component.armour.*ArmourPlateRows[i].member) : "?");
     }
 }
 

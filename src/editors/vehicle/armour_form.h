@@ -5,15 +5,9 @@
 
 #include "data/unit/unit_record.h"
 
-#include <array>
 #include <string>
 
 namespace varrocade {
-
-inline constexpr std::size_t PlateCount = 8;
-
-/// The eight plates in the order of the dialog: upper and lower front, left, right and rear.
-const std::array<const Field<ArmourRecord, ArmourPlate>*, PlateCount>& plateFields();
 
 /// The armour's form; the component tells whether it can have a mantlet.
 const FormShape<ComponentRecord>& armourShape();

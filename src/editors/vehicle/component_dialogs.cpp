@@ -1,11 +1,11 @@
 #include "editors/vehicle/component_dialogs.h"
 
+#include "data/unit/component_words.h"
 #include "editors/form/form_dialog_win32.h"
 #include "editors/unit/list_dialogs.h"
 #include "editors/vehicle/armour_dialog.h"
 #include "editors/vehicle/component_form.h"
 #include "resources/resource.h"
-#include "view/sheet/data_sheet.h"
 
 #include <array>
 

@@ -2,6 +2,7 @@
 
 #include "editors/vehicle/details_dialog.h"
 
+#include "data/unit/component_words.h"
 #include "editors/form/form_dialog_win32.h"
 #include "editors/form/list_keys_win32.h"
 #include "editors/unit/availability_dialog.h"
@@ -11,7 +12,6 @@
 #include "editors/vehicle/vehicle_form.h"
 #include "platform/messages.h"
 #include "resources/resource.h"
-#include "view/sheet/data_sheet.h"
 
 #include <algorithm>
 #include <array>

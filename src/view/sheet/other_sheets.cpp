@@ -59,7 +59,7 @@ SheetSection menSection(const SquadRecord& record) {
             rounds += (rounds.empty() ? "" : ", ") + ammoText(ammo) + " for " + weaponWord(ammo.weaponType);
         }
         table.rows.push_back(
-            {{std::to_string(i + 1), displayName(man.job, "JOB_"), arms, rounds}, {PartKind::Man, 0, i}});
+            {{std::to_string(i + 1), displayName(man.job, JobPrefix), arms, rounds}, {PartKind::Man, 0, i}});
     }
     section.tables.push_back(std::move(table));
     return section;

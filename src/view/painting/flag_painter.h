@@ -1,6 +1,6 @@
 #pragma once
 
-#include "view/painting/picture_cache_win32.h"
+#include "view/painting/paint_device.h"
 
 #include <span>
 #include <string>
@@ -10,7 +10,7 @@ namespace varrocade {
 
 /// Paints the flag of a nationality, given by its word such as "GERMAN"; false when there is no picture of
 /// it.
-bool paintFlag(HDC device, const RECT& area, std::string_view nationalityWord,
-               std::span<const std::string> bases, PictureCache& pictures);
+bool paintFlag(PaintDevice& device, const PixelRect& area, std::string_view nationalityWord,
+               std::span<const std::string> bases);
 
 } // namespace varrocade
