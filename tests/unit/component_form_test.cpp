@@ -163,8 +163,10 @@ TEST(ComponentForm, KindsHaveTheirOwnRows) {
         const char* notStored;
     };
     for (const KindCase& row :
-         {KindCase{ComponentKind::Hull, true, false, "(OffsetX, OffsetY and OffsetZ are not stored in the file)"},
-          KindCase{ComponentKind::Superstructure, true, true, "(OffsetZ and Image are not stored in the file)"},
+         {KindCase{ComponentKind::Hull, true, false,
+                   "(OffsetX, OffsetY and OffsetZ are not stored in the file)"},
+          KindCase{ComponentKind::Superstructure, true, true,
+                   "(OffsetZ and Image are not stored in the file)"},
           KindCase{ComponentKind::Turret, false, true, "(OffsetZ is not stored in the file)"},
           KindCase{ComponentKind::FixedWeapon, false, true, ""}}) {
         ComponentRecord component = turret();

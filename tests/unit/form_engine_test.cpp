@@ -36,7 +36,21 @@ struct Sample {
     bool operator==(const Sample&) const = default;
 };
 
-enum Control { Tiny = 1, Short, Natural, Long, Speed, Length, Name, Code, Image, Guided, Given, Tracer, Plain };
+enum Control {
+    Tiny = 1,
+    Short,
+    Natural,
+    Long,
+    Speed,
+    Length,
+    Name,
+    Code,
+    Image,
+    Guided,
+    Given,
+    Tracer,
+    Plain
+};
 
 namespace row = field_row;
 constexpr Holders Guns = Holders::of(Holder::Gun);
@@ -73,10 +87,9 @@ constexpr auto Rows = std::to_array<FormRow<Sample>>({
 });
 
 /// A sample that has lines is a gun's.
-constexpr FormShape<Sample> Shape = {
-    .rows = Rows, .holder = [](const Sample& sample) {
-        return sample.name == "bomb" ? Holder::Bomb : Holder::Gun;
-    }};
+constexpr FormShape<Sample> Shape = {.rows = Rows, .holder = [](const Sample& sample) {
+                                         return sample.name == "bomb" ? Holder::Bomb : Holder::Gun;
+                                     }};
 
 /// What a record holds after a text was typed, or the refusal.
 std::string typed(Sample sample, int control, const char* text) {
@@ -139,7 +152,8 @@ TEST(FormEngine, CodecsTakeWhatTheirTypesHold) {
 }
 
 TEST(FormEngine, WhatIsNotChangedIsNotChanged) {
-    // Six digits of a float, two decimals, two lines on one, a mode without a word: shown less exactly than they are.
+    // Six digits of a float, two decimals, two lines on one, a mode without a word: shown less exactly than
+    // they are.
     Sample sample;
     sample.given = 720;
     sample.code = "</";

@@ -125,9 +125,8 @@ void appendInteger(std::string& out, std::int32_t value) {
 void appendShortest(std::string& out, double value) {
     std::array<char, 64> digits{};
     constexpr int significantDigits = 6;
-    const auto result =
-        std::to_chars(digits.data(), digits.data() + digits.size(), value,
-                      std::chars_format::general, significantDigits);
+    const auto result = std::to_chars(digits.data(), digits.data() + digits.size(), value,
+                                      std::chars_format::general, significantDigits);
     out.append(digits.data(), result.ptr);
 }
 

@@ -31,8 +31,8 @@ Integer toClamped(std::string_view text) {
 double toReal(std::string_view text);
 float toFloat(std::string_view text);
 
-/// The number that a whole text is, blanks at its ends aside, or nothing: people's input and comparisons need more
-/// care than the game takes. A whole number too long for 64 bits is brought to the nearest one.
+/// The number that a whole text is, blanks at its ends aside, or nothing: people's input and comparisons need
+/// more care than the game takes. A whole number too long for 64 bits is brought to the nearest one.
 std::optional<std::int64_t> entireInteger(std::string_view text);
 std::optional<double> entireReal(std::string_view text);
 

@@ -1,6 +1,6 @@
 #pragma once
-// Codecs, one a type of value: both ways between a record's value and the text of a control. What a person types is
-// taken strictly: what is no such value is refused, not guessed at.
+// Codecs, one a type of value: both ways between a record's value and the text of a control. What a person
+// types is taken strictly: what is no such value is refused, not guessed at.
 
 #include "data/field.h"
 #include "data/format/fixed_string.h"
@@ -41,7 +41,8 @@ struct IntegerRange {
     std::int64_t greatest;
 };
 
-/// A range brought within what a member's type holds. Beyond 32 bits only the type limits a range without bounds.
+/// A range brought within what a member's type holds. Beyond 32 bits only the type limits a range without
+/// bounds.
 template <std::integral Value>
 constexpr IntegerRange within(const NumberRange& range) {
     static_assert(!std::is_same_v<Value, std::uint64_t>, "numbers are read as signed ones of 64 bits");
@@ -60,7 +61,8 @@ constexpr IntegerRange within(const NumberRange& range) {
     return result;
 }
 
-/// `"Width" must be a whole number from 0 to 90`. The bounds of 32 bits are named to who went beyond them only.
+/// `"Width" must be a whole number from 0 to 90`. The bounds of 32 bits are named to who went beyond them
+/// only.
 std::string integerRefusal(std::string_view label, const IntegerRange& range, std::string_view text);
 std::string realRefusal(std::string_view label, const NumberRange& range);
 /// Refuses a text that a file could not give back.
@@ -126,7 +128,9 @@ struct Codec<Value> {
 
 /// The strings of records.
 template <typename Value>
-concept TextValue = std::is_same_v<Value, std::string> || requires { Value::MaxLength; };
+concept TextValue = std::is_same_v<Value, std::string> || requires {
+    Value::MaxLength;
+};
 
 template <TextValue Value>
 struct Codec<Value> {
@@ -160,7 +164,7 @@ private:
 };
 
 template <typename Value>
-    requires std::is_enum_v<Value>
+requires std::is_enum_v<Value>
 struct Codec<Value> {
     static std::string textOf(Value value, const CodecTerms&) {
         for (const FormWord<Value>& row : FormWords<Value>::words()) {

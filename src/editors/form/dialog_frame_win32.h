@@ -1,6 +1,6 @@
 #pragma once
-// What all dialogs of the form engine do alike: they open beside the drawing, end with OK or Cancel, refuse with a box
-// and a marked control, and complete what is chosen from drop-down lists.
+// What all dialogs of the form engine do alike: they open beside the drawing, end with OK or Cancel, refuse
+// with a box and a marked control, and complete what is chosen from drop-down lists.
 
 #include "editors/form/form_port_win32.h"
 #include "view/painting/gdi_object_win32.h"
@@ -43,8 +43,8 @@ protected:
     virtual void init() = 0;
     /// Takes the dialog over; false, after telling why, leaves it open.
     virtual bool accept() = 0;
-    /// What else than its buttons the dialog follows; an edit or a drop-down list has its new text already. False
-    /// leaves the notification to the system.
+    /// What else than its buttons the dialog follows; an edit or a drop-down list has its new text already.
+    /// False leaves the notification to the system.
     virtual bool notice(int control, int notification) = 0;
     /// Paints a control that the dialog draws itself.
     virtual void paint(const DRAWITEMSTRUCT&) {}

@@ -16,7 +16,8 @@ std::string notStoredText(std::span<const std::string> labels) {
 void addUnknown(std::string& names, FormPort& port, int control, std::string_view label) {
     const std::string text = port.text(control);
     if (!text.empty() && !port.offers(control, text)) {
-        names += (names.empty() ? "Unknown, kept as it is: " : ", ") + std::string(label) + " \"" + text + "\"";
+        names +=
+            (names.empty() ? "Unknown, kept as it is: " : ", ") + std::string(label) + " \"" + text + "\"";
     }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
-// The form engine: a dialog's table of rows fills the controls from a record, enables them, offers their choices, and
-// reads them back. It speaks to the controls through a port, so that forms are tested without windows.
+// The form engine: a dialog's table of rows fills the controls from a record, enables them, offers their
+// choices, and reads them back. It speaks to the controls through a port, so that forms are tested without
+// windows.
 
 #include "editors/form/form_row.h"
 #include "editors/form/image_choices.h"
@@ -92,8 +93,8 @@ void fillForm(FormPort& port, const FormShape<Record>& shape, const Record& reco
     updateEnabling(port, shape, record);
 }
 
-/// Reads the controls of a form into a record, in the order of the rows. The first refusal leaves the record as it was.
-/// What the user has not changed stays as it is, whatever it is.
+/// Reads the controls of a form into a record, in the order of the rows. The first refusal leaves the record
+/// as it was. What the user has not changed stays as it is, whatever it is.
 template <typename Record>
 std::optional<FormError> readForm(FormPort& port, const FormShape<Record>& shape, Record& record) {
     Record copy = record;
@@ -111,7 +112,8 @@ std::optional<FormError> readForm(FormPort& port, const FormShape<Record>& shape
     return std::nullopt;
 }
 
-/// Marks a control that was changed with what is wrong with it by itself; rules over the whole form are told on OK.
+/// Marks a control that was changed with what is wrong with it by itself; rules over the whole form are told
+/// on OK.
 template <typename Record>
 void markControl(FormPort& port, const FormShape<Record>& shape, const Record& record, int control) {
     for (const FormRow<Record>& row : shape.rows) {
@@ -136,8 +138,8 @@ void readPossible(FormPort& port, const FormShape<Record>& shape, Record& record
     }
 }
 
-/// Gives the drop-down lists their entries: the words of enumerations, and the pictures below `imageBases`. The word for
-/// an empty value comes first.
+/// Gives the drop-down lists their entries: the words of enumerations, and the pictures below `imageBases`.
+/// The word for an empty value comes first.
 template <typename Record>
 void offerChoices(FormPort& port, const FormShape<Record>& shape, const Record& record,
                   std::span<const std::string> imageBases) {

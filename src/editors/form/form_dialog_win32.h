@@ -12,15 +12,16 @@ namespace varrocade {
 /// What a form's dialog is.
 struct FormDialogTerms {
     int dialogTemplate = 0;
-    std::string_view caption = {};            ///< of the boxes with refusals
+    std::string_view caption = {};                ///< of the boxes with refusals
     std::span<const std::string> imageBases = {}; ///< the folders that pictures are offered from
     /// Tells the undo history of what OK took over, and under which name; none where the caller does.
     void (*changed)(std::string_view what) = nullptr;
     std::string undoName = {};
 };
 
-/// A dialog that shows one record in a form: a template, a table of rows, and the dialog's own rules. OK takes the form
-/// over into the record. IDC_UNKNOWN, where there is one, names what its drop-down lists do not offer.
+/// A dialog that shows one record in a form: a template, a table of rows, and the dialog's own rules. OK
+/// takes the form over into the record. IDC_UNKNOWN, where there is one, names what its drop-down lists do
+/// not offer.
 class FormDialog : public DialogFrame {
 public:
     /// `form` lives as long as the dialog.

@@ -8,7 +8,8 @@
 
 namespace varrocade {
 
-/// The controls of one dialog, by their ids. A control that the dialog lacks takes everything and holds nothing.
+/// The controls of one dialog, by their ids. A control that the dialog lacks takes everything and holds
+/// nothing.
 class FormPort {
 public:
     FormPort() = default;

@@ -31,8 +31,8 @@ HWND refusalTips(HWND dialog) {
     auto* tips = static_cast<HWND>(GetPropA(dialog, RefusalTipsProperty));
     if (tips == nullptr) {
         // The dialog owns it and takes it along.
-        tips = CreateWindowExA(0, TOOLTIPS_CLASSA, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, 0, 0, 0, 0,
-                               dialog, nullptr, GetModuleHandleA(nullptr), nullptr);
+        tips = CreateWindowExA(0, TOOLTIPS_CLASSA, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, 0, 0, 0,
+                               0, dialog, nullptr, GetModuleHandleA(nullptr), nullptr);
         SetPropA(dialog, RefusalTipsProperty, tips);
     }
     return tips;
@@ -129,7 +129,8 @@ void DialogPort::mark(int control, std::string_view refusal) {
 }
 
 void DialogPort::unmarkAll() {
-    for (HWND window = GetWindow(dialog_, GW_CHILD); window != nullptr; window = GetWindow(window, GW_HWNDNEXT)) {
+    for (HWND window = GetWindow(dialog_, GW_CHILD); window != nullptr;
+         window = GetWindow(window, GW_HWNDNEXT)) {
         RemovePropA(window, RefusedProperty);
     }
     RemovePropA(dialog_, RefusalTipsProperty);

@@ -1,6 +1,7 @@
 #pragma once
-// The rows of a form's table: a control, the field that it shows, and what this dialog makes of it. A row serves both
-// directions: what fills the control, enables it and offers its choices reads it back and refuses it.
+// The rows of a form's table: a control, the field that it shows, and what this dialog makes of it. A row
+// serves both directions: what fills the control, enables it and offers its choices reads it back and refuses
+// it.
 
 #include "editors/form/codec.h"
 #include "editors/form/form_port.h"
@@ -45,8 +46,8 @@ inline constexpr std::int32_t NotGiven = -1;
 template <typename Record>
 class FormRow {
 public:
-    /// A field of the record itself. `Converter` stands in for the codec of the value's type where the dialog shows
-    /// another figure than the record holds.
+    /// A field of the record itself. `Converter` stands in for the codec of the value's type where the dialog
+    /// shows another figure than the record holds.
     template <typename Value, typename Converter = Codec<Value>>
     constexpr FormRow(int rowControl, const Field<Record, Value>& rowField,
                       const RowTerms<Record>& rowTerms = {}, Converter = {})

@@ -16,13 +16,13 @@ struct ListDialogTerms {
     /// The refusal of an entry too many.
     std::string_view fullText = {};
     std::string_view fullCaption = {};
-    std::size_t first = 0; ///< the entry to begin with
+    std::size_t first = 0;                        ///< the entry to begin with
     std::span<const std::string> imageBases = {}; ///< the folders that pictures are offered from
 };
 
 /// A dialog with a list, the buttons that change it, and a form for the chosen entry. The controls have the
-/// same numbers in every such dialog (IDC_ENTRY_...). IDC_UNKNOWN, where there is one, names what the entry's drop-down
-/// lists do not offer.
+/// same numbers in every such dialog (IDC_ENTRY_...). IDC_UNKNOWN, where there is one, names what the entry's
+/// drop-down lists do not offer.
 class ListDialog : public DialogFrame {
 public:
     /// `model` lives as long as the dialog.
@@ -66,8 +66,9 @@ private:
 
     ListDialogTerms terms_;
     ListModel& model_;
-    int shown_ = -1;         ///< the entry that the form shows
-    bool isFilling_ = false; ///< the form is being filled: what its controls report is no change of the user's
+    int shown_ = -1; ///< the entry that the form shows
+    bool isFilling_ =
+        false; ///< the form is being filled: what its controls report is no change of the user's
 };
 
 } // namespace varrocade

@@ -179,9 +179,10 @@ const ListShape<ExhaustPipeRecord>& exhaustPipeShape() {
 }
 
 const ListShape<SmokeDischargerRecord>& smokeDischargerShape() {
-    static const ListShape<SmokeDischargerRecord> shape{.form = {.rows = DischargerRows, .check = clearDischarger},
-                                                        .line = dischargerLine,
-                                                        .mirror = mirrorDischarger};
+    static const ListShape<SmokeDischargerRecord> shape{
+        .form = {.rows = DischargerRows, .check = clearDischarger},
+        .line = dischargerLine,
+        .mirror = mirrorDischarger};
     return shape;
 }
 
@@ -197,7 +198,8 @@ const ListShape<WeaponMountRecord>& weaponShape() {
 }
 
 const ListShape<PersonalWeapon>& personalWeaponShape() {
-    static const ListShape<PersonalWeapon> shape{.form = {.rows = PersonalWeaponRows}, .line = personalWeaponLine};
+    static const ListShape<PersonalWeapon> shape{.form = {.rows = PersonalWeaponRows},
+                                                 .line = personalWeaponLine};
     return shape;
 }
 

@@ -63,7 +63,8 @@ private:
 
 class AmmunitionDialog final : public ListDialog {
 public:
-    /// `weaponTypes` are those of the weapons that it is carried for, `ammo` the copy that the dialog works on.
+    /// `weaponTypes` are those of the weapons that it is carried for, `ammo` the copy that the dialog works
+    /// on.
     AmmunitionDialog(EditContext& edit, std::vector<std::string> weaponTypes, bool hasFlavour,
                      std::vector<AmmoLoadRecord>& ammo)
         : ListDialog({.dialogTemplate = IDD_AMMUNITION, .caption = "Ammunition"}, model_), edit_(edit),
@@ -74,7 +75,8 @@ private:
     void prepare() override {
         port().setChoices(IDC_WEAPON_TYPE, weaponTypes_);
         if (!hasFlavour_) {
-            port().setText(IDC_NOT_STORED, "The flavour of a crew man's ammunition is not stored in the file.");
+            port().setText(IDC_NOT_STORED,
+                           "The flavour of a crew man's ammunition is not stored in the file.");
         }
     }
     /// The flavours are those of the weapon that is chosen; what does not fit is said, not refused.

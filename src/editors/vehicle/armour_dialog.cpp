@@ -62,9 +62,7 @@ private:
         followPlates(port(), component_);
         InvalidateRect(GetDlgItem(handle(), IDC_ARMOUR_DRAWING), nullptr, TRUE);
     }
-    void paint(const DRAWITEMSTRUCT& item) override {
-        drawArmour(item, drawing_, component_);
-    }
+    void paint(const DRAWITEMSTRUCT& item) override { drawArmour(item, drawing_, component_); }
     void rearrange(void (*how)(ArmourRecord&)) {
         if (take()) {
             how(component_.armour);

@@ -94,7 +94,8 @@ void followPlates(FormPort& port, ComponentRecord& component) {
             Component copy = former;
             return row.read(port, copy).has_value();
         });
-        port.setText(firstControl(i) + 2, isTaken ? effectiveText(component.armour.*ArmourPlateRows[i].member) : "?");
+        port.setText(firstControl(i) + 2,
+                     isTaken ? effectiveText(component.armour.*ArmourPlateRows[i].member) : "?");
     }
 }
 

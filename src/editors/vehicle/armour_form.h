@@ -15,8 +15,8 @@ const FormShape<ComponentRecord>& armourShape();
 /// As the dialog and the drawing show it: "58 mm", or "-" for a horizontal plate.
 std::string effectiveText(const ArmourPlate& plate);
 
-/// Takes over what can be taken of what is typed, and shows the plates' effective thicknesses: a question mark for one
-/// that cannot be taken.
+/// Takes over what can be taken of what is typed, and shows the plates' effective thicknesses: a question
+/// mark for one that cannot be taken.
 void followPlates(FormPort& port, ComponentRecord& component);
 
 /// The right side's plates become the left side's.

@@ -34,7 +34,8 @@ struct RotateSpeed {
         }
         const auto given = rotateTimeOf(text);
         if (given && *given == 0) {
-            return "The rotate speed must be at most 360 degrees per second: the file counts the seconds for a full "
+            return "The rotate speed must be at most 360 degrees per second: the file counts the seconds for "
+                   "a full "
                    "circle";
         }
         time = given.value_or(0);

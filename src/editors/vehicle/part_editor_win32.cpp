@@ -4,8 +4,8 @@
 #include "editors/unit/list_dialogs.h"
 #include "editors/vehicle/armour_dialog.h"
 #include "editors/vehicle/component_dialogs.h"
-#include "editors/vehicle/drive_dialog.h"
 #include "editors/vehicle/details_dialog.h"
+#include "editors/vehicle/drive_dialog.h"
 
 #include <algorithm>
 #include <array>

@@ -30,7 +30,8 @@ bool isOldMethod(FormPort& port, const Squad&) {
 /// A language is two characters; everything else, "Default" among it, is none.
 struct TwoCharacters : Codec<LanguageCode> {
     static Refusal take(std::string_view text, const CodecTerms& terms, LanguageCode& language) {
-        return Codec::take(text.size() == LanguageCode::MaxLength ? text : std::string_view(), terms, language);
+        return Codec::take(text.size() == LanguageCode::MaxLength ? text : std::string_view(), terms,
+                           language);
     }
 };
 

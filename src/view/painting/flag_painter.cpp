@@ -1,8 +1,8 @@
 #include "view/painting/flag_painter.h"
 
 #include "data/format/texts.h"
-#include "data/unit/image_names.h"
 #include "data/unit/image_folders.h"
+#include "data/unit/image_names.h"
 
 namespace varrocade {
 
