@@ -273,7 +273,9 @@ protected:
         answer(box);
     }
     /// Whether a control shows that it was refused.
-    static bool isMarked(Window control) { return GetPropA(control.handle(), "Varrocade.Refused") != nullptr; }
+    static bool isMarked(Window control) {
+        return GetPropA(control.handle(), "Varrocade.Refused") != nullptr;
+    }
     void runCase(const DialogCase& row) const {
         const std::string before = tigerText();
         std::vector<Window> dialogs = open(row.path);
