@@ -20,13 +20,14 @@ enum class FieldKind : std::uint8_t {
     Real,        ///< with decimals
     Flag,        ///< "yes" or "no"
     Text,        ///< words for people
-    Word,        ///< one of `words`
+    Word,        ///< one of `words`, or what a file has in its place
+    Choice,      ///< one of `words` and nothing else: a value of an enumeration
     Nationality, ///< one of `words`
     Plate,       ///< a thickness, and an angle behind "@"
     Language,    ///< two letters
     Engine,      ///< an engine's name, of the engine table or any other
     Image,       ///< a picture below `images`, without ".png" in records
-    Uniform,     ///< a picture below `images`, or the default one of the nationality
+    Uniform,     ///< a picture below `images`, its name as it stands
     Sound,       ///< a file below "Sounds\"
     Weapon,      ///< the type name of a weapon, which is the name of its file
     Flavour      ///< of ammunition
@@ -106,6 +107,8 @@ struct FieldTraits {
     Omission omitted = Omission::Never;
     /// Whose files store it; a value of any other record is lost with saving.
     Holders stored = AnyHolder;
+    /// The same of what the holder stands in: the weapon that ammunition belongs to.
+    Holders storedWithin = AnyHolder;
     /// The places after the point of a real number; below 0 the shortest form, as "%g" prints it.
     int decimals = -1;
 };
@@ -121,6 +124,9 @@ struct FieldInfo {
     std::span<const ImageSource> images = {};
 
     [[nodiscard]] constexpr bool isStoredBy(Holder holder) const { return traits.stored.has(holder); }
+    [[nodiscard]] constexpr bool isStoredBy(Holder holder, Holder around) const {
+        return traits.stored.has(holder) && traits.storedWithin.has(around);
+    }
 };
 
 using FieldId = const FieldInfo*;
@@ -212,6 +218,12 @@ template <typename R, typename V>
 constexpr auto word(V R::*member, std::string_view element, std::string_view label, Words words,
                     const FieldTraits& traits = {}) {
     return make(FieldKind::Word, member, element, label, traits, words);
+}
+
+template <typename R, typename V>
+constexpr auto choice(V R::*member, std::string_view element, std::string_view label, Words words,
+                      const FieldTraits& traits = {}) {
+    return make(FieldKind::Choice, member, element, label, traits, words);
 }
 
 template <typename R, typename V>
