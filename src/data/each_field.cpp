@@ -8,8 +8,8 @@ namespace {
 
 constexpr std::array<std::string_view, 4> ComponentElements = {element::Hull, element::Superstructure,
                                                                element::Turret, element::FixedWeapon};
-constexpr std::array<std::string_view, 4> HeavyWeaponElements = {element::Mortar, element::Hmg, element::Atgun,
-                                                                 element::RecoillessRifle};
+constexpr std::array<std::string_view, 4> HeavyWeaponElements = {element::Mortar, element::Hmg,
+                                                                 element::Atgun, element::RecoillessRifle};
 
 } // namespace
 

@@ -4,6 +4,8 @@
 #include "data/unit/elements.h"
 #include "data/unit_fields.h"
 
+#include <array>
+#include <concepts>
 #include <string>
 #include <string_view>
 #include <tuple>
@@ -15,9 +17,10 @@ struct FieldPlace {
     std::string_view path; ///< such as "vehicle.turret[2].armour.mantlet"; entries count from 1
     const FieldInfo& field;
     Holder holder; ///< of the record that the value belongs to
+    Holder around; ///< of what that stands in, where it matters; otherwise the same
 
     /// Whether the file of this record has the value. One that is not stored is lost with saving.
-    [[nodiscard]] bool isStored() const { return field.isStoredBy(holder); }
+    [[nodiscard]] bool isStored() const { return field.isStoredBy(holder, around); }
 };
 
 /// The element of a component or a heavy weapon.
@@ -86,30 +89,40 @@ public:
     /// The fields of one record, without those of the records in it.
     template <typename Record>
     void values(Record& record, Holder holder) {
-        std::apply([&](const auto&... fields) { (value(record, fields, holder), ...); },
+        values(record, holder, holder);
+    }
+    template <typename Record>
+    void values(Record& record, Holder holder, Holder around) {
+        std::apply([&](const auto&... fields) { (value(record, fields, holder, around), ...); },
                    fieldsOf<std::remove_const_t<Record>>);
+    }
+
+    /// The fields of an entry of a list.
+    template <typename Record>
+    void entry(Record& record, std::string_view name, std::size_t number, Holder holder, Holder around) {
+        const Path::Step step(path_, name, number);
+        values(record, holder, around);
     }
 
 private:
     template <typename Record, typename FieldType>
-    void value(Record& record, const FieldType& field, Holder holder) {
+    void value(Record& record, const FieldType& field, Holder holder, Holder around) {
         auto& value = field.of(record);
         if constexpr (std::is_same_v<const FieldType, decltype(field::PersonalWeapons)>) {
             for (std::size_t i = 0; i < value.size(); ++i) {
                 const Path::Step step(path_, element::Weapon, i + 1);
-                visit_(FieldPlace{path_.text(), field, holder}, value[i]);
+                visit_(FieldPlace{path_.text(), field, holder, around}, value[i]);
             }
         } else {
             const Path::Step step(path_, field.element);
-            visit_(FieldPlace{path_.text(), field, holder}, value);
+            visit_(FieldPlace{path_.text(), field, holder, around}, value);
         }
     }
 
     template <typename List>
     void list(List& entries, std::string_view name, Holder holder) {
         for (std::size_t i = 0; i < entries.size(); ++i) {
-            const Path::Step step(path_, name, i + 1);
-            values(entries[i], holder);
+            entry(entries[i], name, i + 1, holder, holder);
         }
     }
 
@@ -154,9 +167,11 @@ private:
 
 } // namespace each_field
 
-/// Visits every value of a unit, in the order of its records' members. `visit` is called with a `FieldPlace` and a
-/// reference to the value, which it may change where the unit is not constant. The path is good until it returns.
+/// Visits every value of a unit, in the order of its records' members. `visit` is called with a `FieldPlace`
+/// and a reference to the value, which it may change where the unit is not constant. The path is good until
+/// it returns.
 template <typename Unit, typename Visit>
+requires std::same_as<std::remove_const_t<Unit>, SquadRecord>
 void forEachField(Unit& unit, Visit&& visit) {
     each_field::Walk<Visit>(visit).unit(unit);
 }

@@ -19,14 +19,15 @@ enum class FieldKind : std::uint8_t {
     Number,      ///< whole, within `range`
     Real,        ///< with decimals
     Flag,        ///< "yes" or "no"
-    Prose,       ///< words for people
-    Word,        ///< one of `words`
+    String,      ///< words for people
+    Word,        ///< one of `words`, or what a file has in its place
+    Choice,      ///< one of `words` and nothing else: a value of an enumeration
     Nationality, ///< one of `words`
     Plate,       ///< a thickness, and an angle behind "@"
     Language,    ///< two letters
     Engine,      ///< an engine's name, of the engine table or any other
     Image,       ///< a picture below `images`, without ".png" in records
-    Uniform,     ///< a picture below `images`, or the default one of the nationality
+    Uniform,     ///< a picture below `images`, its name as it stands
     Sound,       ///< a file below "Sounds\"
     Weapon,      ///< the type name of a weapon, which is the name of its file
     Flavour      ///< of ammunition
@@ -106,6 +107,8 @@ struct FieldTraits {
     Omission omitted = Omission::Never;
     /// Whose files store it; a value of any other record is lost with saving.
     Holders stored = AnyHolder;
+    /// The same of what the holder stands in: the weapon that ammunition belongs to.
+    Holders storedWithin = AnyHolder;
     /// The places after the point of a real number; below 0 the shortest form, as "%g" prints it.
     int decimals = -1;
 };
@@ -121,7 +124,12 @@ struct FieldInfo {
     std::span<const ImageSource> images = {};
 
     [[nodiscard]] constexpr bool isStoredBy(Holder holder) const { return traits.stored.has(holder); }
+    [[nodiscard]] constexpr bool isStoredBy(Holder holder, Holder around) const {
+        return traits.stored.has(holder) && traits.storedWithin.has(around);
+    }
 };
+
+using FieldId = const FieldInfo*;
 
 /// A field of a record. `Value` is what the record holds it in.
 template <typename Record, typename Value>
@@ -203,13 +211,19 @@ constexpr auto flag(bool R::*member, std::string_view element, std::string_view 
 template <typename R, typename V>
 constexpr auto text(V R::*member, std::string_view element, std::string_view label,
                     const FieldTraits& traits = {}) {
-    return make(FieldKind::Prose, member, element, label, traits);
+    return make(FieldKind::String, member, element, label, traits);
 }
 
 template <typename R, typename V>
 constexpr auto word(V R::*member, std::string_view element, std::string_view label, Words words,
                     const FieldTraits& traits = {}) {
     return make(FieldKind::Word, member, element, label, traits, words);
+}
+
+template <typename R, typename V>
+constexpr auto choice(V R::*member, std::string_view element, std::string_view label, Words words,
+                      const FieldTraits& traits = {}) {
+    return make(FieldKind::Choice, member, element, label, traits, words);
 }
 
 template <typename R, typename V>

@@ -73,13 +73,13 @@ inline constexpr auto UniformName =
     row::make(FieldKind::Uniform, &SquadRecord::uniformName, "uniform", "Uniform", {.stored = NotInAircraft},
               nullptr, image_sources::Uniform);
 inline constexpr auto UniformProfile = row::make(
-    FieldKind::Uniform, &SquadRecord::uniformProfile, "uniform_profile", "Profile image",
+    FieldKind::Image, &SquadRecord::uniformProfile, "uniform_profile", "Profile image",
     {.omitted = Omission::Default, .stored = NotInAircraft}, nullptr, image_sources::UniformProfile);
 inline constexpr auto UniformGame =
-    row::make(FieldKind::Uniform, &SquadRecord::uniformGame, "uniform_game", "Game image",
+    row::make(FieldKind::Image, &SquadRecord::uniformGame, "uniform_game", "Game image",
               {.omitted = Omission::Default, .stored = NotInAircraft}, nullptr, image_sources::UniformGame);
 inline constexpr auto UniformRanks =
-    row::make(FieldKind::Uniform, &SquadRecord::uniformRanks, "uniform_ranks", "Rank Image",
+    row::make(FieldKind::Image, &SquadRecord::uniformRanks, "uniform_ranks", "Rank Image",
               {.omitted = Omission::Default, .stored = NotInAircraft}, nullptr, image_sources::UniformRanks);
 
 inline constexpr auto Month =
@@ -103,8 +103,8 @@ inline constexpr auto Horsepower =
     row::number(&VehicleRecord::horsepower, "horsepower", "Horsepower", {.unit = "hp", .range = NotNegative});
 inline constexpr auto Reliability =
     row::word(&VehicleRecord::reliability, "reliability", "Reliability", reliabilityNames);
-inline constexpr auto MountOfEngine = row::word(&VehicleRecord::engineMount, "mount", "Engine mount",
-                                                mountNames, {.omitted = Omission::Default});
+inline constexpr auto MountOfEngine = row::choice(&VehicleRecord::engineMount, "mount", "Engine mount",
+                                                  mountNames, {.omitted = Omission::Default});
 inline constexpr auto IdleRevolutions =
     row::number(&VehicleRecord::idleRevolutions, "rpm_idle", "Idle", {.unit = "rpm", .range = NotNegative});
 inline constexpr auto RevolutionLimit =

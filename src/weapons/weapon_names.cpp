@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <tuple>
 
 namespace varrocade {
 
@@ -109,6 +110,23 @@ constexpr auto ReloadModes = std::to_array<NameRow<ReloadMode>>({
     {ReloadMode::Automatic, "RELOAD_AUTOMATIC"},
 });
 
+template <std::size_t Skipped, typename Rows>
+constexpr auto namesOf(const Rows& rows) {
+    std::array<std::string_view, std::tuple_size_v<Rows> - Skipped> names{};
+    std::transform(rows.begin() + Skipped, rows.end(), names.begin(),
+                   [](const auto& row) { return row.name; });
+    return names;
+}
+
+/// The game makes shrapnel, splinters and sparks itself; no file may name them.
+constexpr std::size_t UnnameableFlavours = 4;
+
+constexpr auto TypeNames = namesOf<0>(Types);
+constexpr auto FlavourNames = namesOf<UnnameableFlavours>(Flavours);
+constexpr auto EraNames = namesOf<0>(Eras);
+constexpr auto GuidanceNames = namesOf<0>(GuidanceModes);
+constexpr auto ReloadNames = namesOf<0>(ReloadModes);
+
 template <typename Rows, typename Value>
 std::string_view findName(const Rows& rows, Value value, std::string_view otherwise) {
     for (const auto& row : rows) {
@@ -131,6 +149,26 @@ std::optional<Value> findValue(const std::array<NameRow<Value>, Count>& rows, st
 
 } // namespace
 
+std::span<const std::string_view> weaponTypeNames() {
+    return TypeNames;
+}
+
+std::span<const std::string_view> flavourNames() {
+    return FlavourNames;
+}
+
+std::span<const std::string_view> heatEraNames() {
+    return EraNames;
+}
+
+std::span<const std::string_view> guidanceModeNames() {
+    return GuidanceNames;
+}
+
+std::span<const std::string_view> reloadModeNames() {
+    return ReloadNames;
+}
+
 std::string_view nameOf(WeaponType type) {
     return findName(Types, type, "WEAPON_NONE");
 }
@@ -146,7 +184,6 @@ std::string_view nameOf(AmmoFlavour flavour) {
 AmmoFlavour flavourOf(std::string_view name) {
     for (const FlavourRow& row : Flavours) {
         if (row.name == name) {
-            // The game makes shrapnel, splinters and sparks itself; no file may name them.
             return row.value < AmmoFlavour::Ball ? AmmoFlavour::None : row.value;
         }
     }
@@ -187,6 +224,26 @@ std::string_view nameOf(ReloadMode mode) {
 
 std::optional<ReloadMode> reloadModeOf(std::string_view name) {
     return findValue(ReloadModes, name);
+}
+
+std::string valueText(WeaponType value) {
+    return std::string(nameOf(value));
+}
+
+std::string valueText(AmmoFlavour value) {
+    return std::string(nameOf(value));
+}
+
+std::string valueText(HeatEra value) {
+    return std::string(nameOf(value));
+}
+
+std::string valueText(GuidanceMode value) {
+    return value == GuidanceMode::Unguided ? std::string() : std::string(nameOf(value));
+}
+
+std::string valueText(ReloadMode value) {
+    return value == ReloadMode::None ? std::string() : std::string(nameOf(value));
 }
 
 } // namespace varrocade

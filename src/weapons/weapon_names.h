@@ -4,9 +4,19 @@
 #include "weapons/weapon_record.h"
 
 #include <optional>
+#include <span>
+#include <string>
 #include <string_view>
 
 namespace varrocade {
+
+/// The words that files may have, in the order in which lists offer them. A guidance or reload mode of none
+/// has no word.
+std::span<const std::string_view> weaponTypeNames();
+std::span<const std::string_view> flavourNames();
+std::span<const std::string_view> heatEraNames();
+std::span<const std::string_view> guidanceModeNames();
+std::span<const std::string_view> reloadModeNames();
 
 /// "WEAPON_NONE" for a value that has no name.
 std::string_view nameOf(WeaponType type);
@@ -35,5 +45,12 @@ std::optional<GuidanceMode> guidanceModeOf(std::string_view name);
 /// "RELOAD_AUTOMATIC" for every value but none and semi-automatic.
 std::string_view nameOf(ReloadMode mode);
 std::optional<ReloadMode> reloadModeOf(std::string_view name);
+
+/// The names of the files; empty for the modes that are never written.
+std::string valueText(WeaponType value);
+std::string valueText(AmmoFlavour value);
+std::string valueText(HeatEra value);
+std::string valueText(GuidanceMode value);
+std::string valueText(ReloadMode value);
 
 } // namespace varrocade

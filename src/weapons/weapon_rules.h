@@ -18,14 +18,3 @@ WeaponRecord readTree(const TagTree& tree, std::string_view fileContent, std::st
 bool isElement(std::string_view name);
 
 } // namespace varrocade::weapon_rules
-
-namespace varrocade {
-
-/// The names of the files; empty for the modes that are never written.
-std::string valueText(WeaponType value);
-std::string valueText(AmmoFlavour value);
-std::string valueText(HeatEra value);
-std::string valueText(GuidanceMode value);
-std::string valueText(ReloadMode value);
-
-} // namespace varrocade

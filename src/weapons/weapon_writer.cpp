@@ -1,104 +1,49 @@
 // The layout of weapon files, top to bottom.
 
-#include "data/format/file_text.h"
+#include "data/field_text.h"
 #include "platform/messages.h"
 #include "weapons/weapon_elements.h"
+#include "weapons/weapon_fields.h"
 #include "weapons/weapon_files.h"
-#include "weapons/weapon_names.h"
 
 namespace varrocade {
 
 namespace {
 
 namespace we = weapon_element;
+namespace wf = weapon_field;
+using namespace field_text;
 
 void writeDimensions(FileText& out, const WeaponRecord& weapon) {
     out.open(1, we::Dimensions);
-    if (weapon.calibre > 0) {
-        out.indent(2).realElement(we::Calibre, weapon.calibre).endLine();
-    }
-    if (weapon.barrelLength > 0) {
-        out.line(2, we::BarrelLength, weapon.barrelLength);
-    }
-    if (weapon.numberOfBarrels > 1) {
-        out.line(2, we::NumberBarrels, weapon.numberOfBarrels);
-    }
+    lines(out, 2, weapon, wf::Calibre, wf::BarrelLength, wf::NumberOfBarrels);
     out.close(1, we::Dimensions).blankLine();
 }
 
-void writeIfNotZero(FileText& out, std::string_view name, std::int32_t value) {
-    if (value != 0) {
-        out.line(2, name, value);
-    }
-}
-
-void writeShoot(FileText& out, const WeaponRecord& weapon) {
-    const bool isDefault = weapon.shootSound.empty() && weapon.tracerImage.empty() && weapon.range == 0 &&
-                           weapon.rateOfFire == 0 && weapon.muzzleFlash && weapon.reload == ReloadMode::None;
-    if (isDefault) {
+/// A group of lines, unless there is none to write.
+template <typename... Fields>
+void writeGroup(FileText& out, std::string_view name, const WeaponRecord& weapon, const Fields&... fields) {
+    if ((fields.isOmitted(weapon) && ...)) {
         return;
     }
-    out.open(1, we::Shoot);
-    out.lineIfGiven(2, we::SoundShoot, weapon.shootSound);
-    out.imageIfGiven(2, we::TracerImage, weapon.tracerImage);
-    writeIfNotZero(out, we::Range, weapon.range);
-    writeIfNotZero(out, we::Rof, weapon.rateOfFire);
-    if (!weapon.muzzleFlash) {
-        out.line(2, we::MuzzleFlash, "no");
-    }
-    if (weapon.reload != ReloadMode::None) {
-        out.line(2, we::Reload, nameOf(weapon.reload));
-    }
-    out.close(1, we::Shoot).blankLine();
-}
-
-void writeMagazine(FileText& out, const WeaponRecord& weapon) {
-    const bool isDefault = weapon.magazineCapacity < 2 && !weapon.singleShot && weapon.reloadSound.empty() &&
-                           weapon.ejectClipSound.empty();
-    if (isDefault) {
-        return;
-    }
-    out.open(1, we::Magazine);
-    if (weapon.magazineCapacity > 1) {
-        out.line(2, we::Capacity, weapon.magazineCapacity);
-    }
-    out.flag(2, we::SingleShot, weapon.singleShot);
-    out.lineIfGiven(2, we::SoundReload, weapon.reloadSound);
-    out.lineIfGiven(2, we::SoundEjectClip, weapon.ejectClipSound);
-    out.close(1, we::Magazine).blankLine();
-}
-
-/// These three smoke flavours have no explosive in the files. The smoke of guns and of artillery has: the
-/// game's files rely on it.
-bool hasNoExplosive(AmmoFlavour flavour) {
-    return flavour == AmmoFlavour::GrenadeSmoke || flavour == AmmoFlavour::RpgSmoke ||
-           flavour == AmmoFlavour::MortarSmoke;
+    out.open(1, name);
+    lines(out, 2, weapon, fields...);
+    out.close(1, name).blankLine();
 }
 
 void writeAmmoType(FileText& out, const AmmoTypeRecord& ammo, WeaponType weaponType) {
-    out.indent(2).startTag(we::Type).element(we::Flavour, nameOf(ammo.flavour));
-    if (weaponType != WeaponType::Grenade) {
-        out.realElement(we::Speed, ammo.speed);
-    }
-    out.realElement(we::Mass, ammo.mass);
-    if (isHeat(ammo.flavour) && ammo.era != HeatEra::Early) {
-        out.element(we::Era, nameOf(ammo.era));
-    }
-    if (ammo.guided != GuidanceMode::Unguided) {
-        out.element(we::Guided, nameOf(ammo.guided));
-    }
-    out.elementIfGiven(we::SmokeTrail, ammo.smokeTrail ? "yes" : "");
-    if (!ammo.tracerImage.empty()) {
-        out.imageElement(we::TracerImage, ammo.tracerImage);
-    }
-    if (ammo.highExplosive > 0 && !hasNoExplosive(ammo.flavour)) {
-        out.realElement(we::HE, ammo.highExplosive);
-    }
-    if (ammo.explodeIn > 0) {
-        out.realElement(we::ExplodeIn, ammo.explodeIn);
-    }
-    out.elementIfGiven(we::ExplodeSound, ammo.explodeSound);
-    out.element(we::Name, ammo.name).endTag(we::Type).endLine();
+    const Holder flavour = holderOf(ammo.flavour);
+    const Holder weapon = holderOf(weaponType);
+    const auto writeOne = [&](const auto& field) {
+        if (field.isStoredBy(flavour, weapon)) {
+            piece(out, field, ammo);
+        }
+    };
+    const auto write = [&](const auto&... fields) { (writeOne(fields), ...); };
+    out.indent(2).startTag(we::Type);
+    write(wf::Flavour, wf::Speed, wf::Mass, wf::Era, wf::Guided, wf::SmokeTrail, wf::AmmoTracerImage,
+          wf::HighExplosive, wf::ExplodeIn, wf::ExplodeSound, wf::AmmoName);
+    out.endTag(we::Type).endLine();
 }
 
 void writeComments(FileText& out, const WeaponRecord& weapon) {
@@ -110,30 +55,22 @@ void writeComments(FileText& out, const WeaponRecord& weapon) {
     out.close(1, we::Comments).blankLine();
 }
 
-void writeUsage(FileText& out, const WeaponRecord& weapon) {
-    if (weapon.period.empty() && weapon.countries.empty()) {
-        return;
-    }
-    out.open(1, we::Usage);
-    out.lineIfGiven(2, we::Period, weapon.period);
-    out.lineIfGiven(2, we::Countries, weapon.countries);
-    out.close(1, we::Usage).blankLine();
-}
-
 } // namespace
 
 std::string weaponFileText(const WeaponRecord& weapon) {
-    const bool isThrownOrDropped = weapon.type == WeaponType::Grenade || weapon.type == WeaponType::Bomb;
+    const bool hasBarrel = wf::WithBarrel.has(holderOf(weapon.type));
     FileText out;
     out.open(0, we::Weapon).blankLine();
-    out.line(1, we::Name, weapon.name);
-    out.line(1, we::Type, nameOf(weapon.type)).blankLine();
-    if (!isThrownOrDropped) {
+    lines(out, 1, weapon, wf::Name, wf::Type);
+    out.blankLine();
+    if (hasBarrel) {
         writeDimensions(out, weapon);
     }
-    writeShoot(out, weapon);
-    if (!isThrownOrDropped) {
-        writeMagazine(out, weapon);
+    writeGroup(out, we::Shoot, weapon, wf::ShootSound, wf::TracerImage, wf::Range, wf::RateOfFire,
+               wf::MuzzleFlash, wf::Reload);
+    if (hasBarrel) {
+        writeGroup(out, we::Magazine, weapon, wf::Capacity, wf::SingleShot, wf::ReloadSound,
+                   wf::EjectClipSound);
     }
     out.open(1, we::Ammo);
     for (const AmmoTypeRecord& ammo : weapon.ammoTypes) {
@@ -141,7 +78,7 @@ std::string weaponFileText(const WeaponRecord& weapon) {
     }
     out.close(1, we::Ammo).blankLine();
     writeComments(out, weapon);
-    writeUsage(out, weapon);
+    writeGroup(out, we::Usage, weapon, wf::Period, wf::Countries);
     out.close(0, we::Weapon);
     return out.take();
 }

@@ -63,7 +63,7 @@ constexpr auto LengthField = row::real(&Sample::length, "", "Length", {.decimals
 constexpr auto NameField = row::text(&Sample::name, "", "Name");
 constexpr auto CodeField = row::text(&Sample::code, "", "Code");
 constexpr auto ImageField = row::image(&Sample::image, "", "Image", {});
-constexpr auto GuidedField = row::word(&Sample::guided, "", "Guided", nullptr);
+constexpr auto GuidedField = row::choice(&Sample::guided, "", "Guided", nullptr);
 constexpr auto GivenField = row::number(&Sample::given, "", "Given", {.range = {.least = 1, .greatest = 9}});
 constexpr auto TracerField = row::flag(&Sample::isTracer, "", "Tracer");
 

@@ -106,6 +106,9 @@ public:
         return *this;
     }
 
+    /// What has been printed so far, to append a value to.
+    [[nodiscard]] std::string& text() { return text_; }
+
     [[nodiscard]] std::string take() { return std::move(text_); }
 
 private:

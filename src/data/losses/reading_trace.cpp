@@ -1,62 +1,8 @@
 #include "data/losses/reading_trace.h"
 
-#include "data/format/numbers.h"
-#include "data/unit/enumerations.h"
-
 #include <algorithm>
-#include <array>
-#include <charconv>
 
 namespace varrocade {
-
-namespace {
-
-/// The shortest text that reads back as the same value.
-template <typename Real>
-std::string shortestText(Real value) {
-    std::array<char, 64> digits{};
-    const auto result = std::to_chars(digits.data(), digits.data() + digits.size(), value);
-    return {digits.data(), result.ptr};
-}
-
-} // namespace
-
-std::string valueText(bool value) {
-    return value ? "yes" : "no";
-}
-
-std::string valueText(std::int32_t value) {
-    std::string text;
-    appendInteger(text, value);
-    return text;
-}
-
-std::string valueText(float value) {
-    return shortestText(value);
-}
-
-std::string valueText(double value) {
-    return shortestText(value);
-}
-
-std::string valueText(std::string_view value) {
-    return std::string(value);
-}
-
-std::string valueText(const ArmourPlate& value) {
-    std::string text = valueText(value.thickness);
-    if (value.angle != 0) {
-        text += '@';
-        appendInteger(text, value.angle);
-    }
-    return text;
-}
-
-std::string valueText(EngineMount value) {
-    return std::string(value == EngineMount::Front    ? MountFront
-                       : value == EngineMount::Middle ? MountMiddle
-                                                      : MountRear);
-}
 
 void ReadingTrace::enter(std::uint32_t node, std::uint32_t parent) {
     nodes_.resize(node + std::size_t{1});
@@ -68,7 +14,7 @@ void ReadingTrace::enter(std::uint32_t node, std::uint32_t parent) {
 void ReadingTrace::leave(bool hasRule) {
     std::size_t value = values_.size() - open_.size();
     for (const OpenField& field : open_) {
-        values_[value].after = field.textOf(field.field);
+        values_[value].after = field.textOf(field.value);
         ++value;
     }
     if (current().fate == Fate::Ignored && hasRule) {
@@ -86,8 +32,7 @@ void ReadingTrace::begin(const OpenField& field) {
     values_.push_back({.node = currentNode(),
                        .entry = field.ofFile ? 0 : current().entry,
                        .field = field.id,
-                       .kind = field.kind,
-                       .before = field.textOf(field.field),
+                       .before = field.textOf(field.value),
                        .after = {}});
 }
 
@@ -111,7 +56,6 @@ void ReadingTrace::noteItem(FieldId field, std::string_view value) {
     values_.push_back({.node = currentNode(),
                        .entry = currentNode(),
                        .field = field,
-                       .kind = ValueKind::String,
                        .before = {},
                        .after = std::string(value)});
 }
@@ -121,7 +65,6 @@ void ReadingTrace::noteConverted(FieldId field, std::string_view value) {
     values_.push_back({.node = currentNode(),
                        .entry = currentNode(),
                        .field = field,
-                       .kind = ValueKind::Number,
                        .before = {},
                        .after = std::string(value)});
 }

@@ -2,8 +2,8 @@
 // What a reader did with each element of a file. A trace is kept only where somebody asks what saving the
 // file would lose; reading for the window goes without.
 
-#include "data/format/fixed_string.h"
-#include "data/unit/unit_record.h"
+#include "data/field.h"
+#include "data/field_text.h"
 
 #include <concepts>
 #include <cstdint>
@@ -13,46 +13,6 @@
 #include <vector>
 
 namespace varrocade {
-
-/// Tells the members of the records apart.
-using FieldId = const char*;
-
-// Not constant: linkers may fold equal constants into one.
-template <auto Member>
-inline char fieldMark = 0;
-
-template <auto Member>
-FieldId fieldId() {
-    return &fieldMark<Member>;
-}
-
-/// How the text of an element stands for its value.
-enum class ValueKind : std::uint8_t { String, Image, Number, Flag, Plate, Word };
-
-/// A value as text: numbers in their shortest form, flags as "yes" and "no", image names without ".png".
-std::string valueText(bool value);
-std::string valueText(std::int32_t value);
-std::string valueText(float value);
-std::string valueText(double value);
-std::string valueText(std::string_view value);
-std::string valueText(const ArmourPlate& value);
-/// Rear by its name too, although no file needs it.
-std::string valueText(EngineMount value);
-
-template <typename Field>
-constexpr ValueKind kindOfField() {
-    if constexpr (std::same_as<Field, bool>) {
-        return ValueKind::Flag;
-    } else if constexpr (std::is_arithmetic_v<Field>) {
-        return ValueKind::Number;
-    } else if constexpr (std::is_enum_v<Field>) {
-        return ValueKind::Word;
-    } else if constexpr (std::same_as<Field, ArmourPlate>) {
-        return ValueKind::Plate;
-    } else {
-        return ValueKind::String;
-    }
-}
 
 /// What became of an element.
 enum class Fate : std::uint8_t {
@@ -74,7 +34,6 @@ struct TracedValue {
     std::uint32_t node;  ///< of the tree
     std::uint32_t entry; ///< the node of the entry that the field belongs to; 0 for those of the whole file
     FieldId field;
-    ValueKind kind;
     std::string before; ///< the field's value until then; its default, when this is the first to set it
     std::string after;
 };
@@ -86,13 +45,13 @@ public:
     /// Ends it: takes the values that its fields have now.
     void leave(bool hasRule);
 
-    /// The element is about to set a member of `object`. `ofFile`: the object is the record of the whole
-    /// file.
-    template <auto Member, typename Object>
-    void note(const Object& object, bool ofFile, ValueKind kind) {
-        using Field = std::remove_cvref_t<decltype(object.*Member)>;
-        const auto textOf = [](const void* field) { return asText(*static_cast<const Field*>(field)); };
-        begin({fieldId<Member>(), &(object.*Member), textOf, kind, ofFile});
+    /// The element is about to set a field of `object`. `ofFile`: the object is the record of the whole file.
+    template <const auto& F>
+    void note(const RecordOf<F>& object, bool ofFile) {
+        const auto textOf = [](const void* value) {
+            return textOfValue(*static_cast<const ValueOf<F>*>(value));
+        };
+        begin({&F, &F.of(object), textOf, ofFile});
     }
     /// The element made an entry. `alone`: there is at most one, so the former of the same name is put away.
     void noteEntry(std::string_view name, bool alone);
@@ -121,26 +80,14 @@ private:
     };
     struct OpenField {
         FieldId id;
-        const void* field;
+        const void* value;
         std::string (*textOf)(const void*);
-        ValueKind kind;
         bool ofFile;
     };
     struct Reason {
         std::uint32_t node;
         std::string why;
     };
-
-    template <typename Value>
-    static std::string asText(const Value& value) {
-        if constexpr (std::integral<Value> && !std::same_as<Value, bool>) {
-            return valueText(std::int32_t{value});
-        } else if constexpr (std::convertible_to<const Value&, std::string_view>) {
-            return valueText(std::string_view(value));
-        } else {
-            return valueText(value);
-        }
-    }
 
     void begin(const OpenField& field);
     NodeTrace& current() { return nodes_.back(); }

@@ -15,15 +15,6 @@ namespace varrocade {
 
 namespace {
 
-bool isUnitElement(std::string_view name) {
-    for (std::size_t place = 0; place < static_cast<std::size_t>(unit_rules::Place::Count); ++place) {
-        if (unit_rules::findRule(static_cast<unit_rules::Place>(place), name) != nullptr) {
-            return true;
-        }
-    }
-    return false;
-}
-
 std::string_view lastText(const FieldHistory& history, std::uint32_t entry, FieldId field,
                           std::string_view otherwise) {
     const TracedValue* value = history.last(entry, field);
@@ -36,18 +27,14 @@ bool isOneOf(FieldId field, std::initializer_list<FieldId> fields) {
 
 /// Flavours that follow from the weapon type, armour of less than nothing, the nation's default images.
 bool goesWithoutSaying(const FieldHistory& history, const TracedValue& value) {
-    if (value.field == fieldId<&AmmoLoadRecord::flavour>()) {
-        return isDefaultFlavour(lastText(history, value.entry, fieldId<&AmmoLoadRecord::weaponType>(), {}),
-                                value.after);
+    if (value.field == &field::Flavour) {
+        return isDefaultFlavour(lastText(history, value.entry, &field::AmmoFor, {}), value.after);
     }
-    if (isOneOf(value.field, {fieldId<&ArmourRecord::bottom>(), fieldId<&ArmourRecord::mantlet>(),
-                              fieldId<&ArmourRecord::frontSpaced>(), fieldId<&ArmourRecord::sideSpaced>(),
-                              fieldId<&ArmourRecord::rearSpaced>()})) {
+    if (isOneOf(value.field, {&field::Bottom, &field::Mantlet, &field::FrontSpaced, &field::SideSpaced,
+                              &field::RearSpaced})) {
         return value.after.starts_with('-');
     }
-    return isOneOf(value.field,
-                   {fieldId<&SquadRecord::uniformProfile>(), fieldId<&SquadRecord::uniformGame>(),
-                    fieldId<&SquadRecord::uniformRanks>()}) &&
+    return isOneOf(value.field, {&field::UniformProfile, &field::UniformGame, &field::UniformRanks}) &&
            value.after == DefaultImageName;
 }
 
@@ -58,21 +45,20 @@ bool goesWithoutSayingInVehicle(const FieldHistory& history, const TracedValue& 
     }
     const SquadRecord defaults;
     const NationalUniform* national =
-        findNationalUniform(lastText(history, 0, fieldId<&SquadRecord::nationality>(), defaults.nationality));
+        findNationalUniform(lastText(history, 0, &field::Nationality, defaults.nationality));
     if (national == nullptr) {
         return false;
     }
-    return (value.field == fieldId<&SquadRecord::uniformProfile>() && value.after == national->profile) ||
-           (value.field == fieldId<&SquadRecord::uniformGame>() && value.after == national->game) ||
-           (value.field == fieldId<&SquadRecord::uniformRanks>() && value.after == national->ranks);
+    return (value.field == &field::UniformProfile && value.after == national->profile) ||
+           (value.field == &field::UniformGame && value.after == national->game) ||
+           (value.field == &field::UniformRanks && value.after == national->ranks);
 }
 
 SquadRecord readTraced(TracedFile& file) {
     SquadRecord record;
     Diagnostics ignored;
     unit_rules::Reading reading{
-        .record = record, .diagnostics = ignored, .fileContent = file.content, .tree = file.tree};
-    reading.trace = &file.trace;
+        {.fileContent = file.content, .tree = file.tree, .trace = &file.trace}, record, ignored};
     unit_rules::readTree(reading);
     return record;
 }
@@ -88,12 +74,10 @@ std::optional<std::vector<SaveLoss>> unitSaveLosses(Category category, std::stri
     TracedFile saved(*text);
     readTraced(saved);
     // Writers sort weapons and ammunition by their types, and conversions mix points with those of a file.
-    const std::array<FieldId, 5> keys = {
-        fieldId<&WeaponMountRecord::type>(), fieldId<&AmmoLoadRecord::weaponType>(),
-        fieldId<&AvailabilityPoint::month>(), fieldId<&AvailabilityPoint::year>(),
-        fieldId<&AvailabilityPoint::number>()};
+    const std::array<FieldId, 5> keys = {&field::MountedType, &field::AmmoFor, &field::Month, &field::Year,
+                                         &field::NumberOfUnits};
     const LossKnowledge knowledge{
-        .isElement = isUnitElement,
+        .isElement = unit_rules::isElement,
         .keys = keys,
         .goesWithoutSaying = category == Category::Vehicles ? goesWithoutSayingInVehicle : goesWithoutSaying};
     return findLosses(file, saved, knowledge);

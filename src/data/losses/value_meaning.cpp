@@ -31,6 +31,20 @@ bool isSameImage(std::string_view text, std::string_view value) {
     return imageNameOf(text) == value || (isDefaultImage(text) && value == DefaultImageName);
 }
 
+/// Texts of fixed capacity.
+bool canBeCut(FieldKind kind) {
+    switch (kind) {
+    case FieldKind::Number:
+    case FieldKind::Real:
+    case FieldKind::Flag:
+    case FieldKind::Choice:
+    case FieldKind::Plate:
+        return false;
+    default:
+        return true;
+    }
+}
+
 } // namespace
 
 bool means(std::string_view text, const TracedValue& value, Understanding understanding) {
@@ -40,17 +54,17 @@ bool means(std::string_view text, const TracedValue& value, Understanding unders
     if (understanding == Understanding::NotUnderstood) {
         return false;
     }
-    switch (value.kind) {
-    case ValueKind::Number:
+    switch (value.field->kind) {
+    case FieldKind::Number:
+    case FieldKind::Real:
         return isSameNumber(text, value.after);
-    case ValueKind::Flag:
+    case FieldKind::Flag:
         return text.empty() && value.after == valueText(false);
-    case ValueKind::Plate:
+    case FieldKind::Plate:
         return isSamePlate(text, value.after);
-    case ValueKind::Image:
+    case FieldKind::Image:
         return isSameImage(text, value.after);
-    case ValueKind::String:
-    case ValueKind::Word:
+    default:
         break;
     }
     return false;
@@ -59,12 +73,12 @@ bool means(std::string_view text, const TracedValue& value, Understanding unders
 bool meansOpposite(std::string_view text, const TracedValue& value) {
     const std::optional<double> number = entireReal(text);
     const std::optional<double> read = entireReal(value.after);
-    return value.kind == ValueKind::Number && number && read && *number == -*read;
+    const bool isNumber = value.field->kind == FieldKind::Number || value.field->kind == FieldKind::Real;
+    return isNumber && number && read && *number == -*read;
 }
 
 std::string misreadText(std::string_view text, const TracedValue& value) {
-    const bool isName = value.kind == ValueKind::String || value.kind == ValueKind::Image;
-    if (isName && !value.after.empty() && text.starts_with(value.after)) {
+    if (canBeCut(value.field->kind) && !value.after.empty() && text.starts_with(value.after)) {
         return "is cut to " + std::to_string(value.after.size()) + " characters";
     }
     return value.after.empty() ? std::string("is read as nothing") : "is read as " + quoted(value.after);

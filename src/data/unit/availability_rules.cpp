@@ -40,7 +40,7 @@ void addQuarter(Reading& reading, std::string_view name, std::string_view text) 
     reading.point = nullptr;
     const auto number = toClamped<std::uint16_t>(text);
     if (reading.trace != nullptr) {
-        reading.trace->noteConverted(fieldId<&AvailabilityPoint::number>(), valueText(std::int32_t{number}));
+        reading.trace->noteConverted(&field::NumberOfUnits, valueText(std::int32_t{number}));
     }
     if (number == 0) {
         if (reading.trace != nullptr) {

@@ -1,5 +1,7 @@
 // The layouts of infantry and heavy-weapon squads and of aircraft, top to bottom.
 
+#include "data/each_field.h"
+#include "data/field_text.h"
 #include "data/unit/elements.h"
 #include "data/unit/enumerations.h"
 #include "data/unit/unit_writers.h"
@@ -13,32 +15,28 @@ namespace varrocade {
 namespace {
 
 namespace e = element;
+using namespace field_text;
 using namespace writer_blocks;
 
 void writeKind(FileText& out, const SquadRecord& record) {
-    out.line(2, e::Type, record.type);
-    out.line(2, e::Nationality, record.nationality);
-    out.lineIfGiven(2, e::Language, record.language);
+    lines(out, 2, record, field::Type, field::Nationality, field::VoiceLanguage);
 }
 
 void writeNames(FileText& out, const SquadRecord& record) {
-    out.line(2, e::LongName, record.longName);
-    out.line(2, e::ShortName, record.shortName);
-    out.line(2, e::Comment, record.comment);
+    lines(out, 2, record, field::LongName, field::ShortName, field::Comment);
 }
 
 void writeSquadDescription(FileText& out, const SquadRecord& record) {
     out.open(1, e::Description);
     writeKind(out, record);
-    out.line(2, e::Quality, record.quality);
+    line(out, 2, field::Quality, record);
     writeNames(out, record);
     if (record.namedUniform) {
-        out.line(2, e::Uniform, record.uniformName);
+        line(out, 2, field::UniformName, record);
     } else {
-        out.imageIfGiven(2, e::UniformGame, record.uniformGame);
-        out.imageIfGiven(2, e::UniformProfile, record.uniformProfile);
+        lines(out, 2, record, field::UniformGame, field::UniformProfile);
     }
-    out.imageIfGiven(2, e::UniformRanks, record.uniformRanks);
+    line(out, 2, field::UniformRanks, record);
     out.close(1, e::Description);
 }
 
@@ -57,7 +55,7 @@ void writeFlavouredAmmo(FileText& out, const AmmoLoadRecord& ammo) {
 void writeInfantryman(FileText& out, const CrewManRecord& man) {
     out.open(1, e::Man);
     if (hasJobLine(man.job)) {
-        out.line(2, e::Job, man.job);
+        line(out, 2, field::Job, man);
     }
     writeManFlags(out, 2, man);
     writePersonalWeapons(out, 2, man);
@@ -67,55 +65,33 @@ void writeInfantryman(FileText& out, const CrewManRecord& man) {
     out.close(1, e::Man);
 }
 
-std::string_view elementOf(HeavyWeaponKind kind) {
-    switch (kind) {
-    case HeavyWeaponKind::Mortar:
-        return e::Mortar;
-    case HeavyWeaponKind::Hmg:
-        return e::Hmg;
-    case HeavyWeaponKind::AtGun:
-        return e::Atgun;
-    case HeavyWeaponKind::RecoillessRifle:
-        break;
-    }
-    return e::RecoillessRifle;
-}
-
 /// Here, and only here, the flavour stands behind the rounds.
 void writeHeavyAmmo(FileText& out, const AmmoLoadRecord& ammo) {
-    out.indent(2).startTag(e::Ammo).element(e::For, ammo.weaponType).element(e::Rounds, ammo.rounds);
-    out.elementIfGiven(e::Flavour, ammo.flavour).endTag(e::Ammo).endLine();
+    out.indent(2).startTag(e::Ammo);
+    pieces(out, ammo, field::AmmoFor, field::Rounds, field::Flavour);
+    out.endTag(e::Ammo).endLine();
 }
 
 void writeHeavyWeapon(FileText& out, const HeavyWeaponRecord& weapon) {
     const std::string_view name = elementOf(weapon.kind);
     out.open(1, name);
-    out.imageIfGiven(2, e::ImageViewBase, weapon.baseImage);
-    out.imageIfGiven(2, e::ImageViewGun, weapon.gunImage);
-    out.imageIfGiven(2, e::ImageProfile, weapon.profileImage);
-    out.flag(2, e::NightVision, weapon.nightVision);
+    lines(out, 2, weapon, field::BaseImage, field::GunImage, field::HeavyProfileImage,
+          field::HeavyNightVision);
     for (const WeaponMountRecord& mounted : weapon.weapons) {
-        out.indent(2).startTag(e::Weapon).element(e::Type, mounted.type).endTag(e::Weapon).endLine();
+        out.indent(2).startTag(e::Weapon);
+        piece(out, field::MountedType, mounted);
+        out.endTag(e::Weapon).endLine();
     }
     for (const AmmoLoadRecord& ammo : weapon.ammo) {
         writeHeavyAmmo(out, ammo);
     }
     if (weapon.limitedTraverse) {
-        out.line(2, e::RotateLeft, weapon.rotateLeft);
-        out.line(2, e::RotateRight, weapon.rotateRight);
+        lines(out, 2, weapon, field::HeavyRotateLeft, field::HeavyRotateRight);
     }
     if (weapon.kind == HeavyWeaponKind::AtGun) {
-        out.flag(2, e::AA, weapon.antiAircraft);
-        out.line(2, e::Mass, weapon.mass);
-        if (weapon.trailLength > 0) {
-            std::string length;
-            appendFixed(length, weapon.trailLength, 2);
-            out.line(2, e::TrailLength, length);
-        }
+        lines(out, 2, weapon, field::HeavyAntiAircraft, field::Mass, field::TrailLength);
     }
-    if (!weapon.moveable) {
-        out.line(2, e::Moveable, "no");
-    }
+    line(out, 2, field::Moveable, weapon);
     out.close(1, name);
 }
 
@@ -144,8 +120,8 @@ void writeMembers(FileText& out, const SquadRecord& record) {
 void writeArmament(FileText& out, const AircraftRecord& aircraft) {
     out.open(1, e::Armament);
     for (const WeaponMountRecord& weapon : aircraft.weapons) {
-        out.indent(2).startTag(e::Weapon).element(e::Type, weapon.type);
-        out.elementUnless(0, e::OffsetX, weapon.offsetX).elementUnless(0, e::OffsetY, weapon.offsetY);
+        out.indent(2).startTag(e::Weapon);
+        pieces(out, weapon, field::MountedType, field::MountedOffsetX, field::MountedOffsetY);
         out.endTag(e::Weapon).endLine();
     }
     for (const AmmoLoadRecord& ammo : aircraft.ammo) {
@@ -155,12 +131,9 @@ void writeArmament(FileText& out, const AircraftRecord& aircraft) {
 }
 
 void writeRotorBlades(FileText& out, const RotorBladesRecord& rotor) {
-    out.indent(1).startTag(e::RotorBlades).imageElement(e::Image, rotor.image);
-    out.elementUnless(0, e::OffsetX, rotor.offsetX).elementUnless(0, e::OffsetY, rotor.offsetY);
-    out.elementUnless(0, e::Diameter, rotor.diameter);
-    if (!rotor.clockwise) {
-        out.element(e::Clockwise, "no");
-    }
+    out.indent(1).startTag(e::RotorBlades);
+    pieces(out, rotor, field::RotorImage, field::RotorOffsetX, field::RotorOffsetY, field::RotorDiameter,
+           field::Clockwise);
     out.endTag(e::RotorBlades).endLine();
 }
 
@@ -186,10 +159,8 @@ std::optional<std::string> aircraftFileText(const SquadRecord& record) {
     out.open(1, e::Description);
     writeKind(out, record);
     writeNames(out, record);
-    out.imageIfGiven(2, e::Image, aircraft.image);
-    out.flag(2, e::EjectsFlares, aircraft.ejectsFlares);
-    out.lineIfGiven(2, e::Sound, aircraft.sound);
-    out.line(2, e::Speed, aircraft.speed);
+    lines(out, 2, aircraft, field::AircraftImage, field::EjectsFlares, field::AircraftSound,
+          field::AircraftSpeed);
     out.close(1, e::Description);
     writeAvailability(out, record.availability);
     writeArmament(out, aircraft);

@@ -16,30 +16,18 @@ using unit_rules::Reading;
 constexpr std::string_view UnknownInHeavyWeapon =
     "\xF0\x9F\x92\xA5 ERROR: Game: createSquadOnSide() Unknown tag <%s> in <mortar>...</mortar>";
 
-Place visit(Reading& reading, Place parent, const TagNode& node) {
-    reading.node = &node;
-    const unit_rules::Rule* rule = unit_rules::findRule(parent, node.name);
-    if (rule == nullptr && parent == Place::Commonness) {
+Place visit(Reading& reading, Place parent, const TagNode& node, bool& hasRule) {
+    const Place place = tag_rules::apply(unit_rules::ruleTable(), reading, parent, node, hasRule);
+    if (hasRule) {
+        // What an older availability holds is told by its quarters alone.
+        hasRule = parent != Place::Commonness;
+        return place;
+    }
+    if (parent == Place::Commonness) {
         unit_rules::addQuarter(reading, node.name, node.text);
-        return Place::Unknown;
+    } else if (parent == Place::HeavyWeapon && reading.heavyWeapon != nullptr) {
+        unit_rules::report(reading, UnknownInHeavyWeapon);
     }
-    if (rule == nullptr) {
-        if (parent == Place::HeavyWeapon && reading.heavyWeapon != nullptr) {
-            unit_rules::report(reading, UnknownInHeavyWeapon);
-        }
-        return Place::Unknown;
-    }
-    if (rule->apply != nullptr) {
-        rule->apply(reading, node.text);
-    }
-    return rule->place;
-}
-
-Place visitTraced(Reading& reading, Place parent, std::uint32_t index) {
-    const TagNode& node = reading.tree.nodes()[index];
-    reading.trace->enter(index, node.parent);
-    const Place place = visit(reading, parent, node);
-    reading.trace->leave(parent != Place::Commonness && unit_rules::findRule(parent, node.name) != nullptr);
     return place;
 }
 
@@ -55,13 +43,7 @@ void completeBombs(AircraftRecord& aircraft) {
 } // namespace
 
 void unit_rules::readTree(Reading& reading) {
-    const std::vector<TagNode>& nodes = reading.tree.nodes();
-    std::vector<Place> places(nodes.size(), Place::Unknown);
-    for (std::uint32_t i = 1; i < nodes.size(); ++i) {
-        const std::uint32_t parent = nodes[i].parent;
-        places[i] = reading.trace == nullptr ? visit(reading, places[parent], nodes[i])
-                                             : visitTraced(reading, places[parent], i);
-    }
+    tag_rules::walk(reading, visit);
     if (reading.record.aircraft) {
         completeBombs(*reading.record.aircraft);
     }
@@ -72,7 +54,7 @@ SquadRecord readUnit(std::string_view fileContent, std::string_view fileName, Di
     record.fileName = fileName;
     TagTree tree;
     tree.parse(fileContent);
-    Reading reading{.record = record, .diagnostics = diagnostics, .fileContent = fileContent, .tree = tree};
+    Reading reading{{fileContent, tree}, record, diagnostics};
     unit_rules::readTree(reading);
     return record;
 }

@@ -15,9 +15,22 @@
 #include <utility>
 #include <vector>
 
-namespace varrocade::unit_rules {
+namespace varrocade {
 
-inline constexpr std::string_view Yes = "yes";
+/// A thickness alone, or a thickness, "@" and an angle.
+inline void convert(std::string_view text, ArmourPlate& field) {
+    const std::size_t at = text.find('@');
+    field.thickness = toInteger(text);
+    field.angle = at == std::string_view::npos ? 0 : toInteger(text.substr(at + 1));
+}
+
+namespace unit_rules {
+
+using tag_rules::judge;
+using tag_rules::noteEntry;
+using tag_rules::ownerOf;
+using tag_rules::set;
+using tag_rules::targetOf;
 
 // The object that a rule's member belongs to; null while there is none.
 inline SquadRecord* target(Reading& reading, const SquadRecord*) {
@@ -67,88 +80,13 @@ struct MemberOf<Field Record::*> {
     using Owner = Record;
 };
 
-template <auto Member>
-using OwnerOf = typename MemberOf<decltype(Member)>::Owner;
-template <auto Member>
-using FieldOf = std::remove_cvref_t<decltype(std::declval<OwnerOf<Member>&>().*Member)>;
-
-/// The object whose list or reference a rule changes.
-template <auto Member>
-auto* ownerOf(Reading& reading) {
-    const OwnerOf<Member>* kind = nullptr;
-    return target(reading, kind);
-}
-
-/// The object whose member a rule is about to set.
-template <auto Member, ValueKind Kind = kindOfField<FieldOf<Member>>()>
-auto* targetOf(Reading& reading) {
-    auto* object = ownerOf<Member>(reading);
-    if (reading.trace != nullptr && object != nullptr) {
-        reading.trace->note<Member>(*object, std::same_as<OwnerOf<Member>, SquadRecord>, Kind);
-    }
-    return object;
-}
-
-/// The element made an entry; `alone`: and put away the former one.
-inline void noteEntry(Reading& reading, bool alone = false) {
-    if (reading.trace != nullptr) {
-        reading.trace->noteEntry(reading.node->name, alone);
-    }
-}
-
-inline void judge(Reading& reading, bool understood) {
-    if (reading.trace != nullptr) {
-        reading.trace->judge(understood);
-    }
-}
-
-inline void convert(std::string_view text, bool& field) {
-    field = text == Yes;
-}
-inline void convert(std::string_view text, double& field) {
-    field = toReal(text);
-}
-template <std::integral Integer>
-void convert(std::string_view text, Integer& field) {
-    field = toClamped<Integer>(text);
-}
-template <std::size_t Capacity>
-void convert(std::string_view text, FixedString<Capacity>& field) {
-    field = text;
-}
-/// A thickness alone, or a thickness, "@" and an angle.
-inline void convert(std::string_view text, ArmourPlate& field) {
-    const std::size_t at = text.find('@');
-    field.thickness = toInteger(text);
-    field.angle = at == std::string_view::npos ? 0 : toInteger(text.substr(at + 1));
-}
-
-/// Sets members from the element's text, by their types.
-template <auto... Members>
-void set(Reading& reading, std::string_view text) {
-    const auto setOne = [&]<auto Member>() {
-        if (auto* object = targetOf<Member>(reading)) {
-            convert(text, object->*Member);
-        }
-    };
-    (setOne.template operator()<Members>(), ...);
-}
-
-template <auto Member>
-void setImage(Reading& reading, std::string_view text) {
-    if (auto* object = targetOf<Member, ValueKind::Image>(reading)) {
-        object->*Member = imageNameOf(text);
-    }
-}
-
-template <auto Member>
+template <const auto& F>
 void setUniformImage(Reading& reading, std::string_view text) {
-    SquadRecord* record = targetOf<Member, ValueKind::Image>(reading);
-    record->*Member = isDefaultImage(text) ? DefaultImageName : imageNameOf(text);
+    F.of(*targetOf<F>(reading)) = isDefaultImage(text) ? DefaultImageName : imageNameOf(text);
 }
 
 inline void setUniformName(Reading& reading, std::string_view text) {
-    SquadRecord* record = targetOf<&SquadRecord::uniformName>(reading);
+    SquadRecord* record = targetOf<field::UniformName>(reading);
     record->namedUniform = true;
     record->uniformName = text;
     if (isDefaultImage(text)) {
@@ -161,7 +99,7 @@ inline void setQuality(Reading& reading, std::string_view text) {
     const auto names = qualityNames();
     const bool known = std::find(names.begin(), names.end(), text) != names.end();
     judge(reading, known);
-    targetOf<&SquadRecord::quality>(reading)->quality =
+    targetOf<field::Quality>(reading)->quality =
         !known ? QualityRegular : (text == QualityRaw ? QualityUntrained : text);
 }
 
@@ -197,7 +135,7 @@ inline void createVehicle(Reading& reading, std::string_view) {
 }
 
 inline void setEngineMount(Reading& reading, std::string_view text) {
-    if (VehicleRecord* vehicle = targetOf<&VehicleRecord::engineMount>(reading)) {
+    if (VehicleRecord* vehicle = targetOf<field::MountOfEngine>(reading)) {
         const auto names = mountNames();
         judge(reading, std::find(names.begin(), names.end(), text) != names.end());
         vehicle->engineMount = text == MountFront    ? EngineMount::Front
@@ -212,7 +150,7 @@ inline void setFlatEngine(Reading& reading, std::string_view text) {
     if (text.empty() || !reading.record.vehicle) {
         return;
     }
-    VehicleRecord& vehicle = *targetOf<&VehicleRecord::engineName>(reading);
+    VehicleRecord& vehicle = *targetOf<field::EngineName>(reading);
     if (!text.starts_with(EnginePrefix)) {
         vehicle.engineName = text;
         return;
@@ -221,7 +159,7 @@ inline void setFlatEngine(Reading& reading, std::string_view text) {
     vehicle.engineName = row != nullptr ? row->name : std::string_view();
     judge(reading, row != nullptr);
     if (row != nullptr) {
-        targetOf<&VehicleRecord::horsepower>(reading)->horsepower = row->horsepower;
+        targetOf<field::Horsepower>(reading)->horsepower = row->horsepower;
     }
 }
 
@@ -246,7 +184,7 @@ void addComponent(Reading& reading, std::string_view) {
 /// Appends to a list of the object that is being filled, and makes the new entry the current one.
 template <auto List, auto Current>
 void append(Reading& reading, std::string_view) {
-    auto* object = ownerOf<List>(reading);
+    auto* object = ownerOf<typename MemberOf<decltype(List)>::Owner>(reading);
     reading.*Current = object != nullptr ? &(object->*List).emplace_back() : nullptr;
     if (object != nullptr) {
         noteEntry(reading);
@@ -260,12 +198,12 @@ void addMan(Reading& reading, std::string_view text) {
     reading.ammo = nullptr;
 }
 
-template <auto Member>
+template <const auto& F>
 void setLimit(Reading& reading, std::string_view text) {
-    set<Member>(reading, text);
-    if (auto* object = targetOf<Member>(reading)) {
+    set<Reading, F>(reading, text);
+    if (auto* object = targetOf<F>(reading)) {
         // A fixed weapon's limits always apply, without a flag.
-        if constexpr (std::same_as<typename MemberOf<decltype(Member)>::Owner, ComponentRecord>) {
+        if constexpr (std::same_as<RecordOf<F>, ComponentRecord>) {
             object->limitedTraverse = object->kind == ComponentKind::Turret;
         } else {
             object->limitedTraverse = true;
@@ -274,27 +212,27 @@ void setLimit(Reading& reading, std::string_view text) {
 }
 
 /// The older limits count from straight ahead: to the left negative, to the right positive.
-template <auto Member>
+template <const auto& F>
 void setLimitFromNegative(Reading& reading, std::string_view text) {
-    setLimit<Member>(reading, text);
-    if (auto* object = targetOf<Member>(reading)) {
-        const std::int32_t value = object->*Member;
+    setLimit<F>(reading, text);
+    if (auto* object = targetOf<F>(reading)) {
+        const std::int32_t value = F.of(*object);
         const bool negatable = value != std::numeric_limits<std::int32_t>::min();
-        object->*Member = std::max(0, negatable ? -value : std::numeric_limits<std::int32_t>::max());
+        F.of(*object) = std::max(0, negatable ? -value : std::numeric_limits<std::int32_t>::max());
     }
 }
 
-template <auto Member>
+template <const auto& F>
 void setLimitFromPositive(Reading& reading, std::string_view text) {
-    setLimit<Member>(reading, text);
-    if (auto* object = targetOf<Member>(reading)) {
-        object->*Member = std::max(0, object->*Member);
+    setLimit<F>(reading, text);
+    if (auto* object = targetOf<F>(reading)) {
+        F.of(*object) = std::max(0, F.of(*object));
     }
 }
 
-template <auto Member, bool SmokeDischargerRecord::*Given = nullptr>
+template <const auto& F, bool SmokeDischargerRecord::*Given = nullptr>
 void setDirection(Reading& reading, std::string_view text) {
-    set<Member>(reading, text);
+    set<Reading, F>(reading, text);
     if (reading.discharger != nullptr) {
         reading.discharger->directional = true;
         if constexpr (Given != nullptr) {
@@ -326,7 +264,7 @@ inline void setPersonalWeapon(Reading& reading, std::string_view text) {
     if (reading.man != nullptr && !reading.man->weapons.empty()) {
         reading.man->weapons.back() = text;
         if (reading.trace != nullptr) {
-            reading.trace->noteItem(fieldId<&CrewManRecord::weapons>(), reading.man->weapons.back());
+            reading.trace->noteItem(&field::PersonalWeapons, reading.man->weapons.back());
         }
     }
 }
@@ -356,7 +294,7 @@ inline void createAircraft(Reading& reading, std::string_view) {
 
 /// Into -180 to 180, in whole turns.
 inline void setNormalisedAngle(Reading& reading, std::string_view text) {
-    if (WeaponMountRecord* weapon = targetOf<&WeaponMountRecord::offsetAngle>(reading)) {
+    if (WeaponMountRecord* weapon = targetOf<field::MountedOffsetAngle>(reading)) {
         constexpr std::int32_t fullTurn = 360;
         constexpr std::int32_t halfTurn = 180;
         std::int32_t angle = toInteger(text) % fullTurn;
@@ -369,4 +307,6 @@ inline void setNormalisedAngle(Reading& reading, std::string_view text) {
     }
 }
 
-} // namespace varrocade::unit_rules
+} // namespace unit_rules
+
+} // namespace varrocade

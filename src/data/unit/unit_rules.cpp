@@ -27,63 +27,75 @@ using Ammo = AmmoLoadRecord;
 namespace e = element;
 namespace older = element::older;
 
+using Action = Rule::Action;
+
+/// An element that sets one field, by the field's own name or by another.
+template <const auto& F>
+constexpr Rule rule(P in, std::string_view element, Action action = set<Reading, F>) {
+    return {in, element, P::Unknown, action};
+}
+template <const auto& F>
+constexpr Rule rule(P in, Action action = set<Reading, F>) {
+    return {in, F.element, P::Unknown, action};
+}
+
 constexpr auto DescriptionRules = [](P in) {
     return std::to_array<Rule>({
-        {in, e::Type, P::Unknown, set<&Squad::type>},
-        {in, e::LongName, P::Unknown, set<&Squad::longName>},
-        {in, e::ShortName, P::Unknown, set<&Squad::shortName>},
-        {in, e::Comment, P::Unknown, set<&Squad::comment>},
-        {in, e::Nationality, P::Unknown, set<&Squad::nationality>},
-        {in, e::Language, P::Unknown, set<&Squad::language>},
-        {in, e::Quality, P::Unknown, setQuality},
-        {in, e::Uniform, P::Unknown, setUniformName},
-        {in, e::UniformGame, P::Unknown, setUniformImage<&Squad::uniformGame>},
-        {in, e::UniformProfile, P::Unknown, setUniformImage<&Squad::uniformProfile>},
-        {in, e::UniformRanks, P::Unknown, setUniformImage<&Squad::uniformRanks>},
+        rule<field::Type>(in),
+        rule<field::LongName>(in),
+        rule<field::ShortName>(in),
+        rule<field::Comment>(in),
+        rule<field::Nationality>(in),
+        rule<field::VoiceLanguage>(in),
+        rule<field::Quality>(in, setQuality),
+        rule<field::UniformName>(in, setUniformName),
+        rule<field::UniformGame>(in, setUniformImage<field::UniformGame>),
+        rule<field::UniformProfile>(in, setUniformImage<field::UniformProfile>),
+        rule<field::UniformRanks>(in, setUniformImage<field::UniformRanks>),
     });
 };
 
 constexpr auto ManRules = [](P in, P weapon, P ammo) {
     return std::to_array<Rule>({
-        {in, e::Job, P::Unknown, set<&Man::job>},
-        {in, e::Language, P::Unknown, set<&Man::language>},
-        {in, e::BodyArmour, P::Unknown, set<&Man::bodyArmour>},
-        {in, e::NightVision, P::Unknown, set<&Man::nightVision>},
+        rule<field::Job>(in),
+        rule<field::ManLanguage>(in),
+        rule<field::BodyArmour>(in),
+        rule<field::ManNightVision>(in),
         {in, e::Weapon, weapon, addPersonalWeapon},
-        {weapon, e::Type, P::Unknown, setPersonalWeapon},
+        rule<field::PersonalWeapons>(weapon, setPersonalWeapon),
         {in, e::Ammo, ammo, append<&Man::ammo, &Reading::ammo>},
-        {ammo, e::For, P::Unknown, set<&Ammo::weaponType>},
-        {ammo, e::Rounds, P::Unknown, set<&Ammo::rounds>},
+        rule<field::AmmoFor>(ammo),
+        rule<field::Rounds>(ammo),
     });
 };
 
-template <typename Owner>
+template <const auto& Left, const auto& Right>
 constexpr auto TraverseRules = [](P in) {
     return std::to_array<Rule>({
-        {in, e::RotateLeft, P::Unknown, setLimit<&Owner::rotateLeft>},
-        {in, older::AngleLeft, P::Unknown, setLimit<&Owner::rotateLeft>},
-        {in, e::RotateRight, P::Unknown, setLimit<&Owner::rotateRight>},
-        {in, older::AngleRight, P::Unknown, setLimit<&Owner::rotateRight>},
-        {in, older::MinAngle, P::Unknown, setLimitFromNegative<&Owner::rotateLeft>},
-        {in, older::MinAngleCamel, P::Unknown, setLimitFromNegative<&Owner::rotateLeft>},
-        {in, older::MaxAngle, P::Unknown, setLimitFromPositive<&Owner::rotateRight>},
-        {in, older::MaxAngleCamel, P::Unknown, setLimitFromPositive<&Owner::rotateRight>},
+        rule<Left>(in, setLimit<Left>),
+        rule<Left>(in, older::AngleLeft, setLimit<Left>),
+        rule<Right>(in, setLimit<Right>),
+        rule<Right>(in, older::AngleRight, setLimit<Right>),
+        rule<Left>(in, older::MinAngle, setLimitFromNegative<Left>),
+        rule<Left>(in, older::MinAngleCamel, setLimitFromNegative<Left>),
+        rule<Right>(in, older::MaxAngle, setLimitFromPositive<Right>),
+        rule<Right>(in, older::MaxAngleCamel, setLimitFromPositive<Right>),
     });
 };
 
 /// What turrets and fixed weapons have in common.
 constexpr auto ArmedComponentRules = [](P in) {
     return std::to_array<Rule>({
-        {in, e::OffsetX, P::Unknown, set<&Component::offsetX>},
-        {in, e::OffsetY, P::Unknown, set<&Component::offsetY>},
-        {in, e::ImageView, P::Unknown, setImage<&Component::viewImage>},
-        {in, e::ImageDestroyed, P::Unknown, setImage<&Component::destroyedImage>},
-        {in, e::RotateTime, P::Unknown, set<&Component::rotateTime>},
-        {in, e::OffsetAngle, P::Unknown, set<&Component::offsetAngle>},
-        {in, older::AngleOffset, P::Unknown, set<&Component::offsetAngle>},
-        {in, older::OffsetAngleCamel, P::Unknown, set<&Component::offsetAngle>},
-        {in, e::NightVision, P::Unknown, set<&Component::nightVision>},
-        {in, e::AA, P::Unknown, set<&Component::antiAircraft>},
+        rule<field::OffsetX>(in),
+        rule<field::OffsetY>(in),
+        rule<field::ViewImage>(in),
+        rule<field::DestroyedImage>(in),
+        rule<field::RotateTime>(in),
+        rule<field::OffsetAngle>(in),
+        rule<field::OffsetAngle>(in, older::AngleOffset),
+        rule<field::OffsetAngle>(in, older::OffsetAngleCamel),
+        rule<field::NightVision>(in),
+        rule<field::AntiAircraft>(in),
         {in, e::Weapon, P::ComponentWeapon, append<&Component::weapons, &Reading::weapon>},
         {in, e::Ammo, P::ComponentAmmo, append<&Component::ammo, &Reading::ammo>},
         {in, e::Man, P::CrewMan, addMan<&Component::crew>},
@@ -92,6 +104,10 @@ constexpr auto ArmedComponentRules = [](P in) {
 };
 
 constexpr auto PlainRules = std::to_array<Rule>({
+    // These begin a unit wherever they stand.
+    {P::Unknown, e::Squad, P::Squad, nullptr},
+    {P::Unknown, e::Aircraft, P::Aircraft, createAircraft},
+
     {P::Squad, e::Vehicle, P::Vehicle, createVehicle},
     {P::Squad, e::Man, P::Infantryman, addInfantryman},
     {P::Squad, e::Mortar, P::HeavyWeapon, createHeavyWeapon<HeavyWeaponKind::Mortar>},
@@ -108,9 +124,9 @@ constexpr auto PlainRules = std::to_array<Rule>({
     {P::Aircraft, e::RotorBlades, P::RotorBlades, append<&Aircraft::rotorBlades, &Reading::rotorBlades>},
 
     {P::Availability, e::Data, P::AvailabilityData, addPoint},
-    {P::AvailabilityData, e::Month, P::Unknown, set<&AvailabilityPoint::month>},
-    {P::AvailabilityData, e::Year, P::Unknown, set<&AvailabilityPoint::year>},
-    {P::AvailabilityData, e::Number, P::Unknown, set<&AvailabilityPoint::number>},
+    rule<field::Month>(P::AvailabilityData),
+    rule<field::Year>(P::AvailabilityData),
+    rule<field::NumberOfUnits>(P::AvailabilityData),
 
     {P::Vehicle, e::Attributes, P::Attributes, nullptr},
     {P::Vehicle, e::Drive, P::Drive, nullptr},
@@ -119,225 +135,173 @@ constexpr auto PlainRules = std::to_array<Rule>({
     {P::Vehicle, e::Turret, P::Turret, addComponent<ComponentKind::Turret>},
     {P::Vehicle, e::FixedWeapon, P::FixedWeapon, addComponent<ComponentKind::FixedWeapon>},
 
-    {P::Attributes, e::ImageProfile, P::Unknown, setImage<&Vehicle::profileImage>},
-    {P::Attributes, e::Weight, P::Unknown, set<&Vehicle::weight>},
-    {P::Attributes, e::CanMountInfantry, P::Unknown, set<&Vehicle::canMountInfantry>},
-    {P::Attributes, e::IsAmphibious, P::Unknown, set<&Vehicle::amphibious>},
+    rule<field::ProfileImage>(P::Attributes),
+    rule<field::Weight>(P::Attributes),
+    rule<field::CanMountInfantry>(P::Attributes),
+    rule<field::Amphibious>(P::Attributes),
 
     {P::Drive, e::Engine, P::Engine, setFlatEngine},
     {P::Drive, e::Gears, P::Gears, nullptr},
-    {P::Drive, e::Steering, P::Unknown, set<&Vehicle::steering>},
-    {P::Drive, e::CanMakeSmokeScreen, P::Unknown, set<&Vehicle::smokeScreen>},
+    rule<field::Steering>(P::Drive),
+    rule<field::SmokeScreen>(P::Drive),
     {P::Drive, e::ExhaustPipe, P::ExhaustPipe, append<&Vehicle::exhaustPipes, &Reading::exhaustPipe>},
-    {P::Drive, e::Reliability, P::Unknown, set<&Vehicle::reliability>},
-    {P::Drive, e::Mount, P::Unknown, setEngineMount},
-    {P::Drive, e::RpmIdle, P::Unknown, set<&Vehicle::idleRevolutions>},
-    {P::Drive, e::RpmLimit, P::Unknown, set<&Vehicle::revolutionLimit>},
-    {P::Engine, e::Name, P::Unknown, set<&Vehicle::engineName>},
-    {P::Engine, e::Horsepower, P::Unknown, set<&Vehicle::horsepower>},
-    {P::Engine, e::Reliability, P::Unknown, set<&Vehicle::reliability>},
-    {P::Engine, e::Mount, P::Unknown, setEngineMount},
-    {P::Engine, e::RpmIdle, P::Unknown, set<&Vehicle::idleRevolutions>},
-    {P::Engine, e::RpmLimit, P::Unknown, set<&Vehicle::revolutionLimit>},
-    {P::Gears, e::Forwards, P::Unknown, set<&Vehicle::forwardGears>},
-    {P::Gears, e::Reverse, P::Unknown, set<&Vehicle::reverseGears>},
-    {P::ExhaustPipe, e::OffsetX, P::Unknown, set<&Pipe::offsetX>},
-    {P::ExhaustPipe, e::OffsetY, P::Unknown, set<&Pipe::offsetY>},
-    {P::ExhaustPipe, e::Angle, P::Unknown, set<&Pipe::angle>},
-    {P::ExhaustPipe, older::HorizontalAngle, P::Unknown, set<&Pipe::angle>},
-    {P::ExhaustPipe, e::VerticalAngle, P::Unknown, set<&Pipe::verticalAngle>},
+    rule<field::Reliability>(P::Drive),
+    rule<field::MountOfEngine>(P::Drive, setEngineMount),
+    rule<field::IdleRevolutions>(P::Drive),
+    rule<field::RevolutionLimit>(P::Drive),
+    rule<field::EngineName>(P::Engine),
+    rule<field::Horsepower>(P::Engine),
+    rule<field::Reliability>(P::Engine),
+    rule<field::MountOfEngine>(P::Engine, setEngineMount),
+    rule<field::IdleRevolutions>(P::Engine),
+    rule<field::RevolutionLimit>(P::Engine),
+    rule<field::ForwardGears>(P::Gears),
+    rule<field::ReverseGears>(P::Gears),
+    rule<field::ExhaustOffsetX>(P::ExhaustPipe),
+    rule<field::ExhaustOffsetY>(P::ExhaustPipe),
+    rule<field::ExhaustAngle>(P::ExhaustPipe),
+    rule<field::ExhaustAngle>(P::ExhaustPipe, older::HorizontalAngle),
+    rule<field::ExhaustVerticalAngle>(P::ExhaustPipe),
 
-    {P::Hull, e::Width, P::Unknown, set<&Component::width>},
-    {P::Hull, e::Length, P::Unknown, set<&Component::length>},
-    {P::Hull, e::Height, P::Unknown, set<&Component::height>},
-    {P::Hull, e::ImageView, P::Unknown, setImage<&Component::viewImage>},
-    {P::Hull, e::ImageDestroyed, P::Unknown, setImage<&Component::destroyedImage>},
+    rule<field::Width>(P::Hull),
+    rule<field::Length>(P::Hull),
+    rule<field::Height>(P::Hull),
+    rule<field::ViewImage>(P::Hull),
+    rule<field::DestroyedImage>(P::Hull),
     {P::Hull, e::Man, P::CrewMan, addMan<&Component::crew>},
     {P::Hull, e::Armour, P::Armour, nullptr},
     {P::Hull, e::SmokeDischarger, P::SmokeDischarger,
      append<&Component::smokeDischargers, &Reading::discharger>},
 
-    {P::Superstructure, e::Width, P::Unknown, set<&Component::width>},
-    {P::Superstructure, e::Length, P::Unknown, set<&Component::length>},
-    {P::Superstructure, e::Height, P::Unknown, set<&Component::height>},
-    {P::Superstructure, e::OffsetX, P::Unknown, set<&Component::offsetX>},
-    {P::Superstructure, e::OffsetY, P::Unknown, set<&Component::offsetY>},
+    rule<field::Width>(P::Superstructure),
+    rule<field::Length>(P::Superstructure),
+    rule<field::Height>(P::Superstructure),
+    rule<field::OffsetX>(P::Superstructure),
+    rule<field::OffsetY>(P::Superstructure),
     {P::Superstructure, e::Armour, P::Armour, nullptr},
     {P::Superstructure, e::SmokeDischarger, P::SmokeDischarger,
      append<&Component::smokeDischargers, &Reading::discharger>},
 
-    {P::Turret, e::Diameter, P::Unknown, set<&Component::diameter>},
-    {P::Turret, e::Height, P::Unknown, set<&Component::height>},
+    rule<field::Diameter>(P::Turret),
+    rule<field::Height>(P::Turret),
     {P::Turret, e::SmokeDischarger, P::SmokeDischarger,
      append<&Component::smokeDischargers, &Reading::discharger>},
-    {P::FixedWeapon, e::OffsetZ, P::Unknown, set<&Component::offsetZ>},
+    rule<field::OffsetZ>(P::FixedWeapon),
 
-    {P::ComponentWeapon, e::Type, P::Unknown, set<&Mounted::type>},
-    {P::ComponentWeapon, e::Mount, P::Unknown, set<&Mounted::mount>},
-    {P::ComponentWeapon, e::OffsetX, P::Unknown, set<&Mounted::offsetX>},
-    {P::ComponentWeapon, e::OffsetY, P::Unknown, set<&Mounted::offsetY>},
-    {P::ComponentWeapon, e::OffsetAngle, P::Unknown, set<&Mounted::offsetAngle>},
-    {P::ComponentAmmo, e::For, P::Unknown, set<&Ammo::weaponType>},
-    {P::ComponentAmmo, e::Flavour, P::Unknown, set<&Ammo::flavour>},
-    {P::ComponentAmmo, e::Rounds, P::Unknown, set<&Ammo::rounds>},
+    rule<field::MountedType>(P::ComponentWeapon),
+    rule<field::Mount>(P::ComponentWeapon),
+    rule<field::MountedOffsetX>(P::ComponentWeapon),
+    rule<field::MountedOffsetY>(P::ComponentWeapon),
+    rule<field::MountedOffsetAngle>(P::ComponentWeapon),
+    rule<field::AmmoFor>(P::ComponentAmmo),
+    rule<field::Flavour>(P::ComponentAmmo),
+    rule<field::Rounds>(P::ComponentAmmo),
 
-    {P::SmokeDischarger, e::OffsetX, P::Unknown, set<&Discharger::offsetX>},
-    {P::SmokeDischarger, e::OffsetY, P::Unknown, set<&Discharger::offsetY>},
-    {P::SmokeDischarger, e::Angle, P::Unknown, setDirection<&Discharger::angle, &Discharger::angleGiven>},
-    {P::SmokeDischarger, e::Elevation, P::Unknown,
-     setDirection<&Discharger::elevation, &Discharger::elevationGiven>},
-    {P::SmokeDischarger, e::Speed, P::Unknown, setDirection<&Discharger::speed>},
-    {P::SmokeDischarger, e::Ammo, P::Unknown, set<&Discharger::ammo>},
-    {P::SmokeDischarger, e::Reload, P::Unknown, set<&Discharger::reload>},
+    rule<field::DischargerOffsetX>(P::SmokeDischarger),
+    rule<field::DischargerOffsetY>(P::SmokeDischarger),
+    rule<field::DischargerAngle>(P::SmokeDischarger,
+                                 setDirection<field::DischargerAngle, &Discharger::angleGiven>),
+    rule<field::DischargerElevation>(P::SmokeDischarger,
+                                     setDirection<field::DischargerElevation, &Discharger::elevationGiven>),
+    rule<field::DischargerSpeed>(P::SmokeDischarger, setDirection<field::DischargerSpeed>),
+    rule<field::DischargerAmmo>(P::SmokeDischarger),
+    rule<field::DischargerReload>(P::SmokeDischarger),
 
-    {P::Armour, e::Top, P::Unknown, set<&Armour::top>},
-    {P::Armour, e::Bottom, P::Unknown, set<&Armour::bottom>},
-    {P::Armour, e::Mantlet, P::Unknown, set<&Armour::mantlet>},
-    {P::Armour, e::FrontSpaced, P::Unknown, set<&Armour::frontSpaced>},
-    {P::Armour, e::SideSpaced, P::Unknown, set<&Armour::sideSpaced>},
-    {P::Armour, e::RearSpaced, P::Unknown, set<&Armour::rearSpaced>},
-    {P::Armour, e::Front, P::Unknown, set<&Armour::upperFront, &Armour::lowerFront>},
-    {P::Armour, e::UpperFront, P::Unknown, set<&Armour::upperFront>},
-    {P::Armour, older::FrontUpper, P::Unknown, set<&Armour::upperFront>},
-    {P::Armour, e::LowerFront, P::Unknown, set<&Armour::lowerFront>},
-    {P::Armour, older::FrontLower, P::Unknown, set<&Armour::lowerFront>},
-    {P::Armour, e::Rear, P::Unknown, set<&Armour::upperRear, &Armour::lowerRear>},
-    {P::Armour, e::UpperRear, P::Unknown, set<&Armour::upperRear>},
-    {P::Armour, older::RearUpper, P::Unknown, set<&Armour::upperRear>},
-    {P::Armour, e::LowerRear, P::Unknown, set<&Armour::lowerRear>},
-    {P::Armour, older::RearLower, P::Unknown, set<&Armour::lowerRear>},
+    rule<field::Top>(P::Armour),
+    rule<field::Bottom>(P::Armour),
+    rule<field::Mantlet>(P::Armour),
+    rule<field::FrontSpaced>(P::Armour),
+    rule<field::SideSpaced>(P::Armour),
+    rule<field::RearSpaced>(P::Armour),
+    {P::Armour, e::Front, P::Unknown, set<Reading, field::UpperFront, field::LowerFront>},
+    rule<field::UpperFront>(P::Armour),
+    rule<field::UpperFront>(P::Armour, older::FrontUpper),
+    rule<field::LowerFront>(P::Armour),
+    rule<field::LowerFront>(P::Armour, older::FrontLower),
+    {P::Armour, e::Rear, P::Unknown, set<Reading, field::UpperRear, field::LowerRear>},
+    rule<field::UpperRear>(P::Armour),
+    rule<field::UpperRear>(P::Armour, older::RearUpper),
+    rule<field::LowerRear>(P::Armour),
+    rule<field::LowerRear>(P::Armour, older::RearLower),
     {P::Armour, e::Side, P::Unknown,
-     set<&Armour::upperLeft, &Armour::upperRight, &Armour::lowerLeft, &Armour::lowerRight>},
-    {P::Armour, e::UpperSide, P::Unknown, set<&Armour::upperLeft, &Armour::upperRight>},
-    {P::Armour, older::SideUpper, P::Unknown, set<&Armour::upperLeft, &Armour::upperRight>},
-    {P::Armour, e::LowerSide, P::Unknown, set<&Armour::lowerLeft, &Armour::lowerRight>},
-    {P::Armour, older::SideLower, P::Unknown, set<&Armour::lowerLeft, &Armour::lowerRight>},
-    {P::Armour, e::UpperLeft, P::Unknown, set<&Armour::upperLeft>},
-    {P::Armour, older::LeftUpper, P::Unknown, set<&Armour::upperLeft>},
-    {P::Armour, e::LowerLeft, P::Unknown, set<&Armour::lowerLeft>},
-    {P::Armour, older::LeftLower, P::Unknown, set<&Armour::lowerLeft>},
-    {P::Armour, e::UpperRight, P::Unknown, set<&Armour::upperRight>},
-    {P::Armour, older::RightUpper, P::Unknown, set<&Armour::upperRight>},
-    {P::Armour, e::LowerRight, P::Unknown, set<&Armour::lowerRight>},
-    {P::Armour, older::RightLower, P::Unknown, set<&Armour::lowerRight>},
+     set<Reading, field::UpperLeft, field::UpperRight, field::LowerLeft, field::LowerRight>},
+    {P::Armour, e::UpperSide, P::Unknown, set<Reading, field::UpperLeft, field::UpperRight>},
+    {P::Armour, older::SideUpper, P::Unknown, set<Reading, field::UpperLeft, field::UpperRight>},
+    {P::Armour, e::LowerSide, P::Unknown, set<Reading, field::LowerLeft, field::LowerRight>},
+    {P::Armour, older::SideLower, P::Unknown, set<Reading, field::LowerLeft, field::LowerRight>},
+    rule<field::UpperLeft>(P::Armour),
+    rule<field::UpperLeft>(P::Armour, older::LeftUpper),
+    rule<field::LowerLeft>(P::Armour),
+    rule<field::LowerLeft>(P::Armour, older::LeftLower),
+    rule<field::UpperRight>(P::Armour),
+    rule<field::UpperRight>(P::Armour, older::RightUpper),
+    rule<field::LowerRight>(P::Armour),
+    rule<field::LowerRight>(P::Armour, older::RightLower),
 
     // An infantryman's ammunition has a flavour, a crew man's has none.
-    {P::InfantrymanAmmo, e::Flavour, P::Unknown, set<&Ammo::flavour>},
+    rule<field::Flavour>(P::InfantrymanAmmo),
 
     {P::HeavyWeapon, e::Weapon, P::HeavyWeaponWeapon, append<&Heavy::weapons, &Reading::weapon>},
-    {P::HeavyWeaponWeapon, e::Type, P::Unknown, set<&Mounted::type>},
+    rule<field::MountedType>(P::HeavyWeaponWeapon),
     {P::HeavyWeapon, e::Ammo, P::HeavyWeaponAmmo, append<&Heavy::ammo, &Reading::ammo>},
-    {P::HeavyWeaponAmmo, e::For, P::Unknown, set<&Ammo::weaponType>},
-    {P::HeavyWeaponAmmo, e::Rounds, P::Unknown, set<&Ammo::rounds>},
-    {P::HeavyWeaponAmmo, e::Flavour, P::Unknown, set<&Ammo::flavour>},
-    {P::HeavyWeapon, e::ImageViewBase, P::Unknown, setImage<&Heavy::baseImage>},
-    {P::HeavyWeapon, e::ImageViewGun, P::Unknown, setImage<&Heavy::gunImage>},
-    {P::HeavyWeapon, e::ImageProfile, P::Unknown, setImage<&Heavy::profileImage>},
-    {P::HeavyWeapon, e::NightVision, P::Unknown, set<&Heavy::nightVision>},
-    {P::HeavyWeapon, e::AA, P::Unknown, set<&Heavy::antiAircraft>},
-    {P::HeavyWeapon, e::Mass, P::Unknown, set<&Heavy::mass>},
-    {P::HeavyWeapon, e::TrailLength, P::Unknown, set<&Heavy::trailLength>},
-    {P::HeavyWeapon, e::Moveable, P::Unknown, set<&Heavy::moveable>},
+    rule<field::AmmoFor>(P::HeavyWeaponAmmo),
+    rule<field::Rounds>(P::HeavyWeaponAmmo),
+    rule<field::Flavour>(P::HeavyWeaponAmmo),
+    rule<field::BaseImage>(P::HeavyWeapon),
+    rule<field::GunImage>(P::HeavyWeapon),
+    rule<field::HeavyProfileImage>(P::HeavyWeapon),
+    rule<field::HeavyNightVision>(P::HeavyWeapon),
+    rule<field::HeavyAntiAircraft>(P::HeavyWeapon),
+    rule<field::Mass>(P::HeavyWeapon),
+    rule<field::TrailLength>(P::HeavyWeapon),
+    rule<field::Moveable>(P::HeavyWeapon),
 
-    {P::AircraftDescription, e::Image, P::Unknown, setImage<&Aircraft::image>},
-    {P::AircraftDescription, e::Sound, P::Unknown, set<&Aircraft::sound>},
-    {P::AircraftDescription, e::Speed, P::Unknown, set<&Aircraft::speed>},
-    {P::AircraftDescription, e::EjectsFlares, P::Unknown, set<&Aircraft::ejectsFlares>},
+    rule<field::AircraftImage>(P::AircraftDescription),
+    rule<field::AircraftSound>(P::AircraftDescription),
+    rule<field::AircraftSpeed>(P::AircraftDescription),
+    rule<field::EjectsFlares>(P::AircraftDescription),
     {P::Armament, e::Weapon, P::AircraftWeapon, append<&Aircraft::weapons, &Reading::weapon>},
-    {P::AircraftWeapon, e::Type, P::Unknown, set<&Mounted::type>},
-    {P::AircraftWeapon, e::Mount, P::Unknown, set<&Mounted::mount>},
-    {P::AircraftWeapon, e::OffsetX, P::Unknown, set<&Mounted::offsetX>},
-    {P::AircraftWeapon, e::OffsetY, P::Unknown, set<&Mounted::offsetY>},
-    {P::AircraftWeapon, e::OffsetAngle, P::Unknown, setNormalisedAngle},
-    {P::AircraftWeapon, older::OffsetAngleCamel, P::Unknown, setNormalisedAngle},
+    rule<field::MountedType>(P::AircraftWeapon),
+    rule<field::Mount>(P::AircraftWeapon),
+    rule<field::MountedOffsetX>(P::AircraftWeapon),
+    rule<field::MountedOffsetY>(P::AircraftWeapon),
+    rule<field::MountedOffsetAngle>(P::AircraftWeapon, setNormalisedAngle),
+    rule<field::MountedOffsetAngle>(P::AircraftWeapon, older::OffsetAngleCamel, setNormalisedAngle),
     {P::Armament, e::Ammo, P::AircraftAmmo, append<&Aircraft::ammo, &Reading::ammo>},
-    {P::AircraftAmmo, e::For, P::Unknown, set<&Ammo::weaponType>},
-    {P::AircraftAmmo, e::Flavour, P::Unknown, set<&Ammo::flavour>},
-    {P::AircraftAmmo, e::Rounds, P::Unknown, set<&Ammo::rounds>},
-    {P::RotorBlades, e::Image, P::Unknown, setImage<&RotorBladesRecord::image>},
-    {P::RotorBlades, e::Clockwise, P::Unknown, set<&RotorBladesRecord::clockwise>},
-    {P::RotorBlades, e::Diameter, P::Unknown, set<&RotorBladesRecord::diameter>},
-    {P::RotorBlades, e::OffsetX, P::Unknown, set<&RotorBladesRecord::offsetX>},
-    {P::RotorBlades, e::OffsetY, P::Unknown, set<&RotorBladesRecord::offsetY>},
+    rule<field::AmmoFor>(P::AircraftAmmo),
+    rule<field::Flavour>(P::AircraftAmmo),
+    rule<field::Rounds>(P::AircraftAmmo),
+    rule<field::RotorImage>(P::RotorBlades),
+    rule<field::Clockwise>(P::RotorBlades),
+    rule<field::RotorDiameter>(P::RotorBlades),
+    rule<field::RotorOffsetX>(P::RotorBlades),
+    rule<field::RotorOffsetY>(P::RotorBlades),
 });
 
-/// The rules by place and element, in a table that one look finds most of them in.
-class RuleIndex {
-public:
-    RuleIndex() {
-        slots_.fill(Free);
-        add(PlainRules);
-        add(DescriptionRules(P::SquadDescription));
-        add(DescriptionRules(P::AircraftDescription));
-        add(ManRules(P::Infantryman, P::InfantrymanWeapon, P::InfantrymanAmmo));
-        add(ManRules(P::CrewMan, P::CrewManWeapon, P::CrewManAmmo));
-        add(ArmedComponentRules(P::Turret));
-        add(ArmedComponentRules(P::FixedWeapon));
-        add(TraverseRules<Component>(P::Turret));
-        add(TraverseRules<Component>(P::FixedWeapon));
-        add(TraverseRules<Heavy>(P::HeavyWeapon));
-    }
-
-    [[nodiscard]] const Rule* find(Place parent, std::string_view name) const {
-        for (std::size_t slot = slotOf(parent, name);; slot = (slot + 1) % Slots) {
-            if (slots_[slot] == Free) {
-                return nullptr;
-            }
-            const Rule& rule = rules_[slots_[slot]];
-            if (rule.parent == parent && rule.element == name) {
-                return &rule;
-            }
-        }
-    }
-
-private:
-    static constexpr std::size_t Slots = 1024;
-    static constexpr std::uint16_t Free = UINT16_MAX;
-
-    static std::size_t slotOf(Place parent, std::string_view name) {
-        const std::size_t first = static_cast<unsigned char>(name.empty() ? '\0' : name.front());
-        const std::size_t last = static_cast<unsigned char>(name.empty() ? '\0' : name.back());
-        const std::size_t middle = static_cast<unsigned char>(name.empty() ? '\0' : name[name.size() / 2]);
-        const std::size_t hash =
-            static_cast<std::size_t>(parent) * 131 + name.size() * 31 + first * 7 + last * 61 + middle * 17;
-        return hash % Slots;
-    }
-
-    template <typename Rules>
-    void add(const Rules& rules) {
-        for (const Rule& rule : rules) {
-            std::size_t slot = slotOf(rule.parent, rule.element);
-            while (slots_[slot] != Free) {
-                slot = (slot + 1) % Slots;
-            }
-            slots_[slot] = static_cast<std::uint16_t>(rules_.size());
-            rules_.push_back(rule);
-        }
-    }
-
-    std::vector<Rule> rules_;
-    std::array<std::uint16_t, Slots> slots_;
-};
-
-const RuleIndex& ruleIndex() {
-    static const RuleIndex index;
-    return index;
+tag_rules::RuleTable<Reading> makeTable() {
+    tag_rules::RuleTable<Reading> table;
+    table.add(PlainRules);
+    table.add(DescriptionRules(P::SquadDescription));
+    table.add(DescriptionRules(P::AircraftDescription));
+    table.add(ManRules(P::Infantryman, P::InfantrymanWeapon, P::InfantrymanAmmo));
+    table.add(ManRules(P::CrewMan, P::CrewManWeapon, P::CrewManAmmo));
+    table.add(ArmedComponentRules(P::Turret));
+    table.add(ArmedComponentRules(P::FixedWeapon));
+    table.add(TraverseRules<field::RotateLeft, field::RotateRight>(P::Turret));
+    table.add(TraverseRules<field::RotateLeft, field::RotateRight>(P::FixedWeapon));
+    table.add(TraverseRules<field::HeavyRotateLeft, field::HeavyRotateRight>(P::HeavyWeapon));
+    return table;
 }
-
-// These begin a unit wherever they stand.
-constexpr Rule SquadRule = {P::Unknown, e::Squad, P::Squad, nullptr};
-constexpr Rule AircraftRule = {P::Unknown, e::Aircraft, P::Aircraft, createAircraft};
 
 } // namespace
 
-const Rule* findRule(Place parent, std::string_view element) {
-    if (element == e::Squad) {
-        return &SquadRule;
-    }
-    if (element == e::Aircraft) {
-        return &AircraftRule;
-    }
-    return parent == Place::Unknown ? nullptr : ruleIndex().find(parent, element);
+const tag_rules::RuleTable<Reading>& ruleTable() {
+    static const tag_rules::RuleTable<Reading> table = makeTable();
+    return table;
+}
+
+bool isElement(std::string_view name) {
+    return ruleTable().knows(name);
 }
 
 void report(Reading& reading, std::string_view line) {

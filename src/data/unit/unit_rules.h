@@ -1,9 +1,9 @@
 #pragma once
 // What each element of a unit file means: the table behind the unit reader.
 
-#include "data/format/tag_tree.h"
-#include "data/losses/reading_trace.h"
+#include "data/tag_rules.h"
 #include "data/unit/unit_reader.h"
+#include "data/unit_fields.h"
 
 #include <cstdint>
 #include <string_view>
@@ -53,14 +53,12 @@ enum class Place : std::uint8_t {
 
 /// What the walk is filling. A pointer is null outside the member it stands for, and while a member that
 /// found no room is passed over.
-struct Reading {
+struct Reading : TagReading {
+    using Place = unit_rules::Place;
+    using File = SquadRecord;
+
     SquadRecord& record;
     Diagnostics& diagnostics;
-    std::string_view fileContent;
-    const TagTree& tree;
-    const TagNode* node = nullptr;
-    /// Where to note what becomes of each element, or null.
-    ReadingTrace* trace = nullptr;
 
     AvailabilityPoint* point = nullptr;
     ComponentRecord* component = nullptr;
@@ -73,16 +71,13 @@ struct Reading {
     RotorBladesRecord* rotorBlades = nullptr;
 };
 
-/// One rule: an element in a place leads to another place and does something with its text.
-struct Rule {
-    Place parent;
-    std::string_view element;
-    Place place;
-    void (*apply)(Reading& reading, std::string_view text);
-};
+using Rule = tag_rules::Rule<Reading>;
 
-/// The rule for an element in a place, or null.
-const Rule* findRule(Place parent, std::string_view element);
+/// The rules of unit files.
+const tag_rules::RuleTable<Reading>& ruleTable();
+
+/// Whether an element of this name means something in some place.
+bool isElement(std::string_view name);
 
 /// Walks the tree and fills the record.
 void readTree(Reading& reading);

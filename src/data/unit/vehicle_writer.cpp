@@ -1,9 +1,11 @@
 // The layout of vehicle files, top to bottom.
 
+#include "data/field_text.h"
 #include "data/unit/elements.h"
 #include "data/unit/enumerations.h"
 #include "data/unit/unit_writers.h"
 #include "data/unit/writer_blocks.h"
+#include "data/unit_fields.h"
 
 #include <array>
 #include <initializer_list>
@@ -13,6 +15,7 @@ namespace varrocade {
 namespace {
 
 namespace e = element;
+using namespace field_text;
 using namespace writer_blocks;
 
 void writeUniform(FileText& out, const SquadRecord& record) {
@@ -21,63 +24,49 @@ void writeUniform(FileText& out, const SquadRecord& record) {
     const NationalUniform& national = found != nullptr ? *found : noUniform;
     if (record.namedUniform) {
         out.blankLine();
-        out.line(2, e::Uniform, record.uniformName);
+        line(out, 2, field::UniformName, record);
     } else {
         if (!record.uniformName.empty() || !record.uniformRanks.empty()) {
             out.blankLine();
         }
         if (record.uniformProfile != DefaultImageName && record.uniformProfile != national.profile) {
-            out.imageIfGiven(2, e::UniformProfile, record.uniformProfile);
+            line(out, 2, field::UniformProfile, record);
         }
         if (record.uniformGame != national.game) {
-            out.imageIfGiven(2, e::UniformGame, record.uniformGame);
+            line(out, 2, field::UniformGame, record);
         }
     }
     if (record.uniformRanks != national.ranks) {
-        out.imageIfGiven(2, e::UniformRanks, record.uniformRanks);
+        line(out, 2, field::UniformRanks, record);
     }
 }
 
 void writeDescription(FileText& out, const SquadRecord& record) {
     out.open(1, e::Description);
-    out.line(2, e::Type, record.type);
-    out.line(2, e::Nationality, record.nationality);
-    out.lineIfGiven(2, e::Language, record.language);
+    lines(out, 2, record, field::Type, field::Nationality, field::VoiceLanguage);
     out.blankLine();
-    out.line(2, e::LongName, record.longName);
-    out.line(2, e::ShortName, record.shortName);
-    out.line(2, e::Comment, record.comment);
+    lines(out, 2, record, field::LongName, field::ShortName, field::Comment);
     writeUniform(out, record);
     out.close(1, e::Description).blankLine();
 }
 
 void writeAttributes(FileText& out, const VehicleRecord& vehicle) {
     out.open(2, e::Attributes);
-    out.image(3, e::ImageProfile, vehicle.profileImage);
-    out.line(3, e::Weight, vehicle.weight);
-    out.flag(3, e::CanMountInfantry, vehicle.canMountInfantry);
-    out.flag(3, e::IsAmphibious, vehicle.amphibious);
+    lines(out, 3, vehicle, field::ProfileImage, field::Weight, field::CanMountInfantry, field::Amphibious);
     out.close(2, e::Attributes).blankLine();
 }
 
 void writeEngine(FileText& out, const VehicleRecord& vehicle) {
     out.open(3, e::Engine);
-    out.line(4, e::Name, vehicle.engineName);
-    out.line(4, e::Horsepower, vehicle.horsepower);
-    out.line(4, e::Reliability, vehicle.reliability);
-    if (vehicle.engineMount != EngineMount::Rear) {
-        out.line(4, e::Mount, vehicle.engineMount == EngineMount::Front ? MountFront : MountMiddle);
-    }
-    out.line(4, e::RpmIdle, vehicle.idleRevolutions);
-    out.line(4, e::RpmLimit, vehicle.revolutionLimit);
+    lines(out, 4, vehicle, field::EngineName, field::Horsepower, field::Reliability, field::MountOfEngine,
+          field::IdleRevolutions, field::RevolutionLimit);
     out.close(3, e::Engine);
 }
 
 void writeExhaustPipe(FileText& out, const ExhaustPipeRecord& pipe) {
     out.indent(3).startTag(e::ExhaustPipe);
-    out.element(e::OffsetX, pipe.offsetX).element(e::OffsetY, pipe.offsetY);
-    out.elementUnless(ExhaustPointingBack, e::Angle, pipe.angle);
-    out.elementUnless(0, e::VerticalAngle, pipe.verticalAngle);
+    pieces(out, pipe, field::ExhaustOffsetX, field::ExhaustOffsetY, field::ExhaustAngle,
+           field::ExhaustVerticalAngle);
     out.endTag(e::ExhaustPipe).endLine();
 }
 
@@ -85,11 +74,9 @@ void writeDrive(FileText& out, const VehicleRecord& vehicle) {
     out.open(2, e::Drive);
     writeEngine(out, vehicle);
     out.open(3, e::Gears);
-    out.line(4, e::Forwards, vehicle.forwardGears);
-    out.line(4, e::Reverse, vehicle.reverseGears);
+    lines(out, 4, vehicle, field::ForwardGears, field::ReverseGears);
     out.close(3, e::Gears);
-    out.line(3, e::Steering, vehicle.steering);
-    out.flag(3, e::CanMakeSmokeScreen, vehicle.smokeScreen);
+    lines(out, 3, vehicle, field::Steering, field::SmokeScreen);
     for (const ExhaustPipeRecord& pipe : vehicle.exhaustPipes) {
         writeExhaustPipe(out, pipe);
     }
@@ -98,63 +85,42 @@ void writeDrive(FileText& out, const VehicleRecord& vehicle) {
 
 // ---- components
 
-void writePlate(FileText& out, std::string_view name, const ArmourPlate& plate) {
-    std::string value;
-    appendInteger(value, plate.thickness);
-    if (plate.angle != 0) {
-        value += '@';
-        appendInteger(value, plate.angle);
-    }
-    out.line(4, name, value);
-}
+using PlateField = Field<ArmourRecord, ArmourPlate>;
 
 /// Equal plates share one line.
-void writePair(FileText& out, std::string_view both, std::string_view upperName, const ArmourPlate& upper,
-               std::string_view lowerName, const ArmourPlate& lower) {
-    if (upper == lower) {
-        writePlate(out, both, upper);
+void writePair(FileText& out, std::string_view both, const ArmourRecord& armour, const PlateField& upper,
+               const PlateField& lower) {
+    if (upper.of(armour) == lower.of(armour)) {
+        out.line(4, both, valueText(upper.of(armour)));
     } else {
-        writePlate(out, upperName, upper);
-        writePlate(out, lowerName, lower);
+        lines(out, 4, armour, upper, lower);
     }
 }
 
 void writeSides(FileText& out, const ArmourRecord& armour) {
     if (armour.upperLeft == armour.upperRight && armour.lowerLeft == armour.lowerRight) {
-        writePair(out, e::Side, e::UpperSide, armour.upperLeft, e::LowerSide, armour.lowerLeft);
+        if (armour.upperLeft == armour.lowerLeft) {
+            out.line(4, e::Side, valueText(armour.upperLeft));
+        } else {
+            out.line(4, e::UpperSide, valueText(armour.upperLeft));
+            out.line(4, e::LowerSide, valueText(armour.lowerLeft));
+        }
         return;
     }
-    writePlate(out, e::UpperLeft, armour.upperLeft);
-    writePlate(out, e::UpperRight, armour.upperRight);
-    writePlate(out, e::LowerLeft, armour.lowerLeft);
-    writePlate(out, e::LowerRight, armour.lowerRight);
-}
-
-void writeIfPositive(FileText& out, std::string_view name, std::int32_t value) {
-    if (value > 0) {
-        out.line(4, name, value);
-    }
-}
-
-void writeIfNotNegative(FileText& out, std::string_view name, std::int32_t value) {
-    if (value >= 0) {
-        out.line(4, name, value);
-    }
+    lines(out, 4, armour, field::UpperLeft, field::UpperRight, field::LowerLeft, field::LowerRight);
 }
 
 void writeArmour(FileText& out, const ArmourRecord& armour, bool isTurret) {
     out.indent(3).startTag(e::Armour);
     out.raw("\t\t\t\t// @0 means vertically upright, @90 is horizontal").endLine();
-    writePair(out, e::Front, e::UpperFront, armour.upperFront, e::LowerFront, armour.lowerFront);
-    writeIfPositive(out, e::FrontSpaced, armour.frontSpaced);
+    writePair(out, e::Front, armour, field::UpperFront, field::LowerFront);
+    line(out, 4, field::FrontSpaced, armour);
     writeSides(out, armour);
-    writeIfPositive(out, e::SideSpaced, armour.sideSpaced);
-    writePair(out, e::Rear, e::UpperRear, armour.upperRear, e::LowerRear, armour.lowerRear);
-    writeIfPositive(out, e::RearSpaced, armour.rearSpaced);
-    out.line(4, e::Top, armour.top);
-    writeIfNotNegative(out, e::Bottom, armour.bottom);
+    line(out, 4, field::SideSpaced, armour);
+    writePair(out, e::Rear, armour, field::UpperRear, field::LowerRear);
+    lines(out, 4, armour, field::RearSpaced, field::Top, field::Bottom);
     if (isTurret) {
-        writeIfNotNegative(out, e::Mantlet, armour.mantlet);
+        line(out, 4, field::Mantlet, armour);
     }
     out.close(3, e::Armour);
 }
@@ -162,17 +128,17 @@ void writeArmour(FileText& out, const ArmourRecord& armour, bool isTurret) {
 void writeSmokeDischargers(FileText& out, const ComponentRecord& component) {
     for (const SmokeDischargerRecord& discharger : component.smokeDischargers) {
         out.indent(3).startTag(e::SmokeDischarger);
-        out.element(e::OffsetX, discharger.offsetX).element(e::OffsetY, discharger.offsetY);
+        pieces(out, discharger, field::DischargerOffsetX, field::DischargerOffsetY);
         if (discharger.directional) {
             if (discharger.angleGiven) {
-                out.element(e::Angle, discharger.angle);
+                piece(out, field::DischargerAngle, discharger);
             }
             if (discharger.elevationGiven) {
-                out.element(e::Elevation, discharger.elevation);
+                piece(out, field::DischargerElevation, discharger);
             }
-            out.element(e::Speed, discharger.speed);
+            piece(out, field::DischargerSpeed, discharger);
         }
-        out.element(e::Ammo, discharger.ammo).element(e::Reload, discharger.reload);
+        pieces(out, discharger, field::DischargerAmmo, field::DischargerReload);
         out.endTag(e::SmokeDischarger).endLine();
     }
 }
@@ -185,7 +151,7 @@ void writeCrew(FileText& out, const ComponentRecord& component) {
         }
         isFirst = false;
         out.open(3, e::Man);
-        out.line(4, e::Job, man.job);
+        line(out, 4, field::Job, man);
         // Two tabs here, not four: the game's own files have it so.
         writeManFlags(out, 2, man);
         writePersonalWeapons(out, 4, man);
@@ -210,10 +176,10 @@ std::size_t weaponPass(std::string_view weaponType) {
 constexpr std::size_t WeaponPasses = 4;
 
 void writeWeapon(FileText& out, const WeaponMountRecord& weapon, bool withPosition) {
-    out.indent(3).startTag(e::Weapon).element(e::Type, weapon.type).elementIfGiven(e::Mount, weapon.mount);
+    out.indent(3).startTag(e::Weapon);
+    pieces(out, weapon, field::MountedType, field::Mount);
     if (withPosition) {
-        out.elementUnless(0, e::OffsetX, weapon.offsetX).elementUnless(0, e::OffsetY, weapon.offsetY);
-        out.elementUnless(0, e::OffsetAngle, weapon.offsetAngle);
+        pieces(out, weapon, field::MountedOffsetX, field::MountedOffsetY, field::MountedOffsetAngle);
     }
     out.endTag(e::Weapon).endLine();
 }
@@ -235,22 +201,9 @@ void writeWeaponsAndAmmo(FileText& out, const ComponentRecord& component, bool w
     }
 }
 
-void writeSizes(FileText& out, const ComponentRecord& component) {
-    out.line(3, e::Width, component.width);
-    out.line(3, e::Length, component.length);
-    out.line(3, e::Height, component.height);
-}
-
-void writeOffsets(FileText& out, const ComponentRecord& component) {
-    out.line(3, e::OffsetX, component.offsetX);
-    out.line(3, e::OffsetY, component.offsetY);
-}
-
 void writeHull(FileText& out, const ComponentRecord& hull) {
     out.open(2, e::Hull);
-    out.image(3, e::ImageView, hull.viewImage);
-    out.imageIfGiven(3, e::ImageDestroyed, hull.destroyedImage);
-    writeSizes(out, hull);
+    lines(out, 3, hull, field::ViewImage, field::DestroyedImage, field::Width, field::Length, field::Height);
     writeArmour(out, hull.armour, false);
     writeSmokeDischargers(out, hull);
     writeCrew(out, hull);
@@ -259,34 +212,24 @@ void writeHull(FileText& out, const ComponentRecord& hull) {
 
 void writeSuperstructure(FileText& out, const ComponentRecord& superstructure) {
     out.open(2, e::Superstructure);
-    writeSizes(out, superstructure);
-    writeOffsets(out, superstructure);
+    lines(out, 3, superstructure, field::Width, field::Length, field::Height, field::OffsetX, field::OffsetY);
     writeArmour(out, superstructure.armour, false);
     writeSmokeDischargers(out, superstructure);
     out.close(2, e::Superstructure);
 }
 
 void writeLimits(FileText& out, const ComponentRecord& component) {
-    out.line(3, e::RotateLeft, component.rotateLeft);
-    out.line(3, e::RotateRight, component.rotateRight);
-    if (component.offsetAngle != 0) {
-        out.line(3, e::OffsetAngle, component.offsetAngle);
-    }
+    lines(out, 3, component, field::RotateLeft, field::RotateRight, field::OffsetAngle);
 }
 
 void writeSights(FileText& out, const ComponentRecord& component) {
-    out.flag(3, e::AA, component.antiAircraft);
-    out.flag(3, e::NightVision, component.nightVision);
+    lines(out, 3, component, field::AntiAircraft, field::NightVision);
 }
 
 void writeTurret(FileText& out, const ComponentRecord& turret) {
     out.open(2, e::Turret);
-    out.image(3, e::ImageView, turret.viewImage);
-    out.imageIfGiven(3, e::ImageDestroyed, turret.destroyedImage);
-    out.line(3, e::Diameter, turret.diameter);
-    out.line(3, e::Height, turret.height);
-    writeOffsets(out, turret);
-    out.line(3, e::RotateTime, turret.rotateTime);
+    lines(out, 3, turret, field::ViewImage, field::DestroyedImage, field::Diameter, field::Height,
+          field::OffsetX, field::OffsetY, field::RotateTime);
     if (turret.limitedTraverse) {
         writeLimits(out, turret);
     }
@@ -301,11 +244,11 @@ void writeTurret(FileText& out, const ComponentRecord& turret) {
 /// A fixed weapon's armour has no place in the files.
 void writeFixedWeapon(FileText& out, const ComponentRecord& weapon) {
     out.open(2, e::FixedWeapon);
-    out.imageIfGiven(3, e::ImageView, weapon.viewImage);
-    out.imageIfGiven(3, e::ImageDestroyed, weapon.destroyedImage);
-    writeOffsets(out, weapon);
-    out.line(3, e::OffsetZ, weapon.offsetZ);
-    out.line(3, e::RotateTime, weapon.rotateTime);
+    if (!weapon.viewImage.empty()) {
+        line(out, 3, field::ViewImage, weapon);
+    }
+    lines(out, 3, weapon, field::DestroyedImage, field::OffsetX, field::OffsetY, field::OffsetZ,
+          field::RotateTime);
     writeLimits(out, weapon);
     writeSights(out, weapon);
     writeWeaponsAndAmmo(out, weapon, false);

@@ -1,39 +1,43 @@
 #include "data/unit/writer_blocks.h"
 
+#include "data/field_text.h"
 #include "data/unit/elements.h"
+#include "data/unit_fields.h"
 
 namespace varrocade::writer_blocks {
 
 namespace e = element;
+using namespace field_text;
 
 void writeAvailability(FileText& out, std::span<const AvailabilityPoint> points) {
     out.open(1, e::Availability);
     for (const AvailabilityPoint& point : points) {
         out.indent(2).startTag(e::Data);
-        out.element(e::Month, point.month).element(e::Year, point.year).element(e::Number, point.number);
+        pieces(out, point, field::Month, field::Year, field::NumberOfUnits);
         out.endTag(e::Data).endLine();
     }
     out.close(1, e::Availability).blankLine();
 }
 
 void writeManFlags(FileText& out, int tabs, const CrewManRecord& man) {
-    out.lineIfGiven(tabs, e::Language, man.language);
-    out.flag(tabs, e::BodyArmour, man.bodyArmour);
-    out.flag(tabs, e::NightVision, man.nightVision);
+    lines(out, tabs, man, field::ManLanguage, field::BodyArmour, field::ManNightVision);
 }
 
 void writePersonalWeapons(FileText& out, int tabs, const CrewManRecord& man) {
     for (const Text& weapon : man.weapons) {
-        out.indent(tabs).startTag(e::Weapon).element(e::Type, weapon).endTag(e::Weapon).endLine();
+        out.indent(tabs).startTag(e::Weapon).element(field::PersonalWeapons.element, weapon);
+        out.endTag(e::Weapon).endLine();
     }
 }
 
 void writeAmmo(FileText& out, int tabs, const AmmoLoadRecord& ammo, bool withFlavour) {
-    out.indent(tabs).startTag(e::Ammo).element(e::For, ammo.weaponType);
+    out.indent(tabs).startTag(e::Ammo);
+    piece(out, field::AmmoFor, ammo);
     if (withFlavour) {
-        out.element(e::Flavour, ammo.flavour);
+        put(out, field::Flavour, ammo);
     }
-    out.element(e::Rounds, ammo.rounds).endTag(e::Ammo).endLine();
+    piece(out, field::Rounds, ammo);
+    out.endTag(e::Ammo).endLine();
 }
 
 } // namespace varrocade::writer_blocks

@@ -18,7 +18,7 @@ struct FormWords<ComponentKind> {
 
 namespace {
 
-constexpr auto KindField = field_row::word(&NewComponent::kind, "", "Type", nullptr);
+constexpr auto KindField = field_row::choice(&NewComponent::kind, "", "Type", nullptr);
 constexpr auto NewComponentRows = std::to_array<FormRow<NewComponent>>({{IDC_COMPONENT_KIND, KindField}});
 constexpr FormShape<NewComponent> NewComponentShape = {.rows = NewComponentRows};
 
