@@ -26,7 +26,11 @@ public:
     bool replace(const std::string& from, const std::string& to) override {
         return systemFiles().replace(from, to);
     }
+    bool rename(const std::string& from, const std::string& to) override {
+        return systemFiles().rename(from, to);
+    }
     bool remove(const std::string& path) override { return systemFiles().remove(path); }
+    bool recycle(const std::string& path) override { return systemFiles().recycle(path); }
     bool createFolder(const std::string& path) override { return systemFiles().createFolder(path); }
     std::string lastError() override { return systemFiles().lastError(); }
 

@@ -30,15 +30,22 @@ WeaponRecord readWeapon(TagTree& tree, std::string_view fileContent, std::string
 std::optional<WeaponRecord> readWeaponFile(const std::string& path, std::string_view fileName,
                                            WeaponReadReport& report);
 
-/// Loads a weapon below `base` for the window, with the boxes for a file that cannot be opened and for an
-/// unknown weapon type.
-std::optional<WeaponRecord> loadWeapon(std::string_view base, std::string_view fileName);
+/// What came of loading a weapon.
+struct LoadedWeapon {
+    std::optional<WeaponRecord> record; ///< nothing when the file could not be read
+    FileFailure failure;                ///< why not
+    std::string content;                ///< the file's bytes
+    WeaponReadReport report;
+};
+
+/// Loads a weapon below `base`.
+LoadedWeapon loadWeapon(FileOperations& files, std::string_view base, std::string_view fileName);
 
 /// The text of a weapon's file.
 std::string weaponFileText(const WeaponRecord& weapon);
 
 /// Writes a weapon to `fileName` below `base`, as `saveUnit` writes units.
-SaveResult saveWeapon(FileOperations& files, BackupKeeper& backups, const std::string& base,
-                      std::string_view fileName, const WeaponRecord& weapon);
+SaveOutcome saveWeapon(FileOperations& files, BackupKeeper& backups, const std::string& base,
+                       std::string_view fileName, const WeaponRecord& weapon);
 
 } // namespace varrocade

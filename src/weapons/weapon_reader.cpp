@@ -1,7 +1,6 @@
 #include "data/format/numbers.h"
 #include "data/unit/image_names.h"
 #include "platform/file_operations.h"
-#include "platform/messages.h"
 #include "weapons/weapon_elements.h"
 #include "weapons/weapon_files.h"
 #include "weapons/weapon_names.h"
@@ -319,21 +318,15 @@ std::optional<WeaponRecord> readWeaponFile(const std::string& path, std::string_
     return readWeapon(content, fileName, report);
 }
 
-std::optional<WeaponRecord> loadWeapon(std::string_view base, std::string_view fileName) {
+LoadedWeapon loadWeapon(FileOperations& files, std::string_view base, std::string_view fileName) {
+    LoadedWeapon loaded;
     const std::string path = dataFilePath(base, Category::Weapons, fileName);
-    WeaponReadReport report;
-    std::optional<WeaponRecord> weapon = readWeaponFile(path, fileName, report);
-    if (!weapon) {
-        showCouldNotLoad(path);
+    if (files.read(path, loaded.content)) {
+        loaded.record = readWeapon(loaded.content, fileName, loaded.report);
+    } else {
+        loaded.failure = {path, files.lastError()};
     }
-    for (const std::string& line : report.diagnostics) {
-        debugLine(line);
-    }
-    for (const std::string& type : report.unknownTypes) {
-        showMessage(
-            {.text = "unknown <type> '" + type + "'", .caption = weapon->name, .icon = MessageIcon::Error});
-    }
-    return weapon;
+    return loaded;
 }
 
 } // namespace varrocade

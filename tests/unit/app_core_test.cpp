@@ -1,10 +1,10 @@
 // What the program decides without its window.
 
-#include "app/workspace/file_names.h"
-#include "app/workspace/name_filter.h"
+#include "app/workspace/names/file_names.h"
+#include "app/workspace/names/name_filter.h"
 #include "app/workspace/options_file.h"
 #include "app/workspace/positions.h"
-#include "app/workspace/undo_history.h"
+#include "app/workspace/record/undo_history.h"
 #include "app/workspace/weapon_users.h"
 #include "app/workspace/window_layout.h"
 #include "data/unit/unit_writers.h"
@@ -81,31 +81,35 @@ TEST(Positions, QuestionNamesWhatWouldBeLost) {
     EXPECT_EQ(unsavedPositionsQuestion(false, Category::Vehicles, true, true), "");
 }
 
+const SquadRecord& unitOf(const RecordState& state) {
+    return std::get<SquadRecord>(state.record);
+}
+
 TEST(UndoHistory, GoesBackAndForthAndForgetsWhatWasUndone) {
     UndoHistory history;
     SquadRecord record;
-    history.start(record);
-    history.note("nothing", record);
+    history.start({record});
+    history.note("nothing", {record});
     EXPECT_FALSE(history.canUndo());
     record.longName = "one";
-    history.note("Name", record);
+    history.note("Name", {record});
     record.longName = "two";
-    history.note("Second name", record);
+    history.note("Second name", {record});
     EXPECT_EQ(history.undoName(), "Second name");
-    EXPECT_EQ(history.undo().longName, "one");
+    EXPECT_EQ(unitOf(history.undo()).longName, "one");
     EXPECT_EQ(history.redoName(), "Second name");
-    EXPECT_EQ(history.undo().longName, "");
+    EXPECT_EQ(unitOf(history.undo()).longName, "");
     EXPECT_FALSE(history.canUndo());
-    record = history.redo();
+    record = unitOf(history.redo());
     EXPECT_EQ(record.longName, "one");
     record.longName = "other";
-    history.note("Other", record);
+    history.note("Other", {record});
     EXPECT_FALSE(history.canRedo());
-    EXPECT_EQ(history.undo().longName, "one") << "what had been undone is gone";
+    EXPECT_EQ(unitOf(history.undo()).longName, "one") << "what had been undone is gone";
     history.redo();
     for (int i = 0; i < 300; ++i) {
         record.vehicle.emplace().weight = i + 1;
-        history.note("Weight", record);
+        history.note("Weight", {record});
     }
     int steps = 0;
     while (history.canUndo()) {
@@ -118,14 +122,14 @@ TEST(UndoHistory, GoesBackAndForthAndForgetsWhatWasUndone) {
 TEST(UndoHistory, AChangeThatGoesOnIsOneStep) {
     UndoHistory history;
     SquadRecord record;
-    history.start(record);
+    history.start({record});
     for (const char* name : {"one", "two", "three"}) {
         record.longName = name;
-        history.amend(record);
-        history.note("Name", record);
+        history.amend({record});
+        history.note("Name", {record});
     }
-    EXPECT_EQ(history.undo().longName, "");
-    EXPECT_EQ(history.redo().longName, "three");
+    EXPECT_EQ(unitOf(history.undo()).longName, "");
+    EXPECT_EQ(unitOf(history.redo()).longName, "three");
 }
 
 TEST(WeaponUsers, KnowsWhoCarriesAWeaponAndReadsNoFileTwice) {

@@ -21,9 +21,15 @@ std::vector<Message>& recordedMessages() {
     return messages;
 }
 
+std::vector<Answer>& nextAnswers() {
+    static std::vector<Answer> answers;
+    return answers;
+}
+
 Answer record(const Message& message) {
     recordedMessages().push_back(message);
-    return Answer::Ok;
+    const std::size_t number = recordedMessages().size();
+    return number <= nextAnswers().size() ? nextAnswers()[number - 1] : Answer::Ok;
 }
 
 std::string withBackslashes(std::string path) {
@@ -186,7 +192,12 @@ std::vector<std::string> TemporaryFolder::files() const {
 }
 
 MessageRecorder::MessageRecorder() : former_(setMessageHandler(record)) {
+    answer({});
+}
+
+void MessageRecorder::answer(std::vector<Answer> answers) {
     recordedMessages().clear();
+    nextAnswers() = std::move(answers);
 }
 
 MessageRecorder::~MessageRecorder() {

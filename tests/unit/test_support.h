@@ -79,7 +79,7 @@ private:
     std::string path_;
 };
 
-/// Takes the place of the message boxes while it lives.
+/// Takes the place of the message boxes while it lives. Boxes are answered OK where no answers were given.
 class MessageRecorder {
 public:
     MessageRecorder();
@@ -88,6 +88,9 @@ public:
     ~MessageRecorder();
 
     [[nodiscard]] static const std::vector<Message>& shown();
+
+    /// How the next boxes are answered. Forgets those that were shown.
+    static void answer(std::vector<Answer> answers);
 
 private:
     MessageHandler former_;

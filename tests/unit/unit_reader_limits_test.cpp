@@ -95,9 +95,8 @@ TEST(UnitLimits, BoundTheDiagnostics) {
     EXPECT_EQ(readWithDiagnostics(content).diagnostics.size(), 100U);
 }
 
-TEST(UnitLoading, ReadsTheCategorysFolderAndShowsWhatCannotBeOpened) {
+TEST(UnitLoading, ReadsTheCategorysFolderAndTellsWhatCannotBeOpened) {
     const TemporaryFolder folder;
-    const MessageRecorder messages;
     for (const auto& [category, name] : {std::pair(Category::Vehicles, "Vehicles"),
                                          {Category::AtGuns, "AT Guns"},
                                          {Category::Infantry, "Infantry"},
@@ -105,21 +104,15 @@ TEST(UnitLoading, ReadsTheCategorysFolderAndShowsWhatCannotBeOpened) {
         folder.write("Data\\" + std::string(name) + "\\One.txt", "<squad><description><comment>" +
                                                                      std::string(name) +
                                                                      "</comment></description></squad>");
-        const std::optional<SquadRecord> record = loadUnit(folder.path(), category, "One");
-        ASSERT_TRUE(record) << name;
-        EXPECT_EQ(record->fileName, "One");
-        EXPECT_EQ(record->comment, name);
+        const LoadedUnit loaded = loadUnit(systemFiles(), folder.path(), category, "One");
+        ASSERT_TRUE(loaded.record) << name;
+        EXPECT_EQ(loaded.record->fileName, "One");
+        EXPECT_EQ(loaded.record->comment, name);
     }
-    EXPECT_TRUE(MessageRecorder::shown().empty());
-    EXPECT_FALSE(loadUnit(folder.path(), Category::AtGuns, "Missing gun"));
-    ASSERT_EQ(MessageRecorder::shown().size(), 1U);
-    const Message& message = MessageRecorder::shown().front();
-    EXPECT_EQ(message.caption, "Couldn't load file");
-    EXPECT_EQ(message.text, folder.path() +
-                                "Data\\AT Guns\\Missing gun.txt\n\n"
-                                "Check that the filename is made of ASCII characters and not Unicode");
-    EXPECT_EQ(message.icon, MessageIcon::Warning);
-    EXPECT_EQ(message.buttons, MessageButtons::Ok);
+    const LoadedUnit missing = loadUnit(systemFiles(), folder.path(), Category::AtGuns, "Missing gun");
+    EXPECT_FALSE(missing.record);
+    EXPECT_EQ(missing.failure.path, folder.path() + "Data\\AT Guns\\Missing gun.txt");
+    EXPECT_NE(missing.failure.reason, "");
 }
 
 } // namespace varrocade::tests

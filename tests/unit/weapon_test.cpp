@@ -74,14 +74,13 @@ TEST(WeaponFile, TellsOfUnknownTypes) {
     const TemporaryFolder folder;
     folder.write("Data\\Weapons\\W.txt",
                  "<weapon><name>WEAPON_X</name><type>WEAPON_BOW</type><type>WEAPON_LMG</type></weapon>");
-    const MessageRecorder messages;
-    EXPECT_EQ(loadWeapon(folder.path(), "W").value_or(WeaponRecord()).type, WeaponType::Lmg);
-    ASSERT_EQ(MessageRecorder::shown().size(), 1U);
-    EXPECT_EQ(MessageRecorder::shown()[0].text, "unknown <type> 'WEAPON_BOW'");
-    EXPECT_EQ(MessageRecorder::shown()[0].caption, "WEAPON_X");
-    EXPECT_EQ(MessageRecorder::shown()[0].icon, MessageIcon::Error);
-    EXPECT_FALSE(loadWeapon(folder.path(), "Missing"));
-    EXPECT_EQ(MessageRecorder::shown().back().caption, "Couldn't load file");
+    const LoadedWeapon loaded = loadWeapon(systemFiles(), folder.path(), "W");
+    EXPECT_EQ(loaded.record.value_or(WeaponRecord()).type, WeaponType::Lmg);
+    EXPECT_EQ(loaded.report.unknownTypes, std::vector<std::string>({"WEAPON_BOW"}));
+    const LoadedWeapon missing = loadWeapon(systemFiles(), folder.path(), "Missing");
+    EXPECT_FALSE(missing.record);
+    EXPECT_EQ(missing.failure.path, folder.path() + "Data\\Weapons\\Missing.txt");
+    EXPECT_NE(missing.failure.reason, "");
 }
 
 TEST(WeaponFile, LeavesOutAmmunitionThatFindsNoRoom) {

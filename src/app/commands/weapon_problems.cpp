@@ -1,7 +1,7 @@
 #include "app/commands/weapon_problems.h"
 
-#include "app/commands/file_commands.h"
 #include "app/windows/application.h"
+#include "app/workspace/category_list.h"
 #include "data/category.h"
 #include "editors/form/clipboard_win32.h"
 #include "editors/form/form_port_win32.h"
@@ -37,7 +37,7 @@ ProblemCells cellsOf(const FileFailure& problem) {
 
 /// The weapon behind a problem, when the list of weapons has it.
 std::string weaponOf(const FileFailure& problem) {
-    const std::string folder = categoryFolder(baseFolder(), Category::Weapons);
+    const std::string folder = categoryFolder(baseFolder(theWorkspace()), Category::Weapons);
     return problem.path.starts_with(folder) && problem.path.ends_with(DataFileEnding)
                ? problem.path.substr(folder.size(),
                                      problem.path.size() - folder.size() - DataFileEnding.size())
@@ -104,10 +104,10 @@ INT_PTR CALLBACK problemsProcedure(HWND dialog, UINT message, WPARAM parameter, 
 } // namespace
 
 void showWeaponProblems() {
-    ProblemsDialog context{.problems = application().catalogue.problems()};
+    ProblemsDialog context{.problems = theWorkspace().catalogue.problems()};
     runDialog(application().window, IDD_WEAPON_PROBLEMS, problemsProcedure, &context);
     if (!context.chosen.empty()) {
-        showFile(Category::Weapons, context.chosen);
+        showFile(theWorkspace(), Category::Weapons, context.chosen);
     }
 }
 

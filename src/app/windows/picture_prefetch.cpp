@@ -1,7 +1,7 @@
 #include "app/windows/picture_prefetch.h"
 
 #include "app/windows/application.h"
-#include "app/windows/file_list.h"
+#include "app/windows/unit_display.h"
 #include "data/unit/unit_reader.h"
 
 #include <utility>
@@ -13,7 +13,7 @@ namespace {
 void addPictures(const std::string& name) {
     Application& app = application();
     Diagnostics diagnostics;
-    const auto unit = readUnitFile(dataFilePath(baseFolder(), app.category, name), name, diagnostics);
+    const auto unit = readUnitFile(pathOf(app.workspace, name), name, diagnostics);
     if (!unit) {
         return;
     }
@@ -31,8 +31,8 @@ void addPictures(const std::string& name) {
 void startPrefetch() {
     Application& app = application();
     app.prefetch = {};
-    if (app.openUnit) {
-        app.prefetch.units = neighbouringEntries();
+    if (openUnit(app.workspace) != nullptr) {
+        app.prefetch.units = neighbourNames(app.workspace.list);
     }
 }
 

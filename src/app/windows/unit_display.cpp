@@ -1,7 +1,7 @@
 #include "app/windows/unit_display.h"
 
 #include "app/windows/application.h"
-#include "app/windows/sheet_window.h"
+#include "app/windows/redraw.h"
 #include "view/drawing/part_positions.h"
 
 #include <algorithm>
@@ -14,7 +14,7 @@ namespace {
 
 DrawOptions drawOptions(std::vector<double> turns) {
     const Application& app = application();
-    return {.bases = imageBases(),
+    return {.bases = imageBases(app.workspace),
             .showDestroyed = app.showDestroyed,
             .showMarks = app.showMarks,
             .turns = std::move(turns)};
@@ -34,7 +34,7 @@ DrawList drawingOf(const SquadRecord& unit, const std::vector<double>& turns) {
         drawing = drawAircraft(*unit.aircraft, options, app.pictures);
     }
     if (!unit.infantrymen.empty()) {
-        addMen(drawing, unit, app.catalogue, options, app.pictures);
+        addMen(drawing, unit, app.workspace.catalogue, options, app.pictures);
     }
     return drawing;
 }
@@ -42,7 +42,8 @@ DrawList drawingOf(const SquadRecord& unit, const std::vector<double>& turns) {
 Fit wholeFit(const DrawList& drawing, SIZE size) {
     const Application& app = application();
     return fitInto(drawing, size.cx, size.cy - app.drawing.scaled(ScaleHeight),
-                   app.drawing.scaled(DrawingMargin), app.openWeapon ? GreatestScale : GreatestFittedScale);
+                   app.drawing.scaled(DrawingMargin),
+                   openWeapon(app.workspace) != nullptr ? GreatestScale : GreatestFittedScale);
 }
 
 namespace {
@@ -53,49 +54,49 @@ void composeDrawing(UnitDisplay& display) {
     display.drawingCanvas.isPainted = false;
     display.drawing = {};
     display.hasDrawing = false;
-    if (app.openWeapon) {
+    if (const WeaponRecord* weapon = openWeapon(app.workspace)) {
         display.hasDrawing = true;
-        display.drawing = drawWeapon(*app.openWeapon, drawOptions({}), app.pictures);
+        display.drawing = drawWeapon(*weapon, drawOptions({}), app.pictures);
     }
-    if (app.openUnit) {
-        const SquadRecord& unit = *app.openUnit;
-        display.hasDrawing = unit.vehicle || unit.heavyWeapon || unit.aircraft || !unit.infantrymen.empty();
-        display.drawing = drawingOf(unit, display.turns);
+    if (const SquadRecord* unit = openUnit(app.workspace)) {
+        display.hasDrawing =
+            unit->vehicle || unit->heavyWeapon || unit->aircraft || !unit->infantrymen.empty();
+        display.drawing = drawingOf(*unit, display.turns);
     }
 }
 
-std::optional<std::vector<std::string>> usersOfOpenWeapon() {
-    const Application& app = application();
-    const std::array<std::string_view, 2> names = {app.openWeapon->name, app.openWeapon->fileName};
-    return app.weaponUsers.usersOf(names);
+std::optional<std::vector<std::string>> usersOf(const WeaponRecord& weapon) {
+    const std::array<std::string_view, 2> names = {weapon.name, weapon.fileName};
+    return application().weaponUsers.usersOf(names);
 }
 
-std::vector<std::string> problemsOfOpenWeapon() {
-    const Application& app = application();
-    return app.catalogue.problemsOf(dataFilePath(baseFolder(), Category::Weapons, app.openWeapon->fileName));
+std::vector<std::string> problemsOf(const WeaponRecord& weapon) {
+    const Workspace& workspace = theWorkspace();
+    return workspace.catalogue.problemsOf(
+        dataFilePath(baseFolder(workspace), Category::Weapons, weapon.fileName));
 }
 
-void composeWeaponSheet(UnitDisplay& display) {
-    display.weaponUsers = usersOfOpenWeapon();
-    display.sheet = weaponSheet(*application().openWeapon, problemsOfOpenWeapon(), display.weaponUsers);
+void composeWeaponSheet(UnitDisplay& display, const WeaponRecord& weapon) {
+    display.weaponUsers = usersOf(weapon);
+    display.sheet = weaponSheet(weapon, problemsOf(weapon), display.weaponUsers);
 }
 
 /// Makes anew what the record or the view has changed.
 void composeDisplay(UnitDisplay& display) {
-    const Application& app = application();
+    const Workspace& workspace = theWorkspace();
     if (display.isStale || display.isDrawingStale) {
         composeDrawing(display);
     }
     if (display.isStale) {
         display.isStale = false;
         display.sheetCanvas.isPainted = false;
-        if (app.openWeapon) {
-            composeWeaponSheet(display);
-            startLookingForUsers();
+        if (const WeaponRecord* weapon = openWeapon(workspace)) {
+            composeWeaponSheet(display, *weapon);
+            display.wantsWeaponUsers = true;
+        } else if (const SquadRecord* unit = openUnit(workspace)) {
+            display.sheet = unitSheet(*unit, display.drawing.missingPictures, workspace.catalogue);
         } else {
-            display.sheet = app.openUnit
-                                ? unitSheet(*app.openUnit, display.drawing.missingPictures, app.catalogue)
-                                : DataSheet{};
+            display.sheet = {};
         }
     }
 }
@@ -125,10 +126,11 @@ void paintUnit(HDC device, const RECT& client) {
         display.drawingCanvas.isPainted = true;
         display.shownFit = display.ownFit.value_or(wholeFit(display.drawing, size));
         if (display.hasDrawing) {
+            const SquadRecord* unit = openUnit(app.workspace);
             const DrawingView view{.fit = display.shownFit,
                                    .selected = display.selected,
-                                   .caption = display.caption.empty() && app.openUnit
-                                                  ? positionText(*app.openUnit, display.selected)
+                                   .caption = display.caption.empty() && unit != nullptr
+                                                  ? positionText(*unit, display.selected)
                                                   : display.caption};
             paintDrawing(memory, client, display.drawing, view, app.drawing, app.pictures);
         } else {
@@ -150,9 +152,9 @@ void paintSheetArea(HDC device, const RECT& client) {
     if (!display.sheetCanvas.isPainted) {
         display.sheetCanvas.isPainted = true;
         display.sheetLayout = {};
-        if (isRecordOpen()) {
+        if (isRecordOpen(app.workspace)) {
             const SheetOptions options{
-                .bases = imageBases(), .scroll = display.scroll, .selected = display.selected};
+                .bases = imageBases(app.workspace), .scroll = display.scroll, .selected = display.selected};
             display.sheetLayout =
                 paintSheet(memory, client, display.sheet, options, app.drawing, app.pictures);
         } else {
@@ -164,20 +166,23 @@ void paintSheetArea(HDC device, const RECT& client) {
 
 bool updateWeaponUsers() {
     UnitDisplay& display = application().display;
-    if (!application().openWeapon || usersOfOpenWeapon() == display.weaponUsers) {
+    const WeaponRecord* weapon = openWeapon(theWorkspace());
+    if (weapon == nullptr || usersOf(*weapon) == display.weaponUsers) {
         return false;
     }
-    composeWeaponSheet(display);
+    composeWeaponSheet(display, *weapon);
     return true;
 }
 
-void scrollSheet(int pixels, int visibleHeight) {
+void scrollSheet(int pixels) {
     UnitDisplay& display = application().display;
-    const int furthest = std::max(0, display.sheetLayout.height - visibleHeight);
+    const int furthest = std::max(0, display.sheetLayout.height - visibleSheetHeight());
     display.scroll = std::clamp(display.scroll + pixels, 0, furthest);
 }
 
-void showSelectedOnSheet(int visibleHeight) {
+namespace {
+
+void scrollToSelected() {
     const UnitDisplay& display = application().display;
     const auto& places = display.sheetLayout.places;
     const auto found = std::find_if(places.begin(), places.end(), [&](const SheetPlace& place) {
@@ -188,10 +193,30 @@ void showSelectedOnSheet(int visibleHeight) {
     }
     const int shownFrom = display.scroll + display.sheetLayout.headHeight;
     if (found->place.top < shownFrom) {
-        scrollSheet(found->place.top - shownFrom, visibleHeight);
-    } else if (found->place.bottom > display.scroll + visibleHeight) {
-        scrollSheet(found->place.bottom - display.scroll - visibleHeight, visibleHeight);
+        scrollSheet(found->place.top - shownFrom);
+    } else if (found->place.bottom > display.scroll + visibleSheetHeight()) {
+        scrollSheet(found->place.bottom - display.scroll - visibleSheetHeight());
     }
+}
+
+} // namespace
+
+void showSelectedRow() {
+    scrollToSelected();
+    redrawSheet();
+}
+
+int visibleSheetHeight() {
+    RECT client{};
+    GetClientRect(sheetWindow(), &client);
+    return client.bottom;
+}
+
+void carryComponents(const FormerPlaces& places) {
+    UnitDisplay& display = application().display;
+    carryTurns(display.turns, places);
+    display.selected = carriedPart(display.selected, places);
+    display.movedPart = carriedPart(display.movedPart, places);
 }
 
 UnitPart sheetPartAt(POINT pixel) {

@@ -2,8 +2,6 @@
 
 #include "data/unit/enumerations.h"
 #include "data/unit/unit_rules.h"
-#include "platform/file_operations.h"
-#include "platform/messages.h"
 
 namespace varrocade {
 
@@ -86,17 +84,16 @@ std::optional<SquadRecord> readUnitFile(const std::string& path, std::string_vie
     return readUnit(content, fileName, diagnostics);
 }
 
-std::optional<SquadRecord> loadUnit(std::string_view base, Category category, std::string_view fileName) {
+LoadedUnit loadUnit(FileOperations& files, std::string_view base, Category category,
+                    std::string_view fileName) {
+    LoadedUnit loaded;
     const std::string path = dataFilePath(base, category, fileName);
-    Diagnostics diagnostics;
-    std::optional<SquadRecord> record = readUnitFile(path, fileName, diagnostics);
-    if (!record) {
-        showCouldNotLoad(path);
+    if (files.read(path, loaded.content)) {
+        loaded.record = readUnit(loaded.content, fileName, loaded.diagnostics);
+    } else {
+        loaded.failure = {path, files.lastError()};
     }
-    for (const std::string& line : diagnostics) {
-        debugLine(line);
-    }
-    return record;
+    return loaded;
 }
 
 } // namespace varrocade

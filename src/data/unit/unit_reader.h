@@ -3,6 +3,7 @@
 
 #include "data/category.h"
 #include "data/unit/unit_record.h"
+#include "platform/file_operations.h"
 
 #include <optional>
 #include <string>
@@ -22,8 +23,16 @@ SquadRecord readUnit(std::string_view fileContent, std::string_view fileName, Di
 std::optional<SquadRecord> readUnitFile(const std::string& path, std::string_view fileName,
                                         Diagnostics& diagnostics);
 
-/// Loads a unit of a category below `base` for the window: a file that cannot be opened shows the "Couldn't
-/// load file" box, and data errors go to the debugger.
-std::optional<SquadRecord> loadUnit(std::string_view base, Category category, std::string_view fileName);
+/// What came of loading a unit.
+struct LoadedUnit {
+    std::optional<SquadRecord> record; ///< nothing when the file could not be read
+    FileFailure failure;               ///< why not
+    std::string content;               ///< the file's bytes
+    Diagnostics diagnostics;
+};
+
+/// Loads a unit of a category below `base`.
+LoadedUnit loadUnit(FileOperations& files, std::string_view base, Category category,
+                    std::string_view fileName);
 
 } // namespace varrocade

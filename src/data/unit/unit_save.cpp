@@ -1,5 +1,6 @@
 #include "data/unit/unit_writers.h"
-#include "platform/messages.h"
+
+#include <utility>
 
 namespace varrocade {
 
@@ -18,19 +19,17 @@ std::optional<std::string> unitFileText(Category category, const SquadRecord& re
     return std::nullopt;
 }
 
-SaveResult saveUnit(FileOperations& files, BackupKeeper& backups, const std::string& base, Category category,
-                    const SquadRecord& record) {
-    const std::optional<std::string> text = unitFileText(category, record);
+SaveOutcome saveUnit(FileOperations& files, BackupKeeper& backups, const std::string& base, Category category,
+                     const SquadRecord& record) {
+    std::optional<std::string> text = unitFileText(category, record);
     if (!text) {
-        return SaveResult::NothingToSave;
+        return {};
     }
     const std::string path = dataFilePath(base, category, record.fileName);
-    if (const auto failure = replaceDataFile(files, backups, base, path, *text)) {
-        debugLine("ERROR: " + failure->path + ": " + failure->reason);
-        showCouldNotSave(path);
-        return SaveResult::Failed;
+    if (auto failure = replaceDataFile(files, backups, base, path, *text)) {
+        return {.result = SaveResult::Failed, .failure = std::move(*failure)};
     }
-    return SaveResult::Saved;
+    return {.result = SaveResult::Saved, .content = std::move(*text)};
 }
 
 } // namespace varrocade

@@ -25,12 +25,18 @@ std::optional<std::string> aircraftFileText(const SquadRecord& record);
 /// (or the category is that of the weapons).
 std::optional<std::string> unitFileText(Category category, const SquadRecord& record);
 
-/// What came of a save.
 enum class SaveResult { Saved, NothingToSave, Failed };
 
+/// What came of a save.
+struct SaveOutcome {
+    SaveResult result = SaveResult::NothingToSave;
+    FileFailure failure = {}; ///< of a save that failed
+    std::string content = {}; ///< what the file holds since it was saved
+};
+
 /// Writes a unit to its file below `base` through a temporary file, keeping the former content among the
-/// backups. A failure shows the "Couldn't save file" box and leaves the old file whole.
-SaveResult saveUnit(FileOperations& files, BackupKeeper& backups, const std::string& base, Category category,
-                    const SquadRecord& record);
+/// backups. A failure leaves the old file whole.
+SaveOutcome saveUnit(FileOperations& files, BackupKeeper& backups, const std::string& base, Category category,
+                     const SquadRecord& record);
 
 } // namespace varrocade

@@ -1,4 +1,4 @@
-#include "app/workspace/file_names.h"
+#include "app/workspace/names/file_names.h"
 
 #include "data/unit/enumerations.h"
 

@@ -1,4 +1,4 @@
-#include "app/workspace/name_filter.h"
+#include "app/workspace/names/name_filter.h"
 
 #include "data/format/texts.h"
 #include "data/unit/enumerations.h"

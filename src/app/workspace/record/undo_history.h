@@ -1,7 +1,7 @@
 #pragma once
-// The states of the open unit, to go back to.
+// The states of an open record, to go back to.
 
-#include "data/unit/unit_record.h"
+#include "app/workspace/record/record.h"
 
 #include <cstddef>
 #include <string>
@@ -10,19 +10,26 @@
 
 namespace varrocade {
 
+/// A record at one moment. The moves in the drawing are numbered, so that two states tell whether positions
+/// were moved between them, whichever way leads from one to the other.
+struct RecordState {
+    Record record;
+    unsigned weaponMove = 0;  ///< the last move of a weapon that led here, 0 for none
+    unsigned exhaustMove = 0; ///< the same of an exhaust pipe
+};
+
 /// A line of states, each of which was reached by a named change. The oldest ones go when there are too many.
 class UndoHistory {
 public:
     /// Forgets everything and begins with a state.
-    void start(const SquadRecord& record);
-    void clear();
+    void start(const RecordState& state);
 
-    /// Remembers the state that a change led to; a state that is the present one is no change. What had been
+    /// Remembers the state that a change led to; a record that is the present one is no change. What had been
     /// undone can no longer be redone.
-    void note(std::string_view change, const SquadRecord& record);
+    void note(std::string_view change, const RecordState& state);
 
     /// The last change goes on and leads to this state.
-    void amend(const SquadRecord& record);
+    void amend(const RecordState& state);
 
     /// The file of all states has another name now.
     void rename(std::string_view fileName);
@@ -34,18 +41,18 @@ public:
     [[nodiscard]] std::string_view redoName() const;
 
     /// The state before the last change, or after the next one. Only while there is one.
-    const SquadRecord& undo();
-    const SquadRecord& redo();
+    const RecordState& undo();
+    const RecordState& redo();
 
 private:
     static constexpr std::size_t MostStates = 100;
 
-    struct State {
+    struct Step {
         std::string change; ///< that led here
-        SquadRecord record;
+        RecordState state;
     };
 
-    std::vector<State> states_;
+    std::vector<Step> states_;
     std::size_t present_ = 0;
 };
 
