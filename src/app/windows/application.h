@@ -2,7 +2,7 @@
 // The state of the running program: the workspace, window handles, drawing objects, what is shown of the open
 // record. It stands here and nowhere else.
 
-#include "app/windows/display_state.h"
+#include "app/windows/display/display_state.h"
 #include "app/workspace/weapon_users.h"
 #include "app/workspace/workspace.h"
 #include "view/painting/drawing_objects_win32.h"

@@ -2,10 +2,10 @@
 
 #include "app/windows/application.h"
 #include "app/windows/child_window.h"
+#include "app/windows/display/picture_prefetch.h"
+#include "app/windows/display/redraw.h"
+#include "app/windows/display/unit_display.h"
 #include "app/windows/part_selection.h"
-#include "app/windows/picture_prefetch.h"
-#include "app/windows/redraw.h"
-#include "app/windows/unit_display.h"
 #include "app/workspace/positions.h"
 #include "resources/resource.h"
 #include "view/drawing/drawing_angles.h"

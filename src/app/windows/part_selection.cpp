@@ -2,8 +2,8 @@
 
 #include "app/commands/edit_record.h"
 #include "app/windows/application.h"
-#include "app/windows/redraw.h"
-#include "app/windows/unit_display.h"
+#include "app/windows/display/redraw.h"
+#include "app/windows/display/unit_display.h"
 #include "app/workspace/edits.h"
 #include "app/workspace/positions.h"
 #include "editors/vehicle/part_editor.h"

@@ -2,9 +2,9 @@
 
 #include "app/windows/application.h"
 #include "app/windows/child_window.h"
+#include "app/windows/display/redraw.h"
+#include "app/windows/display/unit_display.h"
 #include "app/windows/part_selection.h"
-#include "app/windows/redraw.h"
-#include "app/windows/unit_display.h"
 #include "resources/resource.h"
 
 #include <windowsx.h>

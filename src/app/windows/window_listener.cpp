@@ -2,10 +2,10 @@
 
 #include "app/commands/commands.h"
 #include "app/windows/application.h"
+#include "app/windows/display/redraw.h"
+#include "app/windows/display/unit_display.h"
 #include "app/windows/drawing_window.h"
 #include "app/windows/file_list.h"
-#include "app/windows/redraw.h"
-#include "app/windows/unit_display.h"
 #include "resources/resource.h"
 
 namespace varrocade {

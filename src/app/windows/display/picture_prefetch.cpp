@@ -1,7 +1,7 @@
-#include "app/windows/picture_prefetch.h"
+#include "app/windows/display/picture_prefetch.h"
 
 #include "app/windows/application.h"
-#include "app/windows/unit_display.h"
+#include "app/windows/display/unit_display.h"
 #include "data/unit/unit_reader.h"
 
 #include <utility>

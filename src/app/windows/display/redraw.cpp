@@ -1,4 +1,4 @@
-#include "app/windows/redraw.h"
+#include "app/windows/display/redraw.h"
 
 #include "app/windows/application.h"
 #include "resources/resource.h"

@@ -1,7 +1,7 @@
-#include "app/windows/unit_display.h"
+#include "app/windows/display/unit_display.h"
 
 #include "app/windows/application.h"
-#include "app/windows/redraw.h"
+#include "app/windows/display/redraw.h"
 #include "view/drawing/part_positions.h"
 
 #include <algorithm>
