@@ -19,6 +19,11 @@ constexpr auto Commands = std::to_array<Command>({
      "that leans by ANGLE degrees and the drag coefficient K; with --matrix, tab separated, the range up to "
      "which every ammunition type goes through every plate of every vehicle, at most 3000 m, \"-\" for none",
      penetrationCommand},
+    {"performance", "FOLDER [--estimate-weight]",
+     "prints weight, estimated weight, speeds, acceleration and steepest slope of every vehicle of a game "
+     "folder or a folder of vehicles, tab separated; with --estimate-weight, those without a weight drive "
+     "with the estimate",
+     performanceCommand},
     {"tree", "FILE", "prints how the file parses, one element a line", treeCommand},
 });
 

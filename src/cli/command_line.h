@@ -39,6 +39,9 @@ int rewriteCommand(Arguments arguments);
 /// `penetration WEAPONFILE SHELLINDEX ANGLE K` and `penetration --matrix GAMEFOLDER`
 int penetrationCommand(Arguments arguments);
 
+/// `performance FOLDER [--estimate-weight]`
+int performanceCommand(Arguments arguments);
+
 /// `tree FILE`
 int treeCommand(Arguments arguments);
 
