@@ -180,20 +180,22 @@ std::optional<double> accelerate(const DriveModel& model, const DriveConditions&
         return std::nullopt;
     }
     const double step = speed / KilometresPerHour / TimeSteps;
-    double seconds = 0.0;
-    std::size_t gear = 0;
+    double pulling = 0.0;
+    std::size_t shifts = 0;
+    // Shifts are counted and not added up as they come: rounding would make an equal drive slower.
+    const auto seconds = [&] { return pulling + static_cast<double>(shifts) * model.shiftSeconds; };
     for (int i = 0; i < TimeSteps; ++i) {
         const double middle = (i + 0.5) * step;
         const double reached = (i + 1) * step * KilometresPerHour;
         const double surplus =
             drivingForce(model, conditions, middle) - resistance(model, conditions, middle);
-        seconds += step * RotatingMass * model.mass / std::max(surplus, LeastSurplus * model.mass);
-        for (; gear + 1 < model.gears.size() && model.gears[gear].limit < reached; ++gear) {
-            seconds += model.shiftSeconds;
+        pulling += step * RotatingMass * model.mass / std::max(surplus, LeastSurplus * model.mass);
+        while (shifts + 1 < model.gears.size() && model.gears[shifts].limit < reached) {
+            ++shifts;
         }
-        visit(SpeedAtTime{.seconds = seconds, .speed = reached});
+        visit(SpeedAtTime{.seconds = seconds(), .speed = reached});
     }
-    return seconds;
+    return seconds();
 }
 
 } // namespace

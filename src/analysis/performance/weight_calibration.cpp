@@ -10,7 +10,8 @@ namespace varrocade {
 namespace {
 
 constexpr std::size_t N = WeightFactorCount;
-constexpr int Rounds = 12;
+constexpr int MaxRounds = 20;
+constexpr double SettledStep = 1e-4;
 /// Deviations beyond so many spreads count with the root of their weight only.
 constexpr double HuberLimit = 1.5;
 /// Beyond so many they are faults, not vehicles, and do not count.
@@ -126,8 +127,12 @@ WeightCalibration calibrateWeight(std::span<const VehicleFigures> vehicles, cons
         }
     }
     WeightCalibration calibration = {.factors = start, .vehicles = samples.size()};
-    for (int round = 0; round < Rounds; ++round) {
-        calibration.factors = improved(samples, calibration.factors, start, options);
+    bool hasSettled = false;
+    for (int round = 0; round < MaxRounds && !hasSettled; ++round) {
+        const WeightFactors former = calibration.factors;
+        calibration.factors = improved(samples, former, start, options);
+        hasSettled = std::equal(former.begin(), former.end(), calibration.factors.begin(),
+                                [](double a, double b) { return std::abs(a - b) <= SettledStep * b; });
     }
     calibration.spread = robustSpread(samples, calibration.factors);
     return calibration;
