@@ -13,7 +13,7 @@ constexpr std::string_view DefaultSteering = "STEERING_CLUTCH_AND_BRAKE";
 constexpr std::string_view FrontWheels = "STEERING_FRONT_WHEELS";
 constexpr std::string_view HalfTrackSteering = "STEERING_HALFTRACK";
 constexpr std::string_view TypeArmouredCar = "TYPE_ARMOURED_CAR";
-constexpr std::string_view TypeAssaultGun = "TYPE_ASSAULT_GUN";
+constexpr std::string_view TypeCarrier = "TYPE_INFANTRY_FIGHTING_VEHICLE";
 constexpr std::string_view TypeHalfTrack = "TYPE_HALFTRACK";
 constexpr std::string_view TypeLorry = "TYPE_LORRY";
 constexpr std::string_view TypeTank = "TYPE_TANK";
@@ -29,11 +29,6 @@ bool isUnarmoured(const VehicleRecord& vehicle) {
                    std::max({armour.upperFront.thickness, armour.lowerFront.thickness,
                              armour.upperLeft.thickness, armour.upperRight.thickness}) > SheetThickness;
         });
-}
-
-bool hasTurret(const VehicleRecord& vehicle) {
-    return std::any_of(vehicle.components.begin(), vehicle.components.end(),
-                       [](const ComponentRecord& part) { return part.kind == ComponentKind::Turret; });
 }
 
 } // namespace
@@ -61,23 +56,17 @@ RunningGear runningGearOf(std::string_view type, std::string_view steering) {
 }
 
 BodyKind bodyKindOf(const SquadRecord& unit, RunningGear gear) {
-    if (gear != RunningGear::Tracked && unit.vehicle && isUnarmoured(*unit.vehicle)) {
-        return BodyKind::Lorry;
-    }
-    if (gear == RunningGear::Wheeled) {
-        return BodyKind::ArmouredCar;
-    }
     if (gear == RunningGear::HalfTracked) {
         return BodyKind::HalfTrack;
     }
-    if (unit.type == TypeTank) {
+    if (gear == RunningGear::Wheeled) {
+        return unit.vehicle && isUnarmoured(*unit.vehicle) ? BodyKind::Lorry : BodyKind::ArmouredCar;
+    }
+    if (unit.type == TypeTank || unit.type == TypeArmouredCar) {
         return BodyKind::Tank;
     }
-    if (unit.type == TypeAssaultGun ||
-        (unit.vehicle && !unit.vehicle->canMountInfantry && hasTurret(*unit.vehicle))) {
-        return BodyKind::AssaultGun;
-    }
-    return BodyKind::Carrier;
+    const bool isCarrier = unit.type == TypeCarrier || unit.type == TypeHalfTrack || unit.type == TypeLorry;
+    return isCarrier ? BodyKind::Carrier : BodyKind::AssaultGun;
 }
 
 } // namespace varrocade

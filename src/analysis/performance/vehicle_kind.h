@@ -19,10 +19,10 @@ std::string_view runningGearName(RunningGear gear);
 enum class BodyKind : std::uint8_t {
     Tank = 0,
     AssaultGun = 1, ///< tracked, its gun in the hull or under open sky
-    Carrier = 2,    ///< tracked, with room for infantry
+    Carrier = 2,    ///< tracked, with room for infantry or load
     HalfTrack = 3,
     ArmouredCar = 4, ///< wheeled, whatever it carries
-    Lorry = 5,       ///< wheels or half-tracks without armour
+    Lorry = 5,       ///< wheeled, without armour
 };
 inline constexpr std::size_t BodyKindCount = 6;
 

@@ -15,7 +15,7 @@ constexpr std::array<std::string_view, WeightShareCount> ShareNames = {"armour o
                                                                        "ammunition",
                                                                        "crew"};
 
-constexpr WeightFactors BuiltIn = {1.18, 1.36, 13.2, 0.50, 244.0, 250.0, 130.0, 203.0, 143.0, 60.0};
+constexpr WeightFactors BuiltIn = {1.20, 1.24, 13.7, 0.535, 239.0, 237.0, 119.0, 202.0, 139.0, 56.0};
 
 /// A man with his kit, and rations, tools and radio by the head, kilograms.
 constexpr double CrewManMass = 100.0;
@@ -26,9 +26,9 @@ constexpr double WheeledGrowth = 0.4;
 constexpr double UsualVolume = 20.0; ///< cubic metres
 
 double structureTerm(const VehicleFigures& figures) {
-    return figures.gear == RunningGear::Tracked
-               ? figures.volume
-               : figures.volume * std::pow(figures.volume / UsualVolume, WheeledGrowth);
+    return figures.gear == RunningGear::Wheeled
+               ? figures.volume * std::pow(figures.volume / UsualVolume, WheeledGrowth)
+               : figures.volume;
 }
 
 constexpr std::size_t placeOf(WeightFactor factor) {
