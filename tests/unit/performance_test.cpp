@@ -21,12 +21,12 @@ namespace varrocade::tests {
 namespace {
 
 const WeaponMasses& sampleWeapons() {
-    static const WeaponMasses Weapons = [] {
+    static const WeaponMasses weapons = [] {
         WeaponCatalogue catalogue;
         catalogue.load(SampleBase);
         return WeaponMasses(catalogue);
     }();
-    return Weapons;
+    return weapons;
 }
 
 VehicleFigures figuresOf(const SquadRecord& unit) {
@@ -35,6 +35,7 @@ VehicleFigures figuresOf(const SquadRecord& unit) {
 
 std::vector<VehicleFigures> figuresOf(const std::vector<SquadRecord>& units) {
     std::vector<VehicleFigures> figures;
+    figures.reserve(units.size());
     for (const SquadRecord& unit : units) {
         figures.push_back(figuresOf(unit));
     }
@@ -124,17 +125,17 @@ TEST(Performance, IsAsExactAsItsPageSays) {
 
 TEST(Performance, WeighsVehiclesThatTheFitHasNotSeen) {
     const std::vector<VehicleFigures> all = figuresOf(knownVehicles());
-    constexpr std::size_t Parts = 10;
+    constexpr std::size_t parts = 10;
     Errors weights;
-    for (std::size_t part = 0; part < Parts; ++part) {
+    for (std::size_t part = 0; part < parts; ++part) {
         std::vector<VehicleFigures> seen;
         for (std::size_t i = 0; i < all.size(); ++i) {
-            if (i % Parts != part) {
+            if (i % parts != part) {
                 seen.push_back(all[i]);
             }
         }
         const WeightCalibration fit = calibrateWeight(seen, RoundFactors, WideFreedom);
-        for (std::size_t i = part; i < all.size(); i += Parts) {
+        for (std::size_t i = part; i < all.size(); i += parts) {
             weights.add(estimateWeight(all[i], fit.factors)->total(), all[i].weight);
         }
     }
@@ -267,8 +268,8 @@ TEST(Performance, WeaponsWeighByTheirFilesOrNames) {
 }
 
 TEST(Performance, HostileNumbersGiveFiniteFigures) {
-    constexpr int Max = std::numeric_limits<int>::max();
-    for (const int value : {Max, Max - 1, 1, 0, -1, std::numeric_limits<int>::min()}) {
+    constexpr int max = std::numeric_limits<int>::max();
+    for (const int value : {max, max - 1, 1, 0, -1, std::numeric_limits<int>::min()}) {
         SquadRecord unit = realVehicle("Maus");
         VehicleRecord& vehicle = *unit.vehicle;
         vehicle.weight = vehicle.horsepower = vehicle.idleRevolutions = vehicle.revolutionLimit = value;
@@ -330,18 +331,18 @@ TEST(Performance, PlantedFaultsAreFoundAmongRealVehicles) {
         [](VehicleRecord& vehicle) { vehicle.components.front().length *= 10; },
     };
     // Every tenth vehicle has the fault at a time.
-    constexpr std::size_t Step = 10;
+    constexpr std::size_t step = 10;
     for (const auto& fault : faults) {
         std::size_t found = 0;
-        for (std::size_t first = 0; first < Step; ++first) {
+        for (std::size_t first = 0; first < step; ++first) {
             std::vector<SquadRecord> planted = units;
             std::vector<VehicleFigures> plantedFigures = figures;
-            for (std::size_t i = first; i < units.size(); i += Step) {
+            for (std::size_t i = first; i < units.size(); i += step) {
                 fault(*planted[i].vehicle);
                 plantedFigures[i] = figuresOf(planted[i]);
             }
             for (const std::size_t vehicle : listed(findOutliers(planted, plantedFigures))) {
-                found += vehicle % Step == first ? 1U : 0U;
+                found += vehicle % step == first ? 1U : 0U;
             }
         }
         EXPECT_GE(static_cast<double>(found), 0.97 * static_cast<double>(units.size()))

@@ -123,24 +123,24 @@ void addComponents(const std::vector<std::string_view>& column, VehicleRecord& v
 }
 
 RealVehicle vehicleOf(const std::vector<std::string_view>& column) {
-    static const std::map<std::string_view, std::string_view> Types = {
+    static const std::map<std::string_view, std::string_view> types = {
         {"TANK", "TYPE_TANK"},
         {"AG", "TYPE_ASSAULT_GUN"},
         {"AC", "TYPE_ARMOURED_CAR"},
         {"HT", "TYPE_HALFTRACK"},
         {"IFV", "TYPE_INFANTRY_FIGHTING_VEHICLE"},
         {"LORRY", "TYPE_LORRY"}};
-    static const std::map<std::string_view, std::string_view> Steering = {
+    static const std::map<std::string_view, std::string_view> steering = {
         {"CB", "STEERING_CLUTCH_AND_BRAKE"},    {"CD", "STEERING_CONTROLLED_DIFFERENTIAL"},
         {"DD", "STEERING_DOUBLE_DIFFERENTIAL"}, {"MD", "STEERING_DOUBLE_DIFFERENTIAL_MAYBACH"},
         {"FW", "STEERING_FRONT_WHEELS"},        {"HT", "STEERING_HALFTRACK"},
         {"TD", "STEERING_TRIPLE_DIFFERENTIAL"}, {"TT", "STEERING_TWIN_TRANSMISSION"}};
     RealVehicle real;
     real.unit.fileName = column[0];
-    real.unit.type = Types.at(column[1]);
+    real.unit.type = types.at(column[1]);
     real.unit.availability.push_back({1, static_cast<std::uint16_t>(toInteger(column[3])), 100});
     VehicleRecord& vehicle = real.unit.vehicle.emplace();
-    vehicle.steering = Steering.at(column[2]);
+    vehicle.steering = steering.at(column[2]);
     vehicle.weight = toInteger(column[4]);
     vehicle.horsepower = toInteger(column[5]);
     vehicle.revolutionLimit = toInteger(column[6]);
@@ -155,7 +155,7 @@ RealVehicle vehicleOf(const std::vector<std::string_view>& column) {
 } // namespace
 
 const std::vector<RealVehicle>& realVehicles() {
-    static const std::vector<RealVehicle> Vehicles = [] {
+    static const std::vector<RealVehicle> vehicles = [] {
         std::vector<RealVehicle> all;
         const std::string file = goldenText("performance_vehicles.txt");
         std::string_view rest = file;
@@ -174,7 +174,7 @@ const std::vector<RealVehicle>& realVehicles() {
         }
         return all;
     }();
-    return Vehicles;
+    return vehicles;
 }
 
 } // namespace varrocade::tests

@@ -177,18 +177,18 @@ double weighingThickness(double thickness, BodyKind body, int year) {
     // Where thicknesses begin to be worth more than they weigh, and what of the rest weighs: a T-72's glacis
     // of 205 mm holds 100 mm of steel, a turret worth 600 mm some 300; a carrier's 38 mm of aluminium weigh
     // as 13 mm of steel.
-    constexpr int LayeredSince = 1960;
-    constexpr int AlloySince = 1957;
-    constexpr double LayeredFrom = 50.0;
-    constexpr double LayeredPart = 0.08;
-    constexpr double AlloyFrom = 18.0;
-    constexpr double AlloyPart = 0.08;
+    constexpr int layeredSince = 1960;
+    constexpr int alloySince = 1957;
+    constexpr double layeredFrom = 50.0;
+    constexpr double layeredPart = 0.08;
+    constexpr double alloyFrom = 18.0;
+    constexpr double alloyPart = 0.08;
     const double stated = std::clamp(thickness, 0.0, MaxThickness);
-    if (body == BodyKind::Carrier && year >= AlloySince && stated > AlloyFrom) {
-        return AlloyFrom + AlloyPart * (stated - AlloyFrom);
+    if (body == BodyKind::Carrier && year >= alloySince && stated > alloyFrom) {
+        return alloyFrom + alloyPart * (stated - alloyFrom);
     }
-    if (year >= LayeredSince && stated > LayeredFrom) {
-        return LayeredFrom + LayeredPart * (stated - LayeredFrom);
+    if (year >= layeredSince && stated > layeredFrom) {
+        return layeredFrom + layeredPart * (stated - layeredFrom);
     }
     return stated;
 }

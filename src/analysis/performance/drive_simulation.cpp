@@ -160,10 +160,10 @@ void addGears(const VehicleFigures& figures, DriveModel& model) {
     const int count = figures.forwardGears;
     model.spread = std::clamp(SpreadPerGear * (count - 1), MinSpread, MaxSpread);
     const double step = count > 1 ? std::pow(model.spread, 1.0 / (count - 1)) : model.spread;
-    constexpr int Samples = 8;
-    for (int i = 0; i < Samples; ++i) {
+    constexpr int samples = 8;
+    for (int i = 0; i < samples; ++i) {
         const double lowest = 1.0 / step;
-        model.utilisation += powerPart(lowest + (1.0 - lowest) * (i + 0.5) / Samples) / Samples;
+        model.utilisation += powerPart(lowest + (1.0 - lowest) * (i + 0.5) / samples) / samples;
     }
     model.utilisation = std::min(model.utilisation, 1.0);
     const double idlePart = std::min(figures.idleRevolutions / figures.revolutionLimit, 1.0);
@@ -201,8 +201,8 @@ std::optional<double> accelerate(const DriveModel& model, const DriveConditions&
 } // namespace
 
 std::string_view surfaceName(Surface surface) {
-    constexpr std::array<std::string_view, SurfaceCount> Names = {"road", "gravel", "field", "sand"};
-    return Names[static_cast<std::size_t>(surface)];
+    constexpr std::array<std::string_view, SurfaceCount> names = {"road", "gravel", "field", "sand"};
+    return names[static_cast<std::size_t>(surface)];
 }
 
 std::optional<DriveModel> driveModel(const VehicleFigures& figures, double weight) {
@@ -250,9 +250,9 @@ double topSpeed(const DriveModel& model, const DriveConditions& conditions) {
 
 double steepestSlope(const DriveModel& model, Surface surface) {
     // Force and resistance both go with the weight; the angle at which they meet is looked for.
-    constexpr double Steepest = 200.0;
+    constexpr double steepest = 200.0;
     double low = 0.0;
-    double high = Steepest;
+    double high = steepest;
     for (int i = 0; i < Halvings; ++i) {
         const double middle = (low + high) / 2.0;
         const DriveConditions conditions = {.surface = surface, .slope = middle};
@@ -276,12 +276,12 @@ std::vector<SpeedAtTime> speedOverTime(const DriveModel& model, const DriveCondi
 GroundPressure groundPressure(const VehicleFigures& figures, double weight) {
     // Of the hull's length and width, from some dozen tanks; Panther 0.57 and 0.19, T-34 0.63 and 0.17,
     // Panzer IV 0.60 and 0.13, Leopard 1 0.60 and 0.17.
-    constexpr double ContactPart = 0.60;
-    constexpr double TrackPart = 0.155;
+    constexpr double contactPart = 0.60;
+    constexpr double trackPart = 0.155;
     if (figures.gear != RunningGear::Tracked) {
         return {.kilopascals = std::nullopt, .remark = "the file does not tell the tyres"};
     }
-    const double area = 2.0 * ContactPart * figures.length * TrackPart * figures.width;
+    const double area = 2.0 * contactPart * figures.length * trackPart * figures.width;
     if (area <= 0 || weight <= 0) {
         return {.kilopascals = std::nullopt, .remark = "no weight, or no hull with width and length"};
     }
