@@ -1,6 +1,6 @@
 #include "benchmarks.h"
 #include "corpus.h"
-#include "data/unit/unit_reader.h"
+#include "data/reading/unit_reader.h"
 #include "platform/file_operations.h"
 #include "weapons/weapon_catalogue.h"
 

@@ -2,8 +2,8 @@
 
 #include "benchmarks.h"
 #include "corpus.h"
-#include "data/unit/unit_reader.h"
-#include "data/unit/unit_writers.h"
+#include "data/reading/unit_reader.h"
+#include "data/writing/unit_writers.h"
 #include "platform/safe_save.h"
 #include "weapons/weapon_files.h"
 
@@ -26,7 +26,11 @@ public:
     bool replace(const std::string& from, const std::string& to) override {
         return systemFiles().replace(from, to);
     }
+    bool rename(const std::string& from, const std::string& to) override {
+        return systemFiles().rename(from, to);
+    }
     bool remove(const std::string& path) override { return systemFiles().remove(path); }
+    bool recycle(const std::string& path) override { return systemFiles().recycle(path); }
     bool createFolder(const std::string& path) override { return systemFiles().createFolder(path); }
     std::string lastError() override { return systemFiles().lastError(); }
 
@@ -45,8 +49,8 @@ private:
 
 std::string rewritten(const FilesOnDisk::File& file) {
     if (file.category == Category::Weapons) {
-        WeaponReadReport report;
-        const auto weapon = readWeaponFile(file.path, "weapon", report);
+        Diagnostics diagnostics;
+        const auto weapon = readWeaponFile(file.path, "weapon", diagnostics);
         return weapon ? weaponFileText(*weapon) : std::string();
     }
     Diagnostics diagnostics;

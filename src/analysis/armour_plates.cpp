@@ -1,6 +1,7 @@
 #include "analysis/armour_plates.h"
 
 #include "data/unit/elements.h"
+#include "data/unit/plate_rows.h"
 
 #include <array>
 
@@ -9,22 +10,6 @@ namespace varrocade {
 namespace {
 
 namespace e = element;
-
-struct PlateRow {
-    std::string_view name;
-    ArmourPlate ArmourRecord::*plate;
-};
-
-constexpr auto Plates = std::to_array<PlateRow>({
-    {e::UpperFront, &ArmourRecord::upperFront},
-    {e::LowerFront, &ArmourRecord::lowerFront},
-    {e::UpperLeft, &ArmourRecord::upperLeft},
-    {e::UpperRight, &ArmourRecord::upperRight},
-    {e::LowerLeft, &ArmourRecord::lowerLeft},
-    {e::LowerRight, &ArmourRecord::lowerRight},
-    {e::UpperRear, &ArmourRecord::upperRear},
-    {e::LowerRear, &ArmourRecord::lowerRear},
-});
 
 struct ThicknessRow {
     std::string_view name;
@@ -52,8 +37,8 @@ std::vector<VehiclePlate> armourPlates(const VehicleRecord& vehicle) {
     };
     for (std::size_t i = 0; i < vehicle.components.size(); ++i) {
         const ArmourRecord& armour = vehicle.components[i].armour;
-        for (const PlateRow& row : Plates) {
-            add(i, row.name, armour.*row.plate);
+        for (const ArmourPlateRow& row : ArmourPlateRows) {
+            add(i, row.element, armour.*row.member);
         }
         for (const ThicknessRow& row : Thicknesses) {
             add(i, row.name, {.thickness = armour.*row.thickness, .angle = row.angle});

@@ -184,6 +184,19 @@ std::string velocityText(double velocity) {
     return text;
 }
 
+std::array<PenetrationRow, PenetrationRanges.size()> penetrationRows(const Projectile& projectile,
+                                                                     double drag, double angle) {
+    std::array<PenetrationRow, PenetrationRanges.size()> rows;
+    for (std::size_t row = 0; row < rows.size(); ++row) {
+        const int range = PenetrationRanges[row];
+        const Impact impact = impactAt(projectile, drag, range, angle);
+        rows[row] = {.range = range,
+                     .penetration = penetrationText(impact.penetration),
+                     .velocity = velocityText(impact.velocity)};
+    }
+    return rows;
+}
+
 PenetrationCurve penetrationCurve(const Projectile& projectile, double drag) {
     PenetrationCurve curve(CurveEnd + 1);
     for (std::size_t metre = 0; metre < curve.size(); ++metre) {

@@ -60,7 +60,7 @@ double penetrationOf(const Projectile& projectile, double velocity);
 /// What is left of the penetration of upright armour when the plate leans by `angle` degrees.
 double angleFactor(double angle);
 
-/// A row of the calculator.
+/// What a projectile still does at a range.
 struct Impact {
     double velocity = 0.0;    ///< m/s
     double penetration = 0.0; ///< millimetres of the leaning plate
@@ -72,6 +72,17 @@ Impact impactAt(const Projectile& projectile, double drag, double range, double 
 std::string penetrationText(double penetration);
 /// "935 m/s"
 std::string velocityText(double velocity);
+
+/// A row of the calculator for people.
+struct PenetrationRow {
+    int range = 0;           ///< metres
+    std::string penetration; ///< of the leaning plate, as `penetrationText`
+    std::string velocity;    ///< as `velocityText`
+};
+
+/// The calculator's rows, one for each of `PenetrationRanges`, for a plate that leans by `angle` degrees.
+std::array<PenetrationRow, PenetrationRanges.size()> penetrationRows(const Projectile& projectile,
+                                                                     double drag, double angle);
 
 /// Curves end at this range, in metres.
 inline constexpr int CurveEnd = 3000;

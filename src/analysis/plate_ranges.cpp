@@ -20,10 +20,14 @@ constexpr auto RangeBands = std::to_array<RangeBand>({
 
 } // namespace
 
+std::optional<int> rangeThrough(const PenetrationCurve& curve, const ArmourPlate& plate) {
+    return rangeThrough(curve, plate.thickness, plate.angle);
+}
+
 std::vector<PlateRange> plateRanges(const VehicleRecord& vehicle, const PenetrationCurve& curve) {
     std::vector<PlateRange> ranges;
     for (const VehiclePlate& plate : armourPlates(vehicle)) {
-        ranges.push_back({plate, rangeThrough(curve, plate.plate.thickness, plate.plate.angle)});
+        ranges.push_back({plate, rangeThrough(curve, plate.plate)});
     }
     return ranges;
 }

@@ -17,8 +17,11 @@ struct PlateRange {
     std::optional<int> range; ///< metres, at most `CurveEnd`; nothing when it does not go through at all
 };
 
-/// Every plate of `armourPlates` with the range up to which a projectile with this curve goes through it, the
-/// plate's own angle taken into account.
+/// The range up to which a projectile with this curve goes through a plate, the plate's own angle taken into
+/// account; nothing when it does not at all.
+std::optional<int> rangeThrough(const PenetrationCurve& curve, const ArmourPlate& plate);
+
+/// Every plate of `armourPlates` with the range up to which a projectile with this curve goes through it.
 std::vector<PlateRange> plateRanges(const VehicleRecord& vehicle, const PenetrationCurve& curve);
 
 /// Ranges that a drawing shows in one colour.

@@ -19,6 +19,11 @@ constexpr auto Commands = std::to_array<Command>({
      "that leans by ANGLE degrees and the drag coefficient K; with --matrix, tab separated, the range up to "
      "which every ammunition type goes through every plate of every vehicle, at most 3000 m, \"-\" for none",
      penetrationCommand},
+    {"performance", "FOLDER [--estimate-weight]",
+     "prints weight, estimated weight, speeds, acceleration and steepest slope of every vehicle of a game "
+     "folder or a folder of vehicles, tab separated; with --estimate-weight, those without a weight drive "
+     "with the estimate",
+     performanceCommand},
     {"tree", "FILE", "prints how the file parses, one element a line", treeCommand},
 });
 
@@ -40,6 +45,10 @@ std::span<const Command> commands() {
 void complain(std::string_view text) {
     const std::string line = "varrocade-data: " + std::string(text) + "\n";
     std::fputs(line.c_str(), stderr);
+}
+
+bool print(std::string_view text) {
+    return std::fwrite(text.data(), 1, text.size(), stdout) == text.size();
 }
 
 std::string asFolder(std::string path) {

@@ -30,6 +30,9 @@ int runCommandLine(Arguments arguments);
 /// Says on standard error what went wrong.
 void complain(std::string_view text);
 
+/// To standard output; false when not all of it could be written.
+bool print(std::string_view text);
+
 /// A folder as paths are built from it: ending in a separator.
 std::string asFolder(std::string path);
 
@@ -38,6 +41,9 @@ int rewriteCommand(Arguments arguments);
 
 /// `penetration WEAPONFILE SHELLINDEX ANGLE K` and `penetration --matrix GAMEFOLDER`
 int penetrationCommand(Arguments arguments);
+
+/// `performance FOLDER [--estimate-weight]`
+int performanceCommand(Arguments arguments);
 
 /// `tree FILE`
 int treeCommand(Arguments arguments);

@@ -1,16 +1,16 @@
 #include "cli/command_line.h"
 #include "data/category.h"
+#include "data/finding_text.h"
 #include "data/format/texts.h"
 #include "data/losses/save_losses.h"
-#include "data/unit/unit_reader.h"
-#include "data/unit/unit_writers.h"
+#include "data/reading/unit_reader.h"
+#include "data/writing/unit_writers.h"
 #include "platform/file_operations.h"
 #include "platform/safe_save.h"
 #include "weapons/weapon_files.h"
 #include "weapons/weapon_losses.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <vector>
 
 namespace varrocade::cli {
@@ -31,15 +31,15 @@ std::string_view stemOf(std::string_view path) {
 }
 
 std::optional<std::string> rewritten(Category category, const std::string& content, std::string_view name) {
-    WeaponReadReport report;
+    Diagnostics diagnostics;
     std::optional<std::string> text;
     if (category == Category::Weapons) {
-        text = weaponFileText(readWeapon(content, name, report));
+        text = weaponFileText(readWeapon(content, name, diagnostics));
     } else {
-        text = unitFileText(category, readUnit(content, name, report.diagnostics));
+        text = unitFileText(category, readUnit(content, name, diagnostics));
     }
-    for (const std::string& line : report.diagnostics) {
-        complain(line);
+    for (const Finding& finding : diagnostics) {
+        complain(debuggerLine(finding));
     }
     return text;
 }
@@ -52,14 +52,13 @@ struct Task {
 
 /// Prints what the rewritten file loses; returns the exit status that follows from it.
 int explainLosses(Category category, const std::string& path, const std::string& content) {
-    const std::optional<std::vector<SaveLoss>> losses =
+    const std::optional<std::vector<Finding>> losses =
         category == Category::Weapons ? weaponSaveLosses(content) : unitSaveLosses(category, content);
     if (!losses || losses->empty()) {
         return Done;
     }
-    for (const SaveLoss& loss : *losses) {
-        const std::string line = path + ":" + lossText(loss) + "\n";
-        std::fwrite(line.data(), 1, line.size(), stdout);
+    for (const Finding& loss : *losses) {
+        print(path + ":" + lossText(loss) + "\n");
     }
     return Findings;
 }

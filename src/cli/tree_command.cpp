@@ -2,15 +2,9 @@
 #include "data/format/tag_tree.h"
 #include "platform/file_operations.h"
 
-#include <cstdio>
-
 namespace varrocade::cli {
 
 namespace {
-
-bool print(std::string_view text) {
-    return std::fwrite(text.data(), 1, text.size(), stdout) == text.size();
-}
 
 bool printIndent(std::size_t depth) {
     static const std::string blanks(4096, ' ');

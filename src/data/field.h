@@ -19,7 +19,7 @@ enum class FieldKind : std::uint8_t {
     Number,      ///< whole, within `range`
     Real,        ///< with decimals
     Flag,        ///< "yes" or "no"
-    String,      ///< words for people
+    Prose,       ///< words for people
     Word,        ///< one of `words`, or what a file has in its place
     Choice,      ///< one of `words` and nothing else: a value of an enumeration
     Nationality, ///< one of `words`
@@ -211,7 +211,7 @@ constexpr auto flag(bool R::*member, std::string_view element, std::string_view 
 template <typename R, typename V>
 constexpr auto text(V R::*member, std::string_view element, std::string_view label,
                     const FieldTraits& traits = {}) {
-    return make(FieldKind::String, member, element, label, traits);
+    return make(FieldKind::Prose, member, element, label, traits);
 }
 
 template <typename R, typename V>

@@ -11,6 +11,7 @@
 #include "data/format/numbers.h"
 #include "data/format/tag_tree.h"
 #include "data/losses/reading_trace.h"
+#include "data/reader_findings.h"
 #include "data/unit/image_names.h"
 
 #include <algorithm>
@@ -25,8 +26,9 @@ namespace varrocade {
 
 /// What every walk over a tree knows.
 struct TagReading {
-    std::string_view fileContent;
     const TagTree& tree;
+    /// Where to note what the record cannot take, or null.
+    ReaderFindings* findings = nullptr;
     const TagNode* node = nullptr; ///< the present one
     /// Where to note what becomes of each element, or null.
     ReadingTrace* trace = nullptr;
@@ -151,6 +153,16 @@ typename Reading::Place apply(const RuleTable<Reading>& table, Reading& reading,
 inline void noteEntry(TagReading& reading, bool alone = false) {
     if (reading.trace != nullptr) {
         reading.trace->noteEntry(reading.node->name, alone);
+    }
+}
+
+/// The element found no room in the record. `what`: such as "more than 13 components".
+inline void reportLeftOut(TagReading& reading, std::string_view what) {
+    if (reading.trace != nullptr) {
+        reading.trace->noteLeftOut(what);
+    }
+    if (reading.findings != nullptr && reading.node != nullptr) {
+        reading.findings->addLeftOut(*reading.node, what);
     }
 }
 

@@ -92,7 +92,8 @@ inline constexpr auto NumberOfUnits = row::number(&AvailabilityPoint::number, "n
 
 inline constexpr auto ProfileImage =
     row::image(&VehicleRecord::profileImage, "image_profile", "Control panel image", image_sources::Profile);
-inline constexpr auto Weight = row::number(&VehicleRecord::weight, "weight", "Weight", {.unit = Kilograms});
+inline constexpr auto Weight = row::number(&VehicleRecord::weight, "weight", "Weight",
+                                           {.unit = Kilograms, .range = {.zeroForOtherTexts = true}});
 inline constexpr auto CanMountInfantry =
     row::flag(&VehicleRecord::canMountInfantry, "can_mount_infantry", "Can mount infantry");
 inline constexpr auto Amphibious = row::flag(&VehicleRecord::amphibious, "is_amphibious", "Is amphibious");

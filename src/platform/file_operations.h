@@ -48,7 +48,12 @@ public:
     virtual std::unique_ptr<OutputFile> createNew(const std::string& path) = 0;
     /// Puts `from` in the place of `to` in one step; `to` need not exist.
     virtual bool replace(const std::string& from, const std::string& to) = 0;
+    /// Gives a file another name; fails where another file has it. The same letters in another case are a
+    /// fair new name.
+    virtual bool rename(const std::string& from, const std::string& to) = 0;
     virtual bool remove(const std::string& path) = 0;
+    /// Moves a file to the recycle bin; removes it where the system has none.
+    virtual bool recycle(const std::string& path) = 0;
     /// Creates one folder; an existing one is no failure.
     virtual bool createFolder(const std::string& path) = 0;
     /// The reason of the last failure, in the system's words.

@@ -8,7 +8,6 @@ namespace {
 
 // Eight bytes of signature, the length and name of the first chunk, then width and height, high byte first
 // (PNG standard, 5.2 and 11.2.2).
-constexpr std::string_view Signature = "\x89PNG\r\n\x1A\n";
 constexpr std::size_t HeaderNamePlace = 12;
 constexpr std::size_t WidthPlace = 16;
 constexpr std::size_t HeightPlace = 20;
@@ -26,7 +25,7 @@ std::uint32_t bigEndian(std::string_view bytes) {
 } // namespace
 
 std::optional<PictureSize> pngSizeOf(std::string_view bytes) {
-    if (bytes.size() < HeaderEnd || !bytes.starts_with(Signature) ||
+    if (bytes.size() < HeaderEnd || !bytes.starts_with(PngSignature) ||
         bytes.substr(HeaderNamePlace, 4) != "IHDR") {
         return std::nullopt;
     }

@@ -7,6 +7,9 @@
 
 namespace varrocade {
 
+/// What a PNG file begins with.
+inline constexpr std::string_view PngSignature = "\x89PNG\r\n\x1A\n";
+
 /// A picture's size in pixels.
 struct PictureSize {
     std::int32_t width = 0;

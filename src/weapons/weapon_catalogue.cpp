@@ -1,14 +1,15 @@
 #include "weapons/weapon_catalogue.h"
 
-#include "data/category.h"
+#include "data/finding_text.h"
 #include "data/format/texts.h"
 #include "data/unit/enumerations.h"
 #include "data/unit/image_names.h"
+#include "platform/file_operations.h"
 #include "weapons/weapon_files.h"
 
 #include <algorithm>
 #include <array>
-#include <unordered_set>
+#include <iterator>
 #include <utility>
 
 namespace varrocade {
@@ -55,16 +56,10 @@ bool comesBefore(const CatalogueEntry& a, const CatalogueEntry& b) {
     return order != 0 ? order < 0 : left.fileName < right.fileName;
 }
 
-std::string_view withoutEnding(std::string_view diskName) {
-    return diskName.substr(0, diskName.size() - DataFileEnding.size());
-}
-
-bool isFileNamed(std::string_view diskName, std::string_view fileName) {
-    return diskName.size() >= DataFileEnding.size() && equalsIgnoringCase(withoutEnding(diskName), fileName);
-}
-
-std::string_view nameInFolder(std::string_view path) {
-    return path.substr(path.rfind('\\') + 1);
+/// The name of a data file, or an empty one where the path is that of a folder.
+std::string_view nameOfPath(std::string_view path) {
+    path.remove_prefix(path.rfind('\\') + 1);
+    return path.substr(0, path.size() - std::min(path.size(), DataFileEnding.size()));
 }
 
 /// Whether a file set nothing of its record but its name.
@@ -121,43 +116,86 @@ bool lists(std::string_view list, std::string_view wanted, std::string_view (*me
 
 } // namespace
 
-/// What reading one file after the other uses again.
-struct WeaponCatalogue::Reading {
-    std::string content;
-    TagTree tree;
-};
-
 void WeaponCatalogue::load(std::string_view programFolder, std::string_view modFolder) {
-    folders_.clear();
+    folders_ = {.program = std::string(programFolder), .mod = std::string(modFolder)};
     entries_.clear();
+    GameFileList list = listGameFiles(folders_, Category::Weapons);
     problems_.clear();
-    if (!modFolder.empty()) {
-        folders_.push_back(categoryFolder(modFolder, Category::Weapons));
+    std::transform(list.failures.begin(), list.failures.end(), std::back_inserter(problems_), cannotRead);
+    addFiles(std::move(list));
+}
+
+void WeaponCatalogue::refresh(std::string_view fileName) {
+    std::erase_if(entries_, [fileName](const CatalogueEntry& entry) {
+        return equalsIgnoringCase(entry.weapon.fileName, fileName);
+    });
+    std::erase_if(problems_, [fileName](const Finding& problem) {
+        return equalsIgnoringCase(nameOfPath(problem.file), fileName);
+    });
+    GameFileList list = listGameFiles(folders_, Category::Weapons);
+    const auto isOther = [fileName](const GameFile& file) {
+        return !equalsIgnoringCase(file.name, fileName);
+    };
+    std::erase_if(list.files, isOther);
+    std::erase_if(list.hidden, isOther);
+    addFiles(std::move(list));
+}
+
+/// Reads the files that count, and hidden ones in whose place there is no weapon.
+void WeaponCatalogue::addFiles(GameFileList list) {
+    TagTree tree;
+    entries_.reserve(entries_.size() + list.files.size());
+    GameFileWalk counting(std::move(list.files));
+    counting.run([&](const GameFile& file, std::string_view content) {
+        entries_.push_back(readEntry(file, content, tree));
+    });
+    for (const FileFailure& failure : counting.failures()) {
+        CatalogueEntry& entry = entries_.emplace_back();
+        entry.path = failure.path;
+        entry.weapon.fileName = nameOfPath(failure.path);
+        entry.holdsWeapon = false;
+        problems_.push_back(cannotRead(failure));
     }
-    folders_.push_back(categoryFolder(programFolder, Category::Weapons));
-    Reading reading;
-    for (const std::string& folder : folders_) {
-        addFolder(folder, reading);
-    }
-    dropShadowed();
+    std::erase_if(list.hidden, [&](const GameFile& file) { return entryToReplace(file) == nullptr; });
+    GameFileWalk hidden(std::move(list.hidden));
+    hidden.run([&](const GameFile& file, std::string_view content) {
+        CatalogueEntry* const place = entryToReplace(file);
+        if (place == nullptr) {
+            return;
+        }
+        if (CatalogueEntry entry = readEntry(file, content, tree); entry.holdsWeapon) {
+            *place = std::move(entry);
+        }
+    });
+    std::transform(hidden.failures().begin(), hidden.failures().end(), std::back_inserter(problems_),
+                   cannotRead);
     sortEntries();
 }
 
-/// A file without a weapon is of no account where another of its name has one, or none either.
-void WeaponCatalogue::dropShadowed() {
-    const auto holdsNone = [](const CatalogueEntry& entry) { return !entry.holdsWeapon; };
-    if (std::none_of(entries_.begin(), entries_.end(), holdsNone)) {
-        return;
-    }
-    std::unordered_set<std::string> present;
-    for (const CatalogueEntry& entry : entries_) {
-        if (entry.holdsWeapon) {
-            present.insert(loweredText(entry.weapon.fileName));
-        }
-    }
-    std::erase_if(entries_, [&](const CatalogueEntry& entry) {
-        return holdsNone(entry) && !present.insert(loweredText(entry.weapon.fileName)).second;
+/// The entry without a weapon that has the name of a file; null where there is none.
+CatalogueEntry* WeaponCatalogue::entryToReplace(const GameFile& file) {
+    const auto found = std::find_if(entries_.begin(), entries_.end(), [&](const CatalogueEntry& entry) {
+        return !entry.holdsWeapon && equalsIgnoringCase(entry.weapon.fileName, file.name);
     });
+    return found == entries_.end() ? nullptr : &*found;
+}
+
+CatalogueEntry WeaponCatalogue::readEntry(const GameFile& file, std::string_view content, TagTree& tree) {
+    CatalogueEntry entry{.path = file.path};
+    Diagnostics diagnostics;
+    entry.weapon = readWeapon(tree, content, file.name, diagnostics);
+    for (Finding& finding : diagnostics) {
+        finding.file = entry.path;
+        problems_.push_back(std::move(finding));
+    }
+    entry.holdsWeapon = !isUntouched(entry.weapon);
+    if (!entry.holdsWeapon) {
+        problems_.push_back({.key = finding_key::NoWeapon,
+                             .severity = Severity::Error,
+                             .file = entry.path,
+                             .message = "holds no weapon"});
+    }
+    return entry;
 }
 
 /// Records are large: their places are sorted, and each record is moved once.
@@ -175,83 +213,6 @@ void WeaponCatalogue::sortEntries() {
         sorted.push_back(std::move(*entry));
     }
     entries_ = std::move(sorted);
-}
-
-/// Appends the files of a folder, but for those whose names have a weapon already.
-void WeaponCatalogue::addFolder(const std::string& folder, Reading& reading) {
-    std::vector<std::string> diskNames;
-    if (!listFiles(folder, DataFileEnding, diskNames)) {
-        std::string reason = systemFiles().lastError();
-        // Only the last folder, the program's, must be there.
-        if (&folder == &folders_.back() || isFolder(folder)) {
-            problems_.push_back({folder, std::move(reason)});
-        }
-        return;
-    }
-    std::sort(diskNames.begin(), diskNames.end());
-    std::unordered_set<std::string> present;
-    for (const CatalogueEntry& entry : entries_) {
-        if (entry.holdsWeapon) {
-            present.insert(loweredText(entry.weapon.fileName));
-        }
-    }
-    entries_.reserve(entries_.size() + diskNames.size());
-    for (const std::string& diskName : diskNames) {
-        std::string key = loweredText(withoutEnding(diskName));
-        if (present.contains(key)) {
-            continue;
-        }
-        addFile(folder, diskName, reading);
-        if (entries_.back().holdsWeapon) {
-            present.insert(std::move(key));
-        }
-    }
-}
-
-/// Appends the entry of one file.
-void WeaponCatalogue::addFile(const std::string& folder, std::string_view diskName, Reading& reading) {
-    CatalogueEntry entry{.path = folder + std::string(diskName)};
-    const std::string_view fileName = withoutEnding(diskName);
-    if (readWholeFile(entry.path, reading.content)) {
-        WeaponReadReport report;
-        entry.weapon = readWeapon(reading.tree, reading.content, fileName, report);
-        for (std::string& line : report.diagnostics) {
-            problems_.push_back({entry.path, std::move(line)});
-        }
-        entry.holdsWeapon = !isUntouched(entry.weapon);
-        if (!entry.holdsWeapon) {
-            problems_.push_back({entry.path, "holds no weapon"});
-        }
-    } else {
-        problems_.push_back({entry.path, systemFiles().lastError()});
-        entry.holdsWeapon = false;
-        entry.weapon.fileName = fileName;
-    }
-    entries_.push_back(std::move(entry));
-}
-
-void WeaponCatalogue::refresh(std::string_view fileName) {
-    std::erase_if(entries_, [fileName](const CatalogueEntry& entry) {
-        return equalsIgnoringCase(entry.weapon.fileName, fileName);
-    });
-    std::erase_if(problems_, [fileName](const FileFailure& problem) {
-        return isFileNamed(nameInFolder(problem.path), fileName);
-    });
-    std::vector<std::string> diskNames;
-    Reading reading;
-    bool isFound = false;
-    for (const std::string& folder : folders_) {
-        listFiles(folder, DataFileEnding, diskNames);
-        const auto found =
-            std::find_if(diskNames.begin(), diskNames.end(),
-                         [fileName](const std::string& diskName) { return isFileNamed(diskName, fileName); });
-        if (found != diskNames.end() && !isFound) {
-            addFile(folder, *found, reading);
-            isFound = entries_.back().holdsWeapon;
-        }
-    }
-    dropShadowed();
-    sortEntries();
 }
 
 std::vector<const WeaponRecord*> WeaponCatalogue::select(const WeaponFilter& filter) const {
@@ -287,14 +248,11 @@ const WeaponRecord* WeaponCatalogue::find(std::string_view name) const {
     return named;
 }
 
-std::vector<std::string> WeaponCatalogue::problemsOf(std::string_view path) const {
-    std::vector<std::string> reasons;
-    for (const FileFailure& problem : problems_) {
-        if (problem.path == path) {
-            reasons.push_back(problem.reason);
-        }
-    }
-    return reasons;
+std::vector<Finding> WeaponCatalogue::problemsOf(std::string_view path) const {
+    std::vector<Finding> found;
+    std::copy_if(problems_.begin(), problems_.end(), std::back_inserter(found),
+                 [path](const Finding& problem) { return problem.file == path; });
+    return found;
 }
 
 } // namespace varrocade

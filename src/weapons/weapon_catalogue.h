@@ -2,7 +2,9 @@
 // All weapons of the game and of the mod in use: what the drop-down lists of the editors offer, and where the
 // figures behind a weapon's name are looked up.
 
-#include "platform/file_operations.h"
+#include "data/finding.h"
+#include "data/format/tag_tree.h"
+#include "data/game_files.h"
 #include "weapons/weapon_record.h"
 
 #include <span>
@@ -54,23 +56,21 @@ public:
     [[nodiscard]] const WeaponRecord* find(std::string_view name) const;
 
     /// The files that could not be read or hold no weapon, and those with data that a record cannot take,
-    /// with the reasons.
-    [[nodiscard]] const std::vector<FileFailure>& problems() const { return problems_; }
+    /// by their paths.
+    [[nodiscard]] const std::vector<Finding>& problems() const { return problems_; }
 
-    /// The reasons that concern one file.
-    [[nodiscard]] std::vector<std::string> problemsOf(std::string_view path) const;
+    /// Those that concern one file.
+    [[nodiscard]] std::vector<Finding> problemsOf(std::string_view path) const;
 
 private:
-    struct Reading;
-
-    void addFile(const std::string& folder, std::string_view diskName, Reading& reading);
-    void addFolder(const std::string& folder, Reading& reading);
-    void dropShadowed();
+    void addFiles(GameFileList list);
+    CatalogueEntry* entryToReplace(const GameFile& file);
+    CatalogueEntry readEntry(const GameFile& file, std::string_view content, TagTree& tree);
     void sortEntries();
 
-    std::vector<std::string> folders_; ///< of the weapon files; the first one counts
+    GameFolders folders_;
     std::vector<CatalogueEntry> entries_;
-    std::vector<FileFailure> problems_;
+    std::vector<Finding> problems_;
 };
 
 } // namespace varrocade

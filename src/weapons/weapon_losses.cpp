@@ -11,8 +11,7 @@ namespace varrocade {
 namespace {
 
 WeaponRecord readTraced(TracedFile& file) {
-    WeaponReadReport ignored;
-    return weapon_rules::readTree(file.tree, file.content, {}, ignored, &file.trace);
+    return weapon_rules::readTree(file.tree, {}, nullptr, &file.trace);
 }
 
 bool goesWithoutSaying(const FieldHistory&, const TracedValue&) {
@@ -21,7 +20,7 @@ bool goesWithoutSaying(const FieldHistory&, const TracedValue&) {
 
 } // namespace
 
-std::vector<SaveLoss> weaponSaveLosses(std::string_view fileContent) {
+std::vector<Finding> weaponSaveLosses(std::string_view fileContent) {
     TracedFile file(fileContent);
     const std::string text = weaponFileText(readTraced(file));
     TracedFile saved(text);

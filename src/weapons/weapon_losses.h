@@ -8,6 +8,6 @@
 
 namespace varrocade {
 
-std::vector<SaveLoss> weaponSaveLosses(std::string_view fileContent);
+std::vector<Finding> weaponSaveLosses(std::string_view fileContent);
 
 } // namespace varrocade

@@ -1,8 +1,8 @@
+#include "data/finding_text.h"
 #include "data/format/numbers.h"
 #include "data/tag_rules.h"
 #include "data/unit/image_names.h"
 #include "platform/file_operations.h"
-#include "platform/messages.h"
 #include "weapons/weapon_elements.h"
 #include "weapons/weapon_fields.h"
 #include "weapons/weapon_files.h"
@@ -34,7 +34,6 @@ struct Reading : TagReading {
     using File = WeaponRecord;
 
     WeaponRecord& weapon;
-    WeaponReadReport& report;
     AmmoTypeRecord* ammoType = nullptr;
 };
 
@@ -78,13 +77,6 @@ void setWord(Reading& reading, std::string_view text) {
     }
 }
 
-void report(Reading& reading, const std::string& line) {
-    constexpr std::size_t mostLines = 100;
-    if (reading.report.diagnostics.size() < mostLines) {
-        reading.report.diagnostics.push_back(line);
-    }
-}
-
 void setType(Reading& reading, std::string_view text) {
     const WeaponType type = weaponTypeOf(text);
     WeaponRecord* weapon = targetOf<wf::Type>(reading);
@@ -92,11 +84,12 @@ void setType(Reading& reading, std::string_view text) {
         weapon->type = type;
         return;
     }
-    report(reading, "\xF0\x9F\x92\xA5 ERROR: WeaponDataList: getListEntryForWeapon() unknown <type> in '" +
-                        std::string(text) + "'");
-    constexpr std::size_t mostBoxes = 3;
-    if (!reading.weapon.name.empty() && reading.report.unknownTypes.size() < mostBoxes) {
-        reading.report.unknownTypes.emplace_back(text);
+    if (reading.findings != nullptr) {
+        reading.findings->addAtText(*reading.node, {.key = finding_key::UnknownWeaponType,
+                                                    .severity = Severity::Error,
+                                                    .field = std::string(we::Type),
+                                                    .message = quoted(text) + " is not a weapon type",
+                                                    .subject = weapon->name});
     }
 }
 
@@ -134,12 +127,7 @@ void addAmmoType(Reading& reading, std::string_view) {
         tag_rules::noteEntry(reading);
         return;
     }
-    if (reading.trace != nullptr) {
-        reading.trace->noteLeftOut("more than 255 ammunition types");
-    }
-    report(reading, "ERROR: " + reading.weapon.fileName + ": line " +
-                        std::to_string(reading.tree.lineOf(reading.node->name, reading.fileContent)) +
-                        ": more than 255 ammunition types: left out");
+    tag_rules::reportLeftOut(reading, "more than 255 ammunition types");
 }
 
 /// An element that sets one field.
@@ -207,12 +195,11 @@ Place visitNode(Reading& reading, Place parent, const TagNode& node, bool& hasRu
 
 } // namespace
 
-WeaponRecord weapon_rules::readTree(const TagTree& tree, std::string_view fileContent,
-                                    std::string_view fileName, WeaponReadReport& report,
+WeaponRecord weapon_rules::readTree(const TagTree& tree, std::string_view fileName, ReaderFindings* findings,
                                     ReadingTrace* trace) {
     WeaponRecord weapon;
     weapon.fileName = fileName;
-    Reading reading{{.fileContent = fileContent, .tree = tree, .trace = trace}, weapon, report};
+    Reading reading{{.tree = tree, .findings = findings, .trace = trace}, weapon};
     tag_rules::walk(reading, visitNode);
     return weapon;
 }
@@ -221,41 +208,36 @@ bool weapon_rules::isElement(std::string_view name) {
     return weaponRules().knows(name);
 }
 
-WeaponRecord readWeapon(std::string_view fileContent, std::string_view fileName, WeaponReadReport& report) {
+WeaponRecord readWeapon(std::string_view fileContent, std::string_view fileName, Diagnostics& diagnostics) {
     TagTree tree;
-    return readWeapon(tree, fileContent, fileName, report);
+    return readWeapon(tree, fileContent, fileName, diagnostics);
 }
 
 WeaponRecord readWeapon(TagTree& tree, std::string_view fileContent, std::string_view fileName,
-                        WeaponReadReport& report) {
+                        Diagnostics& diagnostics) {
     tree.parse(fileContent);
-    return weapon_rules::readTree(tree, fileContent, fileName, report, nullptr);
+    ReaderFindings findings(diagnostics, fileName, tree, fileContent);
+    return weapon_rules::readTree(tree, fileName, &findings, nullptr);
 }
 
 std::optional<WeaponRecord> readWeaponFile(const std::string& path, std::string_view fileName,
-                                           WeaponReadReport& report) {
+                                           Diagnostics& diagnostics) {
     std::string content;
     if (!readWholeFile(path, content)) {
         return std::nullopt;
     }
-    return readWeapon(content, fileName, report);
+    return readWeapon(content, fileName, diagnostics);
 }
 
-std::optional<WeaponRecord> loadWeapon(std::string_view base, std::string_view fileName) {
+LoadedWeapon loadWeapon(FileOperations& files, std::string_view base, std::string_view fileName) {
+    LoadedWeapon loaded;
     const std::string path = dataFilePath(base, Category::Weapons, fileName);
-    WeaponReadReport report;
-    std::optional<WeaponRecord> weapon = readWeaponFile(path, fileName, report);
-    if (!weapon) {
-        showCouldNotLoad(path);
+    if (files.read(path, loaded.content)) {
+        loaded.record = readWeapon(loaded.content, fileName, loaded.diagnostics);
+    } else {
+        loaded.failure = {path, files.lastError()};
     }
-    for (const std::string& line : report.diagnostics) {
-        debugLine(line);
-    }
-    for (const std::string& type : report.unknownTypes) {
-        showMessage(
-            {.text = "unknown <type> '" + type + "'", .caption = weapon->name, .icon = MessageIcon::Error});
-    }
-    return weapon;
+    return loaded;
 }
 
 } // namespace varrocade

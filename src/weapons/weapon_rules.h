@@ -3,6 +3,7 @@
 
 #include "data/format/tag_tree.h"
 #include "data/losses/reading_trace.h"
+#include "data/reader_findings.h"
 #include "weapons/weapon_files.h"
 
 #include <string>
@@ -10,9 +11,9 @@
 
 namespace varrocade::weapon_rules {
 
-/// Reads a tree; `fileContent` is what it was parsed from. `trace` may be null.
-WeaponRecord readTree(const TagTree& tree, std::string_view fileContent, std::string_view fileName,
-                      WeaponReadReport& report, ReadingTrace* trace);
+/// Reads a tree. `findings` and `trace` may be null.
+WeaponRecord readTree(const TagTree& tree, std::string_view fileName, ReaderFindings* findings,
+                      ReadingTrace* trace);
 
 /// Whether an element of this name means something in some place.
 bool isElement(std::string_view name);

@@ -1,7 +1,6 @@
 // The layout of weapon files, top to bottom.
 
 #include "data/field_text.h"
-#include "platform/messages.h"
 #include "weapons/weapon_elements.h"
 #include "weapons/weapon_fields.h"
 #include "weapons/weapon_files.h"
@@ -83,15 +82,14 @@ std::string weaponFileText(const WeaponRecord& weapon) {
     return out.take();
 }
 
-SaveResult saveWeapon(FileOperations& files, BackupKeeper& backups, const std::string& base,
-                      std::string_view fileName, const WeaponRecord& weapon) {
+SaveOutcome saveWeapon(FileOperations& files, BackupKeeper& backups, const std::string& base,
+                       std::string_view fileName, const WeaponRecord& weapon) {
+    std::string text = weaponFileText(weapon);
     const std::string path = dataFilePath(base, Category::Weapons, fileName);
-    if (const auto failure = replaceDataFile(files, backups, base, path, weaponFileText(weapon))) {
-        debugLine("ERROR: " + failure->path + ": " + failure->reason);
-        showCouldNotSave(path);
-        return SaveResult::Failed;
+    if (auto failure = replaceDataFile(files, backups, base, path, text)) {
+        return {.result = SaveResult::Failed, .failure = std::move(*failure)};
     }
-    return SaveResult::Saved;
+    return {.result = SaveResult::Saved, .content = std::move(text)};
 }
 
 } // namespace varrocade

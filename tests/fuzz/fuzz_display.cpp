@@ -1,9 +1,10 @@
 // Reads any bytes as a unit and as a weapon, composes what the window shows of them, and moves every part
 // that can be moved: whatever a file says, it can be looked at.
 
-#include "data/unit/unit_reader.h"
+#include "data/reading/unit_reader.h"
 #include "round_trip.h"
 #include "view/drawing/draw_list.h"
+#include "view/drawing/part_at.h"
 #include "view/drawing/part_positions.h"
 #include "view/drawing/plate_outline.h"
 #include "view/drawing/view_place.h"
@@ -83,8 +84,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string_view content(reinterpret_cast<const char*>(data), size);
     Diagnostics diagnostics;
     fuzz::showUnit(readUnit(content, "unit", diagnostics));
-    WeaponReadReport report;
-    const WeaponRecord weapon = readWeapon(content, "weapon", report);
+    const WeaponRecord weapon = readWeapon(content, "weapon", diagnostics);
     fuzz::HalfThePictures pictures;
     fuzz::look(drawWeapon(weapon, {.bases = {"a\\", "bc\\"}}, pictures));
     weaponSheet(weapon, {}, {});

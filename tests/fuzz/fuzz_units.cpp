@@ -1,8 +1,8 @@
 // Reads any bytes as a unit file, and checks that what each writer makes of the unit is read and written
 // again.
 
-#include "data/unit/unit_reader.h"
-#include "data/unit/unit_writers.h"
+#include "data/reading/unit_reader.h"
+#include "data/writing/unit_writers.h"
 #include "round_trip.h"
 
 #include <cstddef>

@@ -11,8 +11,8 @@ namespace varrocade::fuzz {
 namespace {
 
 WeaponRecord read(std::string_view content) {
-    WeaponReadReport report;
-    return readWeapon(content, "weapon", report);
+    Diagnostics diagnostics;
+    return readWeapon(content, "weapon", diagnostics);
 }
 
 /// Comments stand on a line of their own, so blanks at their ends are lost.

@@ -272,6 +272,10 @@ protected:
         EXPECT_TRUE(eventually([&] { return !dialog.isEnabled(); })) << "nothing is refused";
         answer(box);
     }
+    /// Whether a control shows that it was refused.
+    static bool isMarked(Window control) {
+        return GetPropA(control.handle(), "Varrocade.Refused") != nullptr;
+    }
     void runCase(const DialogCase& row) const {
         const std::string before = tigerText();
         std::vector<Window> dialogs = open(row.path);
@@ -282,8 +286,10 @@ protected:
         if (!row.wrong.empty()) {
             refuse(dialog, IDOK, row.refusal);
             EXPECT_EQ(editor->focus(), dialog.control(row.focused));
+            EXPECT_TRUE(isMarked(dialog.control(row.focused)));
         }
         act(dialog, row.changes);
+        EXPECT_FALSE(!row.wrong.empty() && isMarked(dialog.control(row.focused))) << "put right";
         closeAll(dialogs, IDCANCEL);
         EXPECT_EQ(tigerText(), before) << "cancelled";
         EXPECT_TRUE(menuState(IDM_UNDO) & MF_GRAYED) << "cancelled";

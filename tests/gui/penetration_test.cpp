@@ -164,7 +164,7 @@ TEST_F(PenetrationTest, ListsFilesWithProblems) {
     dialog = openDialog(IDM_WEAPON_PROBLEMS, "Weapon File Problems");
     expectWellLaidOut(dialog);
     dialog.press(IDC_COPY_TABLE);
-    EXPECT_NE(clipboardText().find("WEAPON_CANNON_SPOILT.txt\tholds no weapon\r\n"), std::string::npos);
+    EXPECT_NE(clipboardText().find("WEAPON_CANNON_SPOILT.txt\tHolds no weapon.\r\n"), std::string::npos);
     finish(dialog, IDC_SHOW_FILE);
     EXPECT_EQ(selected(), "WEAPON_CANNON_SPOILT") << "in the list of weapons";
 }

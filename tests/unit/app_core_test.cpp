@@ -1,13 +1,12 @@
 // What the program decides without its window.
 
-#include "app/workspace/file_names.h"
-#include "app/workspace/name_filter.h"
+#include "app/workspace/names/file_names.h"
+#include "app/workspace/names/name_filter.h"
 #include "app/workspace/options_file.h"
 #include "app/workspace/positions.h"
-#include "app/workspace/undo_history.h"
-#include "app/workspace/weapon_users.h"
+#include "app/workspace/record/undo_history.h"
 #include "app/workspace/window_layout.h"
-#include "data/unit/unit_writers.h"
+#include "data/writing/unit_writers.h"
 #include "mod/mod_settings.h"
 #include "test_support.h"
 
@@ -81,31 +80,35 @@ TEST(Positions, QuestionNamesWhatWouldBeLost) {
     EXPECT_EQ(unsavedPositionsQuestion(false, Category::Vehicles, true, true), "");
 }
 
+const SquadRecord& unitOf(const RecordState& state) {
+    return std::get<SquadRecord>(state.record);
+}
+
 TEST(UndoHistory, GoesBackAndForthAndForgetsWhatWasUndone) {
     UndoHistory history;
     SquadRecord record;
-    history.start(record);
-    history.note("nothing", record);
+    history.start({record});
+    history.note("nothing", {record});
     EXPECT_FALSE(history.canUndo());
     record.longName = "one";
-    history.note("Name", record);
+    history.note("Name", {record});
     record.longName = "two";
-    history.note("Second name", record);
+    history.note("Second name", {record});
     EXPECT_EQ(history.undoName(), "Second name");
-    EXPECT_EQ(history.undo().longName, "one");
+    EXPECT_EQ(unitOf(history.undo()).longName, "one");
     EXPECT_EQ(history.redoName(), "Second name");
-    EXPECT_EQ(history.undo().longName, "");
+    EXPECT_EQ(unitOf(history.undo()).longName, "");
     EXPECT_FALSE(history.canUndo());
-    record = history.redo();
+    record = unitOf(history.redo());
     EXPECT_EQ(record.longName, "one");
     record.longName = "other";
-    history.note("Other", record);
+    history.note("Other", {record});
     EXPECT_FALSE(history.canRedo());
-    EXPECT_EQ(history.undo().longName, "one") << "what had been undone is gone";
+    EXPECT_EQ(unitOf(history.undo()).longName, "one") << "what had been undone is gone";
     history.redo();
     for (int i = 0; i < 300; ++i) {
         record.vehicle.emplace().weight = i + 1;
-        history.note("Weight", record);
+        history.note("Weight", {record});
     }
     int steps = 0;
     while (history.canUndo()) {
@@ -118,54 +121,14 @@ TEST(UndoHistory, GoesBackAndForthAndForgetsWhatWasUndone) {
 TEST(UndoHistory, AChangeThatGoesOnIsOneStep) {
     UndoHistory history;
     SquadRecord record;
-    history.start(record);
+    history.start({record});
     for (const char* name : {"one", "two", "three"}) {
         record.longName = name;
-        history.amend(record);
-        history.note("Name", record);
+        history.amend({record});
+        history.note("Name", {record});
     }
-    EXPECT_EQ(history.undo().longName, "");
-    EXPECT_EQ(history.redo().longName, "three");
-}
-
-TEST(WeaponUsers, KnowsWhoCarriesAWeaponAndReadsNoFileTwice) {
-    const TemporaryFolder folder;
-    constexpr std::string_view tank =
-        "<squad><vehicle><turret><weapon><type>WEAPON_A</type></weapon>"
-        "<man><weapon><type>WEAPON_B</type></weapon></man></turret></vehicle></squad>";
-    folder.write("Game\\Data\\Vehicles\\German Tank.txt", tank);
-    folder.write("Game\\Data\\Infantry\\German Squad.txt",
-                 "<squad><man><ammo><for>WEAPON_B</for><rounds>2</rounds></ammo></man></squad>");
-    folder.write("Mod\\Data\\Vehicles\\German Tank.txt", "<squad><vehicle></vehicle></squad>");
-    WeaponUsers users;
-    const auto usersOf = [&](std::string_view weapon, std::initializer_list<const char*> bases) {
-        std::vector<std::string> folders;
-        for (const char* base : bases) {
-            folders.push_back(folder.path() + base + "\\");
-        }
-        users.start(folders);
-        const auto before = users.usersOf(std::array{weapon});
-        // In small steps: one file at most for each.
-        for (std::size_t read = users.filesRead(); users.step(); read = users.filesRead()) {
-            EXPECT_LE(users.filesRead(), read + 1);
-            EXPECT_EQ(users.usersOf(std::array{weapon}), before) << "half of the answer";
-        }
-        return users.usersOf(std::array{weapon}).value();
-    };
-    using Names = std::vector<std::string>;
-    EXPECT_FALSE(users.usersOf(std::array<std::string_view, 1>{"WEAPON_A"})) << "nobody has looked yet";
-    EXPECT_EQ(usersOf("WEAPON_A", {"Game"}), Names{"Vehicles: German Tank"});
-    EXPECT_EQ(usersOf("WEAPON_B", {"Game"}), (Names{"Infantry: German Squad", "Vehicles: German Tank"}));
-    EXPECT_EQ(usersOf("WEAPON_C", {"Game"}), Names{});
-    EXPECT_EQ(users.filesRead(), 2U);
-    EXPECT_EQ(usersOf("WEAPON_A", {"Mod", "Game"}), Names{}) << "the mod's tank has none";
-    EXPECT_EQ(users.filesRead(), 3U);
-    folder.write("Game\\Data\\Vehicles\\German Tank.txt", std::string(tank) + "\n");
-    EXPECT_EQ(usersOf("WEAPON_A", {"Game"}), Names{"Vehicles: German Tank"});
-    EXPECT_EQ(users.filesRead(), 4U) << "the changed one only";
-    EXPECT_FALSE(users.step());
-    EXPECT_EQ(users.usersOf(std::array<std::string_view, 1>{"WEAPON_A"}), Names{"Vehicles: German Tank"});
-    EXPECT_EQ(usersOf("WEAPON_A", {"None"}), Names{});
+    EXPECT_EQ(unitOf(history.undo()).longName, "");
+    EXPECT_EQ(unitOf(history.redo()).longName, "three");
 }
 
 TEST(ModSettings, ReadsWhatItWrote) {

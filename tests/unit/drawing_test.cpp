@@ -2,7 +2,9 @@
 
 #include "view/drawing/component_places.h"
 #include "view/drawing/drawing_angles.h"
+#include "view/drawing/part_at.h"
 #include "view/drawing/part_positions.h"
+#include "view/drawing/traverse.h"
 #include "view/drawing/view_place.h"
 #include "view_support.h"
 
@@ -89,14 +91,10 @@ TEST(Positions, OnlyWhatFilesKeepMoves) {
     EXPECT_FALSE(isMovable(unit, {PartKind::Weapon, 0, 0})) << "weapons of a hull are not stored";
     EXPECT_FALSE(isMovable(unit, {PartKind::Weapon, 1, 1}));
     EXPECT_FALSE(isMovable(unit, {PartKind::Component, 1, 0}));
-    const SquadRecord before = unit;
     EXPECT_TRUE(movePart(unit, BowGun, {1e9, 210}));
     EXPECT_EQ(unit.vehicle->components[2].offsetX, 100000);
     EXPECT_EQ(unit.vehicle->components[2].offsetY, 210);
-    EXPECT_TRUE(movedPositions(before, unit).weapons);
-    EXPECT_FALSE(movedPositions(before, unit).exhausts);
     EXPECT_TRUE(movePart(unit, Pipe, {-41, -300}));
-    EXPECT_TRUE(movedPositions(before, unit).exhausts);
 
     SquadRecord aircraft;
     aircraft.aircraft.emplace().weapons.resize(2);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "editors/form/form.h"
+#include "editors/form/form_port.h"
 
 #include <algorithm>
 #include <map>
@@ -36,12 +36,20 @@ public:
     }
     void setLimit(int control, std::size_t characters) override { limits[control] = characters; }
     void focus(int control) override { focused = control; }
+    void mark(int control, std::string_view refusal) override {
+        if (refusal.empty()) {
+            marks.erase(control);
+        } else {
+            marks[control] = refusal;
+        }
+    }
 
     std::map<int, std::string> texts;
     std::set<int> checked;
     std::set<int> disabled;
     std::map<int, std::vector<std::string>> choices;
     std::map<int, std::size_t> limits;
+    std::map<int, std::string> marks;
     int focused = 0;
 };
 

@@ -93,18 +93,5 @@ TEST(PlateOutline, ShowsEachPlateOnItsSide) {
     EXPECT_TRUE(plateOutline(sizeless, plateRanges(sizeless, fallingCurve())).patches.empty());
 }
 
-TEST(VehicleFiles, TheModsCountsOnEqualNames) {
-    const TemporaryFolder folder;
-    folder.write("Game\\Data\\Vehicles\\B.txt", "");
-    folder.write("Game\\Data\\Vehicles\\a.txt", "");
-    folder.write("Mod\\Data\\Vehicles\\b.TXT", "");
-    const std::vector<std::string> bases = {folder.path() + "Mod\\", folder.path() + "Game\\",
-                                            folder.path() + "None\\"};
-    const std::vector<VehicleFile> files = vehicleFiles(bases);
-    ASSERT_EQ(files.size(), 2U);
-    EXPECT_EQ(files[0].name, "a");
-    EXPECT_EQ(files[1].path, bases[0] + "Data\\Vehicles\\b.TXT");
-}
-
 } // namespace
 } // namespace varrocade::tests

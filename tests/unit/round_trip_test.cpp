@@ -1,6 +1,6 @@
 // Every file of the sample, read and written and read again.
 
-#include "data/unit/unit_writers.h"
+#include "data/writing/unit_writers.h"
 #include "test_support.h"
 #include "weapons/weapon_files.h"
 

@@ -1,6 +1,6 @@
 // Saving: whatever fails, the old file is still there, whole.
 
-#include "data/unit/unit_writers.h"
+#include "data/writing/unit_writers.h"
 #include "platform/safe_save.h"
 #include "test_support.h"
 #include "weapons/weapon_files.h"
@@ -32,7 +32,11 @@ public:
     bool replace(const std::string& from, const std::string& to) override {
         return !fails() && systemFiles().replace(from, to);
     }
+    bool rename(const std::string& from, const std::string& to) override {
+        return !fails() && systemFiles().rename(from, to);
+    }
     bool remove(const std::string& path) override { return !fails() && systemFiles().remove(path); }
+    bool recycle(const std::string& path) override { return !fails() && systemFiles().recycle(path); }
     bool createFolder(const std::string& path) override {
         return !fails() && systemFiles().createFolder(path);
     }
@@ -81,8 +85,8 @@ SquadRecord newSquad(std::string_view name = "Squad") {
     return record;
 }
 
-SaveResult save(FileOperations& files, BackupKeeper& backups, const TemporaryFolder& folder,
-                const SquadRecord& record = newSquad()) {
+SaveOutcome save(FileOperations& files, BackupKeeper& backups, const TemporaryFolder& folder,
+                 const SquadRecord& record = newSquad()) {
     return saveUnit(files, backups, folder.path(), Category::Infantry, record);
 }
 
@@ -98,11 +102,9 @@ int failEachOperation(Save saveInto) {
     for (int failing = 1; failing < 200; ++failing) {
         SCOPED_TRACE("operation " + std::to_string(failing));
         const TemporaryFolder folder;
-        const MessageRecorder messages;
         FaultyFiles files(failing);
         BackupKeeper backups;
         saveInto(folder, files, backups);
-        EXPECT_EQ(MessageRecorder::shown().size(), files.hasFailed() ? 1U : 0U);
         if (!files.hasFailed()) {
             return failing;
         }
@@ -117,9 +119,12 @@ TEST(Saving, KeepsTheOldFileWhicheverStepFails) {
     const int operations =
         failEachOperation([](const TemporaryFolder& folder, FaultyFiles& files, BackupKeeper& backups) {
             folder.write(UnitFile, OldText);
-            const SaveResult result = save(files, backups, folder);
+            const SaveOutcome outcome = save(files, backups, folder);
             const bool succeeded = !files.hasFailed();
-            EXPECT_EQ(result == SaveResult::Saved, succeeded);
+            EXPECT_EQ(outcome.result, succeeded ? SaveResult::Saved : SaveResult::Failed);
+            EXPECT_EQ(outcome.content, succeeded ? folder.read(UnitFile) : "");
+            EXPECT_EQ(outcome.failure.path, succeeded ? "" : folder.path() + UnitFile);
+            EXPECT_EQ(outcome.failure.reason.empty(), succeeded);
             EXPECT_EQ(folder.read(UnitFile), succeeded ? squadFileText(newSquad()) : OldText);
             // Beside the unit there is at most its backup, and that is whole.
             const Names names = folder.files();
@@ -127,10 +132,6 @@ TEST(Saving, KeepsTheOldFileWhicheverStepFails) {
             EXPECT_EQ(names.size(), 1 + kept) << "left something: " << names.back();
             EXPECT_TRUE(kept == 1 || (kept == 0 && !succeeded));
             EXPECT_TRUE(kept == 0 || folder.read(names.front()) == OldText);
-            for (const Message& message : MessageRecorder::shown()) {
-                EXPECT_EQ(message.text, folder.path() + UnitFile);
-                EXPECT_EQ(message.caption, "Couldn't save file");
-            }
         });
     // Folders, the old content, and each of two files created, written in pieces, flushed, closed and put in
     // place.
@@ -139,8 +140,8 @@ TEST(Saving, KeepsTheOldFileWhicheverStepFails) {
 
 TEST(Saving, LeavesNothingBehindWhereThereWasNoFile) {
     failEachOperation([](const TemporaryFolder& folder, FaultyFiles& files, BackupKeeper& backups) {
-        const SaveResult result = saveWeapon(files, backups, folder.path(), "W", WeaponRecord());
-        EXPECT_EQ(result, files.hasFailed() ? SaveResult::Failed : SaveResult::Saved);
+        const SaveOutcome outcome = saveWeapon(files, backups, folder.path(), "W", WeaponRecord());
+        EXPECT_EQ(outcome.result, files.hasFailed() ? SaveResult::Failed : SaveResult::Saved);
         EXPECT_EQ(folder.files(), files.hasFailed() ? Names() : Names({"Data\\Weapons\\W.txt"}));
     });
 }
@@ -175,14 +176,12 @@ TEST(Saving, WritesAnySizeAndStepsOverLeftoversOfAnotherRun) {
 
 TEST(Saving, DoesNothingForARecordOfAnotherKind) {
     const TemporaryFolder folder;
-    const MessageRecorder messages;
     BackupKeeper backups;
     for (const Category category : {Category::Vehicles, Category::Aircraft}) {
-        EXPECT_EQ(saveUnit(systemFiles(), backups, folder.path(), category, newSquad()),
+        EXPECT_EQ(saveUnit(systemFiles(), backups, folder.path(), category, newSquad()).result,
                   SaveResult::NothingToSave);
     }
     EXPECT_TRUE(folder.files().empty());
-    EXPECT_TRUE(MessageRecorder::shown().empty());
 }
 
 TEST(Backups, AreMadeOncePerRunAndFile) {
@@ -190,7 +189,7 @@ TEST(Backups, AreMadeOncePerRunAndFile) {
     folder.write(UnitFile, OldText);
     folder.write("Data\\Infantry\\Other.txt", "other");
     const auto saveAs = [&](BackupKeeper& backups, std::string_view name) {
-        ASSERT_EQ(save(systemFiles(), backups, folder, newSquad(name)), SaveResult::Saved);
+        ASSERT_EQ(save(systemFiles(), backups, folder, newSquad(name)).result, SaveResult::Saved);
     };
     BackupKeeper firstRun;
     // A new file has no former content.
@@ -210,13 +209,12 @@ TEST(Backups, AreMadeOncePerRunAndFile) {
 TEST(Backups, OfAFailedSaveServeTheNext) {
     const TemporaryFolder folder;
     folder.write(UnitFile, OldText);
-    const MessageRecorder messages;
     BackupKeeper backups;
     SaveResult result = SaveResult::Failed;
     for (int failing = 1; result == SaveResult::Failed; ++failing) {
         ASSERT_LT(failing, 200);
         FaultyFiles files(failing);
-        result = save(files, backups, folder);
+        result = save(files, backups, folder).result;
     }
     const Names names = folder.files();
     ASSERT_EQ(count(names, "Backups\\"), 1U);

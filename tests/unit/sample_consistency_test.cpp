@@ -97,7 +97,7 @@ TEST(Sample, HasTheFilesThatItsFilesName) {
 TEST(Sample, HasTheAmmunitionOfItsUnits) {
     WeaponCatalogue weapons;
     weapons.load(SampleBase);
-    EXPECT_TRUE(weapons.problems().empty()) << weapons.problems().front().path;
+    EXPECT_TRUE(weapons.problems().empty()) << weapons.problems().front().file;
     for (const SampleFile& file : sampleFiles()) {
         EXPECT_EQ(weapons.find(file.name) != nullptr, file.category == Category::Weapons) << file.name;
         TagTree tree;
@@ -122,17 +122,17 @@ TEST(Sample, UsesTheGamesNames) {
     std::set<WeaponType> weaponTypes;
     for (const SampleFile& file : sampleFiles()) {
         SCOPED_TRACE(file.name);
-        WeaponReadReport report;
+        Diagnostics diagnostics;
         if (file.category == Category::Weapons) {
-            const WeaponRecord weapon = readWeapon(file.content, file.name, report);
+            const WeaponRecord weapon = readWeapon(file.content, file.name, diagnostics);
             EXPECT_EQ(weapon.name, file.name);
             EXPECT_FALSE(weapon.ammoTypes.empty());
             weaponTypes.insert(weapon.type);
-            EXPECT_EQ(report.diagnostics, Diagnostics());
+            EXPECT_EQ(diagnostics, Diagnostics());
             continue;
         }
-        const SquadRecord record = readUnit(file.content, file.name, report.diagnostics);
-        EXPECT_EQ(report.diagnostics, Diagnostics());
+        const SquadRecord record = readUnit(file.content, file.name, diagnostics);
+        EXPECT_EQ(diagnostics, Diagnostics());
         EXPECT_TRUE(knows(unitTypeNames(), record.type));
         EXPECT_TRUE(knows(nationalityNames(), record.nationality));
         // The lists sort a unit under the nation that its file's name begins with.

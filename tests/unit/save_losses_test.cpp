@@ -1,7 +1,7 @@
 // What a save would lose: each kind of loss by example, then that nothing is missed and nothing invented,
 // over the sample and over thousands of broken copies of it.
 
-#include "data/format/tag_tree.h"
+#include "data/format/clean_text.h"
 #include "data/losses/save_losses.h"
 #include "test_support.h"
 #include "weapons/weapon_losses.h"
@@ -18,17 +18,17 @@ namespace varrocade::tests {
 
 namespace {
 
-std::vector<SaveLoss> lossesOf(Category category, std::string_view content) {
+std::vector<Finding> lossesOf(Category category, std::string_view content) {
     if (category == Category::Weapons) {
         return weaponSaveLosses(content);
     }
-    return unitSaveLosses(category, content).value_or(std::vector<SaveLoss>());
+    return unitSaveLosses(category, content).value_or(std::vector<Finding>());
 }
 
 /// A line each.
 std::string linesAbout(Category category, std::string_view content) {
     std::string lines;
-    for (const SaveLoss& loss : lossesOf(category, content)) {
+    for (const Finding& loss : lossesOf(category, content)) {
         lines += (lines.empty() ? "" : "\n") + lossText(loss);
     }
     return lines;
@@ -163,8 +163,8 @@ TEST(SaveLosses, MissesAndInventsNothingInTheSampleAndDamagedCopies) {
             }
             const auto lines =
                 std::count_if(content.begin(), content.end(), [](char c) { return c == '\n' || c == '\r'; });
-            const std::vector<SaveLoss> losses = lossesOf(file.category, content);
-            for (const SaveLoss& loss : losses) {
+            const std::vector<Finding> losses = lossesOf(file.category, content);
+            for (const Finding& loss : losses) {
                 EXPECT_TRUE(loss.line >= 1 && loss.line <= static_cast<std::size_t>(lines) + 1)
                     << lossText(loss);
             }
@@ -196,7 +196,7 @@ TEST(SaveLosses, StaysInProportionWithHostileFiles) {
     // The list ends, and says so.
     for (const std::string& content :
          {repeated("//\n", levels), "<squad>" + repeated("<man></man>", levels) + "</squad>"}) {
-        const std::vector<SaveLoss> losses = lossesOf(Category::Infantry, content);
+        const std::vector<Finding> losses = lossesOf(Category::Infantry, content);
         ASSERT_LT(losses.size(), levels / 2);
         EXPECT_EQ(losses.back().message, "more than can be listed is lost");
     }

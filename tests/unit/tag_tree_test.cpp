@@ -1,3 +1,4 @@
+#include "data/format/source_map.h"
 #include "data/format/tag_tree.h"
 
 #include "tag_tree_model.h"
@@ -47,7 +48,7 @@ TEST(TagTree, TellsTheLineOfAnElement) {
     tree.parse(content);
     ASSERT_EQ(describe(tree), "{a{b=4 c=5 d=7}}");
     for (std::size_t i = 1; i < tree.nodes().size(); ++i) {
-        EXPECT_EQ(tree.lineOf(tree.nodes()[i].name, content), i + 2);
+        EXPECT_EQ(SourceMap(tree, content).placeOf(tree.nodes()[i]).line, i + 2);
     }
 }
 

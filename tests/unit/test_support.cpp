@@ -1,6 +1,7 @@
 #include "test_support.h"
 
-#include "data/unit/unit_writers.h"
+#include "data/finding_text.h"
+#include "data/writing/unit_writers.h"
 #include "platform/file_operations.h"
 #include "weapons/weapon_files.h"
 
@@ -21,9 +22,15 @@ std::vector<Message>& recordedMessages() {
     return messages;
 }
 
+std::vector<Answer>& nextAnswers() {
+    static std::vector<Answer> answers;
+    return answers;
+}
+
 Answer record(const Message& message) {
     recordedMessages().push_back(message);
-    return Answer::Ok;
+    const std::size_t number = recordedMessages().size();
+    return number <= nextAnswers().size() ? nextAnswers()[number - 1] : Answer::Ok;
 }
 
 std::string withBackslashes(std::string path) {
@@ -139,8 +146,14 @@ SquadRecord readUnitText(std::string_view content) {
 }
 
 WeaponRecord readWeaponText(std::string_view content) {
-    WeaponReadReport report;
-    return readWeapon(content, "weapon", report);
+    Diagnostics diagnostics;
+    return readWeapon(content, "weapon", diagnostics);
+}
+
+std::vector<std::string> debuggerLines(const Diagnostics& diagnostics) {
+    std::vector<std::string> lines(diagnostics.size());
+    std::transform(diagnostics.begin(), diagnostics.end(), lines.begin(), debuggerLine);
+    return lines;
 }
 
 TemporaryFolder::TemporaryFolder() {
@@ -186,7 +199,12 @@ std::vector<std::string> TemporaryFolder::files() const {
 }
 
 MessageRecorder::MessageRecorder() : former_(setMessageHandler(record)) {
+    answer({});
+}
+
+void MessageRecorder::answer(std::vector<Answer> answers) {
     recordedMessages().clear();
+    nextAnswers() = std::move(answers);
 }
 
 MessageRecorder::~MessageRecorder() {

@@ -2,7 +2,7 @@
 // What the tests share: texts and folders, recorded message boxes, the sample's files.
 
 #include "data/category.h"
-#include "data/unit/unit_reader.h"
+#include "data/reading/unit_reader.h"
 #include "platform/messages.h"
 #include "weapons/weapon_record.h"
 
@@ -57,6 +57,9 @@ const std::vector<SampleFile>& sampleFiles();
 SquadRecord readUnitText(std::string_view content);
 WeaponRecord readWeaponText(std::string_view content);
 
+/// What readers write to the debugger.
+std::vector<std::string> debuggerLines(const Diagnostics& diagnostics);
+
 /// A folder of its own for a test, gone with it.
 class TemporaryFolder {
 public:
@@ -79,7 +82,7 @@ private:
     std::string path_;
 };
 
-/// Takes the place of the message boxes while it lives.
+/// Takes the place of the message boxes while it lives. Boxes are answered OK where no answers were given.
 class MessageRecorder {
 public:
     MessageRecorder();
@@ -88,6 +91,9 @@ public:
     ~MessageRecorder();
 
     [[nodiscard]] static const std::vector<Message>& shown();
+
+    /// How the next boxes are answered. Forgets those that were shown.
+    static void answer(std::vector<Answer> answers);
 
 private:
     MessageHandler former_;

@@ -1,6 +1,6 @@
 // What a unit file holds beyond what its record can take, and what is said about it.
 
-#include "data/unit/unit_reader.h"
+#include "data/reading/unit_reader.h"
 #include "platform/messages.h"
 #include "test_support.h"
 
@@ -9,6 +9,8 @@
 namespace varrocade::tests {
 
 namespace {
+
+using Lines = std::vector<std::string>;
 
 struct ReadUnit {
     SquadRecord record;
@@ -70,8 +72,9 @@ TEST(UnitLimits, LeaveOutWhatFindsNoRoomWithAllItHolds) {
         EXPECT_EQ(full.diagnostics, Diagnostics());
         const ReadUnit tooFull = readWithDiagnostics(most + c.tooMany + "\n" + c.after);
         EXPECT_TRUE(tooFull.record == full.record);
-        EXPECT_EQ(tooFull.diagnostics, Diagnostics({"ERROR: unit: line " + std::to_string(c.lines + 2) +
-                                                    ": " + c.complaint + ": left out"}));
+        EXPECT_EQ(
+            debuggerLines(tooFull.diagnostics),
+            Lines({"ERROR: unit: line " + std::to_string(c.lines + 2) + ": " + c.complaint + ": left out"}));
     }
 }
 
@@ -81,7 +84,7 @@ TEST(UnitLimits, CallUnknownElementsOfEveryHeavyWeaponAMortar) {
     for (const std::string weapon : {"mortar", "hmg", "atgun", "recoilless_rifle"}) {
         const ReadUnit read = readWithDiagnostics(
             "<squad><" + weapon + "><crew>2</crew><mass>5</mass><type>x</type></" + weapon + "></squad>");
-        EXPECT_EQ(read.diagnostics, Diagnostics({line, line})) << weapon;
+        EXPECT_EQ(debuggerLines(read.diagnostics), Lines({line, line})) << weapon;
         EXPECT_EQ(read.record.heavyWeapon.value().mass, 5);
     }
     const std::string elsewhere =
@@ -95,9 +98,8 @@ TEST(UnitLimits, BoundTheDiagnostics) {
     EXPECT_EQ(readWithDiagnostics(content).diagnostics.size(), 100U);
 }
 
-TEST(UnitLoading, ReadsTheCategorysFolderAndShowsWhatCannotBeOpened) {
+TEST(UnitLoading, ReadsTheCategorysFolderAndTellsWhatCannotBeOpened) {
     const TemporaryFolder folder;
-    const MessageRecorder messages;
     for (const auto& [category, name] : {std::pair(Category::Vehicles, "Vehicles"),
                                          {Category::AtGuns, "AT Guns"},
                                          {Category::Infantry, "Infantry"},
@@ -105,21 +107,15 @@ TEST(UnitLoading, ReadsTheCategorysFolderAndShowsWhatCannotBeOpened) {
         folder.write("Data\\" + std::string(name) + "\\One.txt", "<squad><description><comment>" +
                                                                      std::string(name) +
                                                                      "</comment></description></squad>");
-        const std::optional<SquadRecord> record = loadUnit(folder.path(), category, "One");
-        ASSERT_TRUE(record) << name;
-        EXPECT_EQ(record->fileName, "One");
-        EXPECT_EQ(record->comment, name);
+        const LoadedUnit loaded = loadUnit(systemFiles(), folder.path(), category, "One");
+        ASSERT_TRUE(loaded.record) << name;
+        EXPECT_EQ(loaded.record->fileName, "One");
+        EXPECT_EQ(loaded.record->comment, name);
     }
-    EXPECT_TRUE(MessageRecorder::shown().empty());
-    EXPECT_FALSE(loadUnit(folder.path(), Category::AtGuns, "Missing gun"));
-    ASSERT_EQ(MessageRecorder::shown().size(), 1U);
-    const Message& message = MessageRecorder::shown().front();
-    EXPECT_EQ(message.caption, "Couldn't load file");
-    EXPECT_EQ(message.text, folder.path() +
-                                "Data\\AT Guns\\Missing gun.txt\n\n"
-                                "Check that the filename is made of ASCII characters and not Unicode");
-    EXPECT_EQ(message.icon, MessageIcon::Warning);
-    EXPECT_EQ(message.buttons, MessageButtons::Ok);
+    const LoadedUnit missing = loadUnit(systemFiles(), folder.path(), Category::AtGuns, "Missing gun");
+    EXPECT_FALSE(missing.record);
+    EXPECT_EQ(missing.failure.path, folder.path() + "Data\\AT Guns\\Missing gun.txt");
+    EXPECT_NE(missing.failure.reason, "");
 }
 
 } // namespace varrocade::tests

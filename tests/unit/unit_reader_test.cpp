@@ -1,4 +1,4 @@
-#include "data/unit/unit_reader.h"
+#include "data/reading/unit_reader.h"
 
 #include "data/unit/enumerations.h"
 #include "test_support.h"

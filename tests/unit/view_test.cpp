@@ -1,7 +1,9 @@
 // What the drawing, the timeline and the data sheet consist of, without a device.
 
-#include "data/unit/unit_reader.h"
+#include "data/reading/unit_reader.h"
+#include "data/unit/component_words.h"
 #include "test_support.h"
+#include "view/drawing/part_at.h"
 #include "view/drawing/weapon_shapes.h"
 #include "view/sheet/data_sheet.h"
 #include "view/sheet/timeline.h"

@@ -1,3 +1,4 @@
+#include "data/finding_text.h"
 #include "test_support.h"
 #include "weapons/weapon_catalogue.h"
 
@@ -60,9 +61,9 @@ protected:
     }
     std::vector<std::string> problemPaths() const {
         std::vector<std::string> paths;
-        for (const FileFailure& problem : catalogue.problems()) {
-            EXPECT_FALSE(problem.reason.empty()) << problem.path;
-            paths.push_back(problem.path);
+        for (const Finding& problem : catalogue.problems()) {
+            EXPECT_FALSE(problem.message.empty()) << problem.file;
+            paths.push_back(problem.file);
         }
         return paths;
     }
@@ -168,10 +169,12 @@ TEST_F(WeaponCatalogueTest, GoesOnPastBadFiles) {
     EXPECT_EQ(names(), (Names{"good", "program's", "strange", "no weapon: empty", "no weapon: Picture"}));
     EXPECT_EQ(select({}), (Names{"good", "program's", "strange"})) << "a unit cannot have them";
     EXPECT_EQ(catalogue.find("empty"), nullptr);
-    EXPECT_EQ(problemPaths(), (Names{mod.path() + below("Picture"), mod.path() + below("shadowed"),
-                                     program.path() + below("empty"), program.path() + below("picture"),
-                                     program.path() + below("strange")}));
-    EXPECT_NE(catalogue.problems().back().reason.find("WEAPON_SLINGSHOT"), std::string::npos);
+    EXPECT_EQ(problemPaths(), (Names{program.path() + below("empty"), mod.path() + below("Picture"),
+                                     mod.path() + below("shadowed"), program.path() + below("strange"),
+                                     program.path() + below("picture")}));
+    EXPECT_EQ(sentence(catalogue.problemsOf(program.path() + below("strange")).front()),
+              "Line 1: \"WEAPON_SLINGSHOT\" is not a weapon type.");
+    EXPECT_EQ(catalogue.problemsOf(program.path() + below("empty")).at(0).message, "holds no weapon");
 }
 
 TEST_F(WeaponCatalogueTest, ListsFilesThatCannotBeOpened) {

@@ -60,38 +60,39 @@ TEST(WeaponFile, StartsFromTheDefaults) {
 }
 
 TEST(WeaponFile, TellsOfUnknownTypes) {
-    WeaponReadReport report;
+    Diagnostics diagnostics;
     const WeaponRecord weapon = readWeapon("<weapon><type>WEAPON_BOW</type><name>B</name>"
                                            "<type>WEAPON_SMG</type><type>WEAPON_NONE</type></weapon>",
-                                           "weapon", report);
+                                           "weapon", diagnostics);
     EXPECT_EQ(weapon.type, WeaponType::Smg) << "keeps its type";
     const std::string line =
         "\xF0\x9F\x92\xA5 ERROR: WeaponDataList: getListEntryForWeapon() unknown <type> in '";
-    EXPECT_EQ(report.diagnostics, Diagnostics({line + "WEAPON_BOW'", line + "WEAPON_NONE'"}));
-    EXPECT_EQ(report.unknownTypes, std::vector<std::string>({"WEAPON_NONE"}))
-        << "a box only once there is a name for its caption";
+    EXPECT_EQ(debuggerLines(diagnostics),
+              std::vector<std::string>({line + "WEAPON_BOW'", line + "WEAPON_NONE'"}));
 
     const TemporaryFolder folder;
     folder.write("Data\\Weapons\\W.txt",
                  "<weapon><name>WEAPON_X</name><type>WEAPON_BOW</type><type>WEAPON_LMG</type></weapon>");
-    const MessageRecorder messages;
-    EXPECT_EQ(loadWeapon(folder.path(), "W").value_or(WeaponRecord()).type, WeaponType::Lmg);
-    ASSERT_EQ(MessageRecorder::shown().size(), 1U);
-    EXPECT_EQ(MessageRecorder::shown()[0].text, "unknown <type> 'WEAPON_BOW'");
-    EXPECT_EQ(MessageRecorder::shown()[0].caption, "WEAPON_X");
-    EXPECT_EQ(MessageRecorder::shown()[0].icon, MessageIcon::Error);
-    EXPECT_FALSE(loadWeapon(folder.path(), "Missing"));
-    EXPECT_EQ(MessageRecorder::shown().back().caption, "Couldn't load file");
+    const LoadedWeapon loaded = loadWeapon(systemFiles(), folder.path(), "W");
+    EXPECT_EQ(loaded.record.value_or(WeaponRecord()).type, WeaponType::Lmg);
+    ASSERT_EQ(loaded.diagnostics.size(), 1U);
+    EXPECT_EQ(loaded.diagnostics[0].value, "WEAPON_BOW");
+    EXPECT_EQ(loaded.diagnostics[0].subject, "WEAPON_X");
+    const LoadedWeapon missing = loadWeapon(systemFiles(), folder.path(), "Missing");
+    EXPECT_FALSE(missing.record);
+    EXPECT_EQ(missing.failure.path, folder.path() + "Data\\Weapons\\Missing.txt");
+    EXPECT_NE(missing.failure.reason, "");
 }
 
 TEST(WeaponFile, LeavesOutAmmunitionThatFindsNoRoom) {
     const std::string most = "<weapon><ammo>\n" + repeated("<type><name>n</name></type>\n", 255);
     const std::string oneMore = "<type><name>LEAK</name><mass>9</mass></type>\n";
-    WeaponReadReport report;
-    EXPECT_TRUE(readWeapon(most + oneMore + "</ammo></weapon>", "weapon", report) ==
+    Diagnostics diagnostics;
+    EXPECT_TRUE(readWeapon(most + oneMore + "</ammo></weapon>", "weapon", diagnostics) ==
                 readWeaponText(most + "</ammo></weapon>"));
-    EXPECT_EQ(report.diagnostics,
-              Diagnostics({"ERROR: weapon: line 257: more than 255 ammunition types: left out"}));
+    EXPECT_EQ(
+        debuggerLines(diagnostics),
+        std::vector<std::string>({"ERROR: weapon: line 257: more than 255 ammunition types: left out"}));
 }
 
 TEST(WeaponNames, AreOneForEachType) {

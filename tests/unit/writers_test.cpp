@@ -1,6 +1,6 @@
 // The files in tests/golden that hold every element their writers know, each with a value of its own.
 
-#include "data/unit/unit_writers.h"
+#include "data/writing/unit_writers.h"
 #include "test_support.h"
 
 #include <tuple>

@@ -1,16 +1,19 @@
 #include "app/commands/commands.h"
 
+#include "app/commands/edit_record.h"
 #include "app/commands/file_commands.h"
 #include "app/commands/game_folder.h"
-#include "app/commands/mod_mode.h"
-#include "app/commands/open_record.h"
 #include "app/commands/stubs.h"
 #include "app/commands/weapon_problems.h"
 #include "app/windows/application.h"
+#include "app/windows/display/redraw.h"
 #include "app/windows/drawing_window.h"
-#include "app/windows/file_list.h"
-#include "app/windows/main_window.h"
 #include "app/windows/part_selection.h"
+#include "app/workspace/category_list.h"
+#include "app/workspace/edits.h"
+#include "app/workspace/file_actions.h"
+#include "app/workspace/mod_mode.h"
+#include "app/workspace/record_files.h"
 #include "editors/form/form_port_win32.h"
 #include "editors/penetration/penetration_dialog.h"
 #include "editors/penetration/penetration_form.h"
@@ -35,42 +38,40 @@ bool always() {
 }
 
 bool inModMode() {
-    return application().modMode;
+    return theWorkspace().modMode;
 }
 
 bool isVehicleOpen() {
-    return application().category == Category::Vehicles && application().openUnit.has_value();
+    return theWorkspace().category == Category::Vehicles && openUnit(theWorkspace()) != nullptr;
 }
 
 bool canDuplicate() {
-    return isRecordOpen() && !application().fileNames.empty();
+    return isRecordOpen(theWorkspace()) && !theWorkspace().list.all.empty();
 }
 
 /// The open record's file is the one that is selected in the list.
 bool isSelectionOpen() {
-    return isRecordOpen() && !selectedEntry().empty();
+    return isRecordOpen(theWorkspace()) && !theWorkspace().list.selected.empty();
 }
 
 bool canUndo() {
-    return application().openUnit && application().history.canUndo();
+    return theWorkspace().open.history.canUndo();
 }
 
 bool canRedo() {
-    return application().openUnit && application().history.canRedo();
+    return theWorkspace().open.history.canRedo();
 }
 
 bool hasWeaponProblems() {
-    return !application().catalogue.problems().empty();
+    return !theWorkspace().catalogue.problems().empty();
 }
 
 bool canSave() {
-    const Application& app = application();
-    return isUnitModified() || app.weaponPosChanged || app.exhaustPosChanged;
+    return theWorkspace().open.isUnsaved();
 }
 
 void saveRecord() {
-    saveOpenRecord();
-    redrawSelectedEntry();
+    saveOpenRecord(theWorkspace());
 }
 
 void exitProgram() {
@@ -109,14 +110,7 @@ void findInList() {
 
 void refreshFiles() {
     application().pictures.clear();
-    loadCatalogue();
-    SendMessageA(application().window, RefreshListMessage, 0, 0);
-    updateButtons();
-    if (isSelectionOpen()) {
-        reopenIfChanged();
-    }
-    displayChanged();
-    redrawNow();
+    refreshAll(theWorkspace());
 }
 
 INT_PTR CALLBACK aboutProcedure(HWND dialog, UINT message, WPARAM parameter, LPARAM) {
@@ -128,23 +122,23 @@ INT_PTR CALLBACK aboutProcedure(HWND dialog, UINT message, WPARAM parameter, LPA
 }
 
 PenetrationTools penetrationTools() {
-    const Application& app = application();
-    return {.catalogue = app.catalogue,
-            .drawing = app.drawing,
-            .vehicleBases = imageBases(),
-            .openUnit = isVehicleOpen() ? &*app.openUnit : nullptr};
+    const Workspace& workspace = theWorkspace();
+    return {.catalogue = workspace.catalogue,
+            .drawing = application().drawing,
+            .folders = gameFolders(workspace),
+            .openUnit = isVehicleOpen() ? openUnit(workspace) : nullptr};
 }
 
 /// Figures that were tuned in another program count at once.
 void penetrationCalculations() {
-    loadCatalogue();
+    loadCatalogue(theWorkspace());
     calculatePenetration(application().window, penetrationTools());
 }
 
 void canItPenetrate() {
-    loadCatalogue();
-    const Application& app = application();
-    askWhatPenetrates(app.window, penetrationTools(), {.weapon = firstPenetrationWeapon(app.catalogue)});
+    loadCatalogue(theWorkspace());
+    askWhatPenetrates(application().window, penetrationTools(),
+                      {.weapon = firstPenetrationWeapon(theWorkspace().catalogue)});
 }
 
 void showAbout() {
@@ -153,7 +147,25 @@ void showAbout() {
 
 template <Category Chosen>
 void choose() {
-    chooseCategory(Chosen);
+    chooseCategory(theWorkspace(), Chosen);
+}
+
+void undo() {
+    undoChange(theWorkspace());
+}
+
+void redo() {
+    redoChange(theWorkspace());
+}
+
+void deleteSelectedFile() {
+    deleteFile(theWorkspace());
+}
+
+void modMode() {
+    if (switchModMode(theWorkspace())) {
+        editModSettings();
+    }
 }
 
 constexpr auto Commands = std::to_array<Command>({
@@ -163,12 +175,12 @@ constexpr auto Commands = std::to_array<Command>({
     {IDC_AIRCRAFT, choose<Category::Aircraft>, always},
     {IDC_WEAPONS, choose<Category::Weapons>, always},
     {IDC_NEW, newFile, always},
-    {IDC_DUPLICATE, duplicateFile, canDuplicate},
-    {IDC_RENAME, renameFile, isSelectionOpen},
-    {IDC_DELETE, deleteFile, isSelectionOpen},
+    {IDC_DUPLICATE, duplicateOpenFile, canDuplicate},
+    {IDC_RENAME, renameOpenFile, isSelectionOpen},
+    {IDC_DELETE, deleteSelectedFile, isSelectionOpen},
     {IDC_EDIT_DETAILS, editOpenRecord, canEditOpenRecord},
     {IDM_EXIT, exitProgram, always},
-    {IDM_MOD_MODE, switchModMode, always},
+    {IDM_MOD_MODE, modMode, always},
     {IDM_EDIT_MOD, editModSettings, inModMode},
     {IDM_PENETRATION, penetrationCalculations, always},
     {IDM_CAN_PENETRATE, canItPenetrate, always},
@@ -184,11 +196,11 @@ constexpr auto Commands = std::to_array<Command>({
     {IDM_ABOUT, showAbout, always},
     {IDM_FIND, findInList, always},
     {IDM_REFRESH, refreshFiles, always},
-    {IDM_RENAME, renameFile, isSelectionOpen},
-    {IDM_DELETE, deleteFile, isSelectionOpen},
+    {IDM_RENAME, renameOpenFile, isSelectionOpen},
+    {IDM_DELETE, deleteSelectedFile, isSelectionOpen},
     {IDM_SAVE, saveRecord, canSave},
-    {IDM_UNDO, undoChange, canUndo},
-    {IDM_REDO, redoChange, canRedo},
+    {IDM_UNDO, undo, canUndo},
+    {IDM_REDO, redo, canRedo},
     {IDM_EDIT_PART, editSelectedPart, canEditSelectedPart},
     {IDM_PUT_BACK, putBack, always},
     {IDM_WHOLE_UNIT, resetView, hasDrawing},
@@ -214,13 +226,13 @@ bool runCommand(int id) {
 }
 
 void updateMenu(HMENU menu) {
-    const UndoHistory& history = application().history;
+    const UndoHistory& history = theWorkspace().open.history;
     const std::string undo = "&Undo " + std::string(history.undoName()) + "\tCtrl+Z";
     const std::string redo = "&Redo " + std::string(history.redoName()) + "\tCtrl+Y";
     ModifyMenuA(menu, IDM_UNDO, MF_BYCOMMAND | MF_STRING, IDM_UNDO, undo.c_str());
     ModifyMenuA(menu, IDM_REDO, MF_BYCOMMAND | MF_STRING, IDM_REDO, redo.c_str());
     CheckMenuRadioItem(menu, IDC_VEHICLES, IDC_WEAPONS,
-                       static_cast<UINT>(IDC_VEHICLES + static_cast<int>(application().category)),
+                       static_cast<UINT>(IDC_VEHICLES + static_cast<int>(theWorkspace().category)),
                        MF_BYCOMMAND);
     CheckMenuItem(menu, IDM_SHOW_MARKS, MF_BYCOMMAND | (application().showMarks ? MF_CHECKED : MF_UNCHECKED));
     for (const Command& command : Commands) {

@@ -18,7 +18,7 @@ constexpr std::string_view GameProgram = "Varrocade.exe";
 /// The browser starts in the folder that is set, or at the root of the first drive.
 int CALLBACK startInFolder(HWND browser, UINT message, LPARAM, LPARAM) {
     if (message == BFFM_INITIALIZED) {
-        const std::string& folder = application().gameFolder;
+        const std::string& folder = theWorkspace().gameFolder;
         const std::string start = folder.empty() ? "C:\\" : folder;
         SendMessageA(browser, BFFM_SETSELECTIONA, TRUE, reinterpret_cast<LPARAM>(start.c_str()));
     }
@@ -52,7 +52,7 @@ void browseForGameFolder() {
                      .icon = MessageIcon::Information});
         return;
     }
-    application().gameFolder = folder;
+    theWorkspace().gameFolder = folder;
 }
 
 } // namespace varrocade

@@ -1,9 +1,10 @@
 #pragma once
 // The small dialogs that ask for a file's name.
 
+#include "app/workspace/file_actions.h"
+
 #include <windows.h>
 
-#include <optional>
 #include <string>
 
 namespace varrocade {
@@ -14,9 +15,6 @@ struct NewFileChoice {
     std::string name;
     std::string nationality; ///< "NATIONALITY_...", of a new squad only
 };
-
-/// Why a choice is refused; an empty text when the reason has been shown already. Nothing: it is taken.
-using NameCheck = std::optional<std::string>;
 
 struct NameDialog {
     HWND owner;

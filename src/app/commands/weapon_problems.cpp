@@ -1,8 +1,9 @@
 #include "app/commands/weapon_problems.h"
 
-#include "app/commands/file_commands.h"
 #include "app/windows/application.h"
+#include "app/workspace/category_list.h"
 #include "data/category.h"
+#include "data/finding_text.h"
 #include "editors/form/clipboard_win32.h"
 #include "editors/form/form_port_win32.h"
 #include "editors/form/table_win32.h"
@@ -26,21 +27,21 @@ constexpr std::array<TableColumn, 3> ProblemColumns = {{
 using ProblemCells = std::array<std::string, ProblemColumns.size()>;
 
 struct ProblemsDialog {
-    const std::vector<FileFailure>& problems;
+    const std::vector<Finding>& problems;
     std::string chosen = {}; ///< the weapon to show when the dialog has closed
 };
 
-ProblemCells cellsOf(const FileFailure& problem) {
-    const std::size_t name = problem.path.rfind('\\') + 1;
-    return {problem.path.substr(name), problem.reason, problem.path.substr(0, name)};
+ProblemCells cellsOf(const Finding& problem) {
+    const std::size_t name = problem.file.rfind('\\') + 1;
+    return {problem.file.substr(name), sentence(problem), problem.file.substr(0, name)};
 }
 
 /// The weapon behind a problem, when the list of weapons has it.
-std::string weaponOf(const FileFailure& problem) {
-    const std::string folder = categoryFolder(baseFolder(), Category::Weapons);
-    return problem.path.starts_with(folder) && problem.path.ends_with(DataFileEnding)
-               ? problem.path.substr(folder.size(),
-                                     problem.path.size() - folder.size() - DataFileEnding.size())
+std::string weaponOf(const Finding& problem) {
+    const std::string folder = categoryFolder(baseFolder(theWorkspace()), Category::Weapons);
+    return problem.file.starts_with(folder) && problem.file.ends_with(DataFileEnding)
+               ? problem.file.substr(folder.size(),
+                                     problem.file.size() - folder.size() - DataFileEnding.size())
                : std::string();
 }
 
@@ -52,7 +53,7 @@ std::string selectedWeapon(HWND dialog, const ProblemsDialog& context) {
 void fillProblems(HWND dialog, const ProblemsDialog& context) {
     HWND table = GetDlgItem(dialog, IDC_PROBLEM_LIST);
     prepareTable(table, ProblemColumns);
-    for (const FileFailure& problem : context.problems) {
+    for (const Finding& problem : context.problems) {
         ProblemCells cells = cellsOf(problem);
         addTableRow(table, cells);
     }
@@ -61,8 +62,8 @@ void fillProblems(HWND dialog, const ProblemsDialog& context) {
 
 void copyProblems(HWND dialog, const ProblemsDialog& context) {
     std::string text;
-    for (const FileFailure& problem : context.problems) {
-        text += problem.path + "\t" + problem.reason + "\r\n";
+    for (const Finding& problem : context.problems) {
+        text += problem.file + "\t" + sentence(problem) + "\r\n";
     }
     copyToClipboard(dialog, text);
 }
@@ -104,10 +105,10 @@ INT_PTR CALLBACK problemsProcedure(HWND dialog, UINT message, WPARAM parameter, 
 } // namespace
 
 void showWeaponProblems() {
-    ProblemsDialog context{.problems = application().catalogue.problems()};
+    ProblemsDialog context{.problems = theWorkspace().catalogue.problems()};
     runDialog(application().window, IDD_WEAPON_PROBLEMS, problemsProcedure, &context);
     if (!context.chosen.empty()) {
-        showFile(Category::Weapons, context.chosen);
+        showFile(theWorkspace(), Category::Weapons, context.chosen);
     }
 }
 

@@ -1,7 +1,5 @@
 #include "app/windows/application.h"
 
-#include "app/commands/open_record.h"
-
 namespace varrocade {
 
 Application& application() {
@@ -9,51 +7,8 @@ Application& application() {
     return instance;
 }
 
-const std::string& baseFolder() {
-    const Application& app = application();
-    return app.modMode ? app.modFolder : app.programFolder;
-}
-
-std::vector<std::string> imageBases() {
-    const Application& app = application();
-    if (app.modMode) {
-        return {app.modFolder, app.programFolder};
-    }
-    return {app.programFolder};
-}
-
-void loadCatalogue() {
-    Application& app = application();
-    app.catalogue.load(app.programFolder, app.modMode ? app.modFolder : "");
-}
-
-bool isRecordOpen() {
-    const Application& app = application();
-    return app.openUnit.has_value() || app.openWeapon.has_value();
-}
-
-std::string openFileName() {
-    const Application& app = application();
-    if (app.openWeapon) {
-        return app.openWeapon->fileName;
-    }
-    return app.openUnit ? app.openUnit->fileName.str() : std::string();
-}
-
-bool isUnitModified() {
-    const Application& app = application();
-    return app.openUnit && app.savedUnit && *app.openUnit != *app.savedUnit;
-}
-
-void closeRecord(const std::string& base) {
-    Application& app = application();
-    keepUnsavedUnit(base);
-    app.openUnit.reset();
-    app.savedUnit.reset();
-    app.history.clear();
-    app.openWeapon.reset();
-    app.weaponPosChanged = false;
-    app.exhaustPosChanged = false;
+Workspace& theWorkspace() {
+    return application().workspace;
 }
 
 } // namespace varrocade

@@ -1,14 +1,17 @@
 #include "app/windows/drawing_window.h"
 
-#include "app/commands/commands.h"
 #include "app/windows/application.h"
 #include "app/windows/child_window.h"
-#include "app/windows/main_window.h"
+#include "app/windows/display/picture_prefetch.h"
+#include "app/windows/display/redraw.h"
+#include "app/windows/display/unit_display.h"
 #include "app/windows/part_selection.h"
-#include "app/windows/picture_prefetch.h"
+#include "app/workspace/positions.h"
 #include "resources/resource.h"
 #include "view/drawing/drawing_angles.h"
+#include "view/drawing/part_at.h"
 #include "view/drawing/part_positions.h"
+#include "view/drawing/traverse.h"
 
 #include <windowsx.h>
 
@@ -23,10 +26,6 @@ namespace {
 constexpr char DrawingClass[] = "VARROCADEDRAWING";
 constexpr UINT_PTR PrefetchTimer = 1;
 constexpr int PartReach = 9; ///< pixels of 96 dpi that a click may miss a mark by
-
-HWND drawingWindow() {
-    return GetDlgItem(application().window, IDC_DRAWING);
-}
 
 UnitDisplay& shown() {
     return application().display;
@@ -63,8 +62,8 @@ void scrollView(int pixelsX, int pixelsY) {
 // ---- dragging
 
 std::optional<Traverse> traverseOfPart(const UnitPart& part) {
-    const Application& app = application();
-    return app.openUnit ? traverseOf(*app.openUnit, part) : std::nullopt;
+    const SquadRecord* unit = openUnit(theWorkspace());
+    return unit != nullptr ? traverseOf(*unit, part) : std::nullopt;
 }
 
 double directionFrom(Point pivot, Point to) {
@@ -72,19 +71,18 @@ double directionFrom(Point pivot, Point to) {
 }
 
 void beginDrag(HWND window, POINT pixel) {
-    const Application& app = application();
+    const Workspace& workspace = theWorkspace();
     Drag drag;
     drag.start = pixel;
     drag.lastPixel = pixel;
     const UnitPart part = partUnder(pixel);
     selectPart(part);
     const Point point = pointOf(pixel);
-    if (app.openUnit && isMovable(*app.openUnit, part)) {
+    const SquadRecord* unit = openUnit(workspace);
+    if (unit != nullptr && isMovable(*unit, part)) {
         drag.kind = DragKind::Move;
-        drag.before = app.openUnit;
-        drag.weaponPosChanged = app.weaponPosChanged;
-        drag.exhaustPosChanged = app.exhaustPosChanged;
-        drag.grab = point - positionOf(*app.openUnit, part, shown().turns).value_or(point);
+        drag.before = workspace.open.present;
+        drag.grab = point - positionOf(*unit, part, shown().turns).value_or(point);
     } else if (const auto traverse = traverseOfPart(part)) {
         drag.kind = DragKind::Turn;
         drag.startTurn = turnOf(shown().turns, part.component);
@@ -112,8 +110,7 @@ void turnTo(const UnitPart& part, Point point) {
 }
 
 void continueDrag(POINT pixel) {
-    Application& app = application();
-    UnitDisplay& display = app.display;
+    UnitDisplay& display = shown();
     Drag& drag = *display.drag;
     // A hand that only clicks moves nothing.
     if (!drag.hasBegun && std::abs(pixel.x - drag.start.x) < GetSystemMetrics(SM_CXDRAG) &&
@@ -124,9 +121,7 @@ void continueDrag(POINT pixel) {
     keepView();
     switch (drag.kind) {
     case DragKind::Move:
-        if (movePart(*app.openUnit, display.selected, pointOf(pixel) - drag.grab, display.turns)) {
-            markMoved(display.selected);
-        }
+        moveOpenPart(theWorkspace(), display.selected, pointOf(pixel) - drag.grab, display.turns);
         break;
     case DragKind::Turn:
         turnTo(display.selected, pointOf(pixel));
@@ -141,8 +136,7 @@ void continueDrag(POINT pixel) {
 
 /// Ends dragging; what was moved stays, or goes back to where it was.
 void endDrag(bool keeps) {
-    Application& app = application();
-    UnitDisplay& display = app.display;
+    UnitDisplay& display = shown();
     if (!display.drag) {
         return;
     }
@@ -150,12 +144,10 @@ void endDrag(bool keeps) {
     display.caption.clear();
     ReleaseCapture();
     if (drag.kind == DragKind::Move && drag.hasBegun) {
-        if (!keeps || *app.openUnit == *drag.before) {
-            app.openUnit = drag.before;
-            app.weaponPosChanged = drag.weaponPosChanged;
-            app.exhaustPosChanged = drag.exhaustPosChanged;
+        if (keeps) {
+            finishPartMove(*drag.before);
         } else {
-            partMoved(*drag.before);
+            theWorkspace().open.present = *drag.before;
         }
     } else if (drag.kind == DragKind::Turn && !keeps) {
         display.turns[display.selected.component] = drag.startTurn;
@@ -266,23 +258,24 @@ LRESULT wantedKeys(LPARAM detail) {
 /// The window's name tells the selected part, for those who have the screen read to them; the caret, which is
 /// never shown, tells magnifiers where it is.
 void tellSelection(HWND window) {
-    const Application& app = application();
+    UnitDisplay& display = shown();
+    const SquadRecord* unit = openUnit(theWorkspace());
     std::string name = "Drawing";
-    if (app.openUnit && hasPart(*app.openUnit, app.display.selected)) {
-        name += ": " + partName(*app.openUnit, app.display.selected);
-        if (isMovable(*app.openUnit, app.display.selected)) {
-            name += ", " + positionText(*app.openUnit, app.display.selected);
+    if (unit != nullptr && hasPart(*unit, display.selected)) {
+        name += ": " + partName(*unit, display.selected);
+        if (isMovable(*unit, display.selected)) {
+            name += ", " + positionText(*unit, display.selected);
         }
     }
-    if (name != app.display.toldName) {
-        application().display.toldName = name;
+    if (name != display.toldName) {
+        display.toldName = name;
         SetWindowTextA(window, name.c_str());
     }
-    const auto place = app.openUnit ? positionOf(*app.openUnit, app.display.selected, app.display.turns)
-                                    : std::optional<Point>();
+    const auto place =
+        unit != nullptr ? positionOf(*unit, display.selected, display.turns) : std::optional<Point>();
     if (place && GetFocus() == window) {
-        SetCaretPos(static_cast<int>(std::lround(app.display.shownFit.screenX(place->x))),
-                    static_cast<int>(std::lround(app.display.shownFit.screenY(place->y))));
+        SetCaretPos(static_cast<int>(std::lround(display.shownFit.screenX(place->x))),
+                    static_cast<int>(std::lround(display.shownFit.screenY(place->y))));
     }
 }
 
@@ -300,12 +293,12 @@ bool setCursor(LPARAM detail) {
     if (LOWORD(detail) != HTCLIENT) {
         return false;
     }
-    const Application& app = application();
+    const SquadRecord* unit = openUnit(theWorkspace());
     POINT pixel{};
     GetCursorPos(&pixel);
     ScreenToClient(drawingWindow(), &pixel);
     const UnitPart part = partUnder(pixel);
-    const bool isMove = app.openUnit && isMovable(*app.openUnit, part);
+    const bool isMove = unit != nullptr && isMovable(*unit, part);
     SetCursor(LoadCursorA(nullptr, isMove ? IDC_SIZEALL : traverseOfPart(part) ? IDC_HAND : IDC_ARROW));
     return true;
 }
@@ -402,12 +395,6 @@ bool registerDrawingWindow() {
 
 HWND createDrawingWindow(HWND parent) {
     return createChildWindow(DrawingClass, "Drawing", parent, IDC_DRAWING);
-}
-
-void redrawDrawing() {
-    shown().isDrawingStale = true;
-    InvalidateRect(drawingWindow(), nullptr, FALSE);
-    UpdateWindow(drawingWindow());
 }
 
 void prefetchNeighbours() {

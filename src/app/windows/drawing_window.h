@@ -8,9 +8,6 @@ namespace varrocade {
 bool registerDrawingWindow();
 HWND createDrawingWindow(HWND parent);
 
-/// Paints the drawing at once.
-void redrawDrawing();
-
 /// Decodes the pictures of the selected entry's neighbours, a while later.
 void prefetchNeighbours();
 

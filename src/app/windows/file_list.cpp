@@ -1,15 +1,13 @@
 #include "app/windows/file_list.h"
 
-#include "app/commands/open_record.h"
 #include "app/windows/application.h"
-#include "app/workspace/name_filter.h"
-#include "platform/file_operations.h"
+#include "app/workspace/category_list.h"
+#include "app/workspace/names/name_filter.h"
 #include "resources/resource.h"
-#include "view/painting/flag_painter_win32.h"
+#include "view/painting/flag_painter.h"
+#include "view/painting/gdi_device_win32.h"
 
 #include <commctrl.h>
-
-#include <algorithm>
 
 namespace varrocade {
 
@@ -130,47 +128,28 @@ void createFileList(HWND parent) {
     SendMessageW(filter, EM_SETCUEBANNER, TRUE, reinterpret_cast<LPARAM>(L"Filter (Ctrl+F)"));
 }
 
-void refillList() {
-    Application& app = application();
-    std::vector<std::string> names;
-    listFiles(categoryFolder(baseFolder(), app.category), DataFileEnding, names);
-    for (std::string& name : names) {
-        name.resize(name.size() - DataFileEnding.size());
-    }
-    app.fileNames = std::move(names);
-    applyFilter();
-}
-
-void applyFilter() {
+void showNames() {
     constexpr WPARAM reservedItems = 800;
     constexpr LPARAM reservedBytes = 65536;
     HWND list = listWindow();
-    const std::string filter = windowText(filterWindow());
-    std::string selected = selectedEntry();
-    if (selected.empty()) {
-        // The filter may have hidden it, and shows it again.
-        selected = openFileName();
-    }
     SendMessageA(list, WM_SETREDRAW, FALSE, 0);
     SendMessageA(list, LB_RESETCONTENT, 0, 0);
     SendMessageA(list, LB_INITSTORAGE, reservedItems, reservedBytes);
-    for (const std::string& name : application().fileNames) {
-        if (passesFilter(name, filter)) {
-            SendMessageA(list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(name.c_str()));
-        }
+    for (const std::string& name : theWorkspace().list.shown) {
+        SendMessageA(list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(name.c_str()));
     }
-    selectEntry(selected);
+    showSelectedName();
     SendMessageA(list, WM_SETREDRAW, TRUE, 0);
     InvalidateRect(list, nullptr, TRUE);
 }
 
-bool selectEntry(const std::string& name) {
+void showSelectedName() {
     HWND list = listWindow();
+    const std::string& name = theWorkspace().list.selected;
     const LRESULT index = name.empty() ? LB_ERR
                                        : SendMessageA(list, LB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
                                                       reinterpret_cast<LPARAM>(name.c_str()));
     SendMessageA(list, LB_SETCURSEL, static_cast<WPARAM>(index), 0);
-    return index >= 0;
 }
 
 std::string selectedEntry() {
@@ -178,28 +157,8 @@ std::string selectedEntry() {
     return entryText(list, SendMessageA(list, LB_GETCURSEL, 0, 0));
 }
 
-std::vector<std::string> neighbouringEntries() {
-    HWND list = listWindow();
-    const LRESULT selected = SendMessageA(list, LB_GETCURSEL, 0, 0);
-    const LRESULT count = SendMessageA(list, LB_GETCOUNT, 0, 0);
-    std::vector<std::string> names;
-    if (selected > 0) {
-        names.push_back(entryText(list, selected - 1));
-    }
-    if (selected >= 0 && selected + 1 < count) {
-        names.push_back(entryText(list, selected + 1));
-    }
-    return names;
-}
-
-std::vector<std::string> listedEntries() {
-    HWND list = listWindow();
-    const LRESULT count = SendMessageA(list, LB_GETCOUNT, 0, 0);
-    std::vector<std::string> names;
-    for (LRESULT i = 0; i < count; ++i) {
-        names.push_back(entryText(list, i));
-    }
-    return names;
+void applyFilter() {
+    setFilter(theWorkspace(), windowText(filterWindow()));
 }
 
 int listEntryHeight() {
@@ -222,17 +181,18 @@ void drawListEntry(const DRAWITEMSTRUCT& item) {
     const int height = item.rcItem.bottom - item.rcItem.top;
     RECT place = item.rcItem;
     place.left += objects.scaled(gap);
-    if (app.category != Category::Weapons) {
+    if (app.workspace.category != Category::Weapons) {
         const LONG top = place.top + (height - objects.scaled(flagHeight)) / 2;
         const RECT flag{place.left, top, place.left + objects.scaled(flagWidth),
                         top + objects.scaled(flagHeight)};
-        paintFlag(item.hDC, flag, nationalityOfName(name), imageBases(), app.pictures);
+        GdiDevice device(item.hDC, app.drawing, &app.pictures);
+        paintFlag(device, pixelRect(flag), nationalityOfName(name), imageBases(app.workspace));
         place.left += objects.scaled(flagWidth + gap + 2);
     }
     const Selection font(item.hDC, objects.normalFont.get());
     SetBkMode(item.hDC, TRANSPARENT);
     SetTextColor(item.hDC, GetSysColor(isSelected ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT));
-    const bool isUnsaved = isSelected && (app.weaponPosChanged || app.exhaustPosChanged || isUnitModified());
+    const bool isUnsaved = isSelected && app.workspace.open.isUnsaved();
     const std::string text = isUnsaved ? name + " *" : name;
     constexpr UINT format = DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS;
     DrawTextA(item.hDC, text.c_str(), static_cast<int>(text.size()), &place, format);

@@ -4,30 +4,26 @@
 #include <windows.h>
 
 #include <string>
-#include <vector>
 
 namespace varrocade {
 
 /// Creates the list box and the filter edit.
 void createFileList(HWND parent);
 
-/// Fills the list from the folder of the present category.
-void refillList();
+/// The private message that reads the files of the present category anew.
+inline constexpr UINT RefreshListMessage = WM_USER + 1;
 
-/// Shows the entries that hold every word of the filter, letter case ignored.
-void applyFilter();
+/// Fills the list with the names that the workspace shows.
+void showNames();
 
-/// Selects an entry by its name without opening it; false when it is not in the list.
-bool selectEntry(const std::string& name);
+/// Selects the workspace's selected name in the list.
+void showSelectedName();
 
-/// The name of the selected entry, or empty.
+/// What is selected in the list box, or empty.
 std::string selectedEntry();
 
-/// The entries before and after the selected one, as far as they are there.
-std::vector<std::string> neighbouringEntries();
-
-/// The names that the list shows, from top to bottom.
-std::vector<std::string> listedEntries();
+/// Hands what is typed into the filter to the workspace.
+void applyFilter();
 
 void drawListEntry(const DRAWITEMSTRUCT& item);
 int listEntryHeight();

@@ -1,14 +1,16 @@
 #include "app/windows/main_window.h"
 
 #include "app/commands/commands.h"
-#include "app/commands/file_commands.h"
-#include "app/commands/open_record.h"
+#include "app/commands/edit_record.h"
 #include "app/windows/application.h"
+#include "app/windows/display/redraw.h"
 #include "app/windows/drawing_window.h"
 #include "app/windows/file_list.h"
 #include "app/windows/sheet_window.h"
-#include "app/windows/start_application.h"
+#include "app/workspace/category_list.h"
+#include "app/workspace/options.h"
 #include "app/workspace/positions.h"
+#include "app/workspace/record_files.h"
 #include "app/workspace/window_layout.h"
 #include "resources/resource.h"
 
@@ -171,12 +173,11 @@ LRESULT command(HWND window, WPARAM parameter) {
     case IDC_FILTER:
         if (notification == EN_CHANGE) {
             applyFilter();
-            updateButtons();
         }
         return 0;
     case IDC_FILE_LIST:
         if (notification == LBN_SELCHANGE) {
-            openSelectedEntry();
+            openEntry(theWorkspace(), selectedEntry());
         } else if (notification == LBN_DBLCLK) {
             editOpenRecord();
         }
@@ -218,8 +219,7 @@ LRESULT CALLBACK mainWindowProcedure(HWND window, UINT message, WPARAM parameter
         updateMenu(application().menu);
         return 0;
     case RefreshListMessage:
-        refillList();
-        updateButtons();
+        refillNames(theWorkspace());
         return 0;
     case WM_MEASUREITEM:
         reinterpret_cast<MEASUREITEMSTRUCT*>(detail)->itemHeight = static_cast<UINT>(listEntryHeight());
@@ -246,17 +246,17 @@ LRESULT CALLBACK mainWindowProcedure(HWND window, UINT message, WPARAM parameter
         paintMainWindow(window);
         return 0;
     case WM_CLOSE:
-        if (mayLeavePositions()) {
+        if (mayLeavePositions(theWorkspace())) {
             DestroyWindow(window);
         }
         return 0;
     case WM_QUERYENDSESSION:
-        return mayLeavePositions() ? TRUE : FALSE;
+        return mayLeavePositions(theWorkspace()) ? TRUE : FALSE;
     case WM_ENDSESSION:
         if (parameter != 0) {
             // The process may end without coming back here.
-            keepUnsavedUnit(baseFolder());
-            writeOptions();
+            keepUnsaved(theWorkspace(), baseFolder(theWorkspace()));
+            writeOptions(theWorkspace());
         }
         return 0;
     case WM_DESTROY:
@@ -302,29 +302,6 @@ HWND createMainWindow() {
     return CreateWindowExA(0, className.c_str(), title.c_str(), WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
                            place.x, place.y, place.width, place.height, nullptr, nullptr,
                            application().instance, nullptr);
-}
-
-void showOpenRecord() {
-    UnitDisplay& display = application().display;
-    display.scroll = 0;
-    display.ownFit.reset();
-    display.turns.clear();
-    display.selected = {};
-    display.movedPart = {};
-    display.drag.reset();
-    displayChanged();
-    updateButtons();
-    redrawNow();
-    prefetchNeighbours();
-}
-
-void displayChanged() {
-    application().display.isStale = true;
-}
-
-void redrawNow() {
-    redrawDrawing();
-    redrawSheet();
 }
 
 bool isWindowNavigation(MSG& message) {

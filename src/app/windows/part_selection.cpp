@@ -1,30 +1,22 @@
 #include "app/windows/part_selection.h"
 
-#include "app/commands/commands.h"
-#include "app/commands/open_record.h"
+#include "app/commands/edit_record.h"
 #include "app/windows/application.h"
-#include "app/windows/drawing_window.h"
-#include "app/windows/file_list.h"
-#include "app/windows/main_window.h"
-#include "app/windows/sheet_window.h"
-#include "editors/vehicle/part_editor.h"
+#include "app/windows/display/redraw.h"
+#include "app/windows/display/unit_display.h"
+#include "app/workspace/edits.h"
+#include "app/workspace/positions.h"
+#include "editors/vehicle/part_editor_win32.h"
 #include "resources/resource.h"
-#include "view/drawing/part_positions.h"
 
 namespace varrocade {
 
 namespace {
 
-std::string moveName(const UnitPart& part) {
-    return part.kind == PartKind::Exhaust ? "Move exhaust pipe" : "Move weapon";
-}
-
 /// Whether the last step of the history is a move of the selected part.
-bool isMoveLast() {
-    const Application& app = application();
-    const UnitDisplay& display = app.display;
-    return display.movedPart == display.selected && display.selected &&
-           app.history.undoName() == moveName(display.selected);
+bool isSelectedMoveLast() {
+    const UnitDisplay& display = application().display;
+    return display.movedPart == display.selected && isMoveLast(theWorkspace(), display.selected);
 }
 
 /// Owner of a menu for the length of a scope.
@@ -60,8 +52,8 @@ void selectPart(const UnitPart& part) {
 }
 
 bool canEditSelectedPart() {
-    const Application& app = application();
-    return app.openUnit && hasEditor(*app.openUnit, app.display.selected);
+    const SquadRecord* unit = openUnit(theWorkspace());
+    return unit != nullptr && hasEditor(*unit, application().display.selected);
 }
 
 void editSelectedPart() {
@@ -73,65 +65,53 @@ void editSelectedPart() {
     }
 }
 
-void markMoved(const UnitPart& part) {
-    Application& app = application();
-    (part.kind == PartKind::Exhaust ? app.exhaustPosChanged : app.weaponPosChanged) = true;
-}
-
 bool nudgeSelectedPart(int right, int up) {
-    Application& app = application();
-    UnitDisplay& display = app.display;
-    if (!app.openUnit || !isMovable(*app.openUnit, display.selected)) {
+    UnitDisplay& display = application().display;
+    Workspace& workspace = theWorkspace();
+    const SquadRecord* unit = openUnit(workspace);
+    if (unit == nullptr || !isMovable(*unit, display.selected)) {
         return false;
     }
-    const bool continues = isMoveLast();
-    if (nudgePart(*app.openUnit, display.selected, right, up, display.turns)) {
-        markMoved(display.selected);
+    if (nudgeOpenPart(workspace, display.selected, right, up, display.turns, isSelectedMoveLast())) {
         display.movedPart = display.selected;
-        if (continues) {
-            app.history.amend(*app.openUnit);
-        }
-        unitChanged(moveName(display.selected));
     }
     return true;
 }
 
-void partMoved(const SquadRecord& before) {
-    Application& app = application();
-    if (*app.openUnit == before) {
-        return;
+void finishPartMove(const RecordState& before) {
+    UnitDisplay& display = application().display;
+    if (finishMove(theWorkspace(), display.selected, before)) {
+        display.movedPart = display.selected;
     }
-    app.display.movedPart = app.display.selected;
-    unitChanged(moveName(app.display.selected));
 }
 
 bool putPartBack() {
-    UnitDisplay& display = application().display;
-    if (!isMoveLast()) {
+    if (!isSelectedMoveLast()) {
         return false;
     }
-    undoChange();
-    display.movedPart = {};
+    undoChange(theWorkspace());
+    application().display.movedPart = {};
     return true;
 }
 
 void showPartMenu(POINT screenPixel) {
     const Application& app = application();
-    if (!app.openUnit) {
+    const SquadRecord* unit = openUnit(app.workspace);
+    if (unit == nullptr) {
         return;
     }
-    const std::string name = partName(*app.openUnit, app.display.selected);
+    const std::string name = partName(*unit, app.display.selected);
     const PopupMenu menu;
     menu.add(IDM_EDIT_PART, name.empty() ? "&Edit..." : "&Edit " + name + "...\tEnter",
              canEditSelectedPart());
-    menu.add(IDM_PUT_BACK, "&Put the position back\tEsc", isMoveLast());
+    menu.add(IDM_PUT_BACK, "&Put the position back\tEsc", isSelectedMoveLast());
     menu.addSeparator();
     menu.add(IDM_WHOLE_UNIT, "&Whole unit in view\tCtrl+0", app.display.hasDrawing);
     menu.add(IDC_EDIT_DETAILS, "&Details...", canEditOpenRecord());
     const int command = TrackPopupMenu(menu.get(), TPM_RETURNCMD | TPM_RIGHTBUTTON, screenPixel.x,
                                        screenPixel.y, 0, app.window, nullptr);
     if (command != 0) {
-        runCommand(command);
+        SendMessageA(app.window, WM_COMMAND, MAKEWPARAM(command, 0), 0);
     }
 }
 

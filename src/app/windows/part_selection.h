@@ -2,6 +2,7 @@
 // The part of the open unit that is selected in the drawing and on the data sheet, and what can be done with
 // it.
 
+#include "app/workspace/record/undo_history.h"
 #include "view/drawing/unit_part.h"
 
 #include <windows.h>
@@ -20,13 +21,10 @@ void editSelectedPart();
 bool nudgeSelectedPart(int right, int up);
 
 /// Ends a move of the selected part that began with `before`: one step of the undo history.
-void partMoved(const SquadRecord& before);
+void finishPartMove(const RecordState& before);
 
 /// Puts the selected part back to where it was before its last move; false when it was not moved.
 bool putPartBack();
-
-/// Marks the positions that are unsaved after a part has been moved.
-void markMoved(const UnitPart& part);
 
 /// The menu of the selected part, at a pixel of the screen.
 void showPartMenu(POINT screenPixel);

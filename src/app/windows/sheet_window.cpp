@@ -2,6 +2,8 @@
 
 #include "app/windows/application.h"
 #include "app/windows/child_window.h"
+#include "app/windows/display/redraw.h"
+#include "app/windows/display/unit_display.h"
 #include "app/windows/part_selection.h"
 #include "resources/resource.h"
 
@@ -9,6 +11,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <utility>
 
 namespace varrocade {
 
@@ -17,16 +20,6 @@ namespace {
 constexpr char SheetClass[] = "VARROCADESHEET";
 constexpr UINT_PTR UsersTimer = 1;
 constexpr int LineHeight = 20; ///< pixels of 96 dpi that an arrow scrolls by
-
-HWND sheetWindow() {
-    return GetDlgItem(application().window, IDC_SHEET);
-}
-
-int visibleHeight() {
-    RECT client{};
-    GetClientRect(sheetWindow(), &client);
-    return client.bottom;
-}
 
 /// The bar keeps its place when there is nothing to scroll, so that the text does not jump.
 void updateBar(HWND window) {
@@ -38,7 +31,7 @@ void updateBar(HWND window) {
     SCROLLINFO info = former;
     info.fMask = SIF_RANGE | SIF_PAGE | SIF_POS | SIF_DISABLENOSCROLL;
     info.nMax = std::max(0, display.sheetLayout.height - 1);
-    info.nPage = static_cast<UINT>(visibleHeight());
+    info.nPage = static_cast<UINT>(visibleSheetHeight());
     info.nPos = display.scroll;
     // It would be painted anew, which takes as long as painting the sheet does.
     if (info.nMax != former.nMax || info.nPage != former.nPage || info.nPos != former.nPos) {
@@ -47,7 +40,7 @@ void updateBar(HWND window) {
 }
 
 void scrollBy(int pixels) {
-    scrollSheet(pixels, visibleHeight());
+    scrollSheet(pixels);
     redrawSheet();
 }
 
@@ -63,9 +56,9 @@ void scrollByBar(HWND window, int request) {
     case SB_LINEDOWN:
         return scrollBy(line);
     case SB_PAGEUP:
-        return scrollBy(-visibleHeight());
+        return scrollBy(-visibleSheetHeight());
     case SB_PAGEDOWN:
-        return scrollBy(visibleHeight());
+        return scrollBy(visibleSheetHeight());
     case SB_TOP:
         return scrollBy(-info.nMax);
     case SB_BOTTOM:
@@ -98,6 +91,12 @@ int requestOfKey(WPARAM key) {
     }
 }
 
+/// Looks for the units that carry the open weapon, whenever the window has nothing else to do.
+void startLookingForUsers() {
+    application().weaponUsers.start(gameFolders(theWorkspace()));
+    SetTimer(sheetWindow(), UsersTimer, USER_TIMER_MINIMUM, nullptr);
+}
+
 void paintSheetWindow(HWND window) {
     PAINTSTRUCT paintStruct{};
     HDC device = BeginPaint(window, &paintStruct);
@@ -106,6 +105,9 @@ void paintSheetWindow(HWND window) {
     paintSheetArea(device, client);
     EndPaint(window, &paintStruct);
     updateBar(window);
+    if (std::exchange(application().display.wantsWeaponUsers, false)) {
+        startLookingForUsers();
+    }
 }
 
 bool keyDown(HWND window, WPARAM key) {
@@ -198,25 +200,9 @@ HWND createSheetWindow(HWND parent) {
     return createChildWindow(SheetClass, "Data sheet", parent, IDC_SHEET, WS_CLIPSIBLINGS | WS_VSCROLL);
 }
 
-void redrawSheet() {
-    application().display.sheetCanvas.isPainted = false;
-    InvalidateRect(sheetWindow(), nullptr, FALSE);
-    UpdateWindow(sheetWindow());
-}
-
-void startLookingForUsers() {
-    application().weaponUsers.start(imageBases());
-    SetTimer(sheetWindow(), UsersTimer, USER_TIMER_MINIMUM, nullptr);
-}
-
 void scrollSheetByWheel(int delta) {
     constexpr int step = 3 * LineHeight;
     scrollBy(-MulDiv(delta, application().drawing.scaled(step), WHEEL_DELTA));
-}
-
-void showSelectedRow() {
-    showSelectedOnSheet(visibleHeight());
-    redrawSheet();
 }
 
 } // namespace varrocade

@@ -1,15 +1,19 @@
 #include "app/windows/start_application.h"
 
-#include "app/commands/mod_mode.h"
 #include "app/windows/application.h"
 #include "app/windows/main_window.h"
 #include "app/windows/message_boxes.h"
+#include "app/windows/window_listener.h"
+#include "app/workspace/mod_mode.h"
+#include "app/workspace/options.h"
 #include "app/workspace/options_file.h"
+#include "app/workspace/record_files.h"
 #include "data/unit/image_folders.h"
 #include "platform/messages.h"
 #include "resources/resource.h"
 
 #include <commctrl.h>
+#include <shlobj.h>
 
 #include <array>
 
@@ -27,8 +31,10 @@ std::string currentFolder() {
     return folder;
 }
 
-std::string optionsPath() {
-    return application().programFolder + std::string(OptionsFileName);
+std::string profileFolder() {
+    std::array<char, MAX_PATH> path{};
+    SHGetFolderPathA(nullptr, CSIDL_PROFILE, nullptr, SHGFP_TYPE_CURRENT, path.data());
+    return path.data();
 }
 
 /// Under a debugger-less system a crash ends the process with a failing status instead of a dialog.
@@ -55,8 +61,9 @@ int runMessageLoop() {
 /// the process.
 void releaseRecordsAndDrawing() {
     Application& app = application();
-    closeRecord();
-    app.modSettings.reset();
+    app.workspace.listener = &deafListener();
+    closeRecord(app.workspace);
+    app.workspace.modSettings.reset();
     app.display = {};
     app.pictures.clear();
     DrawingObjects& drawing = app.drawing;
@@ -82,37 +89,19 @@ void releaseRecordsAndDrawing() {
 
 } // namespace
 
-void readOptions() {
-    Application& app = application();
-    app.gameFolder.clear();
-    std::string content;
-    if (!readWholeFile(optionsPath(), content)) {
-        return;
-    }
-    Options options = decodeOptions(content);
-    if (options.isFatal) {
-        ExitProcess(1);
-    }
-    app.gameFolder = std::move(options.gameFolder);
-}
-
-int writeOptions() {
-    const std::string path = optionsPath();
-    if (saveFile(systemFiles(), path, encodeOptions(application().gameFolder))) {
-        showCouldNotSave(path);
-        return 0;
-    }
-    return 1;
-}
-
 int startApplication(HINSTANCE instance, int showCommand) {
     SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOGPFAULTERRORBOX);
     SetUnhandledExceptionFilter(endOnCrash);
     useMessageBoxes();
     Application& app = application();
     app.instance = instance;
-    app.programFolder = currentFolder();
-    readOptions();
+    Workspace& workspace = app.workspace;
+    workspace.programFolder = currentFolder();
+    workspace.profileFolder = profileFolder();
+    workspace.listener = &windowListener();
+    if (!readOptions(workspace)) {
+        ExitProcess(1);
+    }
     const PictureSession pictures;
     app.drawing =
         createDrawingObjects(instance, std::string(image_folder::Grid), static_cast<int>(GetDpiForSystem()));
@@ -124,11 +113,11 @@ int startApplication(HINSTANCE instance, int showCommand) {
         return 0;
     }
     app.menu = GetMenu(app.window);
-    detectModMode();
+    detectModMode(workspace);
     ShowWindow(app.window, showCommand);
     UpdateWindow(app.window);
     const int status = runMessageLoop();
-    writeOptions();
+    writeOptions(workspace);
     releaseRecordsAndDrawing();
     return status;
 }

@@ -1,4 +1,4 @@
-#include "data/format/tag_tree.h"
+#include "data/format/clean_text.h"
 
 #include "data/format/texts.h"
 
@@ -33,8 +33,7 @@ Piece trimmed(const char* begin, const char* end) {
     return {begin, end};
 }
 
-/// Calls `take(piece, line)` for every piece of the content, in order; `line` counts from 1. A false answer
-/// ends the walk.
+/// Calls `take(piece, line)` for every piece of the content, in order; `line` counts from 1.
 template <typename Take>
 void forEachPiece(std::string_view content, Take take) {
     const char* at = content.data();
@@ -55,8 +54,8 @@ void forEachPiece(std::string_view content, Take take) {
             }
         }
         const Piece piece = trimmed(pieceBegin, pieceEnd != nullptr ? pieceEnd : at);
-        if (piece.begin != piece.end && !take(piece, line)) {
-            return;
+        if (piece.begin != piece.end) {
+            take(piece, line);
         }
         if (at == end) {
             return;
@@ -90,7 +89,6 @@ void cleanTaggedText(std::string_view fileContent, std::string& cleaned) {
         const auto length = static_cast<std::size_t>(piece.end - piece.begin);
         std::memmove(out, piece.begin, length);
         out += length;
-        return true;
     });
     cleaned.resize(static_cast<std::size_t>(out - cleaned.data()));
 }
@@ -102,32 +100,8 @@ std::vector<KeptPiece> keptPieces(std::string_view fileContent) {
         const std::string_view text(piece.begin, static_cast<std::size_t>(piece.end - piece.begin));
         pieces.push_back({text, line, cleanedLength});
         cleanedLength += text.size();
-        return true;
     });
     return pieces;
-}
-
-std::size_t lineOfOffset(std::string_view fileContent, std::size_t cleanedOffset) {
-    std::size_t cleanedLength = 0;
-    std::size_t found = 1;
-    forEachPiece(fileContent, [&](const Piece& piece, std::size_t line) {
-        cleanedLength += static_cast<std::size_t>(piece.end - piece.begin);
-        found = line;
-        return cleanedLength <= cleanedOffset;
-    });
-    return found;
-}
-
-std::size_t lineAt(std::string_view fileContent, std::size_t offset) {
-    std::size_t line = 1;
-    for (std::size_t i = 0; i < offset; ++i) {
-        const bool isPair =
-            fileContent[i] == '\r' && i + 1 < fileContent.size() && fileContent[i + 1] == '\n';
-        if (fileContent[i] == '\n' || (fileContent[i] == '\r' && !isPair)) {
-            ++line;
-        }
-    }
-    return line;
 }
 
 } // namespace varrocade

@@ -1,5 +1,7 @@
 #include "data/format/numbers.h"
 
+#include "data/format/texts.h"
+
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -89,18 +91,42 @@ float toFloat(std::string_view text) {
     return static_cast<float>(value);
 }
 
+std::optional<std::int64_t> entireInteger(std::string_view text) {
+    text = trimmed(text);
+    const bool isNegative = text.starts_with('-');
+    text.remove_prefix(isNegative || text.starts_with('+') ? 1 : 0);
+    if (text.empty() || text.find_first_not_of("0123456789") != std::string_view::npos) {
+        return std::nullopt;
+    }
+    std::int64_t value = 0;
+    if (std::from_chars(text.data(), text.data() + text.size(), value).ec != std::errc()) {
+        value = INT64_MAX;
+    }
+    return isNegative ? -value : value;
+}
+
+std::optional<double> entireReal(std::string_view text) {
+    text = trimmed(text);
+    if (text.starts_with('+') && !text.starts_with("+-")) {
+        text.remove_prefix(1);
+    }
+    double value = 0.0;
+    const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
+    const bool isNumber = result.ec == std::errc() && result.ptr == text.data() + text.size();
+    return isNumber && std::isfinite(value) ? std::optional(value) : std::nullopt;
+}
+
 void appendInteger(std::string& out, std::int32_t value) {
     std::array<char, 16> digits{};
     const auto result = std::to_chars(digits.data(), digits.data() + digits.size(), value);
     out.append(digits.data(), result.ptr);
 }
 
-void appendShortest(std::string& out, float value) {
+void appendShortest(std::string& out, double value) {
     std::array<char, 64> digits{};
     constexpr int significantDigits = 6;
-    const auto result =
-        std::to_chars(digits.data(), digits.data() + digits.size(), static_cast<double>(value),
-                      std::chars_format::general, significantDigits);
+    const auto result = std::to_chars(digits.data(), digits.data() + digits.size(), value,
+                                      std::chars_format::general, significantDigits);
     out.append(digits.data(), result.ptr);
 }
 

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <limits>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -30,9 +31,14 @@ Integer toClamped(std::string_view text) {
 double toReal(std::string_view text);
 float toFloat(std::string_view text);
 
+/// The number that a whole text is, blanks at its ends aside, or nothing: people's input and comparisons need
+/// more care than the game takes. A whole number too long for 64 bits is brought to the nearest one.
+std::optional<std::int64_t> entireInteger(std::string_view text);
+std::optional<double> entireReal(std::string_view text);
+
 void appendInteger(std::string& out, std::int32_t value);
 /// As "%g" and "%.6g": the shortest of fixed and exponent form with at most six significant digits.
-void appendShortest(std::string& out, float value);
+void appendShortest(std::string& out, double value);
 /// As "%.*f".
 void appendFixed(std::string& out, double value, int decimals);
 

@@ -1,5 +1,6 @@
 #include "data/format/plain_tags.h"
 
+#include "data/format/clean_text.h"
 #include "data/format/texts.h"
 
 #include <array>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "data/format/tag_tree.h"
+#include "data/format/tag_node.h"
 
 #include <string_view>
 #include <vector>

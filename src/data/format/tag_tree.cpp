@@ -1,5 +1,6 @@
 #include "data/format/tag_tree.h"
 
+#include "data/format/clean_text.h"
 #include "data/format/plain_tags.h"
 
 #include <algorithm>
@@ -171,10 +172,6 @@ void TagTree::parseCleaned(std::string_view fileContent) {
     } else if (!text.empty()) {
         GeneralParser(text, nodes_).run();
     }
-}
-
-std::size_t TagTree::lineOf(std::string_view part, std::string_view fileContent) const {
-    return isVerbatim_ ? lineAt(content_, offsetOf(part)) : lineOfOffset(fileContent, offsetOf(part));
 }
 
 } // namespace varrocade

@@ -3,27 +3,14 @@
 // attributes, no escapes, "//" comments. The tree knows no element names; what they mean is the readers'
 // business.
 
-#include <cstdint>
+#include "data/format/tag_node.h"
+
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace varrocade {
-
-/// One element. Names and texts are parts of the tree's content; nodes name each other by their index.
-struct TagNode {
-    static constexpr std::uint32_t None = UINT32_MAX;
-
-    /// The characters between `<` and `>`, verbatim; empty for the root.
-    std::string_view name;
-    /// The content when it does not begin with `<`, otherwise empty.
-    std::string_view text;
-    std::uint32_t parent = None;
-    std::uint32_t firstChild = None;
-    std::uint32_t lastChild = None;
-    std::uint32_t nextSibling = None;
-    std::uint32_t childCount = 0;
-};
 
 /// A parsed file. `nodes[0]` is the root; every element stands behind its parent and before its next sibling,
 /// so walking the vector from front to back is the walk depth first in file order, without recursion however
@@ -50,59 +37,13 @@ public:
     [[nodiscard]] std::size_t offsetOf(std::string_view part) const {
         return static_cast<std::size_t>(part.data() - content_.data());
     }
-    /// The line (from 1) on which a part stands in the file that was parsed. Costs a pass over the file: for
-    /// messages only.
-    [[nodiscard]] std::size_t lineOf(std::string_view part, std::string_view fileContent) const;
+    /// Whether the content is the file as it stands. `SourceMap` finds the places of either in the file.
+    [[nodiscard]] bool isVerbatim() const { return isVerbatim_; }
 
 private:
     std::string content_;
     std::vector<TagNode> nodes_;
     bool isVerbatim_ = false;
 };
-
-/// Whether a text can be an element's value: read again it is the same, and nothing behind it is lost. "//"
-/// begins a comment even within a value, "</" may close an element further out, and a value that begins with
-/// "<" is taken for elements.
-bool canBeValue(std::string_view text);
-
-/// Appends an element to its parent's children and returns its index.
-inline std::uint32_t addNode(std::vector<TagNode>& nodes, std::uint32_t parent, std::string_view name) {
-    const auto index = static_cast<std::uint32_t>(nodes.size());
-    TagNode& node = nodes.emplace_back();
-    node.name = name;
-    node.parent = parent;
-    TagNode& above = nodes[parent];
-    if (above.lastChild == TagNode::None) {
-        above.firstChild = index;
-    } else {
-        nodes[above.lastChild].nextSibling = index;
-    }
-    above.lastChild = index;
-    ++above.childCount;
-    return index;
-}
-
-/// Strips comments, line ends and each line's leading and trailing blanks. CR LF, LF and a lone CR end a
-/// line; a line of more than `LinePieceLength` characters is cleaned in pieces, as the game's own reader
-/// does.
-void cleanTaggedText(std::string_view fileContent, std::string& cleaned);
-
-/// What cleaning keeps of a line, or of a piece of a long line.
-struct KeptPiece {
-    std::string_view text;     ///< a part of the file's content, never empty
-    std::size_t line;          ///< from 1
-    std::size_t cleanedOffset; ///< where it begins in the cleaned content
-};
-std::vector<KeptPiece> keptPieces(std::string_view fileContent);
-
-/// The line (from 1) of the file on which the character at `cleanedOffset` of the cleaned content stands.
-/// Cleans again, so it costs as much as reading: for messages only.
-std::size_t lineOfOffset(std::string_view fileContent, std::size_t cleanedOffset);
-
-/// The line (from 1) on which the character at an offset of a file stands.
-std::size_t lineAt(std::string_view fileContent, std::size_t offset);
-
-/// The game's buffer for a line: a longer one is cleaned in pieces of this many characters.
-inline constexpr std::size_t LinePieceLength = 510;
 
 } // namespace varrocade

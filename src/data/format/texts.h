@@ -30,6 +30,18 @@ constexpr bool equalsIgnoringCase(std::string_view a, std::string_view b) {
                       [](char x, char y) { return lowered(x) == lowered(y); });
 }
 
+/// Less than 0, 0 or more, as `std::string_view::compare` of both in small letters.
+constexpr int compareIgnoringCase(std::string_view a, std::string_view b) {
+    for (std::size_t i = 0; i < a.size() && i < b.size(); ++i) {
+        const auto x = static_cast<unsigned char>(lowered(a[i]));
+        const auto y = static_cast<unsigned char>(lowered(b[i]));
+        if (x != y) {
+            return x < y ? -1 : 1;
+        }
+    }
+    return static_cast<int>(a.size() > b.size()) - static_cast<int>(a.size() < b.size());
+}
+
 /// Without the blanks at its ends.
 constexpr std::string_view trimmed(std::string_view text) {
     const std::size_t first = text.find_first_not_of(Blanks);

@@ -1,7 +1,7 @@
 #pragma once
 // Which entry of the saved file is which of the file.
 
-#include "data/losses/loss_finder.h"
+#include "data/losses/traced_file.h"
 
 #include <cstdint>
 #include <span>

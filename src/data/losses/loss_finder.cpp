@@ -1,12 +1,12 @@
 #include "data/losses/loss_finder.h"
 
+#include "data/finding_text.h"
 #include "data/losses/entry_pairs.h"
 #include "data/losses/loss_list.h"
 #include "data/losses/lost_text.h"
 #include "data/losses/value_meaning.h"
 
 #include <algorithm>
-#include <functional>
 #include <set>
 #include <string>
 #include <utility>
@@ -15,29 +15,16 @@ namespace varrocade {
 
 namespace {
 
-struct FieldKey {
-    std::uint32_t entry;
-    FieldId field;
-};
-
-bool isBefore(const FieldKey& a, const FieldKey& b) {
-    return a.entry != b.entry ? a.entry < b.entry : std::less<>()(a.field, b.field);
-}
-
-FieldKey keyOf(const TracedValue* value) {
-    return {value->entry, value->field};
-}
-
 class LossFinder {
 public:
     LossFinder(const TracedFile& file, const TracedFile& saved, const LossKnowledge& knowledge)
-        : file_(file), saved_(saved), knowledge_(knowledge), lines_(file.content), history_(file.trace),
-          savedHistory_(saved.trace), pairs_(file, history_, saved, savedHistory_, knowledge.keys),
-          nodes_(file.tree.nodes().size()) {}
+        : file_(file), saved_(saved), knowledge_(knowledge), places_(file.tree, file.content),
+          history_(file.trace), savedHistory_(saved.trace),
+          pairs_(file, history_, saved, savedHistory_, knowledge.keys), nodes_(file.tree.nodes().size()) {}
 
-    std::vector<SaveLoss> run() {
-        findLostComments(lines_, file_.content, saved_.content, losses_);
-        findBrokenNesting(lines_, file_.tree, losses_);
+    std::vector<Finding> run() {
+        findLostComments(places_, file_.content, saved_.content, losses_);
+        findBrokenNesting(places_, file_.tree, losses_);
         judgeValues();
         foldLostGroups();
         reportNodes();
@@ -57,11 +44,10 @@ private:
     using Values = std::span<const TracedValue>;
 
     [[nodiscard]] const TagNode& node(std::uint32_t index) const { return file_.tree.nodes()[index]; }
-    [[nodiscard]] std::size_t lineOf(std::uint32_t index) const {
-        return lines_.lineAt(file_.tree.offsetOf(node(index).name) - 1);
-    }
     void add(std::uint32_t index, LossKind kind, std::string message) {
-        losses_.add(lineOf(index), kind, std::move(message));
+        const std::string_view name = node(index).name;
+        losses_.add(places_.placeOf(node(index)), kind, std::move(message),
+                    knowledge_.isElement(name) ? name : std::string_view());
     }
     [[nodiscard]] std::string placeOf(std::uint32_t index) const {
         const std::uint32_t parent = node(index).parent;
@@ -87,7 +73,7 @@ private:
     const TracedFile& file_;
     const TracedFile& saved_;
     const LossKnowledge& knowledge_;
-    LineMap lines_;
+    SourceMap places_;
     FieldHistory history_;
     FieldHistory savedHistory_;
     EntryPairs pairs_;
@@ -135,7 +121,7 @@ void LossFinder::judgeNode(Values values) {
     } else if (overwriting != nullptr) {
         add(index, LossKind::Dropped,
             elementText(node(index)) + " is overwritten by " + elementText(node(overwriting->node)) +
-                " on line " + std::to_string(lineOf(overwriting->node)));
+                " on line " + std::to_string(places_.placeOf(node(overwriting->node)).line));
     }
 }
 
@@ -162,7 +148,7 @@ void LossFinder::judgeEffective(std::uint32_t index, const std::vector<const Tra
     if (std::any_of(effective.begin(), effective.end(), isWritten)) {
         nodes_[index].kept = 1;
         judgeWritten(index, effective);
-        findJoinedLines(lines_, file_.tree, node(index), losses_);
+        findJoinedLines(places_, file_.tree, node(index), losses_);
     } else if (std::any_of(effective.begin(), effective.end(), isLost)) {
         nodes_[index].isLost = true;
         nodes_[index].lost = 1;
@@ -290,33 +276,8 @@ void LossFinder::reportNodes() {
 
 } // namespace
 
-FieldHistory::FieldHistory(const ReadingTrace& trace) {
-    values_.reserve(trace.values().size());
-    for (const TracedValue& value : trace.values()) {
-        values_.push_back(&value);
-    }
-    std::stable_sort(values_.begin(), values_.end(),
-                     [](const TracedValue* a, const TracedValue* b) { return isBefore(keyOf(a), keyOf(b)); });
-}
-
-const TracedValue* FieldHistory::first(std::uint32_t entry, FieldId field) const {
-    const FieldKey key{entry, field};
-    const auto found = std::lower_bound(
-        values_.begin(), values_.end(), key,
-        [](const TracedValue* value, const FieldKey& k) { return isBefore(keyOf(value), k); });
-    return found != values_.end() && !isBefore(key, keyOf(*found)) ? *found : nullptr;
-}
-
-const TracedValue* FieldHistory::last(std::uint32_t entry, FieldId field) const {
-    const FieldKey key{entry, field};
-    const auto behind = std::upper_bound(
-        values_.begin(), values_.end(), key,
-        [](const FieldKey& k, const TracedValue* value) { return isBefore(k, keyOf(value)); });
-    return behind != values_.begin() && !isBefore(keyOf(behind[-1]), key) ? behind[-1] : nullptr;
-}
-
-std::vector<SaveLoss> findLosses(const TracedFile& file, const TracedFile& saved,
-                                 const LossKnowledge& knowledge) {
+std::vector<Finding> findLosses(const TracedFile& file, const TracedFile& saved,
+                                const LossKnowledge& knowledge) {
     return LossFinder(file, saved, knowledge).run();
 }
 

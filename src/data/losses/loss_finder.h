@@ -2,40 +2,14 @@
 // Comparing what a reader made of a file with what it makes of the file that the writer would put in its
 // place.
 
-#include "data/format/tag_tree.h"
-#include "data/losses/reading_trace.h"
-#include "data/losses/save_losses.h"
+#include "data/finding.h"
+#include "data/losses/traced_file.h"
 
-#include <cstdint>
 #include <span>
 #include <string_view>
 #include <vector>
 
 namespace varrocade {
-
-/// A file's content with its tree, and with what its reader did once that has filled the trace.
-struct TracedFile {
-    explicit TracedFile(std::string_view fileContent) : content(fileContent) {
-        tree.parseCleaned(fileContent);
-    }
-
-    std::string_view content;
-    TagTree tree;
-    ReadingTrace trace;
-};
-
-/// The first and the last element to set each field of each entry.
-class FieldHistory {
-public:
-    explicit FieldHistory(const ReadingTrace& trace);
-
-    /// Null where no element sets the field.
-    [[nodiscard]] const TracedValue* first(std::uint32_t entry, FieldId field) const;
-    [[nodiscard]] const TracedValue* last(std::uint32_t entry, FieldId field) const;
-
-private:
-    std::vector<const TracedValue*> values_; ///< by entry, field and node
-};
 
 /// What is particular to a kind of file.
 struct LossKnowledge {
@@ -50,7 +24,7 @@ struct LossKnowledge {
 };
 
 /// What of `file` is not in `saved`, or is otherwise there.
-std::vector<SaveLoss> findLosses(const TracedFile& file, const TracedFile& saved,
-                                 const LossKnowledge& knowledge);
+std::vector<Finding> findLosses(const TracedFile& file, const TracedFile& saved,
+                                const LossKnowledge& knowledge);
 
 } // namespace varrocade

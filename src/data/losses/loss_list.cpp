@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace varrocade {
 
@@ -10,68 +11,40 @@ namespace {
 /// A file of nothing but faults says enough with so many.
 constexpr std::size_t MaxLosses = 10000;
 
-/// As much of a text as a message shows.
-std::string shownBetween(char before, std::string_view text, char after) {
-    constexpr std::size_t mostShown = 60;
-    std::string result(1, before);
-    for (const char c : text.substr(0, mostShown)) {
-        result += c >= '\0' && c < ' ' ? '?' : c;
-    }
-    if (text.size() > mostShown) {
-        result += "...";
-    }
-    result += after;
-    return result;
-}
+struct LossKindTraits {
+    std::string_view key;
+    Severity severity;
+};
+
+/// By `LossKind`. What is only spelt otherwise is no reason to ask anybody.
+constexpr std::array<LossKindTraits, 3> LossKinds = {{{finding_key::Dropped, Severity::Warning},
+                                                      {finding_key::Changed, Severity::Warning},
+                                                      {finding_key::Respelt, Severity::Note}}};
 
 } // namespace
 
-std::string_view lossKindWord(LossKind kind) {
-    constexpr std::array<std::string_view, 3> words = {"dropped", "changed", "respelt"};
-    return words[static_cast<std::size_t>(kind)];
+std::string lossText(const Finding& loss) {
+    return std::to_string(loss.line) + ": " + std::string(loss.key) + ": " + loss.message;
 }
 
-std::string lossText(const SaveLoss& loss) {
-    return std::to_string(loss.line) + ": " + std::string(lossKindWord(loss.kind)) + ": " + loss.message;
-}
-
-std::size_t LineMap::lineAt(std::size_t cleanedOffset) const {
-    const std::size_t behind = firstPieceBehind(cleanedOffset);
-    return behind == 0 ? 1 : pieces_[behind - 1].line;
-}
-
-std::size_t LineMap::firstPieceBehind(std::size_t cleanedOffset) const {
-    const auto behind = std::upper_bound(
-        pieces_.begin(), pieces_.end(), cleanedOffset,
-        [](std::size_t offset, const KeptPiece& piece) { return offset < piece.cleanedOffset; });
-    return static_cast<std::size_t>(behind - pieces_.begin());
-}
-
-void LossList::add(std::size_t line, LossKind kind, std::string message) {
-    if (losses_.size() < MaxLosses) {
-        losses_.push_back({line, kind, std::move(message)});
-    } else if (!isFull_) {
-        isFull_ = true;
-        losses_.push_back({line, kind, "more than can be listed is lost"});
+void LossList::add(SourcePlace place, LossKind kind, std::string message, std::string_view field) {
+    if (isFull_) {
+        return;
     }
+    isFull_ = losses_.size() >= MaxLosses;
+    const LossKindTraits& traits = LossKinds[static_cast<std::size_t>(kind)];
+    losses_.push_back({.key = traits.key,
+                       .severity = traits.severity,
+                       .line = place.line,
+                       .column = place.column,
+                       .field = std::string(field),
+                       .message = isFull_ ? "more than can be listed is lost" : std::move(message)});
 }
 
-std::vector<SaveLoss> LossList::take() {
+std::vector<Finding> LossList::take() {
     std::stable_sort(losses_.begin(), losses_.end(),
-                     [](const SaveLoss& a, const SaveLoss& b) { return a.line < b.line; });
+                     [](const Finding& a, const Finding& b) { return a.line < b.line; });
     return std::move(losses_);
-}
-
-std::string quoted(std::string_view text) {
-    return shownBetween('"', text, '"');
-}
-
-std::string tagText(std::string_view name) {
-    return shownBetween('<', name, '>');
-}
-
-std::string elementText(const TagNode& node) {
-    return node.text.empty() ? tagText(node.name) : tagText(node.name) + " " + quoted(node.text);
 }
 
 } // namespace varrocade

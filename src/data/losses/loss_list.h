@@ -1,49 +1,32 @@
 #pragma once
 // Collecting what a save would lose.
 
-#include "data/format/tag_tree.h"
-#include "data/losses/save_losses.h"
+#include "data/finding.h"
+#include "data/format/source_map.h"
 
+#include <cstdint>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 namespace varrocade {
 
-/// Finds lines without a pass over the file for each.
-class LineMap {
-public:
-    explicit LineMap(std::string_view fileContent) : pieces_(keptPieces(fileContent)) {}
+enum class LossKind : std::uint8_t { Dropped, Changed, Respelt };
 
-    [[nodiscard]] const std::vector<KeptPiece>& pieces() const { return pieces_; }
-    /// The line of a character of the cleaned content.
-    [[nodiscard]] std::size_t lineAt(std::size_t cleanedOffset) const;
-    /// The first piece that begins behind a character of the cleaned content, as an index.
-    [[nodiscard]] std::size_t firstPieceBehind(std::size_t cleanedOffset) const;
-
-private:
-    std::vector<KeptPiece> pieces_;
-};
+/// One line about a loss: "12: dropped: ...". Its key says what becomes of it: `finding_key::Dropped`,
+/// `Changed` or `Respelt`.
+std::string lossText(const Finding& loss);
 
 class LossList {
 public:
-    void add(std::size_t line, LossKind kind, std::string message);
+    /// `field`: the element that holds the value, where it is one that files of the kind have.
+    void add(SourcePlace place, LossKind kind, std::string message, std::string_view field = {});
     /// Everything by its line; the losses of one line in the order in which they were found.
-    [[nodiscard]] std::vector<SaveLoss> take();
+    [[nodiscard]] std::vector<Finding> take();
 
 private:
-    std::vector<SaveLoss> losses_;
+    std::vector<Finding> losses_;
     bool isFull_ = false;
 };
-
-/// A text between quotation marks, cut when it is long and without control characters.
-std::string quoted(std::string_view text);
-
-/// "<name>", cut when it is long.
-std::string tagText(std::string_view name);
-
-/// An element with its text, if it has one.
-std::string elementText(const TagNode& node);
 
 } // namespace varrocade

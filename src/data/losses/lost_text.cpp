@@ -1,5 +1,6 @@
 #include "data/losses/lost_text.h"
 
+#include "data/finding_text.h"
 #include "data/format/texts.h"
 
 #include <algorithm>
@@ -12,54 +13,44 @@ namespace {
 
 constexpr std::string_view CommentSign = "//";
 
-struct Comment {
-    std::string_view text; ///< with its slashes
-    std::size_t line;
-};
-
-/// The comments of what cleaning leaves out between two pieces; `line` is where that begins.
-void addComments(std::string_view gap, std::size_t line, std::vector<Comment>& comments) {
+/// The comments, with their slashes, of what cleaning leaves out between two pieces.
+void addComments(std::string_view gap, std::vector<std::string_view>& comments) {
     constexpr std::string_view lineEnds = "\r\n";
     while (!gap.empty()) {
         const std::size_t end = std::min(gap.find_first_of(lineEnds), gap.size());
         const std::size_t sign = gap.substr(0, end).find(CommentSign);
         if (sign != std::string_view::npos) {
-            comments.push_back({trimmed(gap.substr(sign, end - sign)), line});
+            comments.push_back(trimmed(gap.substr(sign, end - sign)));
         }
-        if (end == gap.size()) {
-            return;
-        }
-        gap.remove_prefix(end + (gap.substr(end).starts_with(lineEnds) ? 2 : 1));
-        ++line;
+        gap.remove_prefix(std::min(end + 1, gap.size()));
     }
 }
 
-std::vector<Comment> commentsOf(std::string_view content, const std::vector<KeptPiece>& pieces) {
-    std::vector<Comment> comments;
+/// The comments of a file, as parts of its content.
+std::vector<std::string_view> commentsOf(std::string_view content, const std::vector<KeptPiece>& pieces) {
+    std::vector<std::string_view> comments;
     std::size_t begin = 0;
-    std::size_t line = 1;
     for (const KeptPiece& piece : pieces) {
         const auto end = static_cast<std::size_t>(piece.text.data() - content.data());
-        addComments(content.substr(begin, end - begin), line, comments);
+        addComments(content.substr(begin, end - begin), comments);
         begin = end + piece.text.size();
-        line = piece.line;
     }
-    addComments(content.substr(begin), line, comments);
+    addComments(content.substr(begin), comments);
     return comments;
 }
 
 /// Compares where each level of the tree ends with where its parsing stopped.
 class NestingCheck {
 public:
-    NestingCheck(const LineMap& lines, const TagTree& tree, LossList& losses)
-        : lines_(lines), tree_(tree), losses_(losses), closings_(tree.nodes().size(), NotSearched),
+    NestingCheck(const SourceMap& places, const TagTree& tree, LossList& losses)
+        : places_(places), tree_(tree), losses_(losses), closings_(tree.nodes().size(), NotSearched),
           budget_(WorkPerCharacter * tree.content().size() + LeastWork) {}
 
     void run() {
         const std::vector<TagNode>& nodes = tree_.nodes();
         for (std::uint32_t i = 0; i < nodes.size(); ++i) {
             if (budget_ == 0) {
-                losses_.add(lines_.lineAt(openingOf(nodes[i])), LossKind::Dropped,
+                losses_.add(places_.placeAt(openingOf(nodes[i])), LossKind::Dropped,
                             tagText(nodes[i].name) + " stands in a nesting too deep to be checked");
                 return;
             }
@@ -117,10 +108,10 @@ private:
             message = tagText(rest.substr(1, tagEnd - 1)) + where +
                       " is not closed, and nothing from there on is read";
         }
-        losses_.add(lines_.lineAt(offset), LossKind::Dropped, std::move(message));
+        losses_.add(places_.placeAt(offset), LossKind::Dropped, std::move(message));
     }
 
-    const LineMap& lines_;
+    const SourceMap& places_;
     const TagTree& tree_;
     LossList& losses_;
     std::vector<std::size_t> closings_;
@@ -129,41 +120,38 @@ private:
 
 } // namespace
 
-void findLostComments(const LineMap& lines, std::string_view fileContent, std::string_view savedContent,
+void findLostComments(const SourceMap& places, std::string_view fileContent, std::string_view savedContent,
                       LossList& losses) {
-    std::vector<std::string_view> kept;
-    for (const Comment& comment : commentsOf(savedContent, keptPieces(savedContent))) {
-        kept.push_back(comment.text);
-    }
+    std::vector<std::string_view> kept = commentsOf(savedContent, keptPieces(savedContent));
     std::sort(kept.begin(), kept.end());
-    for (const Comment& comment : commentsOf(fileContent, lines.pieces())) {
-        if (!std::binary_search(kept.begin(), kept.end(), comment.text)) {
-            losses.add(comment.line, LossKind::Dropped, "comment " + quoted(comment.text));
+    for (const std::string_view comment : commentsOf(fileContent, places.pieces())) {
+        if (!std::binary_search(kept.begin(), kept.end(), comment)) {
+            losses.add(places.placeInFile(comment), LossKind::Dropped, "comment " + quoted(comment));
         }
     }
 }
 
-void findBrokenNesting(const LineMap& lines, const TagTree& tree, LossList& losses) {
+void findBrokenNesting(const SourceMap& places, const TagTree& tree, LossList& losses) {
     if (!tree.root().text.empty()) {
-        losses.add(1, LossKind::Dropped,
+        losses.add({}, LossKind::Dropped,
                    quoted(tree.root().text) + " is no element, and nothing of the file is read");
         return;
     }
-    NestingCheck(lines, tree, losses).run();
+    NestingCheck(places, tree, losses).run();
 }
 
-void findJoinedLines(const LineMap& lines, const TagTree& tree, const TagNode& node, LossList& losses) {
+void findJoinedLines(const SourceMap& places, const TagTree& tree, const TagNode& node, LossList& losses) {
     if (node.text.empty()) {
         return;
     }
     const std::size_t begin = tree.offsetOf(node.text);
-    const std::vector<KeptPiece>& pieces = lines.pieces();
-    for (std::size_t i = lines.firstPieceBehind(begin);
+    const std::vector<KeptPiece>& pieces = places.pieces();
+    for (std::size_t i = places.firstPieceBehind(begin);
          i < pieces.size() && pieces[i].cleanedOffset < begin + node.text.size(); ++i) {
         const std::string_view former = pieces[i - 1].text;
         const bool isNextLine = pieces[i].line != pieces[i - 1].line;
         if (isNextLine || former.data() + former.size() != pieces[i].text.data()) {
-            losses.add(pieces[i - 1].line, LossKind::Changed,
+            losses.add(places.placeInFile(former), LossKind::Changed,
                        tagText(node.name) + (isNextLine ? " loses the line ends in its text"
                                                         : " loses blanks in its text, in a line too long"));
             return;

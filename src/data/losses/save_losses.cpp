@@ -3,10 +3,11 @@
 #include "data/losses/save_losses.h"
 
 #include "data/losses/loss_finder.h"
+#include "data/reading/unit_rules.h"
 #include "data/unit/enumerations.h"
 #include "data/unit/image_names.h"
-#include "data/unit/unit_rules.h"
-#include "data/unit/unit_writers.h"
+#include "data/unit_fields.h"
+#include "data/writing/unit_writers.h"
 
 #include <algorithm>
 #include <array>
@@ -56,16 +57,14 @@ bool goesWithoutSayingInVehicle(const FieldHistory& history, const TracedValue& 
 
 SquadRecord readTraced(TracedFile& file) {
     SquadRecord record;
-    Diagnostics ignored;
-    unit_rules::Reading reading{
-        {.fileContent = file.content, .tree = file.tree, .trace = &file.trace}, record, ignored};
+    unit_rules::Reading reading{{.tree = file.tree, .trace = &file.trace}, record};
     unit_rules::readTree(reading);
     return record;
 }
 
 } // namespace
 
-std::optional<std::vector<SaveLoss>> unitSaveLosses(Category category, std::string_view fileContent) {
+std::optional<std::vector<Finding>> unitSaveLosses(Category category, std::string_view fileContent) {
     TracedFile file(fileContent);
     const std::optional<std::string> text = unitFileText(category, readTraced(file));
     if (!text) {

@@ -1,38 +1,21 @@
 #include "data/losses/value_meaning.h"
 
-#include "data/losses/loss_list.h"
+#include "data/finding_text.h"
+#include "data/format/numbers.h"
 #include "data/unit/image_names.h"
 
-#include <charconv>
 #include <optional>
 
 namespace varrocade {
 
 namespace {
 
-/// A text that is a number from its first to its last character, blanks at the ends aside.
-std::optional<double> wholeNumber(std::string_view text) {
-    constexpr std::string_view blanks = " \t";
-    const std::size_t first = text.find_first_not_of(blanks);
-    if (first == std::string_view::npos) {
-        return std::nullopt;
-    }
-    text = text.substr(first, text.find_last_not_of(blanks) - first + 1);
-    if (text.starts_with('+') && !text.starts_with("+-")) {
-        text.remove_prefix(1);
-    }
-    double value = 0.0;
-    const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
-    return result.ec == std::errc() && result.ptr == text.data() + text.size() ? std::optional(value)
-                                                                               : std::nullopt;
-}
-
 bool isSameNumber(std::string_view text, std::string_view value) {
     if (text.empty()) {
         return value == "0";
     }
-    const std::optional<double> number = wholeNumber(text);
-    return number && number == wholeNumber(value);
+    const std::optional<double> number = entireReal(text);
+    return number && number == entireReal(value);
 }
 
 bool isSamePlate(std::string_view text, std::string_view value) {
@@ -88,8 +71,8 @@ bool means(std::string_view text, const TracedValue& value, Understanding unders
 }
 
 bool meansOpposite(std::string_view text, const TracedValue& value) {
-    const std::optional<double> number = wholeNumber(text);
-    const std::optional<double> read = wholeNumber(value.after);
+    const std::optional<double> number = entireReal(text);
+    const std::optional<double> read = entireReal(value.after);
     const bool isNumber = value.field->kind == FieldKind::Number || value.field->kind == FieldKind::Real;
     return isNumber && number && read && *number == -*read;
 }

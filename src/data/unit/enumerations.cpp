@@ -204,4 +204,23 @@ std::string displayName(std::string_view name, std::string_view prefix) {
     return words;
 }
 
+std::string weaponWord(std::string_view weaponType) {
+    if (weaponType.starts_with(WeaponPrefix)) {
+        weaponType.remove_prefix(WeaponPrefix.size());
+    }
+    // The kind of weapon reads as a word, its designation stays in capitals.
+    std::string words;
+    bool isKind = true;
+    for (const char c : weaponType) {
+        if (c == '_') {
+            isKind = false;
+            words += ' ';
+        } else {
+            const bool lower = isKind && !words.empty() && c >= 'A' && c <= 'Z' && weaponType.find('_') > 3;
+            words += lower ? static_cast<char>(c - 'A' + 'a') : c;
+        }
+    }
+    return words;
+}
+
 } // namespace varrocade

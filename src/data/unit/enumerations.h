@@ -26,6 +26,7 @@ inline constexpr std::string_view MountFront = "MOUNT_FRONT";
 inline constexpr std::string_view MountMiddle = "MOUNT_MIDDLE";
 inline constexpr std::string_view MountRear = "MOUNT_REAR";
 inline constexpr std::string_view NationalityPrefix = "NATIONALITY_";
+inline constexpr std::string_view JobPrefix = "JOB_";
 inline constexpr std::string_view EnginePrefix = "ENGINE_";
 inline constexpr std::string_view WeaponPrefix = "WEAPON_";
 inline constexpr std::string_view BombPrefix = "WEAPON_BOMB_";
@@ -48,5 +49,8 @@ bool isDefaultFlavour(std::string_view weaponType, std::string_view flavour);
 
 /// A name for people: "NATIONALITY_NORTH_KOREAN" without its prefix as "North Korean".
 std::string displayName(std::string_view name, std::string_view prefix);
+
+/// A weapon type for people: "Cannon 75 KWK42 L70".
+std::string weaponWord(std::string_view weaponType);
 
 } // namespace varrocade

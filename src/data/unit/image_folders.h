@@ -14,7 +14,6 @@ inline constexpr std::string_view Profiles = "Images\\Units\\Vehicles\\Profiles\
 inline constexpr std::string_view Uniforms = "Images\\Uniforms\\";
 inline constexpr std::string_view Tracers = "Images\\Tracers\\";
 inline constexpr std::string_view StaticFlags = "Images\\Flags\\Static\\";
-inline constexpr std::string_view AnimatedFlags = "Images\\Flags\\Animated\\";
 
 } // namespace varrocade::image_folder
 

@@ -1,152 +1,225 @@
 #pragma once
-// The form engine: a dialog's fields are rows of a table, which fills the controls from a record and reads
-// them back into it. It speaks to the controls through a port, so that forms are tested without windows.
+// The form engine: a dialog's table of rows fills the controls from a record, enables them, offers their
+// choices, and reads them back. It speaks to the controls through a port, so that forms are tested without
+// windows.
 
-#include "data/format/fixed_string.h"
+#include "editors/form/form_row.h"
+#include "editors/form/image_choices.h"
 
-#include <algorithm>
-#include <cstdint>
-#include <limits>
 #include <optional>
 #include <span>
 #include <string>
 #include <string_view>
-#include <type_traits>
-#include <variant>
+#include <utility>
 #include <vector>
 
 namespace varrocade {
 
-/// The controls of one dialog, by their ids.
-class FormPort {
-public:
-    FormPort() = default;
-    FormPort(const FormPort&) = delete;
-    FormPort& operator=(const FormPort&) = delete;
-    virtual ~FormPort() = default;
-
-    virtual std::string text(int control) = 0;
-    virtual void setText(int control, std::string_view text) = 0;
-    virtual bool isChecked(int control) = 0;
-    virtual void setChecked(int control, bool checked) = 0;
-    virtual void setEnabled(int control, bool enabled) = 0;
-    /// The entries of a drop-down list; its edit part is left alone.
-    virtual void setChoices(int control, std::span<const std::string> choices) = 0;
-    /// Whether a drop-down list holds a text.
-    virtual bool offers(int control, std::string_view text) = 0;
-    /// How many characters an edit takes.
-    virtual void setLimit(int control, std::size_t characters) = 0;
-    virtual void focus(int control) = 0;
-};
-
-/// A whole number with its bounds. A text that is no number is refused, unless the field takes it for 0.
-struct NumberRange {
-    std::int32_t least = INT32_MIN;
-    std::int32_t greatest = INT32_MAX;
-    bool zeroForOtherTexts = false;
-};
-
-inline constexpr NumberRange NotNegative = {.least = 0};
-
-/// One field of a form: a control, the member of the record that it shows, and how.
+/// The form of a kind of record: its rows and what they cannot say.
 template <typename Record>
-struct FormField {
-    using Member = std::variant<Text Record::*, LanguageCode Record::*, std::int32_t Record::*,
-                                std::uint16_t Record::*, std::uint8_t Record::*, bool Record::*>;
-
-    int control;
-    std::string_view label; ///< for messages
-    Member member;
-    NumberRange range = {};
+struct FormShape {
+    std::span<const FormRow<Record>> rows;
+    /// What kind of record it is, for rows that go by that.
+    Holder (*holder)(const Record& record) = nullptr;
+    /// Refuses or mends what was read; `former` is the record before it.
+    std::optional<FormError> (*check)(const Record& former, Record& read) = nullptr;
 };
 
-/// Why a form cannot be taken as it stands.
-struct FormError {
-    int control = 0;
-    std::string message;
-};
+/// Joins the labels of what a file does not store: "(OffsetX and Mount are not stored in the file)".
+std::string notStoredText(std::span<const std::string> labels);
 
-/// The number that a text holds, or nothing when there is another character than blanks around it. Numbers
-/// too long for any field are brought to the nearest one of 64 bits.
-std::optional<std::int64_t> wholeNumber(std::string_view text);
+/// Names a text that a drop-down list does not offer: `Unknown, kept as it is: Type "X"`.
+void addUnknown(std::string& names, FormPort& port, int control, std::string_view label);
 
-/// The message for a text that is not in a field's range.
-std::string rangeMessage(std::string_view label, const NumberRange& range, std::string_view text);
+namespace form_detail {
 
-/// Refuses a text that a file could not give back.
-std::optional<FormError> valueError(int control, std::string_view label, std::string_view text);
-
-/// A drop-down list whose edit part takes what its list does not offer: what old files hold is kept.
-struct ChoiceField {
-    int control;
-    std::string_view label;
-};
-
-/// Names what the fields hold that their lists do not offer, or empty: `Unknown, kept as it is: Type "X"`.
-std::string unknownChoices(FormPort& port, std::span<const ChoiceField> fields);
-
-/// A range brought within what a member's type holds.
-template <typename Integer>
-NumberRange within(NumberRange range) {
-    range.least = std::max<std::int32_t>(range.least, std::numeric_limits<Integer>::min());
-    range.greatest = std::min<std::int32_t>(range.greatest, std::numeric_limits<Integer>::max());
-    return range;
+template <typename Record>
+bool isOf(const Holders& holders, const FormShape<Record>& shape, const Record& record) {
+    return shape.holder == nullptr || holders.has(shape.holder(record));
 }
 
-/// Shows a record in the controls of a form.
+/// Whether the record's dialog has the row's control.
 template <typename Record>
-void fillForm(FormPort& port, std::span<const FormField<Record>> fields, const Record& record) {
-    for (const FormField<Record>& field : fields) {
-        std::visit(
-            [&](auto member) {
-                using Value = std::remove_cvref_t<decltype(record.*member)>;
-                if constexpr (std::is_same_v<Value, bool>) {
-                    port.setChecked(field.control, record.*member);
-                } else if constexpr (std::is_integral_v<Value>) {
-                    port.setText(field.control, std::to_string(record.*member));
-                } else {
-                    port.setLimit(field.control, Value::MaxLength);
-                    port.setText(field.control, record.*member);
-                }
-            },
-            field.member);
+bool stands(const FormRow<Record>& row, const FormShape<Record>& shape, const Record& record) {
+    return isOf(row.terms.kinds, shape, record);
+}
+
+/// Whether the row can be changed as the dialog is now, the check box of what may be left open aside.
+template <typename Record>
+bool isOpen(const FormRow<Record>& row, FormPort& port, const FormShape<Record>& shape,
+            const Record& record) {
+    return isOf(row.terms.changedBy, shape, record) &&
+           (row.terms.enabledWhen == nullptr || row.terms.enabledWhen(port, record));
+}
+
+template <typename Record>
+std::optional<FormError> readRow(const FormRow<Record>& row, FormPort& port, const FormShape<Record>& shape,
+                                 Record& record) {
+    if (!stands(row, shape, record) || !isOpen(row, port, shape, record)) {
+        return std::nullopt;
+    }
+    if (auto error = row.read(port, record)) {
+        return error;
+    }
+    return row.terms.check == nullptr ? std::nullopt : row.terms.check(record);
+}
+
+} // namespace form_detail
+
+/// Enables the controls as the record's kind and the other controls have it.
+template <typename Record>
+void updateEnabling(FormPort& port, const FormShape<Record>& shape, const Record& record) {
+    for (const FormRow<Record>& row : shape.rows) {
+        if (!form_detail::stands(row, shape, record)) {
+            continue;
+        }
+        const bool isOpen = form_detail::isOpen(row, port, shape, record);
+        if (row.terms.givenBy != 0) {
+            port.setEnabled(row.terms.givenBy, isOpen);
+        }
+        port.setEnabled(row.control, isOpen && (row.terms.givenBy == 0 || port.isChecked(row.terms.givenBy)));
     }
 }
 
-/// Reads the controls of a form into a record. Fields are read in order; at the first one that cannot be
-/// taken the record is left half read, so callers read into a copy.
+/// Shows a record in the controls of its form.
 template <typename Record>
-std::optional<FormError> readForm(FormPort& port, std::span<const FormField<Record>> fields, Record& record) {
-    for (const FormField<Record>& field : fields) {
-        std::optional<FormError> error;
-        std::visit(
-            [&](auto member) {
-                using Value = std::remove_cvref_t<decltype(record.*member)>;
-                if constexpr (std::is_same_v<Value, bool>) {
-                    record.*member = port.isChecked(field.control);
-                } else if constexpr (std::is_integral_v<Value>) {
-                    const NumberRange range = within<Value>(field.range);
-                    const std::string text = port.text(field.control);
-                    const std::optional<std::int64_t> number = wholeNumber(text);
-                    const bool inRange = number && *number >= range.least && *number <= range.greatest;
-                    if (inRange || (!number && range.zeroForOtherTexts)) {
-                        record.*member = static_cast<Value>(number.value_or(0));
-                    } else if (number != std::int64_t{record.*member}) {
-                        // What an old file holds stays until the user changes it.
-                        error = FormError{field.control, rangeMessage(field.label, range, text)};
-                    }
-                } else {
-                    const std::string text = port.text(field.control);
-                    error = valueError(field.control, field.label, text);
-                    record.*member = text;
-                }
-            },
-            field.member);
-        if (error) {
+void fillForm(FormPort& port, const FormShape<Record>& shape, const Record& record) {
+    for (const FormRow<Record>& row : shape.rows) {
+        if (form_detail::stands(row, shape, record)) {
+            row.fill(port, record);
+            port.mark(row.control, {});
+        }
+    }
+    updateEnabling(port, shape, record);
+}
+
+/// Reads the controls of a form into a record, in the order of the rows. The first refusal leaves the record
+/// as it was. What the user has not changed stays as it is, whatever it is.
+template <typename Record>
+std::optional<FormError> readForm(FormPort& port, const FormShape<Record>& shape, Record& record) {
+    Record copy = record;
+    for (const FormRow<Record>& row : shape.rows) {
+        if (auto error = form_detail::readRow(row, port, shape, copy)) {
             return error;
         }
     }
+    if (shape.check != nullptr) {
+        if (auto error = shape.check(record, copy)) {
+            return error;
+        }
+    }
+    record = std::move(copy);
     return std::nullopt;
 }
+
+/// Marks a control that was changed with what is wrong with it by itself; rules over the whole form are told
+/// on OK.
+template <typename Record>
+void markControl(FormPort& port, const FormShape<Record>& shape, const Record& record, int control) {
+    for (const FormRow<Record>& row : shape.rows) {
+        const bool isMeant = row.control == control || row.terms.givenBy == control;
+        if (isMeant && form_detail::stands(row, shape, record)) {
+            Record copy = record;
+            const auto error = form_detail::readRow(row, port, shape, copy);
+            const bool isItsOwn = error && error->control == row.control;
+            port.mark(row.control, isItsOwn ? std::string_view(error->message) : std::string_view());
+        }
+    }
+}
+
+/// Takes over what can be taken, row by row: for what is shown while the user types.
+template <typename Record>
+void readPossible(FormPort& port, const FormShape<Record>& shape, Record& record) {
+    for (const FormRow<Record>& row : shape.rows) {
+        Record copy = record;
+        if (!form_detail::readRow(row, port, shape, copy)) {
+            record = std::move(copy);
+        }
+    }
+}
+
+/// Gives the drop-down lists their entries: the words of enumerations, and the pictures below `imageBases`.
+/// The word for an empty value comes first.
+template <typename Record>
+void offerChoices(FormPort& port, const FormShape<Record>& shape, const Record& record,
+                  std::span<const std::string> imageBases) {
+    for (const FormRow<Record>& row : shape.rows) {
+        if (!form_detail::stands(row, shape, record)) {
+            continue;
+        }
+        const bool hasImages = !row.images().empty();
+        std::vector<std::string> choices = hasImages ? imageChoices(imageBases, row.images()) : row.words();
+        if (hasImages && !row.terms.emptyAs.empty()) {
+            choices.insert(choices.begin(), std::string(row.terms.emptyAs));
+        }
+        if (hasImages || !choices.empty()) {
+            port.setChoices(row.control, choices);
+        }
+    }
+}
+
+/// Names what the fields hold that their lists do not offer, or empty: `Unknown, kept as it is: Type "X"`.
+template <typename Record>
+std::string unknownChoices(FormPort& port, const FormShape<Record>& shape, const Record& record) {
+    std::string names;
+    for (const FormRow<Record>& row : shape.rows) {
+        const bool hasChoices = row.hasWords() || !row.images().empty();
+        if (hasChoices && form_detail::stands(row, shape, record)) {
+            addUnknown(names, port, row.control, row.label());
+        }
+    }
+    return names;
+}
+
+/// Names the controls whose values the record's file does not store, or empty.
+template <typename Record>
+std::string notStoredText(const FormShape<Record>& shape, const Record& record) {
+    std::vector<std::string> labels;
+    for (const FormRow<Record>& row : shape.rows) {
+        if (form_detail::stands(row, shape, record) &&
+            !form_detail::isOf(row.field->traits.stored, shape, record)) {
+            labels.push_back(row.label());
+        }
+    }
+    return notStoredText(labels);
+}
+
+/// A form and its record, whatever that is: what a dialog does with it.
+class FormModel {
+public:
+    FormModel() = default;
+    FormModel(const FormModel&) = delete;
+    FormModel& operator=(const FormModel&) = delete;
+    virtual ~FormModel() = default;
+
+    virtual void offer(FormPort& port, std::span<const std::string> imageBases) = 0;
+    virtual void show(FormPort& port) = 0;
+    virtual void update(FormPort& port) = 0;
+    virtual void mark(FormPort& port, int control) = 0;
+    virtual std::string unknown(FormPort& port) = 0;
+    virtual std::string notStored() = 0;
+    /// Takes the form over into the record.
+    virtual std::optional<FormError> read(FormPort& port) = 0;
+};
+
+template <typename Record>
+class RecordForm : public FormModel {
+public:
+    RecordForm(Record& record, const FormShape<Record>& shape) : record_(record), shape_(shape) {}
+
+    void offer(FormPort& port, std::span<const std::string> imageBases) override {
+        offerChoices(port, shape_, record_, imageBases);
+    }
+    void show(FormPort& port) override { fillForm(port, shape_, record_); }
+    void update(FormPort& port) override { updateEnabling(port, shape_, record_); }
+    void mark(FormPort& port, int control) override { markControl(port, shape_, record_, control); }
+    std::string unknown(FormPort& port) override { return unknownChoices(port, shape_, record_); }
+    std::string notStored() override { return notStoredText(shape_, record_); }
+    std::optional<FormError> read(FormPort& port) override { return readForm(port, shape_, record_); }
+
+private:
+    Record& record_;
+    const FormShape<Record>& shape_;
+};
 
 } // namespace varrocade

@@ -2,6 +2,8 @@
 
 #include "resources/resource.h"
 
+#include <commctrl.h>
+
 #include <algorithm>
 #include <array>
 
@@ -16,17 +18,39 @@ bool isComboBox(HWND control) {
     return lstrcmpiA(name.data(), "ComboBox") == 0;
 }
 
-/// Records hold LF-free texts on one line; edits of several lines show CR LF.
-std::string onOneLine(std::string_view text) {
-    std::string line;
-    for (const char c : text) {
-        if (c == '\n') {
-            line += ' ';
-        } else if (c != '\r') {
-            line += c;
-        }
+/// The window property of a dialog with the window that shows why its controls are marked.
+constexpr const char* RefusalTipsProperty = "Varrocade.RefusalTips";
+
+/// The part of a control that the mouse meets.
+HWND innerWindow(HWND control) {
+    HWND inner = isComboBox(control) ? GetWindow(control, GW_CHILD) : nullptr;
+    return inner != nullptr ? inner : control;
+}
+
+HWND refusalTips(HWND dialog) {
+    auto* tips = static_cast<HWND>(GetPropA(dialog, RefusalTipsProperty));
+    if (tips == nullptr) {
+        // The dialog owns it and takes it along.
+        tips = CreateWindowExA(0, TOOLTIPS_CLASSA, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, 0, 0, 0,
+                               0, dialog, nullptr, GetModuleHandleA(nullptr), nullptr);
+        SetPropA(dialog, RefusalTipsProperty, tips);
     }
-    return line;
+    return tips;
+}
+
+void setRefusalTip(HWND dialog, HWND control, std::string_view refusal) {
+    std::string text(refusal);
+    TOOLINFOA tool{};
+    tool.cbSize = sizeof tool;
+    tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
+    tool.hwnd = dialog;
+    tool.uId = reinterpret_cast<UINT_PTR>(innerWindow(control));
+    tool.lpszText = text.data();
+    HWND tips = refusalTips(dialog);
+    SendMessageA(tips, TTM_DELTOOLA, 0, reinterpret_cast<LPARAM>(&tool));
+    if (!text.empty()) {
+        SendMessageA(tips, TTM_ADDTOOLA, 0, reinterpret_cast<LPARAM>(&tool));
+    }
 }
 
 } // namespace
@@ -90,8 +114,39 @@ void DialogPort::focus(int control) {
     SendMessageA(dialog_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(GetDlgItem(dialog_, control)), TRUE);
 }
 
+void DialogPort::mark(int control, std::string_view refusal) {
+    HWND window = GetDlgItem(dialog_, control);
+    if (window == nullptr || (refusal.empty() && !isMarked(window))) {
+        return;
+    }
+    setRefusalTip(dialog_, window, refusal);
+    if (refusal.empty()) {
+        RemovePropA(window, RefusedProperty);
+    } else {
+        SetPropA(window, RefusedProperty, window);
+    }
+    RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+}
+
+void DialogPort::unmarkAll() {
+    for (HWND window = GetWindow(dialog_, GW_CHILD); window != nullptr;
+         window = GetWindow(window, GW_HWNDNEXT)) {
+        RemovePropA(window, RefusedProperty);
+    }
+    RemovePropA(dialog_, RefusalTipsProperty);
+}
+
+bool isMarked(HWND edit) {
+    HWND parent = GetParent(edit);
+    return GetPropA(edit, RefusedProperty) != nullptr ||
+           (isComboBox(parent) && GetPropA(parent, RefusedProperty) != nullptr);
+}
+
 void completeChoice(HWND dialog, int control) {
     HWND box = GetDlgItem(dialog, control);
+    if (!isComboBox(box)) {
+        return;
+    }
     const LRESULT chosen = SendMessageA(box, CB_GETCURSEL, 0, 0);
     const LRESULT length =
         chosen < 0 ? -1 : SendMessageA(box, CB_GETLBTEXTLEN, static_cast<WPARAM>(chosen), 0);
@@ -102,31 +157,17 @@ void completeChoice(HWND dialog, int control) {
     }
 }
 
+bool isUserChange(int notification) {
+    return notification == CBN_SELCHANGE || notification == CBN_EDITCHANGE || notification == EN_CHANGE ||
+           notification == BN_CLICKED;
+}
+
 void showUnknown(HWND dialog, std::string_view text) {
     DialogPort port(dialog);
     if (port.text(IDC_UNKNOWN) != text) {
         port.setText(IDC_UNKNOWN, text);
     }
     ShowWindow(GetDlgItem(dialog, IDC_UNKNOWN), text.empty() ? SW_HIDE : SW_SHOWNA);
-}
-
-void showUnknownChoices(HWND dialog, std::span<const ChoiceField> fields) {
-    DialogPort port(dialog);
-    showUnknown(dialog, unknownChoices(port, fields));
-}
-
-bool followChoices(HWND dialog, std::span<const ChoiceField> fields, int control, int notification) {
-    const bool isField = std::any_of(fields.begin(), fields.end(), [control](const ChoiceField& field) {
-        return field.control == control;
-    });
-    if (!isField || (notification != CBN_SELCHANGE && notification != CBN_EDITCHANGE)) {
-        return false;
-    }
-    if (notification == CBN_SELCHANGE) {
-        completeChoice(dialog, control);
-    }
-    showUnknownChoices(dialog, fields);
-    return true;
 }
 
 void placeBesideDrawing(HWND dialog) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "editors/form/form.h"
+#include "editors/form/form_port.h"
 
 #include <windows.h>
 
@@ -20,6 +20,11 @@ public:
     bool offers(int control, std::string_view text) override;
     void setLimit(int control, std::size_t characters) override;
     void focus(int control) override;
+    /// Marked controls have another background (`refusedColour`), and tell why while the mouse rests on them.
+    void mark(int control, std::string_view refusal) override;
+
+    /// Takes all marks off, before the dialog goes.
+    void unmarkAll();
 
 private:
     HWND dialog_;
@@ -29,11 +34,16 @@ private:
 /// likes: the control is scrolled.
 void showUnknown(HWND dialog, std::string_view text);
 
-/// Shows there what a dialog's drop-down lists hold and do not offer.
-void showUnknownChoices(HWND dialog, std::span<const ChoiceField> fields);
+/// The background of marked controls.
+inline constexpr COLORREF RefusedColour = RGB(255, 214, 214);
+/// The window property that marked controls have.
+inline constexpr const char* RefusedProperty = "Varrocade.Refused";
 
-/// The same when a notification tells that one of them was changed; false when it tells something else.
-bool followChoices(HWND dialog, std::span<const ChoiceField> fields, int control, int notification);
+/// Whether an edit, or the drop-down list that it is the edit part of, is marked.
+bool isMarked(HWND edit);
+
+/// Whether a notification tells that the user changed what a control holds.
+bool isUserChange(int notification);
 
 /// Puts what was chosen from a drop-down list into its edit part, which it reaches only after the
 /// notification.

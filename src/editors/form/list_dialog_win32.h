@@ -1,45 +1,74 @@
 #pragma once
 
-#include "editors/form/form_port_win32.h"
+#include "editors/form/dialog_frame_win32.h"
 #include "editors/form/list_model.h"
 
+#include <span>
+#include <string>
 #include <string_view>
 
 namespace varrocade {
 
-/// A dialog with a list, the buttons that change it, and a form for the chosen entry. The controls have the
-/// same numbers in every such dialog (IDC_ENTRY_...).
-struct ListDialog {
-    ListModel& model;
-    std::string_view caption;
+/// What a list's dialog is.
+struct ListDialogTerms {
+    int dialogTemplate = 0;
+    std::string_view caption = {}; ///< of the boxes with refusals
     /// The refusal of an entry too many.
     std::string_view fullText = {};
     std::string_view fullCaption = {};
-    /// Shows the present state elsewhere, after every change.
-    void (*preview)(void* context) = nullptr;
-    void* context = nullptr;
-    /// The buttons of this dialog alone; false when the control is none of them.
-    bool (*command)(HWND dialog, ListDialog& list, int control) = nullptr;
-    /// Fills drop-down lists when the dialog opens.
-    void (*prepare)(HWND dialog, ListDialog& list) = nullptr;
-    /// Follows the form after it was filled or changed: choices and texts that depend on what it holds.
-    void (*follow)(HWND dialog, ListDialog& list) = nullptr;
-
-    std::size_t first = 0;  ///< the entry to begin with
-    int shown = -1;         ///< the entry that the form shows
-    bool isFilling = false; ///< the form is being filled: what its controls report is no change of the user's
+    std::size_t first = 0;                        ///< the entry to begin with
+    std::span<const std::string> imageBases = {}; ///< the folders that pictures are offered from
 };
 
-/// What a list dialog's procedure does with a message.
-INT_PTR handleListDialog(HWND dialog, UINT message, WPARAM parameter, LPARAM pointer);
+/// A dialog with a list, the buttons that change it, and a form for the chosen entry. The controls have the
+/// same numbers in every such dialog (IDC_ENTRY_...). IDC_UNKNOWN, where there is one, names what the entry's
+/// drop-down lists do not offer.
+class ListDialog : public DialogFrame {
+public:
+    /// `model` lives as long as the dialog.
+    ListDialog(const ListDialogTerms& terms, ListModel& model);
 
-/// Takes the form over into the shown entry; false after telling what is wrong with it.
-bool takeShownEntry(HWND dialog, ListDialog& list);
+protected:
+    /// Fills what rows know nothing of, before an entry is shown.
+    virtual void prepare() {}
+    /// Follows the form after it was filled or changed: choices and texts that depend on what it holds.
+    virtual void follow() {}
+    /// Shows the present state elsewhere, after every change.
+    virtual void preview() {}
+    /// What the shown entry holds that no list offers, in words.
+    virtual std::string unknownText() { return model_.unknown(shownIndex(), port()); }
 
-/// Whether another entry fits; false after telling that none does.
-bool hasRoomForEntry(const ListDialog& list);
+    [[nodiscard]] bool isShown() const { return shown_ >= 0; }
+    /// The place of the entry that the form shows, which there must be.
+    [[nodiscard]] std::size_t shownIndex() const { return static_cast<std::size_t>(shown_); }
+    /// Takes the form over into the shown entry; false after telling what is wrong with it.
+    bool takeShown();
+    /// Whether another entry fits; false after telling that none does.
+    bool hasRoom();
+    /// Shows the list's entries anew and chooses one of them; -1 for none.
+    void refresh(int chosen);
+    void refreshShown() { refresh(shown_); }
 
-/// Shows the list's entries anew and chooses one of them.
-void refreshEntries(HWND dialog, ListDialog& list, int chosen);
+private:
+    void init() override;
+    bool accept() override { return takeShown(); }
+    bool notice(int control, int notification) override;
+
+    [[nodiscard]] int lastIndex() const { return static_cast<int>(model_.count()) - 1; }
+    void showEntry(int index);
+    void followForm();
+    void updateButtons();
+    void followTyping(int control);
+    void addEntry(void (ListModel::*how)(std::size_t));
+    void deleteEntry();
+    void moveEntry(int step);
+    void chooseEntry();
+
+    ListDialogTerms terms_;
+    ListModel& model_;
+    int shown_ = -1; ///< the entry that the form shows
+    bool isFilling_ =
+        false; ///< the form is being filled: what its controls report is no change of the user's
+};
 
 } // namespace varrocade

@@ -10,12 +10,13 @@ namespace varrocade {
 
 namespace {
 
-LRESULT CALLBACK listKeysProcedure(HWND list, UINT message, WPARAM parameter, LPARAM detail, UINT_PTR,
-                                   DWORD_PTR data) {
+/// The system keeps two integers for it: the table's length as its number, and where the table is.
+LRESULT CALLBACK listKeysProcedure(HWND list, UINT message, WPARAM parameter, LPARAM detail, UINT_PTR length,
+                                   DWORD_PTR rows) {
     if (message != WM_KEYDOWN && message != WM_SYSKEYDOWN) {
         return DefSubclassProc(list, message, parameter, detail);
     }
-    const auto& keys = *reinterpret_cast<const std::span<const ListKey>*>(data);
+    const std::span keys(reinterpret_cast<const ListKey*>(rows), length);
     const bool withAlt = message == WM_SYSKEYDOWN;
     const auto found = std::find_if(keys.begin(), keys.end(), [&](const ListKey& row) {
         return row.key == parameter && row.withAlt == withAlt;
@@ -35,8 +36,9 @@ LRESULT CALLBACK listKeysProcedure(HWND list, UINT message, WPARAM parameter, LP
 
 } // namespace
 
-void bindListKeys(HWND dialog, int listBox, const std::span<const ListKey>& keys) {
-    SetWindowSubclass(GetDlgItem(dialog, listBox), listKeysProcedure, 0, reinterpret_cast<DWORD_PTR>(&keys));
+void bindListKeys(HWND dialog, int listBox, std::span<const ListKey> keys) {
+    SetWindowSubclass(GetDlgItem(dialog, listBox), listKeysProcedure, keys.size(),
+                      reinterpret_cast<DWORD_PTR>(keys.data()));
     std::vector<Tip> tips;
     for (const ListKey& row : keys) {
         tips.push_back({row.button, row.tip});

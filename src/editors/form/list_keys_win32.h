@@ -15,9 +15,9 @@ struct ListKey {
     const char* tip; ///< what the button says of it while the mouse rests there
 };
 
-/// Lets a list box of a dialog take these keys, which must live as long as the dialog, and has the buttons
-/// tell of them.
-void bindListKeys(HWND dialog, int listBox, const std::span<const ListKey>& keys);
+/// Lets a list box of a dialog take the keys of a table, whose rows must live as long as the dialog, and has
+/// the buttons tell of them.
+void bindListKeys(HWND dialog, int listBox, std::span<const ListKey> keys);
 
 /// A text that a control shows while the mouse rests on it.
 struct Tip {

@@ -32,22 +32,27 @@ public:
     virtual void mirror(std::size_t index) = 0;
     virtual void erase(std::size_t index) = 0;
     virtual void swap(std::size_t index, std::size_t other) = 0;
-    /// Enables or disables the form as a whole.
-    virtual void enable(FormPort& port, bool enabled) = 0;
+    /// Disables the form as a whole, while there is no entry to show.
+    virtual void disable(FormPort& port) = 0;
+    /// Enables the form's controls as the shown entry and the other controls have it.
+    virtual void update(std::size_t index, FormPort& port) = 0;
+    /// Marks a control that was changed with what is wrong with it.
+    virtual void mark(std::size_t index, FormPort& port, int control) = 0;
+    /// Fills the drop-down lists that the form itself knows.
+    virtual void offer(FormPort& port, std::span<const std::string> imageBases) = 0;
+    /// Names what the shown entry holds that the lists do not offer.
+    virtual std::string unknown(std::size_t index, FormPort& port) = 0;
 };
 
 /// How entries of one kind are shown.
 template <typename Entry>
 struct ListShape {
-    std::span<const FormField<Entry>> fields;
+    FormShape<Entry> form;
     std::string (*line)(std::size_t place, const Entry& entry); ///< `place` counts from 1
     std::size_t most = SIZE_MAX;
     void (*mirror)(Entry& entry) = nullptr; ///< to the other side of the vehicle
     /// What a new entry holds.
     Entry blank = {};
-    /// What the fields do not say: enabling, choices that depend on other fields.
-    void (*afterShow)(FormPort& port, const Entry& entry) = nullptr;
-    void (*afterRead)(FormPort& port, Entry& entry) = nullptr;
 };
 
 /// The entries of a vector.
@@ -64,22 +69,9 @@ public:
     [[nodiscard]] bool hasRoom() const override { return entries_.size() < shape_.most; }
     [[nodiscard]] bool canMirror() const override { return shape_.mirror != nullptr; }
 
-    void show(std::size_t index, FormPort& port) override {
-        fillForm(port, shape_.fields, entries_[index]);
-        if (shape_.afterShow != nullptr) {
-            shape_.afterShow(port, entries_[index]);
-        }
-    }
+    void show(std::size_t index, FormPort& port) override { fillForm(port, shape_.form, entries_[index]); }
     std::optional<FormError> read(std::size_t index, FormPort& port) override {
-        Entry copy = entries_[index];
-        if (auto error = readForm(port, shape_.fields, copy)) {
-            return error;
-        }
-        if (shape_.afterRead != nullptr) {
-            shape_.afterRead(port, copy);
-        }
-        entries_[index] = std::move(copy);
-        return std::nullopt;
+        return readForm(port, shape_.form, entries_[index]);
     }
     void add() override { entries_.push_back(shape_.blank); }
     void copy(std::size_t index) override {
@@ -95,10 +87,23 @@ public:
         entries_.erase(entries_.begin() + static_cast<std::ptrdiff_t>(index));
     }
     void swap(std::size_t index, std::size_t other) override { std::swap(entries_[index], entries_[other]); }
-    void enable(FormPort& port, bool enabled) override {
-        for (const FormField<Entry>& field : shape_.fields) {
-            port.setEnabled(field.control, enabled);
+    void disable(FormPort& port) override {
+        for (const FormRow<Entry>& row : shape_.form.rows) {
+            port.setEnabled(row.control, false);
+            port.mark(row.control, {});
         }
+    }
+    void update(std::size_t index, FormPort& port) override {
+        updateEnabling(port, shape_.form, entries_[index]);
+    }
+    void mark(std::size_t index, FormPort& port, int control) override {
+        markControl(port, shape_.form, entries_[index], control);
+    }
+    void offer(FormPort& port, std::span<const std::string> imageBases) override {
+        offerChoices(port, shape_.form, shape_.blank, imageBases);
+    }
+    std::string unknown(std::size_t index, FormPort& port) override {
+        return unknownChoices(port, shape_.form, entries_[index]);
     }
 
 private:

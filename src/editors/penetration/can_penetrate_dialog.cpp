@@ -1,7 +1,7 @@
 #include "editors/penetration/can_penetrate_dialog.h"
 
 #include "data/format/numbers.h"
-#include "data/unit/unit_reader.h"
+#include "data/reading/unit_reader.h"
 #include "editors/form/clipboard_win32.h"
 #include "editors/form/form_port_win32.h"
 #include "editors/form/table_win32.h"
@@ -33,7 +33,7 @@ constexpr std::array<TableColumn, PlateRangeHeads.size()> PlateRangeColumns = {{
 struct CanPenetrateDialog {
     const PenetrationTools& tools;
     Shot shot;
-    std::vector<VehicleFile> vehicles = {};
+    std::vector<GameFile> vehicles = {};
     std::optional<SquadRecord> target = {};
     std::vector<PlateRange> ranges = {};
     PlateOutline outline = {};
@@ -144,7 +144,7 @@ void chooseVehicle(HWND dialog, CanPenetrateDialog& context) {
     context.target.reset();
     const std::size_t chosen = chosenIndex(dialog, IDC_TARGET_VEHICLE);
     if (chosen < context.vehicles.size()) {
-        const VehicleFile& file = context.vehicles[chosen];
+        const GameFile& file = context.vehicles[chosen];
         const SquadRecord* open = context.tools.openUnit;
         if (open != nullptr && open->vehicle && open->fileName == file.name.c_str()) {
             context.target = *open;
@@ -283,10 +283,10 @@ LRESULT CALLBACK outlineProcedure(HWND outline, UINT message, WPARAM parameter, 
 void fillDialog(HWND dialog, CanPenetrateDialog& context) {
     DialogPort port(dialog);
     prepareTable(GetDlgItem(dialog, IDC_PLATE_TABLE), PlateRangeColumns);
-    context.vehicles = vehicleFiles(context.tools.vehicleBases);
+    context.vehicles = listGameFiles(context.tools.folders, Category::Vehicles).files;
     std::vector<std::string> names;
     std::size_t chosen = 0;
-    for (const VehicleFile& file : context.vehicles) {
+    for (const GameFile& file : context.vehicles) {
         const SquadRecord* open = context.tools.openUnit;
         if (open != nullptr && open->vehicle && open->fileName == file.name.c_str()) {
             chosen = names.size();

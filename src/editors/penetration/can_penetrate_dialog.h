@@ -1,5 +1,6 @@
 #pragma once
 
+#include "data/game_files.h"
 #include "data/unit/unit_record.h"
 #include "editors/penetration/can_penetrate_form.h"
 #include "weapons/weapon_catalogue.h"
@@ -7,8 +8,6 @@
 #include <windows.h>
 
 #include <cstddef>
-#include <string>
-#include <vector>
 
 namespace varrocade {
 
@@ -18,7 +17,7 @@ struct DrawingObjects;
 struct PenetrationTools {
     const WeaponCatalogue& catalogue;
     const DrawingObjects& drawing;
-    std::vector<std::string> vehicleBases; ///< the mod's folder before the game's
+    GameFolders folders;                   ///< of the vehicles
     const SquadRecord* openUnit = nullptr; ///< counts as it is in the window, saved or not
 };
 

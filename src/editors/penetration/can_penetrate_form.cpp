@@ -1,11 +1,9 @@
 #include "editors/penetration/can_penetrate_form.h"
 
-#include "data/category.h"
 #include "data/format/numbers.h"
 #include "data/format/texts.h"
-#include "platform/file_operations.h"
-#include "view/sheet/data_sheet.h"
-#include "view/sheet/sheet_text.h"
+#include "data/format/words.h"
+#include "data/unit/component_words.h"
 
 #include <algorithm>
 
@@ -34,25 +32,6 @@ std::string tabbed(const Cells& cells) {
 }
 
 } // namespace
-
-std::vector<VehicleFile> vehicleFiles(std::span<const std::string> bases) {
-    std::vector<VehicleFile> files;
-    for (const std::string& base : bases) {
-        const std::string folder = categoryFolder(base, Category::Vehicles);
-        std::vector<std::string> names;
-        listFiles(folder, DataFileEnding, names);
-        for (const std::string& diskName : names) {
-            const std::string name = diskName.substr(0, diskName.size() - DataFileEnding.size());
-            if (std::none_of(files.begin(), files.end(),
-                             [&](const VehicleFile& file) { return equalsIgnoringCase(file.name, name); })) {
-                files.push_back({name, folder + diskName});
-            }
-        }
-    }
-    std::sort(files.begin(), files.end(),
-              [](const VehicleFile& a, const VehicleFile& b) { return a.name < b.name; });
-    return files;
-}
 
 DragTexts defaultDragTexts() {
     DragTexts texts;

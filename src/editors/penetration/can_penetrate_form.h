@@ -12,15 +12,6 @@
 
 namespace varrocade {
 
-/// A vehicle that can be shot at.
-struct VehicleFile {
-    std::string name; ///< of the file, without ".txt"
-    std::string path;
-};
-
-/// The vehicles below the folders, sorted by name; where two folders have the same one, the first counts.
-std::vector<VehicleFile> vehicleFiles(std::span<const std::string> bases);
-
 /// The coefficients of the wind resistance by projectile class, as they were typed.
 using DragTexts = std::array<std::string, 8>;
 

@@ -1,9 +1,9 @@
 #include "editors/penetration/penetration_curves_win32.h"
 
 #include "data/format/numbers.h"
+#include "data/format/words.h"
 #include "editors/penetration/penetration_form.h"
 #include "view/painting/painter_win32.h"
-#include "view/sheet/sheet_text.h"
 
 #include <algorithm>
 #include <array>

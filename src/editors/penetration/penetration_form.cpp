@@ -1,9 +1,10 @@
 #include "editors/penetration/penetration_form.h"
 
+#include "data/finding_text.h"
 #include "data/format/numbers.h"
 #include "data/format/texts.h"
+#include "data/format/words.h"
 #include "resources/resource.h"
-#include "view/sheet/sheet_text.h"
 #include "weapons/weapon_names.h"
 
 #include <algorithm>
@@ -34,6 +35,11 @@ void showDashes(FormPort& port) {
         port.setText(IDC_PENETRATION_ROWS + row, NoValue);
         port.setText(IDC_VELOCITY_ROWS + row, NoValue);
     }
+}
+
+/// For the drag coefficients and the angle in the form.
+auto formRows(FormPort& port, const Projectile& projectile) {
+    return penetrationRows(projectile, formDrag(port, projectile.flavour), formAngle(port));
 }
 
 } // namespace
@@ -107,12 +113,11 @@ void showPenetration(FormPort& port, const WeaponRecord* weapon, std::size_t she
     port.setText(IDC_PEN_MASS, number(projectile.mass));
     port.setText(IDC_PEN_HE, number(projectile.highExplosive));
     port.setText(IDC_PEN_CALIBRE, number(projectile.calibre));
-    const double drag = formDrag(port, ammo.flavour);
-    const double angle = formAngle(port);
-    for (std::size_t row = 0; row < PenetrationRanges.size(); ++row) {
-        const Impact impact = impactAt(projectile, drag, PenetrationRanges[row], angle);
-        port.setText(IDC_PENETRATION_ROWS + static_cast<int>(row), penetrationText(impact.penetration));
-        port.setText(IDC_VELOCITY_ROWS + static_cast<int>(row), velocityText(impact.velocity));
+    int row = 0;
+    for (const PenetrationRow& result : formRows(port, projectile)) {
+        port.setText(IDC_PENETRATION_ROWS + row, result.penetration);
+        port.setText(IDC_VELOCITY_ROWS + row, result.velocity);
+        ++row;
     }
 }
 
@@ -131,9 +136,9 @@ ChartAxis chartAxis(double greatest, int mostSteps) {
 std::string weaponFileNote(const WeaponCatalogue& catalogue, std::size_t weapon) {
     const auto& entries = catalogue.entries();
     if (weapon < entries.size()) {
-        const auto reasons = catalogue.problemsOf(entries[weapon].path);
-        if (!reasons.empty()) {
-            return "This weapon's file: " + reasons.front();
+        const auto problems = catalogue.problemsOf(entries[weapon].path);
+        if (!problems.empty()) {
+            return "This weapon's file: " + explanation(problems.front());
         }
     }
     return catalogue.problems().empty() ? ""
@@ -144,10 +149,8 @@ std::string penetrationTable(FormPort& port, const WeaponRecord& weapon, std::si
     std::string table =
         weapon.name + "\t" + shellTypes(weapon)[shell] + "\t" + port.text(IDC_PEN_ANGLE) + " degrees\r\n";
     table += "Range\tPenetration\tVelocity\r\n";
-    for (std::size_t row = 0; row < PenetrationRanges.size(); ++row) {
-        table += grouped(PenetrationRanges[row]) + " m\t" +
-                 port.text(IDC_PENETRATION_ROWS + static_cast<int>(row)) + "\t" +
-                 port.text(IDC_VELOCITY_ROWS + static_cast<int>(row)) + "\r\n";
+    for (const PenetrationRow& row : formRows(port, projectileOf(weapon, weapon.ammoTypes[shell]))) {
+        table += grouped(row.range) + " m\t" + row.penetration + "\t" + row.velocity + "\r\n";
     }
     return table;
 }

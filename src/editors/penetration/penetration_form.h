@@ -2,7 +2,7 @@
 // What the "Penetration Calculation" dialog shows, without any window.
 
 #include "analysis/penetration.h"
-#include "editors/form/form.h"
+#include "editors/form/form_port.h"
 #include "editors/penetration/can_penetrate_form.h"
 #include "weapons/weapon_catalogue.h"
 
@@ -56,7 +56,7 @@ ChartAxis chartAxis(double greatest, int mostSteps);
 /// sound.
 std::string weaponFileNote(const WeaponCatalogue& catalogue, std::size_t weapon);
 
-/// The results as tab separated lines, with a head, for the clipboard.
+/// The results for an ammunition type of the weapon as tab separated lines, with a head, for the clipboard.
 std::string penetrationTable(FormPort& port, const WeaponRecord& weapon, std::size_t shell);
 
 } // namespace varrocade

@@ -9,169 +9,158 @@
 #include <windowsx.h>
 
 #include <algorithm>
+#include <optional>
 
 namespace varrocade {
 
 namespace {
 
-struct AvailabilityContext {
-    const DrawingObjects& drawing;
-    std::vector<AvailabilityPoint> points; ///< the copy that the dialog works on
-    HWND dialog = nullptr;
-    ListDialog* list = nullptr;
-    std::optional<std::size_t> dragged;
-    TimelineScale dragScale; ///< stays as it was when the dragging began
-};
-
 constexpr int Reach = 8;
 
-AvailabilityContext& contextOf(const ListDialog& list) {
-    return *static_cast<AvailabilityContext*>(list.context);
-}
+class AvailabilityDialog final : public ListDialog {
+public:
+    /// `points` is the copy that the dialog works on.
+    AvailabilityDialog(std::vector<AvailabilityPoint>& points, const DrawingObjects& drawing)
+        : ListDialog({.dialogTemplate = IDD_AVAILABILITY,
+                      .caption = "Availability",
+                      .fullText = "There are already 255 dates, the most that the game counts",
+                      .fullCaption = "Availability"},
+                     model_),
+          points_(points), drawing_(drawing), model_(points, availabilityShape()) {
+        onButton(IDC_ENTRY_SORT, [this] { sort(); });
+    }
 
-void repaintTimeline(HWND dialog) {
-    InvalidateRect(GetDlgItem(dialog, IDC_TIMELINE), nullptr, FALSE);
-}
+private:
+    void prepare() override {
+        SetWindowSubclass(timeline(), timelineProcedure, 0, reinterpret_cast<DWORD_PTR>(this));
+    }
+    void follow() override { repaintTimeline(); }
+    void paint(const DRAWITEMSTRUCT& item) override {
+        FillRect(item.hDC, &item.rcItem, drawing_.beigeBrush.get());
+        paintTimeline(item.hDC, item.rcItem, points_, drawing_);
+    }
 
-TimelineScale scaleOf(HWND timeline, const AvailabilityContext& context) {
+    [[nodiscard]] HWND timeline() const { return GetDlgItem(handle(), IDC_TIMELINE); }
+    [[nodiscard]] TimelineScale scale() const;
+    [[nodiscard]] std::optional<std::size_t> pointNear(int x, int y) const;
+    void repaintTimeline() const { InvalidateRect(timeline(), nullptr, FALSE); }
+
+    void sort();
+    void beginDragging(int x, int y);
+    void drag(int x, int y);
+    void endDragging();
+    void addPointAt(int x, int y);
+    void deletePointAt(int x, int y);
+    static LRESULT CALLBACK timelineProcedure(HWND timeline, UINT message, WPARAM parameter, LPARAM detail,
+                                              UINT_PTR, DWORD_PTR data);
+
+    std::vector<AvailabilityPoint>& points_;
+    const DrawingObjects& drawing_;
+    VectorListModel<AvailabilityPoint> model_;
+    std::optional<std::size_t> dragged_;
+    TimelineScale dragScale_ = {}; ///< stays as it was when the dragging began
+};
+
+TimelineScale AvailabilityDialog::scale() const {
     RECT area{};
-    GetClientRect(timeline, &area);
-    return timelineScaleIn(area, context.points, context.drawing);
+    GetClientRect(timeline(), &area);
+    return timelineScaleIn(area, points_, drawing_);
 }
 
-void beginDragging(HWND timeline, AvailabilityContext& context, int x, int y) {
-    if (!takeShownEntry(context.dialog, *context.list)) {
-        return;
-    }
-    context.dragScale = scaleOf(timeline, context);
-    context.dragged =
-        timelinePointNear(context.points, context.dragScale, x, y, context.drawing.scaled(Reach));
-    if (context.dragged) {
-        SetCapture(timeline);
-        refreshEntries(context.dialog, *context.list, static_cast<int>(*context.dragged));
+std::optional<std::size_t> AvailabilityDialog::pointNear(int x, int y) const {
+    return timelinePointNear(points_, scale(), x, y, drawing_.scaled(Reach));
+}
+
+/// The chosen point stays the chosen one.
+void AvailabilityDialog::sort() {
+    if (takeShown()) {
+        const auto chosen = isShown() ? points_[shownIndex()] : AvailabilityPoint();
+        sortByDate(points_);
+        const auto place = std::find(points_.begin(), points_.end(), chosen);
+        refresh(place == points_.end() ? -1 : static_cast<int>(place - points_.begin()));
     }
 }
 
-void drag(AvailabilityContext& context, int x, int y) {
-    if (!context.dragged) {
+void AvailabilityDialog::beginDragging(int x, int y) {
+    if (!takeShown()) {
         return;
     }
-    context.points[*context.dragged] = context.dragScale.pointAt(x, y);
-    refreshEntries(context.dialog, *context.list, static_cast<int>(*context.dragged));
-    repaintTimeline(context.dialog);
+    dragScale_ = scale();
+    dragged_ = pointNear(x, y);
+    if (dragged_) {
+        SetCapture(timeline());
+        refresh(static_cast<int>(*dragged_));
+    }
+}
+
+void AvailabilityDialog::drag(int x, int y) {
+    if (dragged_) {
+        points_[*dragged_] = dragScale_.pointAt(x, y);
+        refresh(static_cast<int>(*dragged_));
+        repaintTimeline();
+    }
+}
+
+void AvailabilityDialog::endDragging() {
+    dragged_.reset();
+    ReleaseCapture();
 }
 
 /// A double-click beside the steps' corners adds a point there.
-void addPointAt(HWND timeline, AvailabilityContext& context, int x, int y) {
-    const TimelineScale scale = scaleOf(timeline, context);
-    const int reach = context.drawing.scaled(Reach);
-    if (timelinePointNear(context.points, scale, x, y, reach) ||
-        !takeShownEntry(context.dialog, *context.list) || !hasRoomForEntry(*context.list)) {
-        return;
+void AvailabilityDialog::addPointAt(int x, int y) {
+    const TimelineScale former = scale();
+    if (!pointNear(x, y) && takeShown() && hasRoom()) {
+        points_.push_back(former.pointAt(x, y));
+        refresh(static_cast<int>(points_.size()) - 1);
     }
-    context.points.push_back(scale.pointAt(x, y));
-    refreshEntries(context.dialog, *context.list, static_cast<int>(context.points.size()) - 1);
 }
 
 /// A right click on a step's corner deletes its point. What the form shows of it need not be right.
-void deletePointAt(HWND timeline, AvailabilityContext& context, int x, int y) {
-    const auto point =
-        timelinePointNear(context.points, scaleOf(timeline, context), x, y, context.drawing.scaled(Reach));
-    if (!point) {
+void AvailabilityDialog::deletePointAt(int x, int y) {
+    const auto point = pointNear(x, y);
+    const bool isShownPoint = point && isShown() && *point == shownIndex();
+    if (!point || (!isShownPoint && !takeShown())) {
         return;
     }
-    if (static_cast<int>(*point) != context.list->shown && !takeShownEntry(context.dialog, *context.list)) {
-        return;
-    }
-    context.points.erase(context.points.begin() + static_cast<std::ptrdiff_t>(*point));
-    const int last = static_cast<int>(context.points.size()) - 1;
-    refreshEntries(context.dialog, *context.list, std::min(static_cast<int>(*point), last));
+    points_.erase(points_.begin() + static_cast<std::ptrdiff_t>(*point));
+    refresh(std::min(static_cast<int>(*point), static_cast<int>(points_.size()) - 1));
 }
 
 /// The timeline's mouse: its steps are dragged by their corners.
-LRESULT CALLBACK timelineProcedure(HWND timeline, UINT message, WPARAM parameter, LPARAM detail, UINT_PTR,
-                                   DWORD_PTR data) {
-    auto& context = *reinterpret_cast<AvailabilityContext*>(data);
+LRESULT CALLBACK AvailabilityDialog::timelineProcedure(HWND timeline, UINT message, WPARAM parameter,
+                                                       LPARAM detail, UINT_PTR, DWORD_PTR data) {
+    auto& dialog = *reinterpret_cast<AvailabilityDialog*>(data);
+    const int x = GET_X_LPARAM(detail);
+    const int y = GET_Y_LPARAM(detail);
     switch (message) {
     case WM_LBUTTONDOWN:
-        beginDragging(timeline, context, GET_X_LPARAM(detail), GET_Y_LPARAM(detail));
+        dialog.beginDragging(x, y);
         return 0;
     case WM_MOUSEMOVE:
-        drag(context, GET_X_LPARAM(detail), GET_Y_LPARAM(detail));
+        dialog.drag(x, y);
         return 0;
     case WM_LBUTTONUP:
-        context.dragged.reset();
-        ReleaseCapture();
+        dialog.endDragging();
         return 0;
     case WM_LBUTTONDBLCLK:
-        addPointAt(timeline, context, GET_X_LPARAM(detail), GET_Y_LPARAM(detail));
+        dialog.addPointAt(x, y);
         return 0;
     case WM_RBUTTONUP:
-        deletePointAt(timeline, context, GET_X_LPARAM(detail), GET_Y_LPARAM(detail));
+        dialog.deletePointAt(x, y);
         return 0;
     default:
         return DefSubclassProc(timeline, message, parameter, detail);
     }
 }
 
-void prepareAvailability(HWND dialog, ListDialog& list) {
-    AvailabilityContext& context = contextOf(list);
-    context.dialog = dialog;
-    context.list = &list;
-    SetWindowSubclass(GetDlgItem(dialog, IDC_TIMELINE), timelineProcedure, 0,
-                      reinterpret_cast<DWORD_PTR>(&context));
-}
-
-void followAvailability(HWND dialog, ListDialog&) {
-    repaintTimeline(dialog);
-}
-
-bool availabilityCommand(HWND dialog, ListDialog& list, int control) {
-    if (control != IDC_ENTRY_SORT) {
-        return false;
-    }
-    if (takeShownEntry(dialog, list)) {
-        // The chosen point stays the chosen one.
-        std::vector<AvailabilityPoint>& points = contextOf(list).points;
-        const auto chosen =
-            list.shown < 0 ? AvailabilityPoint() : points[static_cast<std::size_t>(list.shown)];
-        sortByDate(points);
-        const auto place = std::find(points.begin(), points.end(), chosen);
-        refreshEntries(dialog, list, place == points.end() ? -1 : static_cast<int>(place - points.begin()));
-    }
-    return true;
-}
-
-INT_PTR CALLBACK availabilityProcedure(HWND dialog, UINT message, WPARAM parameter, LPARAM pointer) {
-    if (message == WM_DRAWITEM) {
-        const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(pointer);
-        const AvailabilityContext& context = contextOf(*dialogContext<ListDialog>(dialog, message, pointer));
-        FillRect(item.hDC, &item.rcItem, context.drawing.beigeBrush.get());
-        paintTimeline(item.hDC, item.rcItem, context.points, context.drawing);
-        return TRUE;
-    }
-    return handleListDialog(dialog, message, parameter, pointer);
-}
-
 } // namespace
 
 bool editAvailability(HWND owner, EditContext& edit, const DrawingObjects& drawing) {
-    AvailabilityContext context{
-        .drawing = drawing, .points = edit.record.availability, .dragged = {}, .dragScale = {}};
-    VectorListModel<AvailabilityPoint> model(context.points, availabilityShape());
-    ListDialog list{.model = model,
-                    .caption = "Availability",
-                    .fullText = "There are already 255 dates, the most that the game counts",
-                    .fullCaption = "Availability",
-                    .context = &context,
-                    .command = availabilityCommand,
-                    .prepare = prepareAvailability,
-                    .follow = followAvailability};
-    if (runDialog(owner, IDD_AVAILABILITY, availabilityProcedure, &list) == 0 ||
-        context.points == edit.record.availability) {
+    std::vector<AvailabilityPoint> points = edit.record.availability;
+    if (!AvailabilityDialog(points, drawing).run(owner) || points == edit.record.availability) {
         return false;
     }
-    edit.record.availability = std::move(context.points);
+    edit.record.availability = std::move(points);
     return true;
 }
 

@@ -11,10 +11,13 @@
 
 namespace varrocade {
 
+struct DrawingObjects;
+
 /// What every editor of the open unit works with.
 struct EditContext {
     SquadRecord& record;
     const WeaponCatalogue& catalogue;
+    const DrawingObjects& drawing;
     /// The folders that images are offered from, each ending in a backslash.
     std::vector<std::string> imageBases;
     /// Tells where the components were before their list was changed, ahead of `changed`.

@@ -1,8 +1,10 @@
 #include "editors/unit/unit_lists.h"
 
+#include "data/format/words.h"
 #include "data/unit/enumerations.h"
+#include "data/unit_fields.h"
 #include "resources/resource.h"
-#include "view/sheet/sheet_text.h"
+#include "weapons/ammo_words.h"
 
 #include <algorithm>
 #include <array>
@@ -22,11 +24,11 @@ std::string offsetText(std::int32_t x, std::int32_t y) {
 
 // ---- exhaust pipes
 
-constexpr auto ExhaustFields = std::to_array<FormField<ExhaustPipeRecord>>({
-    {IDC_OFFSET_X, "OffsetX", &ExhaustPipeRecord::offsetX},
-    {IDC_OFFSET_Y, "OffsetY", &ExhaustPipeRecord::offsetY},
-    {IDC_ANGLE, "Angle", &ExhaustPipeRecord::angle, {-360, 360}},
-    {IDC_VERTICAL_ANGLE, "Vertical angle", &ExhaustPipeRecord::verticalAngle, {-90, 90}},
+constexpr auto ExhaustRows = std::to_array<FormRow<ExhaustPipeRecord>>({
+    {IDC_OFFSET_X, field::ExhaustOffsetX},
+    {IDC_OFFSET_Y, field::ExhaustOffsetY},
+    {IDC_ANGLE, field::ExhaustAngle},
+    {IDC_VERTICAL_ANGLE, field::ExhaustVerticalAngle},
 });
 
 std::string exhaustLine(std::size_t place, const ExhaustPipeRecord& pipe) {
@@ -44,17 +46,34 @@ void mirrorExhaust(ExhaustPipeRecord& pipe) {
 
 using Discharger = SmokeDischargerRecord;
 
-constexpr auto DischargerFields = std::to_array<FormField<Discharger>>({
-    {IDC_OFFSET_X, "OffsetX", &Discharger::offsetX},
-    {IDC_OFFSET_Y, "OffsetY", &Discharger::offsetY},
-    {IDC_DIRECTIONAL, "Directional", &Discharger::directional},
-    {IDC_ANGLE_GIVEN, "Angle given", &Discharger::angleGiven},
-    {IDC_ANGLE, "Angle", &Discharger::angle, {-360, 360}},
-    {IDC_ELEVATION_GIVEN, "Elevation given", &Discharger::elevationGiven},
-    {IDC_ELEVATION, "Elevation", &Discharger::elevation, {-90, 90}},
-    {IDC_SPEED, "Speed", &Discharger::speed, NotNegative},
-    {IDC_ROUNDS, "Rounds", &Discharger::ammo, NotNegative},
-    {IDC_RELOAD, "Reload", &Discharger::reload, NotNegative},
+// No elements: that there is an angle, an elevation or a speed says it.
+constexpr auto Directional = field_row::flag(&Discharger::directional, "", "Directional");
+constexpr auto AngleGiven = field_row::flag(&Discharger::angleGiven, "", "Angle given");
+constexpr auto ElevationGiven = field_row::flag(&Discharger::elevationGiven, "", "Elevation given");
+
+bool isDirectional(FormPort& port, const Discharger&) {
+    return port.isChecked(IDC_DIRECTIONAL);
+}
+
+bool hasAngle(FormPort& port, const Discharger&) {
+    return port.isChecked(IDC_DIRECTIONAL) && port.isChecked(IDC_ANGLE_GIVEN);
+}
+
+bool hasElevation(FormPort& port, const Discharger&) {
+    return port.isChecked(IDC_DIRECTIONAL) && port.isChecked(IDC_ELEVATION_GIVEN);
+}
+
+constexpr auto DischargerRows = std::to_array<FormRow<Discharger>>({
+    {IDC_OFFSET_X, field::DischargerOffsetX},
+    {IDC_OFFSET_Y, field::DischargerOffsetY},
+    {IDC_DIRECTIONAL, Directional},
+    {IDC_ANGLE_GIVEN, AngleGiven, {.enabledWhen = isDirectional}},
+    {IDC_ANGLE, field::DischargerAngle, {.enabledWhen = hasAngle}},
+    {IDC_ELEVATION_GIVEN, ElevationGiven, {.enabledWhen = isDirectional}},
+    {IDC_ELEVATION, field::DischargerElevation, {.enabledWhen = hasElevation}},
+    {IDC_SPEED, field::DischargerSpeed, {.enabledWhen = isDirectional}},
+    {IDC_ROUNDS, field::DischargerAmmo},
+    {IDC_RELOAD, field::DischargerReload},
 });
 
 std::string dischargerLine(std::size_t place, const Discharger& discharger) {
@@ -70,32 +89,28 @@ void mirrorDischarger(Discharger& discharger) {
     discharger.angle = -discharger.angle;
 }
 
-void showDischarger(FormPort& port, const Discharger&) {
-    enableDischarger(port);
-}
-
 /// What the check boxes switch off is not kept.
-void readDischarger(FormPort& port, Discharger& discharger) {
-    enableDischarger(port);
+std::optional<FormError> clearDischarger(const Discharger&, Discharger& discharger) {
     if (!discharger.directional) {
         discharger.angleGiven = discharger.elevationGiven = false;
         discharger.speed = 0;
     }
     discharger.angle = discharger.angleGiven ? discharger.angle : 0;
     discharger.elevation = discharger.elevationGiven ? discharger.elevation : 0;
+    return std::nullopt;
 }
 
 // ---- crew
 
-constexpr auto CrewFields = std::to_array<FormField<CrewManRecord>>({
-    {IDC_JOB, "Job", &CrewManRecord::job},
-    {IDC_MAN_LANGUAGE, "Language", &CrewManRecord::language},
-    {IDC_BODY_ARMOUR, "Body armour", &CrewManRecord::bodyArmour},
-    {IDC_MAN_NIGHT_VISION, "Night vision", &CrewManRecord::nightVision},
+constexpr auto CrewRows = std::to_array<FormRow<CrewManRecord>>({
+    {IDC_JOB, field::Job},
+    {IDC_MAN_LANGUAGE, field::ManLanguage},
+    {IDC_BODY_ARMOUR, field::BodyArmour},
+    {IDC_MAN_NIGHT_VISION, field::ManNightVision},
 });
 
 std::string crewLine(std::size_t place, const CrewManRecord& man) {
-    std::string text = displayName(man.job, "JOB_");
+    std::string text = displayName(man.job, JobPrefix);
     for (const Text& weapon : man.weapons) {
         text += ", " + weaponWord(weapon);
     }
@@ -104,30 +119,33 @@ std::string crewLine(std::size_t place, const CrewManRecord& man) {
 
 // ---- weapons and ammunition
 
-constexpr auto WeaponFields = std::to_array<FormField<WeaponMountRecord>>({
-    {IDC_WEAPON_TYPE, "Weapon", &WeaponMountRecord::type},
-    {IDC_WEAPON_MOUNT, "Mount", &WeaponMountRecord::mount},
-    {IDC_OFFSET_X, "OffsetX", &WeaponMountRecord::offsetX},
-    {IDC_OFFSET_Y, "OffsetY", &WeaponMountRecord::offsetY},
-    {IDC_OFFSET_ANGLE, "Angle", &WeaponMountRecord::offsetAngle, {-360, 360}},
+constexpr auto WeaponRows = std::to_array<FormRow<WeaponMountRecord>>({
+    {IDC_WEAPON_TYPE, field::MountedType},
+    {IDC_WEAPON_MOUNT, field::Mount, {.words = mountNames}},
+    {IDC_OFFSET_X, field::MountedOffsetX},
+    {IDC_OFFSET_Y, field::MountedOffsetY},
+    {IDC_OFFSET_ANGLE, field::MountedOffsetAngle},
 });
 
 std::string weaponLine(std::size_t place, const WeaponMountRecord& weapon) {
     return numbered(place, weapon.type.empty() ? "(no weapon)" : weaponWord(weapon.type));
 }
 
-constexpr auto PersonalWeaponFields = std::to_array<FormField<PersonalWeapon>>({
-    {IDC_WEAPON_TYPE, "Weapon", &PersonalWeapon::type},
+constexpr auto PersonalWeaponType =
+    field_row::reference(FieldKind::Weapon, &PersonalWeapon::type, "type", "Weapon");
+
+constexpr auto PersonalWeaponRows = std::to_array<FormRow<PersonalWeapon>>({
+    {IDC_WEAPON_TYPE, PersonalWeaponType},
 });
 
 std::string personalWeaponLine(std::size_t place, const PersonalWeapon& weapon) {
     return numbered(place, weapon.type.empty() ? "(no weapon)" : weaponWord(weapon.type));
 }
 
-constexpr auto AmmunitionFields = std::to_array<FormField<AmmoLoadRecord>>({
-    {IDC_WEAPON_TYPE, "For", &AmmoLoadRecord::weaponType},
-    {IDC_FLAVOUR, "Flavour", &AmmoLoadRecord::flavour},
-    {IDC_ROUNDS, "Rounds", &AmmoLoadRecord::rounds, NotNegative},
+constexpr auto AmmunitionRows = std::to_array<FormRow<AmmoLoadRecord>>({
+    {IDC_WEAPON_TYPE, field::AmmoFor},
+    {IDC_FLAVOUR, field::Flavour},
+    {IDC_ROUNDS, field::Rounds},
 });
 
 std::string ammunitionLine(std::size_t place, const AmmoLoadRecord& ammo) {
@@ -141,10 +159,10 @@ std::string ammunitionLine(std::size_t place, const AmmoLoadRecord& ammo) {
 
 // ---- availability
 
-constexpr auto AvailabilityFields = std::to_array<FormField<AvailabilityPoint>>({
-    {IDC_MONTH, "Month", &AvailabilityPoint::month, {1, 12}},
-    {IDC_YEAR, "Year", &AvailabilityPoint::year, {1000, 5000}},
-    {IDC_NUMBER, "Number", &AvailabilityPoint::number},
+constexpr auto AvailabilityRows = std::to_array<FormRow<AvailabilityPoint>>({
+    {IDC_MONTH, field::Month},
+    {IDC_YEAR, field::Year},
+    {IDC_NUMBER, field::NumberOfUnits},
 });
 
 std::string availabilityLine(std::size_t, const AvailabilityPoint& point) {
@@ -157,55 +175,46 @@ std::string availabilityLine(std::size_t, const AvailabilityPoint& point) {
 
 const ListShape<ExhaustPipeRecord>& exhaustPipeShape() {
     static const ListShape<ExhaustPipeRecord> shape{
-        .fields = ExhaustFields, .line = exhaustLine, .mirror = mirrorExhaust};
+        .form = {.rows = ExhaustRows}, .line = exhaustLine, .mirror = mirrorExhaust};
     return shape;
 }
 
 const ListShape<SmokeDischargerRecord>& smokeDischargerShape() {
-    static const ListShape<SmokeDischargerRecord> shape{.fields = DischargerFields,
-                                                        .line = dischargerLine,
-                                                        .mirror = mirrorDischarger,
-                                                        .afterShow = showDischarger,
-                                                        .afterRead = readDischarger};
+    static const ListShape<SmokeDischargerRecord> shape{
+        .form = {.rows = DischargerRows, .check = clearDischarger},
+        .line = dischargerLine,
+        .mirror = mirrorDischarger};
     return shape;
 }
 
 const ListShape<CrewManRecord>& crewShape() {
     static const ListShape<CrewManRecord> shape{
-        .fields = CrewFields, .line = crewLine, .most = MaxSquadMembers};
+        .form = {.rows = CrewRows}, .line = crewLine, .most = MaxSquadMembers};
     return shape;
 }
 
 const ListShape<WeaponMountRecord>& weaponShape() {
-    static const ListShape<WeaponMountRecord> shape{.fields = WeaponFields, .line = weaponLine};
+    static const ListShape<WeaponMountRecord> shape{.form = {.rows = WeaponRows}, .line = weaponLine};
     return shape;
 }
 
 const ListShape<PersonalWeapon>& personalWeaponShape() {
-    static const ListShape<PersonalWeapon> shape{.fields = PersonalWeaponFields, .line = personalWeaponLine};
+    static const ListShape<PersonalWeapon> shape{.form = {.rows = PersonalWeaponRows},
+                                                 .line = personalWeaponLine};
     return shape;
 }
 
 const ListShape<AmmoLoadRecord>& ammunitionShape() {
-    static const ListShape<AmmoLoadRecord> shape{.fields = AmmunitionFields, .line = ammunitionLine};
+    static const ListShape<AmmoLoadRecord> shape{.form = {.rows = AmmunitionRows}, .line = ammunitionLine};
     return shape;
 }
 
 const ListShape<AvailabilityPoint>& availabilityShape() {
-    static const ListShape<AvailabilityPoint> shape{.fields = AvailabilityFields,
+    static const ListShape<AvailabilityPoint> shape{.form = {.rows = AvailabilityRows},
                                                     .line = availabilityLine,
                                                     .most = MaxAvailabilityPoints,
                                                     .blank = {.month = 1, .year = 1940, .number = 100}};
     return shape;
-}
-
-void enableDischarger(FormPort& port) {
-    const bool isDirectional = port.isChecked(IDC_DIRECTIONAL);
-    port.setEnabled(IDC_ANGLE_GIVEN, isDirectional);
-    port.setEnabled(IDC_ELEVATION_GIVEN, isDirectional);
-    port.setEnabled(IDC_SPEED, isDirectional);
-    port.setEnabled(IDC_ANGLE, isDirectional && port.isChecked(IDC_ANGLE_GIVEN));
-    port.setEnabled(IDC_ELEVATION, isDirectional && port.isChecked(IDC_ELEVATION_GIVEN));
 }
 
 void sortByDate(std::vector<AvailabilityPoint>& points) {

@@ -22,9 +22,6 @@ const ListShape<PersonalWeapon>& personalWeaponShape();
 const ListShape<AmmoLoadRecord>& ammunitionShape();
 const ListShape<AvailabilityPoint>& availabilityShape();
 
-/// Enables a discharger's angle, elevation and speed as its check boxes say.
-void enableDischarger(FormPort& port);
-
 /// Brings points into the order of their dates; equal dates keep theirs.
 void sortByDate(std::vector<AvailabilityPoint>& points);
 

@@ -1,78 +1,83 @@
 #include "editors/vehicle/armour_form.h"
 
+#include "data/each_field.h"
+#include "data/unit/plate_rows.h"
+#include "data/unit_fields.h"
 #include "resources/resource.h"
 #include "view/drawing/armour_sketch.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace varrocade {
 
 namespace {
 
-using Armour = ArmourRecord;
+using Component = ComponentRecord;
 
-constexpr NumberRange Thickness = {.least = 0, .greatest = 100000};
-constexpr NumberRange Angle = {.least = 0, .greatest = 90};
-constexpr int NumbersPerPlate = 3;
-
-constexpr std::array<PlateRow, PlateCount> Plates = {{
-    {"Upper front", &Armour::upperFront},
-    {"Lower front", &Armour::lowerFront},
-    {"Upper left", &Armour::upperLeft},
-    {"Upper right", &Armour::upperRight},
-    {"Lower left", &Armour::lowerLeft},
-    {"Lower right", &Armour::lowerRight},
-    {"Upper rear", &Armour::upperRear},
-    {"Lower rear", &Armour::lowerRear},
-}};
-
-constexpr auto OtherFields = std::to_array<FormField<Armour>>({
-    {IDC_FRONT_SPACED, "Front spaced", &Armour::frontSpaced, {.zeroForOtherTexts = true}},
-    {IDC_SIDE_SPACED, "Side spaced", &Armour::sideSpaced, {.zeroForOtherTexts = true}},
-    {IDC_REAR_SPACED, "Rear spaced", &Armour::rearSpaced, {.zeroForOtherTexts = true}},
-    {IDC_TOP, "Top", &Armour::top, Thickness},
-});
-
-/// A thickness that may be left open.
-struct OptionalRow {
-    int control;
-    int givenControl;
-    std::string_view name;
-    std::int32_t Armour::*member;
-    bool turretOnly;
+struct OfArmour {
+    static auto& in(auto& component) { return component.armour; }
 };
 
-constexpr auto OptionalRows = std::to_array<OptionalRow>({
-    {IDC_BOTTOM, IDC_BOTTOM_GIVEN, "Bottom", &Armour::bottom, false},
-    {IDC_MANTLET, IDC_MANTLET_GIVEN, "Mantlet", &Armour::mantlet, true},
-});
+template <const auto& Plate>
+struct OfPlate {
+    static auto& in(auto& component) { return Plate.of(component.armour); }
+};
 
-constexpr auto PlateFields = std::to_array<FormField<ArmourPlate>>({
-    {0, "thickness", &ArmourPlate::thickness, Thickness},
-    {1, "angle", &ArmourPlate::angle, Angle},
-});
+/// A plate has a thickness, an angle and, for reading only, the effective thickness.
+constexpr int ControlsPerPlate = 3;
+constexpr std::size_t RowsPerPlate = 2;
 
-int firstControl(std::size_t plate) {
-    return IDC_PLATES + NumbersPerPlate * static_cast<int>(plate);
+constexpr int firstControl(std::size_t plate) {
+    return IDC_PLATES + ControlsPerPlate * static_cast<int>(plate);
 }
 
-std::optional<FormError> readPlate(FormPort& port, std::size_t index, ArmourPlate& plate) {
-    for (const FormField<ArmourPlate>& row : PlateFields) {
-        FormField<ArmourPlate> field = row;
-        const std::string label = std::string(Plates[index].name) + " " + std::string(row.label);
-        field.control += firstControl(index);
-        field.label = label;
-        if (auto error = readForm<ArmourPlate>(port, std::span(&field, 1), plate)) {
-            return error;
-        }
-    }
-    return std::nullopt;
+template <const auto& Plate>
+constexpr FormRow<Component> thicknessRow(std::size_t plate) {
+    return {firstControl(plate), OfPlate<Plate>(), field::PlateThickness, {.of = Plate.label}};
 }
+
+template <const auto& Plate>
+constexpr FormRow<Component> angleRow(std::size_t plate) {
+    return {firstControl(plate) + 1, OfPlate<Plate>(), field::PlateAngle, {.of = Plate.label}};
+}
+
+/// The plates' rows come first, in the order of `ArmourPlateRows`.
+constexpr auto ArmourRows = std::to_array<FormRow<Component>>({
+    thicknessRow<field::UpperFront>(0),
+    angleRow<field::UpperFront>(0),
+    thicknessRow<field::LowerFront>(1),
+    angleRow<field::LowerFront>(1),
+    thicknessRow<field::UpperLeft>(2),
+    angleRow<field::UpperLeft>(2),
+    thicknessRow<field::UpperRight>(3),
+    angleRow<field::UpperRight>(3),
+    thicknessRow<field::LowerLeft>(4),
+    angleRow<field::LowerLeft>(4),
+    thicknessRow<field::LowerRight>(5),
+    angleRow<field::LowerRight>(5),
+    thicknessRow<field::UpperRear>(6),
+    angleRow<field::UpperRear>(6),
+    thicknessRow<field::LowerRear>(7),
+    angleRow<field::LowerRear>(7),
+    {IDC_FRONT_SPACED, OfArmour(), field::FrontSpaced},
+    {IDC_SIDE_SPACED, OfArmour(), field::SideSpaced},
+    {IDC_REAR_SPACED, OfArmour(), field::RearSpaced},
+    {IDC_TOP, OfArmour(), field::Top},
+    {IDC_BOTTOM, OfArmour(), field::Bottom, {.givenBy = IDC_BOTTOM_GIVEN}},
+    {IDC_MANTLET,
+     OfArmour(),
+     field::Mantlet,
+     {.changedBy = Holders::of(Holder::Turret), .givenBy = IDC_MANTLET_GIVEN}},
+});
+
+constexpr FormShape<Component> ArmourShape = {
+    .rows = ArmourRows, .holder = [](const Component& component) { return holderOf(component.kind); }};
 
 } // namespace
 
-const std::array<PlateRow, PlateCount>& plateRows() {
-    return Plates;
+const FormShape<ComponentRecord>& armourShape() {
+    return ArmourShape;
 }
 
 std::string effectiveText(const ArmourPlate& plate) {
@@ -80,65 +85,17 @@ std::string effectiveText(const ArmourPlate& plate) {
     return thickness ? std::to_string(std::lround(*thickness)) + " mm" : "-";
 }
 
-void fillArmourForm(FormPort& port, const ArmourRecord& armour, bool isTurret) {
-    for (std::size_t i = 0; i < PlateCount; ++i) {
-        const ArmourPlate& plate = armour.*Plates[i].member;
-        port.setText(firstControl(i), std::to_string(plate.thickness));
-        port.setText(firstControl(i) + 1, std::to_string(plate.angle));
-        port.setText(firstControl(i) + 2, effectiveText(plate));
-    }
-    fillForm<Armour>(port, OtherFields, armour);
-    for (const OptionalRow& row : OptionalRows) {
-        const std::int32_t value = armour.*row.member;
-        port.setChecked(row.givenControl, value >= 0);
-        port.setText(row.control, value >= 0 ? std::to_string(value) : "");
-    }
-    enableGiven(port, isTurret);
-}
-
-void enableGiven(FormPort& port, bool isTurret) {
-    for (const OptionalRow& row : OptionalRows) {
-        const bool isPossible = isTurret || !row.turretOnly;
-        port.setEnabled(row.givenControl, isPossible);
-        port.setEnabled(row.control, isPossible && port.isChecked(row.givenControl));
-    }
-}
-
-std::optional<FormError> readArmourForm(FormPort& port, ArmourRecord& armour, bool isTurret) {
-    Armour copy = armour;
-    for (std::size_t i = 0; i < PlateCount; ++i) {
-        if (auto error = readPlate(port, i, copy.*Plates[i].member)) {
-            return error;
-        }
-    }
-    if (auto error = readForm<Armour>(port, OtherFields, copy)) {
-        return error;
-    }
-    for (const OptionalRow& row : OptionalRows) {
-        if (row.turretOnly && !isTurret) {
-            continue;
-        }
-        if (!port.isChecked(row.givenControl)) {
-            copy.*row.member = ArmourNotGiven;
-            continue;
-        }
-        const FormField<Armour> field{row.control, row.name, row.member, Thickness};
-        if (auto error = readForm<Armour>(port, std::span(&field, 1), copy)) {
-            return error;
-        }
-    }
-    armour = copy;
-    return std::nullopt;
-}
-
-void followPlates(FormPort& port, ArmourRecord& armour) {
-    for (std::size_t i = 0; i < PlateCount; ++i) {
-        ArmourPlate plate = armour.*Plates[i].member;
-        const bool isTaken = !readPlate(port, i, plate);
-        if (isTaken) {
-            armour.*Plates[i].member = plate;
-        }
-        port.setText(firstControl(i) + 2, isTaken ? effectiveText(plate) : "?");
+void followPlates(FormPort& port, ComponentRecord& component) {
+    const Component former = component;
+    readPossible(port, ArmourShape, component);
+    for (std::size_t i = 0; i < ArmourPlateRows.size(); ++i) {
+        const auto rows = ArmourShape.rows.subspan(RowsPerPlate * i, RowsPerPlate);
+        const bool isTaken = std::none_of(rows.begin(), rows.end(), [&](const FormRow<Component>& row) {
+            Component copy = former;
+            return row.read(port, copy).has_value();
+        });
+        port.setText(firstControl(i) + 2,
+                     isTaken ? effectiveText(component.armour.*ArmourPlateRows[i].member) : "?");
     }
 }
 

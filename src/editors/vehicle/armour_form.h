@@ -5,36 +5,19 @@
 
 #include "data/unit/unit_record.h"
 
-#include <array>
-#include <optional>
 #include <string>
 
 namespace varrocade {
 
-inline constexpr std::size_t PlateCount = 8;
-
-/// A plate by its name and place in the record.
-struct PlateRow {
-    std::string_view name;
-    ArmourPlate ArmourRecord::*member;
-};
-
-/// The eight plates in the order of the dialog: upper and lower front, left, right and rear.
-const std::array<PlateRow, PlateCount>& plateRows();
+/// The armour's form; the component tells whether it can have a mantlet.
+const FormShape<ComponentRecord>& armourShape();
 
 /// As the dialog and the drawing show it: "58 mm", or "-" for a horizontal plate.
 std::string effectiveText(const ArmourPlate& plate);
 
-void fillArmourForm(FormPort& port, const ArmourRecord& armour, bool isTurret);
-
-/// Enables bottom and mantlet as their check boxes say.
-void enableGiven(FormPort& port, bool isTurret);
-
-/// Takes the dialog's fields over; an error leaves the record as it was.
-std::optional<FormError> readArmourForm(FormPort& port, ArmourRecord& armour, bool isTurret);
-
-/// Takes over each plate that can be taken and shows its effective thickness, for the others a question mark.
-void followPlates(FormPort& port, ArmourRecord& armour);
+/// Takes over what can be taken of what is typed, and shows the plates' effective thicknesses: a question
+/// mark for one that cannot be taken.
+void followPlates(FormPort& port, ComponentRecord& component);
 
 /// The right side's plates become the left side's.
 void mirrorLeftToRight(ArmourRecord& armour);

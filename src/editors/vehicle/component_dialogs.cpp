@@ -1,15 +1,11 @@
 #include "editors/vehicle/component_dialogs.h"
 
-#include "data/unit/image_folders.h"
-#include "data/unit/image_names.h"
-#include "editors/form/form_port_win32.h"
-#include "editors/form/image_choices.h"
+#include "data/unit/component_words.h"
+#include "editors/form/form_dialog_win32.h"
 #include "editors/unit/list_dialogs.h"
 #include "editors/vehicle/armour_dialog.h"
 #include "editors/vehicle/component_form.h"
-#include "platform/messages.h"
 #include "resources/resource.h"
-#include "view/sheet/data_sheet.h"
 
 #include <array>
 
@@ -17,63 +13,11 @@ namespace varrocade {
 
 namespace {
 
-struct ComponentDialog {
-    EditContext& edit;
-    std::size_t index;
-
-    [[nodiscard]] ComponentRecord& component() const { return edit.record.vehicle->components[index]; }
-    /// Names the component in captions and in the list of changes.
-    [[nodiscard]] std::string title() const { return componentTitle(index + 1, component().kind); }
-};
-
-constexpr std::string_view GenericPrefix = "Image-";
-
-constexpr auto HullImages =
-    std::to_array<ImageSource>({{image_folder::Hulls}, {image_folder::Units, GenericPrefix}});
-constexpr auto TurretImages =
-    std::to_array<ImageSource>({{image_folder::Turrets}, {image_folder::Units, GenericPrefix}});
-constexpr auto DestroyedImages = std::to_array<ImageSource>({{image_folder::Destroyed}});
-
-constexpr auto ImageFields =
-    std::to_array<ChoiceField>({{IDC_VIEW_IMAGE, "Image"}, {IDC_DESTROYED_IMAGE, "Destroyed"}});
-
-/// A superstructure has no destroyed image.
-std::span<const ChoiceField> knownChoices(ComponentKind kind) {
-    return std::span(ImageFields).first(kind == ComponentKind::Superstructure ? 1 : 2);
-}
-
-void fillDialog(HWND dialog, const ComponentDialog& context) {
-    DialogPort port(dialog);
-    const ComponentRecord& component = context.component();
-    const bool hasHullImages =
-        component.kind == ComponentKind::Hull || component.kind == ComponentKind::Superstructure;
-    const std::span<const ImageSource> sources =
-        hasHullImages ? std::span<const ImageSource>(HullImages) : TurretImages;
-    port.setChoices(IDC_VIEW_IMAGE, imageChoices(context.edit.imageBases, sources));
-    if (component.kind != ComponentKind::Superstructure) {
-        port.setChoices(IDC_DESTROYED_IMAGE, imageChoices(context.edit.imageBases, DestroyedImages));
-    }
-    port.setText(IDC_CAPTION_LINE, context.title());
-    fillComponentForm(port, component);
-    showUnknownChoices(dialog, knownChoices(component.kind));
-}
-
-void takeDialog(HWND dialog, ComponentDialog& context) {
-    DialogPort port(dialog);
-    if (const auto error = readComponentForm(port, context.component())) {
-        showMessage({.text = error->message, .caption = error->caption, .icon = MessageIcon::Information});
-        port.focus(error->control);
-        return;
-    }
-    context.edit.changed("Edit " + context.title());
-    EndDialog(dialog, 1);
-}
-
 /// What the buttons of the component dialogs open.
 struct SubDialog {
     int control;
     bool (*open)(HWND owner, EditContext& edit, ComponentRecord& component);
-    std::string_view change;
+    const char* change;
 };
 
 constexpr auto SubDialogs = std::to_array<SubDialog>({
@@ -83,86 +27,51 @@ constexpr auto SubDialogs = std::to_array<SubDialog>({
     {IDC_DISCHARGERS_BUTTON, editSmokeDischargers, "Smoke dischargers of "},
 });
 
-bool openSubDialog(HWND dialog, ComponentDialog& context, int control) {
-    for (const SubDialog& sub : SubDialogs) {
-        if (sub.control == control) {
-            if (sub.open(dialog, context.edit, context.component())) {
-                context.edit.changed(std::string(sub.change) + context.title());
-            } else {
-                context.edit.redraw();
-            }
-            return true;
+/// In the order of `ComponentKind`.
+constexpr std::array<int, 4> KindTemplates = {IDD_HULL, IDD_SUPERSTRUCTURE, IDD_TURRET, IDD_FIXED_WEAPON};
+
+class ComponentDialog final : public FormDialog {
+public:
+    /// `title` names the component in captions and in the list of changes.
+    ComponentDialog(EditContext& edit, ComponentRecord& component, const std::string& title)
+        : FormDialog({.dialogTemplate = KindTemplates[static_cast<std::size_t>(component.kind)],
+                      .caption = ComponentRefusalCaption,
+                      .imageBases = edit.imageBases,
+                      .changed = edit.changed,
+                      .undoName = "Edit " + title},
+                     form_),
+          edit_(edit), component_(component), title_(title), form_(component, componentShape()) {
+        for (const SubDialog& sub : SubDialogs) {
+            onButton(sub.control, [this, &sub] { open(sub); });
         }
     }
-    return false;
-}
 
-INT_PTR handleComponentDialog(HWND dialog, UINT message, WPARAM parameter, LPARAM pointer) {
-    auto* context = dialogContext<ComponentDialog>(dialog, message, pointer);
-    if (message == WM_INITDIALOG) {
-        placeBesideDrawing(dialog);
-        fillDialog(dialog, *context);
-        return TRUE;
+private:
+    void prepare() override {
+        port().setText(IDC_CAPTION_LINE, title_);
+        if (component_.kind == ComponentKind::Turret) {
+            port().setText(IDC_NOT_STORED, form_.notStored());
+        }
     }
-    if (message != WM_COMMAND) {
-        return FALSE;
+    void open(const SubDialog& sub) {
+        if (sub.open(handle(), edit_, component_)) {
+            edit_.changed(sub.change + title_);
+        } else {
+            edit_.redraw();
+        }
     }
-    switch (LOWORD(parameter)) {
-    case IDOK:
-        takeDialog(dialog, *context);
-        return TRUE;
-    case IDCANCEL:
-        EndDialog(dialog, 0);
-        return TRUE;
-    case IDC_LIMITED_TRAVERSE: {
-        DialogPort port(dialog);
-        enableTraverse(port);
-        return TRUE;
-    }
-    default:
-        return followChoices(dialog, knownChoices(context->component().kind), LOWORD(parameter),
-                             HIWORD(parameter)) ||
-                       openSubDialog(dialog, *context, LOWORD(parameter))
-                   ? TRUE
-                   : FALSE;
-    }
-}
 
-INT_PTR CALLBACK hullProcedure(HWND dialog, UINT message, WPARAM parameter, LPARAM pointer) {
-    return handleComponentDialog(dialog, message, parameter, pointer);
-}
-
-INT_PTR CALLBACK superstructureProcedure(HWND dialog, UINT message, WPARAM parameter, LPARAM pointer) {
-    return handleComponentDialog(dialog, message, parameter, pointer);
-}
-
-INT_PTR CALLBACK turretProcedure(HWND dialog, UINT message, WPARAM parameter, LPARAM pointer) {
-    return handleComponentDialog(dialog, message, parameter, pointer);
-}
-
-INT_PTR CALLBACK fixedWeaponProcedure(HWND dialog, UINT message, WPARAM parameter, LPARAM pointer) {
-    return handleComponentDialog(dialog, message, parameter, pointer);
-}
-
-struct KindDialog {
-    int dialogTemplate;
-    DLGPROC procedure;
+    EditContext& edit_;
+    ComponentRecord& component_;
+    std::string title_;
+    RecordForm<ComponentRecord> form_;
 };
-
-/// In the order of `ComponentKind`.
-constexpr std::array<KindDialog, 4> KindDialogs = {{
-    {IDD_HULL, hullProcedure},
-    {IDD_SUPERSTRUCTURE, superstructureProcedure},
-    {IDD_TURRET, turretProcedure},
-    {IDD_FIXED_WEAPON, fixedWeaponProcedure},
-}};
 
 } // namespace
 
 bool editComponent(HWND owner, EditContext& edit, std::size_t index) {
-    ComponentDialog context{.edit = edit, .index = index};
-    const KindDialog& kind = KindDialogs[static_cast<std::size_t>(context.component().kind)];
-    return runDialog(owner, kind.dialogTemplate, kind.procedure, &context) != 0;
+    ComponentRecord& component = edit.record.vehicle->components[index];
+    return ComponentDialog(edit, component, componentTitle(index + 1, component.kind)).run(owner);
 }
 
 } // namespace varrocade

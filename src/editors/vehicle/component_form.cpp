@@ -1,9 +1,12 @@
 #include "editors/vehicle/component_form.h"
 
+#include "data/each_field.h"
 #include "data/format/numbers.h"
-#include "data/unit/image_names.h"
+#include "data/unit/unit_consistency.h"
+#include "data/unit_fields.h"
 #include "resources/resource.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -12,188 +15,104 @@ namespace varrocade {
 namespace {
 
 using Component = ComponentRecord;
-using Field = FormField<Component>;
 
 constexpr std::int32_t FullCircle = 360;
-constexpr std::int32_t HalfCircle = 180;
 constexpr int DegreesDecimals = 1;
 
-constexpr auto SizeFields = std::to_array<Field>({
-    {IDC_WIDTH, "Width", &Component::width},
-    {IDC_LENGTH, "Length", &Component::length},
-    {IDC_HEIGHT, "Height", &Component::height},
-});
-constexpr auto TurretSizeFields = std::to_array<Field>({
-    {IDC_DIAMETER, "Diameter", &Component::diameter},
-    {IDC_HEIGHT, "Height", &Component::height},
-});
-constexpr auto OffsetFields = std::to_array<Field>({
-    {IDC_OFFSET_X, "OffsetX", &Component::offsetX},
-    {IDC_OFFSET_Y, "OffsetY", &Component::offsetY},
-    {IDC_OFFSET_Z, "OffsetZ", &Component::offsetZ},
-});
-constexpr auto TraverseFields = std::to_array<Field>({
-    {IDC_ROTATE_LEFT, "Rotate Left", &Component::rotateLeft},
-    {IDC_ROTATE_RIGHT, "Rotate Right", &Component::rotateRight},
-    {IDC_OFFSET_ANGLE, "Offset Angle", &Component::offsetAngle},
-});
-constexpr auto SightFields = std::to_array<Field>({
-    {IDC_ANTI_AIRCRAFT, "Can shoot aircraft", &Component::antiAircraft},
-    {IDC_NIGHT_VISION, "Infrared night vision", &Component::nightVision},
-});
+constexpr auto Turrets = Holders::of(Holder::Turret);
+constexpr std::string_view RotateSpeedCaption = "Rotate speed";
 
-struct ComponentImage {
-    int control;
-    std::string_view label; ///< for messages
-    Text Component::*member;
-};
+/// No element: the limits say it.
+constexpr auto LimitedTraverse =
+    field_row::flag(&Component::limitedTraverse, "", "Limited traverse", field::Turning);
 
-constexpr auto Images = std::to_array<ComponentImage>({
-    {IDC_VIEW_IMAGE, "Image", &Component::viewImage},
-    {IDC_DESTROYED_IMAGE, "Destroyed", &Component::destroyedImage},
-});
-
-bool hasDestroyedImage(ComponentKind kind) {
-    return kind != ComponentKind::Superstructure;
-}
-
-void fillImages(FormPort& port, const Component& component) {
-    for (const ComponentImage& image : Images) {
-        if (image.control == IDC_VIEW_IMAGE || hasDestroyedImage(component.kind)) {
-            port.setLimit(image.control, Text::MaxLength);
-            port.setText(image.control, component.*image.member);
+/// The record counts the seconds of a full circle, people degrees a second.
+struct RotateSpeed {
+    static std::string textOf(std::int32_t time, const CodecTerms&) { return rotateSpeedText(time); }
+    static Refusal take(std::string_view text, const CodecTerms&, std::int32_t& time) {
+        if (text.find_first_not_of(" \t+-.0123456789") != std::string::npos) {
+            return "\"Rotate speed\" must be a number";
         }
-    }
-}
-
-std::optional<ComponentFormError> readImages(FormPort& port, Component& component) {
-    for (const ComponentImage& image : Images) {
-        if (image.control == IDC_VIEW_IMAGE || hasDestroyedImage(component.kind)) {
-            const std::string name = port.text(image.control);
-            if (auto error = valueError(image.control, image.label, name)) {
-                return ComponentFormError{error->control, error->message, "Error"};
-            }
-            component.*image.member = imageNameOf(name);
+        const auto given = rotateTimeOf(text);
+        if (given && *given == 0) {
+            return "The rotate speed must be at most 360 degrees per second: the file counts the seconds for "
+                   "a full "
+                   "circle";
         }
-    }
-    return std::nullopt;
-}
-
-std::optional<ComponentFormError> readFields(FormPort& port, std::span<const Field> fields,
-                                             Component& component) {
-    if (auto error = readForm<Component>(port, fields, component)) {
-        return ComponentFormError{error->control, error->message, "Error"};
-    }
-    return std::nullopt;
-}
-
-/// The checks of the angles; a turret's messages name it.
-std::optional<ComponentFormError> checkTraverse(const Component& component) {
-    const bool isTurret = component.kind == ComponentKind::Turret;
-    const std::string rotateWho = isTurret ? "The turret rotate" : "The rotate";
-    const auto isLimit = [](std::int32_t angle) { return angle >= 0 && angle <= FullCircle; };
-    if (!isLimit(component.rotateLeft) || !isLimit(component.rotateRight)) {
-        return ComponentFormError{isLimit(component.rotateLeft) ? IDC_ROTATE_RIGHT : IDC_ROTATE_LEFT,
-                                  rotateWho + " left and right angles must be between 0 and 360 degrees",
-                                  "Rotate angles"};
-    }
-    if (component.rotateLeft + component.rotateRight > FullCircle) {
-        return ComponentFormError{IDC_ROTATE_LEFT,
-                                  rotateWho + " left and right angles must add up to less that 360 degrees",
-                                  "Rotate angles"};
-    }
-    if (component.offsetAngle < -HalfCircle || component.offsetAngle > HalfCircle) {
-        return ComponentFormError{IDC_OFFSET_ANGLE,
-                                  std::string(isTurret ? "The turret offset" : "The offset") +
-                                      " angle must be between -180 and 180 degrees",
-                                  "Offset angle"};
-    }
-    return std::nullopt;
-}
-
-/// A speed that was not touched keeps its time to the second.
-std::optional<ComponentFormError> readRotateSpeed(FormPort& port, Component& component) {
-    const std::string text = port.text(IDC_ROTATE_SPEED);
-    if (component.rotateTime > 0 && text == rotateSpeedText(component.rotateTime)) {
+        time = given.value_or(0);
         return std::nullopt;
     }
-    if (text.find_first_not_of(" \t+-.0123456789") != std::string::npos) {
-        return ComponentFormError{IDC_ROTATE_SPEED, "\"Rotate speed\" must be a number", "Rotate speed"};
+};
+
+/// Where a refusal stands in the dialog, and what the caption of its box is where the dialog's own does not
+/// do.
+struct RefusalPlace {
+    std::string_view field;
+    int control;
+    std::string_view caption;
+};
+
+constexpr auto RefusalPlaces = std::to_array<RefusalPlace>({
+    {field::RotateLeft.element, IDC_ROTATE_LEFT, "Rotate angles"},
+    {field::RotateRight.element, IDC_ROTATE_RIGHT, "Rotate angles"},
+    {field::OffsetAngle.element, IDC_OFFSET_ANGLE, "Offset angle"},
+    {field::OffsetZ.element, IDC_OFFSET_Z, {}},
+    {field::RotateTime.element, IDC_ROTATE_SPEED, RotateSpeedCaption},
+});
+
+template <std::optional<Finding> (*Rule)(const Component&)>
+std::optional<FormError> check(const Component& component) {
+    const std::optional<Finding> finding = Rule(component);
+    if (!finding) {
+        return std::nullopt;
     }
-    const auto time = rotateTimeOf(text);
-    if (!time) {
-        return ComponentFormError{IDC_ROTATE_SPEED, "The rotate speed must be greater than zero",
-                                  "Rotate speed"};
-    }
-    if (*time == 0) {
-        return ComponentFormError{IDC_ROTATE_SPEED,
-                                  "The rotate speed must be at most 360 degrees per second: the file counts "
-                                  "the seconds for a full circle",
-                                  "Rotate speed"};
-    }
-    component.rotateTime = *time;
-    return std::nullopt;
+    const auto place = std::find_if(RefusalPlaces.begin(), RefusalPlaces.end(),
+                                    [&](const RefusalPlace& row) { return row.field == finding->field; });
+    return FormError{place->control, finding->message, std::string(place->caption)};
 }
 
-std::optional<ComponentFormError> readTurret(FormPort& port, Component& turret) {
-    turret.limitedTraverse = port.isChecked(IDC_LIMITED_TRAVERSE);
-    if (turret.limitedTraverse) {
-        if (auto error = readFields(port, TraverseFields, turret)) {
-            return error;
-        }
-        if (auto error = checkTraverse(turret)) {
-            return error;
-        }
-    }
-    if (auto error = readFields(port, TurretSizeFields, turret)) {
-        return error;
-    }
-    if (auto error = readFields(port, OffsetFields, turret)) {
-        return error;
-    }
-    if (auto error = readRotateSpeed(port, turret)) {
-        return error;
-    }
-    return readFields(port, SightFields, turret);
+/// A fixed weapon always has limits.
+bool hasLimits(FormPort& port, const Component& component) {
+    return component.kind == ComponentKind::FixedWeapon || port.isChecked(IDC_LIMITED_TRAVERSE);
 }
 
-std::optional<ComponentFormError> readFixedWeapon(FormPort& port, Component& weapon) {
-    if (auto error = readFields(port, TraverseFields, weapon)) {
-        return error;
-    }
-    if (auto error = checkTraverse(weapon)) {
-        return error;
-    }
-    if (auto error = readFields(port, OffsetFields, weapon)) {
-        return error;
-    }
-    if (weapon.offsetZ <= 0) {
-        return ComponentFormError{IDC_OFFSET_Z, "OffsetZ must be greater than zero", "Error"};
-    }
-    if (auto error = readRotateSpeed(port, weapon)) {
-        return error;
-    }
-    return readFields(port, SightFields, weapon);
-}
+constexpr auto ExceptHull = Holders::allBut(Holder::Hull);
+constexpr auto ExceptSuperstructure = Holders::allBut(Holder::Superstructure);
 
-std::optional<ComponentFormError> readKind(FormPort& port, Component& component) {
-    switch (component.kind) {
-    case ComponentKind::Hull:
-        return readFields(port, SizeFields, component);
-    case ComponentKind::Superstructure:
-        if (auto error = readFields(port, SizeFields, component)) {
-            return error;
-        }
-        return readFields(port, OffsetFields, component);
-    case ComponentKind::Turret:
-        return readTurret(port, component);
-    case ComponentKind::FixedWeapon:
-        break;
-    }
-    return readFixedWeapon(port, component);
-}
+/// A hull has no offsets, and shows that.
+constexpr auto Rows = std::to_array<FormRow<Component>>({
+    {IDC_LIMITED_TRAVERSE, LimitedTraverse, {.kinds = Turrets}},
+    {IDC_ROTATE_LEFT, field::RotateLeft, {.kinds = field::Turning, .enabledWhen = hasLimits}},
+    {IDC_ROTATE_RIGHT, field::RotateRight, {.kinds = field::Turning, .enabledWhen = hasLimits}},
+    {IDC_OFFSET_ANGLE,
+     field::OffsetAngle,
+     {.kinds = field::Turning, .enabledWhen = hasLimits, .check = check<traverseFinding>}},
+    {IDC_WIDTH, field::Width, {.kinds = field::Boxes}},
+    {IDC_LENGTH, field::Length, {.kinds = field::Boxes}},
+    {IDC_DIAMETER, field::Diameter, {.kinds = Turrets}},
+    {IDC_HEIGHT, field::Height, {.kinds = Holders::allBut(Holder::FixedWeapon)}},
+    {IDC_OFFSET_X, field::OffsetX, {.changedBy = ExceptHull}},
+    {IDC_OFFSET_Y, field::OffsetY, {.changedBy = ExceptHull}},
+    {IDC_OFFSET_Z, field::OffsetZ, {.changedBy = ExceptHull, .check = check<offsetHeightFinding>}},
+    {IDC_ROTATE_SPEED,
+     field::RotateTime,
+     {.kinds = field::Turning, .caption = RotateSpeedCaption, .check = check<rotateTimeFinding>},
+     RotateSpeed()},
+    {IDC_ANTI_AIRCRAFT, field::AntiAircraft, {.kinds = field::Turning}},
+    {IDC_NIGHT_VISION, field::NightVision, {.kinds = field::Turning}},
+    {IDC_VIEW_IMAGE, field::ViewImage, {.kinds = field::Boxes, .images = image_sources::Hull}},
+    {IDC_VIEW_IMAGE, field::ViewImage, {.kinds = field::Turning, .images = image_sources::Turret}},
+    {IDC_DESTROYED_IMAGE, field::DestroyedImage, {.kinds = ExceptSuperstructure}},
+});
+
+constexpr FormShape<Component> Shape = {
+    .rows = Rows, .holder = [](const Component& component) { return holderOf(component.kind); }};
 
 } // namespace
+
+const FormShape<ComponentRecord>& componentShape() {
+    return Shape;
+}
 
 std::string rotateSpeedText(std::int32_t rotateTime) {
     std::string text;
@@ -208,48 +127,6 @@ std::optional<std::int32_t> rotateTimeOf(std::string_view speed) {
     }
     constexpr double secondsOfDay = 86400;
     return static_cast<std::int32_t>(std::lround(std::min(FullCircle / value, secondsOfDay)));
-}
-
-void fillComponentForm(FormPort& port, const ComponentRecord& component) {
-    fillImages(port, component);
-    fillForm<Component>(port, OffsetFields, component);
-    switch (component.kind) {
-    case ComponentKind::Hull:
-    case ComponentKind::Superstructure:
-        fillForm<Component>(port, SizeFields, component);
-        return;
-    case ComponentKind::Turret:
-        fillForm<Component>(port, TurretSizeFields, component);
-        port.setChecked(IDC_LIMITED_TRAVERSE, component.limitedTraverse);
-        break;
-    case ComponentKind::FixedWeapon:
-        break;
-    }
-    fillForm<Component>(port, TraverseFields, component);
-    fillForm<Component>(port, SightFields, component);
-    port.setText(IDC_ROTATE_SPEED, rotateSpeedText(component.rotateTime));
-    if (component.kind == ComponentKind::Turret) {
-        enableTraverse(port);
-    }
-}
-
-void enableTraverse(FormPort& port) {
-    const bool isLimited = port.isChecked(IDC_LIMITED_TRAVERSE);
-    for (const Field& field : TraverseFields) {
-        port.setEnabled(field.control, isLimited);
-    }
-}
-
-std::optional<ComponentFormError> readComponentForm(FormPort& port, ComponentRecord& component) {
-    Component copy = component;
-    if (auto error = readKind(port, copy)) {
-        return error;
-    }
-    if (auto error = readImages(port, copy)) {
-        return error;
-    }
-    component = std::move(copy);
-    return std::nullopt;
 }
 
 } // namespace varrocade

@@ -11,21 +11,11 @@
 
 namespace varrocade {
 
-/// A refusal that names the box's caption too.
-struct ComponentFormError {
-    int control = 0;
-    std::string message;
-    std::string caption;
-};
+/// The form of the four dialogs; the component's kind tells which rows are of its own.
+const FormShape<ComponentRecord>& componentShape();
 
-/// Fills the dialog of a component's kind.
-void fillComponentForm(FormPort& port, const ComponentRecord& component);
-
-/// Enables the limits of a turret as its "Limited traverse" says.
-void enableTraverse(FormPort& port);
-
-/// Takes the dialog's fields over into the component; an error leaves it as it was.
-std::optional<ComponentFormError> readComponentForm(FormPort& port, ComponentRecord& component);
+/// The caption of the boxes with refusals that have none of their own.
+inline constexpr std::string_view ComponentRefusalCaption = "Error";
 
 /// The rotate speed, in degrees a second with one decimal, of a full circle in so many seconds; "0.0" for
 /// none.

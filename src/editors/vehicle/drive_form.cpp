@@ -1,52 +1,65 @@
 #include "editors/vehicle/drive_form.h"
 
 #include "data/unit/engine_table.h"
+#include "data/unit/unit_consistency.h"
+#include "data/unit_fields.h"
 #include "resources/resource.h"
 
 #include <algorithm>
+#include <array>
 
 namespace varrocade {
+
+/// Where an engine can stand.
+template <>
+struct FormWords<EngineMount> {
+    static constexpr auto Table = std::to_array<FormWord<EngineMount>>(
+        {{EngineMount::Rear, "Rear"}, {EngineMount::Middle, "Middle"}, {EngineMount::Front, "Front"}});
+    static constexpr std::span<const FormWord<EngineMount>> words() { return Table; }
+};
 
 namespace {
 
 using Vehicle = VehicleRecord;
 
-constexpr auto DriveFields = std::to_array<FormField<Vehicle>>({
-    {IDC_ENGINE, "Engine", &Vehicle::engineName},
-    {IDC_HORSEPOWER, "Horsepower", &Vehicle::horsepower, NotNegative},
-    {IDC_RELIABILITY, "Reliability", &Vehicle::reliability},
-    {IDC_RPM_IDLE, "Idle", &Vehicle::idleRevolutions, NotNegative},
-    {IDC_RPM_LIMIT, "Limit", &Vehicle::revolutionLimit, NotNegative},
-    {IDC_FORWARD_GEARS, "Forwards", &Vehicle::forwardGears, NotNegative},
-    {IDC_REVERSE_GEARS, "Reverse", &Vehicle::reverseGears, NotNegative},
-    {IDC_STEERING, "Steering", &Vehicle::steering},
-    {IDC_SMOKE_SCREEN, "Can make a smoke screen", &Vehicle::smokeScreen},
+constexpr auto DriveRows = std::to_array<FormRow<Vehicle>>({
+    {IDC_ENGINE, field::EngineName},
+    {IDC_HORSEPOWER, field::Horsepower},
+    {IDC_RELIABILITY, field::Reliability},
+    {IDC_ENGINE_MOUNT, field::MountOfEngine},
+    {IDC_RPM_IDLE, field::IdleRevolutions},
+    {IDC_RPM_LIMIT, field::RevolutionLimit},
+    {IDC_FORWARD_GEARS, field::ForwardGears},
+    {IDC_REVERSE_GEARS, field::ReverseGears},
+    {IDC_STEERING, field::Steering},
+    {IDC_SMOKE_SCREEN, field::SmokeScreen},
 });
+
+std::optional<FormError> checkRevolutions(const Vehicle& former, Vehicle& read) {
+    const bool isTouched =
+        read.revolutionLimit != former.revolutionLimit || read.idleRevolutions != former.idleRevolutions;
+    if (const auto finding = revolutionsFinding(read); finding && isTouched) {
+        return FormError{.control = IDC_RPM_LIMIT, .message = finding->message};
+    }
+    return std::nullopt;
+}
+
+constexpr FormShape<Vehicle> DriveShape = {.rows = DriveRows, .check = checkRevolutions};
 
 } // namespace
 
-void fillDriveForm(FormPort& port, const VehicleRecord& vehicle) {
-    fillForm<Vehicle>(port, DriveFields, vehicle);
-    port.setText(IDC_ENGINE_MOUNT, EngineMountNames[static_cast<std::size_t>(vehicle.engineMount)]);
+const FormShape<VehicleRecord>& driveShape() {
+    return DriveShape;
 }
 
-std::optional<FormError> readDriveForm(FormPort& port, VehicleRecord& vehicle) {
-    Vehicle copy = vehicle;
-    if (auto error = readForm<Vehicle>(port, DriveFields, copy)) {
-        return error;
+std::vector<std::string> engineNames() {
+    std::vector<std::string> names;
+    for (const EngineRow& row : engineTable()) {
+        names.emplace_back(row.name);
     }
-    const bool isTouched =
-        copy.revolutionLimit != vehicle.revolutionLimit || copy.idleRevolutions != vehicle.idleRevolutions;
-    if (isTouched && copy.revolutionLimit < copy.idleRevolutions) {
-        return FormError{IDC_RPM_LIMIT, "The revolution limit must not be below the idle revolutions"};
-    }
-    const auto mount =
-        std::find(EngineMountNames.begin(), EngineMountNames.end(), port.text(IDC_ENGINE_MOUNT));
-    if (mount != EngineMountNames.end()) {
-        copy.engineMount = static_cast<EngineMount>(mount - EngineMountNames.begin());
-    }
-    vehicle = std::move(copy);
-    return std::nullopt;
+    std::sort(names.begin(), names.end());
+    names.erase(std::unique(names.begin(), names.end()), names.end());
+    return names;
 }
 
 void takeEngine(FormPort& port, std::string_view engineName) {

@@ -5,19 +5,16 @@
 
 #include "data/unit/unit_record.h"
 
-#include <array>
-#include <optional>
+#include <string>
 #include <string_view>
+#include <vector>
 
 namespace varrocade {
 
-/// Where an engine can stand, in the order of `EngineMount`.
-inline constexpr std::array<std::string_view, 3> EngineMountNames = {"Rear", "Middle", "Front"};
+const FormShape<VehicleRecord>& driveShape();
 
-void fillDriveForm(FormPort& port, const VehicleRecord& vehicle);
-
-/// Takes the dialog's fields over; an error leaves the vehicle as it was.
-std::optional<FormError> readDriveForm(FormPort& port, VehicleRecord& vehicle);
+/// The names of the engine table, each once, in the order of the alphabet.
+std::vector<std::string> engineNames();
 
 /// Fills name and horsepower from the engine table when the text names one of its engines.
 void takeEngine(FormPort& port, std::string_view engineName);

@@ -11,17 +11,23 @@ namespace {
 
 /// The drawing shows the record, so the entries stand in it while they are edited; Cancel puts the former
 /// back.
+class PositionDialog final : public ListDialog {
+public:
+    PositionDialog(const ListDialogTerms& terms, ListModel& model, EditContext& edit)
+        : ListDialog(terms, model), edit_(edit) {}
+
+private:
+    void preview() override { edit_.redraw(); }
+
+    EditContext& edit_;
+};
+
 template <typename Entry>
 bool editInPlace(HWND owner, EditContext& edit, std::vector<Entry>& entries, const ListShape<Entry>& shape,
-                 std::string_view caption, int dialogTemplate, DLGPROC procedure) {
+                 const ListDialogTerms& terms) {
     const std::vector<Entry> former = entries;
     VectorListModel<Entry> model(entries, shape);
-    ListDialog list{.model = model,
-                    .caption = caption,
-                    .preview = [](void* context) { static_cast<EditContext*>(context)->redraw(); },
-                    .context = &edit,
-                    .first = edit.firstShown};
-    if (runDialog(owner, dialogTemplate, procedure, &list) != 0) {
+    if (PositionDialog(terms, model, edit).run(owner)) {
         return entries != former;
     }
     entries = former;
@@ -29,24 +35,18 @@ bool editInPlace(HWND owner, EditContext& edit, std::vector<Entry>& entries, con
     return false;
 }
 
-INT_PTR CALLBACK exhaustPipesProcedure(HWND dialog, UINT message, WPARAM parameter, LPARAM pointer) {
-    return handleListDialog(dialog, message, parameter, pointer);
-}
-
-INT_PTR CALLBACK smokeDischargersProcedure(HWND dialog, UINT message, WPARAM parameter, LPARAM pointer) {
-    return handleListDialog(dialog, message, parameter, pointer);
-}
-
 } // namespace
 
 bool editExhaustPipes(HWND owner, EditContext& edit) {
-    return editInPlace(owner, edit, edit.record.vehicle->exhaustPipes, exhaustPipeShape(), "Exhaust Pipes",
-                       IDD_EXHAUST_PIPES, exhaustPipesProcedure);
+    return editInPlace(
+        owner, edit, edit.record.vehicle->exhaustPipes, exhaustPipeShape(),
+        {.dialogTemplate = IDD_EXHAUST_PIPES, .caption = "Exhaust Pipes", .first = edit.firstShown});
 }
 
 bool editSmokeDischargers(HWND owner, EditContext& edit, ComponentRecord& component) {
-    return editInPlace(owner, edit, component.smokeDischargers, smokeDischargerShape(), "Smoke Dischargers",
-                       IDD_SMOKE_DISCHARGERS, smokeDischargersProcedure);
+    return editInPlace(
+        owner, edit, component.smokeDischargers, smokeDischargerShape(),
+        {.dialogTemplate = IDD_SMOKE_DISCHARGERS, .caption = "Smoke Dischargers", .first = edit.firstShown});
 }
 
 } // namespace varrocade

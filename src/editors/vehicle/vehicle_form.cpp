@@ -1,6 +1,7 @@
 #include "editors/vehicle/vehicle_form.h"
 
 #include "data/unit/image_names.h"
+#include "data/unit_fields.h"
 #include "resources/resource.h"
 
 #include <array>
@@ -9,116 +10,57 @@ namespace varrocade {
 
 namespace {
 
-constexpr auto SquadFields = std::to_array<FormField<SquadRecord>>({
-    {IDC_TYPE, "Type", &SquadRecord::type},
-    {IDC_NATIONALITY, "Nationality", &SquadRecord::nationality},
-    {IDC_LONG_NAME, "Long name", &SquadRecord::longName},
-    {IDC_SHORT_NAME, "Short name", &SquadRecord::shortName},
-    {IDC_DESCRIPTION, "Description", &SquadRecord::comment},
-});
+using Squad = SquadRecord;
 
-constexpr auto VehicleFields = std::to_array<FormField<VehicleRecord>>({
-    {IDC_WEIGHT, "Weight", &VehicleRecord::weight, {.zeroForOtherTexts = true}},
-    {IDC_MOUNT_INFANTRY, "Can mount infantry", &VehicleRecord::canMountInfantry},
-    {IDC_AMPHIBIOUS, "Is amphibious", &VehicleRecord::amphibious},
-});
-
-enum class UniformMethod { Any, New, Old };
-
-/// An image and the uniform method that it belongs to.
-struct ImageField {
-    int control;
-    std::string_view label; ///< for messages
-    UniformMethod method;
-    Text& (*name)(SquadRecord& record);
+struct OfVehicle {
+    static auto& in(auto& squad) { return *squad.vehicle; }
 };
 
-constexpr auto ImageFields = std::to_array<ImageField>({
-    {IDC_UNIFORM_PROFILE, "Profile image", UniformMethod::New,
-     [](SquadRecord& record) -> Text& { return record.uniformProfile; }},
-    {IDC_UNIFORM_GAME, "Game image", UniformMethod::New,
-     [](SquadRecord& record) -> Text& { return record.uniformGame; }},
-    {IDC_UNIFORM_NAME, "Uniform", UniformMethod::Old,
-     [](SquadRecord& record) -> Text& { return record.uniformName; }},
-    {IDC_UNIFORM_RANKS, "Rank Image", UniformMethod::Any,
-     [](SquadRecord& record) -> Text& { return record.uniformRanks; }},
-    {IDC_PROFILE_IMAGE, "Control panel image", UniformMethod::Any,
-     [](SquadRecord& record) -> Text& { return record.vehicle->profileImage; }},
-});
+/// No element: the images that a file has say it.
+constexpr auto NamedUniform = field_row::flag(&Squad::namedUniform, "", "Use old method");
 
-/// Whether the method that the radio buttons tell has this image.
-bool isInUse(FormPort& port, const ImageField& field) {
-    return field.method == UniformMethod::Any ||
-           (field.method == UniformMethod::New) == port.isChecked(IDC_UNIFORM_NEW_METHOD);
+bool isNewMethod(FormPort& port, const Squad&) {
+    return port.isChecked(IDC_UNIFORM_NEW_METHOD);
 }
 
-/// An empty name, as the default one, shows as "Default".
-void showImage(FormPort& port, int control, const Text& name) {
-    port.setLimit(control, Text::MaxLength);
-    port.setText(control, name.empty() ? DefaultImageName : name.view());
-}
-
-/// "Default" is the empty name; a record that already says "Default" keeps it, so that nothing changes
-/// unasked.
-std::optional<FormError> readImage(FormPort& port, const ImageField& field, Text& name) {
-    const std::string chosen = port.text(field.control);
-    if (!isDefaultImage(chosen)) {
-        name = imageNameOf(chosen);
-    } else if (!isDefaultImage(name)) {
-        name.clear();
-    }
-    return valueError(field.control, field.label, chosen);
+bool isOldMethod(FormPort& port, const Squad&) {
+    return !port.isChecked(IDC_UNIFORM_NEW_METHOD);
 }
 
 /// A language is two characters; everything else, "Default" among it, is none.
-LanguageCode languageOf(std::string_view text) {
-    return text.size() == LanguageCode::MaxLength ? LanguageCode(text) : LanguageCode();
-}
+struct TwoCharacters : Codec<LanguageCode> {
+    static Refusal take(std::string_view text, const CodecTerms& terms, LanguageCode& language) {
+        return Codec::take(text.size() == LanguageCode::MaxLength ? text : std::string_view(), terms,
+                           language);
+    }
+};
+
+constexpr RowTerms<Squad> WithDefault = {.emptyAs = DefaultImageName};
+
+constexpr auto SquadRows = std::to_array<FormRow<Squad>>({
+    {IDC_NATIONALITY, field::Nationality},
+    {IDC_TYPE, field::Type},
+    {IDC_LANGUAGE, field::VoiceLanguage, WithDefault, TwoCharacters()},
+    {IDC_LONG_NAME, field::LongName},
+    {IDC_SHORT_NAME, field::ShortName},
+    {IDC_DESCRIPTION, field::Comment},
+    {IDC_PROFILE_IMAGE, OfVehicle(), field::ProfileImage, WithDefault},
+    {IDC_UNIFORM_OLD_METHOD, NamedUniform, {.otherwise = IDC_UNIFORM_NEW_METHOD}},
+    {IDC_UNIFORM_PROFILE, field::UniformProfile, {.enabledWhen = isNewMethod, .emptyAs = DefaultImageName}},
+    {IDC_UNIFORM_GAME, field::UniformGame, {.enabledWhen = isNewMethod, .emptyAs = DefaultImageName}},
+    {IDC_UNIFORM_RANKS, field::UniformRanks, WithDefault},
+    {IDC_UNIFORM_NAME, field::UniformName, {.enabledWhen = isOldMethod, .emptyAs = DefaultImageName}},
+    {IDC_WEIGHT, OfVehicle(), field::Weight},
+    {IDC_MOUNT_INFANTRY, OfVehicle(), field::CanMountInfantry},
+    {IDC_AMPHIBIOUS, OfVehicle(), field::Amphibious},
+});
+
+constexpr FormShape<Squad> SquadShape = {.rows = SquadRows};
 
 } // namespace
 
-void fillVehicleForm(FormPort& port, const SquadRecord& record) {
-    fillForm<SquadRecord>(port, SquadFields, record);
-    fillForm<VehicleRecord>(port, VehicleFields, *record.vehicle);
-    port.setText(IDC_LANGUAGE, record.language.empty() ? DefaultImageName : record.language.view());
-    SquadRecord shown = record;
-    for (const ImageField& field : ImageFields) {
-        showImage(port, field.control, field.name(shown));
-    }
-    port.setChecked(IDC_UNIFORM_NEW_METHOD, !record.namedUniform);
-    port.setChecked(IDC_UNIFORM_OLD_METHOD, record.namedUniform);
-    enableUniformLists(port);
-}
-
-void enableUniformLists(FormPort& port) {
-    for (const ImageField& field : ImageFields) {
-        port.setEnabled(field.control, isInUse(port, field));
-    }
-}
-
-std::optional<FormError> readVehicleForm(FormPort& port, SquadRecord& record) {
-    SquadRecord copy = record;
-    if (auto error = readForm<SquadRecord>(port, SquadFields, copy)) {
-        return error;
-    }
-    if (auto error = readForm<VehicleRecord>(port, VehicleFields, *copy.vehicle)) {
-        return error;
-    }
-    copy.language = languageOf(port.text(IDC_LANGUAGE));
-    if (auto error = valueError(IDC_LANGUAGE, "Voice language", copy.language)) {
-        return error;
-    }
-    copy.namedUniform = !port.isChecked(IDC_UNIFORM_NEW_METHOD);
-    for (const ImageField& field : ImageFields) {
-        if (!isInUse(port, field)) {
-            continue;
-        }
-        if (auto error = readImage(port, field, field.name(copy))) {
-            return error;
-        }
-    }
-    record = std::move(copy);
-    return std::nullopt;
+const FormShape<SquadRecord>& vehicleShape() {
+    return SquadShape;
 }
 
 } // namespace varrocade

@@ -69,7 +69,15 @@ public:
     bool replace(const std::string& from, const std::string& to) override {
         return ::rename(nativePath(from).c_str(), nativePath(to).c_str()) == 0;
     }
+    bool rename(const std::string& from, const std::string& to) override {
+        if (exists(to)) {
+            errno = EEXIST;
+            return false;
+        }
+        return replace(from, to);
+    }
     bool remove(const std::string& path) override { return ::unlink(nativePath(path).c_str()) == 0; }
+    bool recycle(const std::string& path) override { return remove(path); }
     bool createFolder(const std::string& path) override {
         constexpr int mode = 0777;
         return ::mkdir(nativePath(path).c_str(), mode) == 0 || errno == EEXIST;

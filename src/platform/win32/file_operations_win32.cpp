@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <shellapi.h>
+
 #include <array>
 #include <cstdio>
 #include <string>
@@ -86,7 +88,21 @@ public:
         return MoveFileExW(nativePath(from).c_str(), target.c_str(),
                            MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
     }
+    bool rename(const std::string& from, const std::string& to) override {
+        return MoveFileW(nativePath(from).c_str(), nativePath(to).c_str()) != 0;
+    }
     bool remove(const std::string& path) override { return DeleteFileW(nativePath(path).c_str()) != 0; }
+    bool recycle(const std::string& path) override {
+        // The shell takes a list of paths that ends with an empty one.
+        std::string paths = path;
+        paths += '\0';
+        paths += '\0';
+        SHFILEOPSTRUCTA operation{};
+        operation.wFunc = FO_DELETE;
+        operation.pFrom = paths.c_str();
+        operation.fFlags = FOF_ALLOWUNDO | FOF_NOCONFIRMATION | FOF_SILENT | FOF_NOERRORUI;
+        return SHFileOperationA(&operation) == 0 && operation.fAnyOperationsAborted == FALSE;
+    }
     bool createFolder(const std::string& path) override {
         return CreateDirectoryW(nativePath(path).c_str(), nullptr) != 0 ||
                GetLastError() == ERROR_ALREADY_EXISTS;

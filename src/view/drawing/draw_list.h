@@ -33,7 +33,7 @@ struct Colour {
 };
 
 /// The colours of the drawing; the painter has a pen for each.
-enum class Ink { Black, White, Red, Green, PaleGreen, Yellow, Blue };
+enum class Ink { Black, White, Red, Yellow, Blue };
 
 /// A picture file, stretched to `width` by `height` around its centre, then turned.
 struct PictureItem {
@@ -164,11 +164,5 @@ void addMen(DrawList& list, const SquadRecord& unit, const WeaponCatalogue& cata
 
 /// The drawing of a weapon with its tracer and its rounds.
 DrawList drawWeapon(const WeaponRecord& weapon, const DrawOptions& options, PictureSizes& sizes);
-
-/// The part at a point: marks within `reach` centimetres first, the nearest of them, then what lies on top.
-UnitPart partAt(const DrawList& list, Point point, double reach, PictureSizes& sizes);
-
-/// The items that belong to a part, from bottom to top.
-std::vector<const DrawItem*> itemsOf(const DrawList& list, const UnitPart& part);
 
 } // namespace varrocade

@@ -4,7 +4,6 @@
 #include "data/unit/image_folders.h"
 #include "data/unit/image_names.h"
 #include "view/drawing/weapon_shapes.h"
-#include "view/sheet/sheet_text.h"
 
 #include <algorithm>
 

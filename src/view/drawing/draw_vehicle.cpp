@@ -262,7 +262,7 @@ private:
             add(MarkItem{.shape = MarkItem::Shape::CrewMan,
                          .centre = pivotOf(component) + turned(offset, directionOf(place)),
                          .part = UnitPart{PartKind::CrewMan, place, i},
-                         .letter = displayName(component.crew[i].job, "JOB_").substr(0, 1)});
+                         .letter = displayName(component.crew[i].job, JobPrefix).substr(0, 1)});
         }
     }
 

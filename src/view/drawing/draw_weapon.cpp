@@ -3,7 +3,7 @@
 #include "data/unit/image_folders.h"
 #include "data/unit/image_names.h"
 #include "view/drawing/weapon_shapes.h"
-#include "view/sheet/sheet_text.h"
+#include "weapons/ammo_words.h"
 #include "weapons/weapon_names.h"
 
 #include <algorithm>

@@ -7,7 +7,6 @@
 #include <cmath>
 #include <cstddef>
 #include <numbers>
-#include <optional>
 #include <span>
 
 namespace varrocade {
@@ -50,19 +49,5 @@ inline double angleOf(const ComponentRecord& component, double turn) {
     const bool hasAngle = component.kind == ComponentKind::FixedWeapon || component.limitedTraverse;
     return (hasAngle ? component.offsetAngle : 0) + turn;
 }
-
-/// What can be turned, and how far from its rest.
-struct Traverse {
-    Point pivot;
-    bool isLimited = false;
-    double left = 0;
-    double right = 0;
-};
-
-/// The traverse of a turret, a fixed weapon or a heavy weapon; nothing for other parts.
-std::optional<Traverse> traverseOf(const SquadRecord& unit, const UnitPart& part);
-
-/// A turn cut to what the traverse allows.
-double allowedTurn(const Traverse& traverse, double turn);
 
 } // namespace varrocade

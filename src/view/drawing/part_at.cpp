@@ -1,4 +1,4 @@
-// Which part of a unit lies at a point of its drawing.
+#include "view/drawing/part_at.h"
 
 #include "view/drawing/drawing_angles.h"
 

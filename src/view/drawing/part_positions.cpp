@@ -112,26 +112,4 @@ bool nudgePart(SquadRecord& unit, const UnitPart& part, int right, int up, std::
     return set(*position, *position->x + step.x, *position->y + step.y);
 }
 
-MovedPositions movedPositions(const SquadRecord& before, const SquadRecord& after) {
-    MovedPositions moved;
-    const auto differ = [&](const UnitPart& part) {
-        const auto was = positionOf(before, part);
-        const auto is = positionOf(after, part);
-        return was && is && *was != *is;
-    };
-    if (after.vehicle) {
-        for (std::size_t i = 0; i < after.vehicle->exhaustPipes.size(); ++i) {
-            moved.exhausts |= differ({PartKind::Exhaust, 0, i});
-        }
-    }
-    const std::size_t components = after.vehicle ? after.vehicle->components.size() : 1;
-    for (std::size_t component = 0; component < components; ++component) {
-        const auto* weapons = weaponsAround(after, {PartKind::Weapon, component, 0});
-        for (std::size_t i = 0; weapons != nullptr && i < weapons->size(); ++i) {
-            moved.weapons |= differ({PartKind::Weapon, component, i});
-        }
-    }
-    return moved;
-}
-
 } // namespace varrocade

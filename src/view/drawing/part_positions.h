@@ -30,11 +30,4 @@ bool movePart(SquadRecord& unit, const UnitPart& part, Point to, std::span<const
 bool nudgePart(SquadRecord& unit, const UnitPart& part, int right, int up,
                std::span<const double> turns = {});
 
-/// Which positions of two states of a unit differ.
-struct MovedPositions {
-    bool weapons = false;
-    bool exhausts = false;
-};
-MovedPositions movedPositions(const SquadRecord& before, const SquadRecord& after);
-
 } // namespace varrocade

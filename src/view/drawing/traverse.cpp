@@ -1,6 +1,9 @@
+#include "view/drawing/traverse.h"
+
 #include "view/drawing/drawing_angles.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace varrocade {
 

@@ -1,8 +1,7 @@
 #include "view/drawing/unit_part.h"
 
+#include "data/unit/component_words.h"
 #include "data/unit/enumerations.h"
-#include "view/sheet/data_sheet.h"
-#include "view/sheet/sheet_text.h"
 
 namespace varrocade {
 
@@ -35,10 +34,6 @@ std::size_t countAround(const SquadRecord& unit, const UnitPart& part) {
     default:
         return 0;
     }
-}
-
-std::string jobText(const Text& job) {
-    return displayName(job, "JOB_");
 }
 
 } // namespace
@@ -100,11 +95,11 @@ std::string partName(const SquadRecord& unit, const UnitPart& part) {
     case PartKind::Discharger:
         return "Smoke discharger " + number;
     case PartKind::CrewMan:
-        return jobText(componentOf(unit, part)->crew[part.index].job);
+        return displayName(componentOf(unit, part)->crew[part.index].job, JobPrefix);
     case PartKind::Exhaust:
         return "Exhaust pipe " + number;
     case PartKind::Man:
-        return number + ". " + jobText(unit.infantrymen[part.index].job);
+        return number + ". " + displayName(unit.infantrymen[part.index].job, JobPrefix);
     case PartKind::Rotor:
         return "Rotor " + number;
     case PartKind::HeavyWeapon:

@@ -13,6 +13,10 @@
 
 namespace varrocade {
 
+constexpr COLORREF colourRef(Colour colour) {
+    return RGB(colour.red, colour.green, colour.blue);
+}
+
 struct DrawingObjects {
     static constexpr std::size_t GreenBrushes = 7;
 

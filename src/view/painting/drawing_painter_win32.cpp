@@ -1,6 +1,8 @@
 #include "view/painting/painter_win32.h"
 
 #include "view/drawing/drawing_angles.h"
+#include "view/drawing/part_at.h"
+#include "view/painting/paint_device.h"
 
 #include <cmath>
 #include <string>
@@ -11,7 +13,7 @@ namespace varrocade {
 namespace {
 
 constexpr COLORREF Ground = RGB(206, 200, 170);
-constexpr COLORREF LabelInk = RGB(40, 34, 24);
+constexpr COLORREF LabelInk = colourRef(TextInk);
 constexpr int MarkRadius = 6;
 
 HPEN penOf(const DrawingObjects& objects, Ink ink) {
@@ -22,10 +24,6 @@ HPEN penOf(const DrawingObjects& objects, Ink ink) {
         return objects.whitePen.get();
     case Ink::Red:
         return objects.redPen.get();
-    case Ink::Green:
-        return objects.greenPen.get();
-    case Ink::PaleGreen:
-        return objects.paleGreenPen.get();
     case Ink::Yellow:
         return objects.yellowPen.get();
     case Ink::Blue:
@@ -167,7 +165,7 @@ public:
         for (const Point corner : item.corners) {
             corners.push_back(pixel(corner));
         }
-        const GdiObject<HBRUSH> brush(CreateSolidBrush(RGB(item.fill.red, item.fill.green, item.fill.blue)));
+        const GdiObject<HBRUSH> brush(CreateSolidBrush(colourRef(item.fill)));
         const Selection selectedBrush(device_, brush.get());
         const Selection pen(device_, objects_.blackPen.get());
         Polygon(device_, corners.data(), static_cast<int>(corners.size()));

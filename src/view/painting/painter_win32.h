@@ -1,10 +1,9 @@
 #pragma once
-// Puts a draw list and a data sheet on a device.
+// Puts a draw list on a device.
 
 #include "view/drawing/view_place.h"
 #include "view/painting/drawing_objects_win32.h"
 #include "view/painting/picture_cache_win32.h"
-#include "view/sheet/data_sheet.h"
 
 #include <memory>
 
@@ -53,28 +52,5 @@ void paintDrawing(HDC device, const RECT& area, const DrawList& list, const Draw
 
 /// Decodes and places a picture of a drawing, so that painting it into `area` finds that done.
 void preparePicture(const PictureItem& item, const RECT& area, const Fit& fit, PictureCache& pictures);
-
-/// Where flags come from.
-struct SheetOptions {
-    std::vector<std::string> bases;
-    int scroll = 0; ///< pixels that the sheet is scrolled down
-    UnitPart selected = {};
-};
-
-/// A part of the unit and where the sheet shows it.
-struct SheetPlace {
-    RECT place{}; ///< from the top of the sheet
-    UnitPart part;
-};
-
-struct SheetLayout {
-    int height = 0;                 ///< pixels of the whole sheet
-    int headHeight = 0;             ///< pixels of its title, which does not scroll
-    std::vector<SheetPlace> places; ///< rows before the sections that they are in
-};
-
-/// Paints a sheet into `area`.
-SheetLayout paintSheet(HDC device, const RECT& area, const DataSheet& sheet, const SheetOptions& options,
-                       const DrawingObjects& objects, PictureCache& pictures);
 
 } // namespace varrocade

@@ -1,5 +1,7 @@
 #include "view/painting/picture_decoder_win32.h"
 
+#include "platform/png_size.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
@@ -8,8 +10,6 @@
 namespace varrocade {
 
 namespace {
-
-constexpr std::string_view PngSignature = "\x89PNG\r\n\x1A\n";
 
 /// A file of a few bytes can say that it is larger than the memory.
 constexpr std::uint64_t MostPixels = std::uint64_t{1} << 26U;

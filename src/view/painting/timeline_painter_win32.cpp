@@ -1,6 +1,7 @@
 #include "view/painting/timeline_painter_win32.h"
 
-#include "view/sheet/sheet_text.h"
+#include "data/format/words.h"
+#include "view/painting/paint_device.h"
 
 #include <algorithm>
 #include <string>
@@ -19,7 +20,7 @@ void paintYears(HDC device, const RECT& area, const TimelineScale& scale, const 
     const Selection selectedPen(device, pen.get());
     const Selection font(device, objects.smallFont.get());
     SetBkMode(device, TRANSPARENT);
-    SetTextColor(device, RGB(40, 34, 24));
+    SetTextColor(device, colourRef(TextInk));
     for (int year = scale.firstYear; year <= scale.lastYear; year += step) {
         const int x = area.left + scale.xOf(year, 1);
         MoveToEx(device, x, area.top, nullptr);
@@ -61,7 +62,7 @@ TimelineScale paintTimeline(HDC device, const RECT& area, std::span<const Availa
         }
         // Inside the band where it is high enough, otherwise above it.
         const bool isInside = scale.height - step.top >= size.cy;
-        SetTextColor(device, isInside ? RGB(255, 255, 255) : RGB(40, 34, 24));
+        SetTextColor(device, isInside ? RGB(255, 255, 255) : colourRef(TextInk));
         TextOutA(device, area.left + step.left + objects.scaled(2),
                  area.top + (isInside ? step.top + 1 : step.top - size.cy), number.data(),
                  static_cast<int>(number.size()));

@@ -1,10 +1,12 @@
 #include "view/sheet/data_sheet.h"
 
 #include "data/format/numbers.h"
+#include "data/format/words.h"
+#include "data/unit/component_words.h"
 #include "data/unit/enumerations.h"
 #include "data/unit/image_folders.h"
 #include "data/unit/image_names.h"
-#include "view/sheet/sheet_text.h"
+#include "weapons/ammo_words.h"
 
 #include <algorithm>
 #include <array>
@@ -15,12 +17,6 @@
 namespace varrocade {
 
 namespace {
-
-constexpr std::array<std::string_view, 4> KindNames = {"Hull", "Superstructure", "Turret", "Fixed Weapon"};
-
-std::string_view kindName(ComponentKind kind) {
-    return KindNames[static_cast<std::size_t>(kind)];
-}
 
 std::string degrees(std::int32_t value) {
     return std::to_string(value) + "\xB0";
@@ -106,7 +102,7 @@ SheetSection armourSection(const VehicleRecord& vehicle) {
         }
         if (!text.empty()) {
             section.notes.push_back(
-                {std::string(kindName(component.kind)) + ", spaced armour: " + text + "."});
+                {std::string(componentKindWord(component.kind)) + ", spaced armour: " + text + "."});
         }
     }
     section.tables.push_back(std::move(table));
@@ -131,7 +127,7 @@ SheetSection weaponsSection(const VehicleRecord& vehicle, const WeaponCatalogue&
     std::set<std::string, std::less<>> known;
     for (std::size_t i = 0; i < vehicle.components.size(); ++i) {
         const ComponentRecord& component = vehicle.components[i];
-        std::string place = std::to_string(i + 1) + ". " + std::string(kindName(component.kind));
+        std::string place = componentTitle(i + 1, component.kind);
         for (std::size_t j = 0; j < component.weapons.size(); ++j) {
             const std::string type = component.weapons[j].type.str();
             // Once is enough where a vehicle has several of a kind.
@@ -148,7 +144,8 @@ SheetSection weaponsSection(const VehicleRecord& vehicle, const WeaponCatalogue&
     for (const ComponentRecord& component : vehicle.components) {
         const std::size_t count = component.smokeDischargers.size();
         if (count > 0) {
-            section.notes.push_back({std::string(kindName(component.kind)) + ": " + std::to_string(count) +
+            section.notes.push_back({std::string(componentKindWord(component.kind)) + ": " +
+                                     std::to_string(count) +
                                      (count == 1 ? " smoke discharger." : " smoke dischargers.")});
         }
     }
@@ -164,7 +161,7 @@ SheetSection crewSection(const VehicleRecord& vehicle) {
     table.rows.push_back({{"", "Job", "Arms", "Ammunition"}});
     for (std::size_t i = 0; i < vehicle.components.size(); ++i) {
         const ComponentRecord& component = vehicle.components[i];
-        std::string place = std::to_string(i + 1) + ". " + std::string(kindName(component.kind));
+        std::string place = componentTitle(i + 1, component.kind);
         for (std::size_t j = 0; j < component.crew.size(); ++j) {
             const CrewManRecord& man = component.crew[j];
             std::string arms;
@@ -176,7 +173,7 @@ SheetSection crewSection(const VehicleRecord& vehicle) {
                 rounds += (rounds.empty() ? "" : ", ") + ammoText(ammo);
             }
             table.rows.push_back(
-                {{place, displayName(man.job, "JOB_"), arms, rounds}, {PartKind::CrewMan, i, j}});
+                {{place, displayName(man.job, JobPrefix), arms, rounds}, {PartKind::CrewMan, i, j}});
             place.clear();
         }
     }
@@ -235,18 +232,6 @@ SheetSection availabilitySection(const SquadRecord& record) {
 }
 
 } // namespace
-
-std::string componentTitle(std::size_t place, ComponentKind kind) {
-    return std::to_string(place) + ". " + std::string(kindName(kind));
-}
-
-std::string componentLine(std::size_t place, const ComponentRecord& component) {
-    std::string line = componentTitle(place, component.kind);
-    if (!component.crew.empty()) {
-        line += " (crew " + std::to_string(component.crew.size()) + ")";
-    }
-    return line;
-}
 
 std::string weaponFigures(const WeaponCatalogue& catalogue, std::string_view weaponType) {
     const WeaponRecord* weapon = catalogue.find(weaponType);

@@ -87,7 +87,7 @@ DataSheet unitSheet(const SquadRecord& record, std::span<const std::string> miss
 
 /// The sheet of a weapon, what could not be read of its file, and the units that use it, as far as these are
 /// known yet.
-DataSheet weaponSheet(const WeaponRecord& weapon, std::span<const std::string> problems,
+DataSheet weaponSheet(const WeaponRecord& weapon, std::span<const Finding> problems,
                       const std::optional<std::vector<std::string>>& users);
 
 /// The sections that only infantry and heavy weapons, and only aircraft, have.
@@ -97,11 +97,4 @@ void addAircraftSections(DataSheet& sheet, const AircraftRecord& aircraft, const
 /// A weapon's own figures in one line: "88 mm, barrel 4.93 m, 600 to 930 m/s, 3,500 m, 8 rounds/min"; empty
 /// when the catalogue does not have it.
 std::string weaponFigures(const WeaponCatalogue& catalogue, std::string_view weaponType);
-
-/// A component's place in the vehicle (from 1) and its kind: "2. Turret".
-std::string componentTitle(std::size_t place, ComponentKind kind);
-
-/// The line that names a component in lists: its place in the vehicle (from 1), its kind and its crew.
-std::string componentLine(std::size_t place, const ComponentRecord& component);
-
 } // namespace varrocade

@@ -2,11 +2,14 @@
 
 #include "view/sheet/data_sheet.h"
 
+#include "data/finding_text.h"
 #include "data/format/numbers.h"
+#include "data/format/words.h"
 #include "data/unit/enumerations.h"
-#include "view/sheet/sheet_text.h"
+#include "weapons/ammo_words.h"
 #include "weapons/weapon_names.h"
 
+#include <algorithm>
 #include <array>
 #include <set>
 #include <span>
@@ -59,7 +62,7 @@ SheetSection menSection(const SquadRecord& record) {
             rounds += (rounds.empty() ? "" : ", ") + ammoText(ammo) + " for " + weaponWord(ammo.weaponType);
         }
         table.rows.push_back(
-            {{std::to_string(i + 1), displayName(man.job, "JOB_"), arms, rounds}, {PartKind::Man, 0, i}});
+            {{std::to_string(i + 1), displayName(man.job, JobPrefix), arms, rounds}, {PartKind::Man, 0, i}});
     }
     section.tables.push_back(std::move(table));
     return section;
@@ -128,14 +131,16 @@ void addAircraftSections(DataSheet& sheet, const AircraftRecord& aircraft, const
     sheet.sections.push_back(std::move(armament));
 }
 
-DataSheet weaponSheet(const WeaponRecord& weapon, std::span<const std::string> problems,
+DataSheet weaponSheet(const WeaponRecord& weapon, std::span<const Finding> problems,
                       const std::optional<std::vector<std::string>>& users) {
     DataSheet sheet;
     sheet.title.text = weaponWord(weapon.name.empty() ? weapon.fileName : weapon.name);
     sheet.title.subtitle = displayName(nameOf(weapon.type), WeaponPrefix);
     sheet.comment = weapon.comments;
     if (!problems.empty()) {
-        sheet.sections.push_back(notesSection("Problems of the file", problems));
+        std::vector<std::string> lines(problems.size());
+        std::transform(problems.begin(), problems.end(), lines.begin(), sentence);
+        sheet.sections.push_back(notesSection("Problems of the file", lines));
     }
     SheetSection figures{.heading = {"Figures"}};
     const auto whole = [](std::int32_t value, std::string_view unit) {

@@ -1,0 +1,98 @@
+#include "app/workspace/category_list.h"
+
+#include "app/workspace/positions.h"
+#include "app/workspace/record_files.h"
+
+namespace varrocade {
+
+namespace {
+
+bool select(Workspace& workspace, const std::string& name) {
+    const bool isShown = selectName(workspace.list, name);
+    workspace.listener->selectionChanged();
+    return isShown;
+}
+
+/// Selects an entry, and drops the filter when that hides it.
+void selectUnfiltered(Workspace& workspace, const std::string& name) {
+    if (!selectName(workspace.list, name)) {
+        workspace.list.filter.clear();
+        filterNames(workspace.list, {});
+        workspace.listener->filterDropped();
+    }
+    select(workspace, name);
+}
+
+} // namespace
+
+void setFilter(Workspace& workspace, const std::string& filter) {
+    workspace.list.filter = filter;
+    filterNames(workspace.list, openFileName(workspace));
+    workspace.listener->namesChanged();
+}
+
+void openEntry(Workspace& workspace, const std::string& name) {
+    if (name.empty()) {
+        return;
+    }
+    selectName(workspace.list, name);
+    if (isRecordOpen(workspace) && name == openFileName(workspace)) {
+        reopenIfChanged(workspace);
+        return;
+    }
+    if (!mayLeavePositions(workspace)) {
+        select(workspace, openFileName(workspace));
+        return;
+    }
+    rememberedSelection(workspace) = name;
+    openFile(workspace, name);
+}
+
+void chooseCategory(Workspace& workspace, Category category) {
+    if (category == workspace.category) {
+        workspace.listener->listOutdated(workspace);
+        return;
+    }
+    if (!mayLeavePositions(workspace)) {
+        return;
+    }
+    closeRecord(workspace);
+    workspace.category = category;
+    workspace.listener->listOutdated(workspace);
+    const std::string remembered = rememberedSelection(workspace);
+    if (select(workspace, remembered)) {
+        openFile(workspace, remembered);
+    } else {
+        workspace.listener->recordOpened();
+    }
+}
+
+void showFile(Workspace& workspace, Category category, const std::string& name) {
+    if (category != workspace.category) {
+        chooseCategory(workspace, category);
+    }
+    if (category == workspace.category) {
+        selectUnfiltered(workspace, name);
+        openEntry(workspace, workspace.list.selected);
+    }
+}
+
+void refillAndSelect(Workspace& workspace, const std::string& name) {
+    if (workspace.category == Category::Weapons) {
+        loadCatalogue(workspace);
+    }
+    workspace.listener->listOutdated(workspace);
+    selectUnfiltered(workspace, name);
+    rememberedSelection(workspace) = name;
+}
+
+void refreshAll(Workspace& workspace) {
+    loadCatalogue(workspace);
+    workspace.listener->listOutdated(workspace);
+    if (isRecordOpen(workspace) && !workspace.list.selected.empty()) {
+        reopenIfChanged(workspace);
+    }
+    workspace.listener->recordChanged();
+}
+
+} // namespace varrocade

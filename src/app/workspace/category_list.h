@@ -1,0 +1,29 @@
+#pragma once
+// Going about in the list of files: another category, another entry, a filter.
+
+#include "app/workspace/workspace.h"
+
+#include <string>
+
+namespace varrocade {
+
+/// Shows the names that hold every word of a filter.
+void setFilter(Workspace& workspace, const std::string& filter);
+
+/// Opens an entry that was selected in the list, after the question about unsaved positions; of the one that
+/// is open, only what another program has changed.
+void openEntry(Workspace& workspace, const std::string& name);
+
+/// Shows another category, with the file that was selected in it last.
+void chooseCategory(Workspace& workspace, Category category);
+
+/// Shows a file of any category, whatever the filter holds back.
+void showFile(Workspace& workspace, Category category, const std::string& name);
+
+/// Reads the list anew, and selects and remembers an entry of it, which is not opened.
+void refillAndSelect(Workspace& workspace, const std::string& name);
+
+/// Reads everything anew that other programs may have changed: weapons, list, the open record's file.
+void refreshAll(Workspace& workspace);
+
+} // namespace varrocade

@@ -1,0 +1,37 @@
+#pragma once
+// New, Duplicate, Rename, Delete: what becomes of the files. The dialogs that ask for names come between the
+// halves of the first three.
+
+#include "app/workspace/workspace.h"
+
+#include <optional>
+#include <string>
+
+namespace varrocade {
+
+/// Why a name is refused; an empty text when the reason has been shown already. Nothing: it is taken.
+using NameCheck = std::optional<std::string>;
+
+/// Writes the file of a new unit of the present category. `nationality` is "NATIONALITY_...".
+NameCheck createUnit(Workspace& workspace, const std::string& name, const std::string& nationality);
+
+/// Writes the file of a new weapon.
+NameCheck createWeapon(Workspace& workspace, const std::string& name);
+
+/// Writes the open record under another name. It stays open under its own.
+NameCheck duplicateRecord(Workspace& workspace, const std::string& name);
+
+/// Shows a file that was just made in the list and opens it.
+void openNewFile(Workspace& workspace, const std::string& name);
+
+/// Gives the file of the open record another name, and the record with all its steps.
+NameCheck renameFile(Workspace& workspace, const std::string& name);
+
+/// Selects the open record under its new name and has it shown.
+void showRenamed(Workspace& workspace);
+
+/// Moves the selected file to the recycle bin, after the questions about unsaved positions and about that,
+/// and opens the next one of the list.
+void deleteFile(Workspace& workspace);
+
+} // namespace varrocade

@@ -1,0 +1,72 @@
+#include "app/workspace/workspace.h"
+
+namespace varrocade {
+
+void WorkspaceListener::listOutdated(Workspace& workspace) {
+    refillNames(workspace);
+}
+
+WorkspaceListener& deafListener() {
+    static WorkspaceListener listener;
+    return listener;
+}
+
+const std::string& baseFolder(const Workspace& workspace) {
+    return workspace.modMode ? workspace.modFolder : workspace.programFolder;
+}
+
+GameFolders gameFolders(const Workspace& workspace) {
+    return {.program = workspace.programFolder,
+            .mod = workspace.modMode ? workspace.modFolder : std::string()};
+}
+
+std::vector<std::string> imageBases(const Workspace& workspace) {
+    if (workspace.modMode) {
+        return {workspace.modFolder, workspace.programFolder};
+    }
+    return {workspace.programFolder};
+}
+
+std::string pathOf(const Workspace& workspace, const std::string& name) {
+    return dataFilePath(baseFolder(workspace), workspace.category, name);
+}
+
+std::string& rememberedSelection(Workspace& workspace) {
+    return workspace.rememberedSelections[static_cast<std::size_t>(workspace.category)];
+}
+
+void loadCatalogue(Workspace& workspace) {
+    workspace.catalogue.load(workspace.programFolder, workspace.modMode ? workspace.modFolder : "");
+}
+
+void refillNames(Workspace& workspace) {
+    NameList& list = workspace.list;
+    listFiles(categoryFolder(baseFolder(workspace), workspace.category), DataFileEnding, list.all);
+    for (std::string& name : list.all) {
+        name.resize(name.size() - DataFileEnding.size());
+    }
+    filterNames(list, openFileName(workspace));
+    workspace.listener->namesChanged();
+}
+
+bool isRecordOpen(const Workspace& workspace) {
+    return workspace.open.isOpen();
+}
+
+SquadRecord* openUnit(Workspace& workspace) {
+    return std::get_if<SquadRecord>(&workspace.open.present.record);
+}
+
+const SquadRecord* openUnit(const Workspace& workspace) {
+    return std::get_if<SquadRecord>(&workspace.open.present.record);
+}
+
+const WeaponRecord* openWeapon(const Workspace& workspace) {
+    return std::get_if<WeaponRecord>(&workspace.open.present.record);
+}
+
+std::string openFileName(const Workspace& workspace) {
+    return fileNameOf(workspace.open.present.record);
+}
+
+} // namespace varrocade

@@ -1,0 +1,106 @@
+#pragma once
+// What the program works on: folders and mod, the category with its list of files, the open record, the
+// weapons. Windows show it and send their commands to the functions of this folder; it knows no window.
+
+#include "app/workspace/names/name_list.h"
+#include "app/workspace/record/open_record.h"
+#include "data/category.h"
+#include "data/game_files.h"
+#include "mod/mod_settings.h"
+#include "platform/file_operations.h"
+#include "platform/safe_save.h"
+#include "view/drawing/component_places.h"
+#include "weapons/weapon_catalogue.h"
+
+#include <array>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace varrocade {
+
+struct Workspace;
+
+/// Hears what happens in a workspace. Each call comes when all of it has happened.
+class WorkspaceListener {
+public:
+    WorkspaceListener() = default;
+    WorkspaceListener(const WorkspaceListener&) = delete;
+    WorkspaceListener& operator=(const WorkspaceListener&) = delete;
+    virtual ~WorkspaceListener() = default;
+
+    /// Another record is open, or none.
+    virtual void recordOpened() {}
+    /// The open record is another than before, or has another name.
+    virtual void recordChanged() {}
+    /// What the file of the open record holds is another than before.
+    virtual void recordSaved() {}
+    /// Where the components of the open vehicle were before they were rearranged, ahead of `recordChanged`.
+    virtual void componentsRearranged(const FormerPlaces&) {}
+    /// The folder of the category may hold other files. Without a window the names are read at once.
+    virtual void listOutdated(Workspace& workspace);
+    /// Other names are shown, or others than before.
+    virtual void namesChanged() {}
+    /// Another name is selected, or none.
+    virtual void selectionChanged() {}
+    /// The filter was emptied, since it hid what is to be selected.
+    virtual void filterDropped() {}
+    /// Mod mode was turned on or off.
+    virtual void modeChanged() {}
+};
+
+/// One that hears nothing.
+WorkspaceListener& deafListener();
+
+struct Workspace {
+    FileOperations* files = &systemFiles();
+    WorkspaceListener* listener = &deafListener();
+
+    std::string programFolder; ///< where the program was started, with a backslash at its end
+    std::string profileFolder; ///< the user's, without one
+    std::string gameFolder;    ///< where the game itself is installed, or empty
+    bool modMode = false;
+    std::string modFolder; ///< keeps the last folder probed while mod mode is off
+    std::optional<ModSettings> modSettings;
+
+    Category category = Category::Vehicles;
+    std::array<std::string, CategoryCount> rememberedSelections;
+    NameList list; ///< of the category
+    OpenRecord open;
+    WeaponCatalogue catalogue;
+    BackupKeeper backups;
+};
+
+/// The folder that data files are read from and written to: the mod's in mod mode, otherwise the program's.
+const std::string& baseFolder(const Workspace& workspace);
+
+/// Where pictures are looked for: the mod's folder before the program's.
+std::vector<std::string> imageBases(const Workspace& workspace);
+
+/// Where data files are read from: in mod mode, the mod's count before the game's.
+GameFolders gameFolders(const Workspace& workspace);
+
+/// The path of a file of the present category.
+std::string pathOf(const Workspace& workspace, const std::string& name);
+
+/// The file name last selected in the present category.
+std::string& rememberedSelection(Workspace& workspace);
+
+/// Reads the weapons of the game and, in mod mode, of the mod anew.
+void loadCatalogue(Workspace& workspace);
+
+/// Reads the names of the category's files and filters them.
+void refillNames(Workspace& workspace);
+
+/// Whether a unit or a weapon is open.
+bool isRecordOpen(const Workspace& workspace);
+
+/// The open unit, or the open weapon, if that is what is open.
+SquadRecord* openUnit(Workspace& workspace);
+const SquadRecord* openUnit(const Workspace& workspace);
+const WeaponRecord* openWeapon(const Workspace& workspace);
+
+/// The name of the open record's file, or empty.
+std::string openFileName(const Workspace& workspace);
+
+} // namespace varrocade

@@ -1,0 +1,148 @@
+#include "analysis/performance/drive_simulation.h"
+#include "analysis/performance/weight_estimate.h"
+#include "cli/command_line.h"
+#include "data/category.h"
+#include "data/finding_text.h"
+#include "data/format/numbers.h"
+#include "data/reading/unit_reader.h"
+#include "platform/file_operations.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <vector>
+
+namespace varrocade::cli {
+
+namespace {
+
+constexpr std::string_view EstimateOption = "--estimate-weight";
+constexpr std::string_view PerformanceHeading =
+    "file\tkind\tweight_kg\testimate_kg\troad_kmh\tfield_kmh\tseconds_to_32\tslope_percent\n";
+
+void appendFigure(std::string& row, std::optional<double> value, int decimals) {
+    row += '\t';
+    if (value) {
+        appendFixed(row, *value, decimals);
+    }
+}
+
+std::string performanceRow(const VehicleFigures& figures, std::optional<double> estimate,
+                           const std::optional<DriveModel>& drive) {
+    std::string row = figures.name;
+    row += '\t';
+    row += runningGearName(figures.gear);
+    appendFigure(row, figures.weight > 0 ? std::optional(figures.weight) : std::nullopt, 0);
+    appendFigure(row, estimate, 0);
+    std::optional<double> road;
+    std::optional<double> field;
+    std::optional<double> seconds;
+    std::optional<double> slope;
+    if (drive) {
+        road = topSpeed(*drive, {});
+        field = topSpeed(*drive, {.surface = Surface::Field});
+        seconds = secondsTo(*drive, {}, ComparedSpeed);
+        slope = steepestSlope(*drive, Surface::Field);
+    }
+    appendFigure(row, road, 1);
+    appendFigure(row, field, 1);
+    appendFigure(row, seconds, 1);
+    appendFigure(row, slope, 0);
+    row += '\n';
+    return row;
+}
+
+/// Prints a vehicle's row; says what is missing, and returns `Findings` then.
+int printVehicle(const VehicleFigures& figures, bool usesEstimate, std::string& out) {
+    std::optional<double> estimate;
+    if (const std::optional<WeightShares> shares = estimateWeight(figures)) {
+        estimate = shares->total();
+    }
+    const double weight = figures.weight > 0 || !usesEstimate ? figures.weight : estimate.value_or(0.0);
+    const std::optional<DriveModel> drive = driveModel(figures, weight);
+    out += performanceRow(figures, estimate, drive);
+    std::string reasons;
+    for (const MissingFigure figure : figures.missing()) {
+        reasons += (reasons.empty() ? "" : ", ") + std::string(missingFigureText(figure));
+    }
+    if (drive && topSpeed(*drive, {}) < ComparedSpeed) {
+        // Not a finding: a slow vehicle is not a fault of its file.
+        complain(figures.name + ": does not reach 32 km/h");
+    }
+    if (!reasons.empty()) {
+        complain(figures.name + ": " + reasons);
+        return Findings;
+    }
+    return Done;
+}
+
+/// A game folder's vehicles, or the files of a folder of vehicles.
+bool listVehicles(const std::string& base, std::string& folder, std::vector<std::string>& names) {
+    folder = categoryFolder(base, Category::Vehicles);
+    if (!isFolder(folder)) {
+        folder = base;
+    }
+    if (!listFiles(folder, DataFileEnding, names)) {
+        return false;
+    }
+    std::sort(names.begin(), names.end());
+    return true;
+}
+
+int printPerformance(const std::string& base, bool usesEstimate) {
+    std::string folder;
+    std::vector<std::string> names;
+    if (!listVehicles(base, folder, names)) {
+        complain(folder + ": " + systemFiles().lastError());
+        return CouldNot;
+    }
+    WeaponCatalogue catalogue;
+    if (isFolder(categoryFolder(base, Category::Weapons))) {
+        catalogue.load(base);
+    }
+    const WeaponMasses weapons(catalogue);
+    int status = Done;
+    std::string out(PerformanceHeading);
+    for (const std::string& diskName : names) {
+        Diagnostics diagnostics;
+        const std::string name = diskName.substr(0, diskName.size() - DataFileEnding.size());
+        const std::optional<SquadRecord> unit = readUnitFile(folder + diskName, name, diagnostics);
+        if (!unit) {
+            complain(folder + diskName + ": " + systemFiles().lastError());
+            status = Findings;
+        } else if (!unit->vehicle) {
+            complain(name + ": holds no vehicle");
+            status = Findings;
+        } else {
+            status = std::max(status, printVehicle(vehicleFigures(*unit, weapons), usesEstimate, out));
+        }
+        for (const Finding& finding : diagnostics) {
+            complain(debuggerLine(finding));
+        }
+    }
+    return std::fwrite(out.data(), 1, out.size(), stdout) == out.size() ? status : CouldNot;
+}
+
+} // namespace
+
+int performanceCommand(Arguments arguments) {
+    std::optional<std::string> folder;
+    bool usesEstimate = false;
+    for (const std::string& argument : arguments) {
+        if (argument == EstimateOption) {
+            usesEstimate = true;
+        } else if (!folder) {
+            folder = argument;
+        } else {
+            folder.reset();
+            break;
+        }
+    }
+    if (!folder) {
+        complain("performance takes a game folder or a folder of vehicles, and --estimate-weight");
+        return CouldNot;
+    }
+    return printPerformance(asFolder(*folder), usesEstimate);
+}
+
+} // namespace varrocade::cli

@@ -1,0 +1,127 @@
+#include "data/unit/unit_consistency.h"
+
+#include "data/unit/elements.h"
+
+#include <array>
+#include <string>
+#include <utility>
+
+namespace varrocade {
+
+namespace {
+
+namespace e = element;
+
+constexpr std::int32_t FullCircle = 360; // degrees, as all angles here
+constexpr std::int32_t HalfCircle = 180;
+
+Finding inconsistency(std::string_view key, std::string_view field, std::int32_t value, std::string message,
+                      std::string expected) {
+    return {.key = key,
+            .severity = Severity::Error,
+            .field = std::string(field),
+            .message = std::move(message),
+            .value = std::to_string(value),
+            .expected = std::move(expected)};
+}
+
+bool isArmed(ComponentKind kind) {
+    return kind == ComponentKind::Turret || kind == ComponentKind::FixedWeapon;
+}
+
+constexpr auto ComponentRules = std::to_array<std::optional<Finding> (*)(const ComponentRecord&)>(
+    {traverseFinding, offsetHeightFinding, rotateTimeFinding});
+
+/// By `ComponentKind`.
+constexpr std::array<std::string_view, 4> KindElements = {e::Hull, e::Superstructure, e::Turret,
+                                                          e::FixedWeapon};
+
+} // namespace
+
+std::optional<Finding> traverseFinding(const ComponentRecord& component) {
+    const bool isTurret = component.kind == ComponentKind::Turret;
+    if (isTurret ? !component.limitedTraverse : component.kind != ComponentKind::FixedWeapon) {
+        return std::nullopt;
+    }
+    // The messages of turrets name them.
+    const std::string rotateWho = isTurret ? "The turret rotate" : "The rotate";
+    const auto isLimit = [](std::int32_t angle) { return angle >= 0 && angle <= FullCircle; };
+    const bool isRightWrong = isLimit(component.rotateLeft);
+    if (!isRightWrong || !isLimit(component.rotateRight)) {
+        return inconsistency(finding_key::TraverseLimit, isRightWrong ? e::RotateRight : e::RotateLeft,
+                             isRightWrong ? component.rotateRight : component.rotateLeft,
+                             rotateWho + " left and right angles must be between 0 and 360 degrees",
+                             "0 to 360");
+    }
+    if (component.rotateLeft + component.rotateRight > FullCircle) {
+        return inconsistency(finding_key::TraverseSum, e::RotateLeft, component.rotateLeft,
+                             rotateWho + " left and right angles must add up to less that 360 degrees",
+                             "at most " + std::to_string(FullCircle - component.rotateRight));
+    }
+    if (component.offsetAngle < -HalfCircle || component.offsetAngle > HalfCircle) {
+        return inconsistency(finding_key::OffsetAngle, e::OffsetAngle, component.offsetAngle,
+                             std::string(isTurret ? "The turret offset" : "The offset") +
+                                 " angle must be between -180 and 180 degrees",
+                             "-180 to 180");
+    }
+    return std::nullopt;
+}
+
+std::optional<Finding> offsetHeightFinding(const ComponentRecord& component) {
+    if (component.kind != ComponentKind::FixedWeapon || component.offsetZ > 0) {
+        return std::nullopt;
+    }
+    return inconsistency(finding_key::OffsetHeight, e::OffsetZ, component.offsetZ,
+                         "OffsetZ must be greater than zero", "at least 1");
+}
+
+std::optional<Finding> rotateTimeFinding(const ComponentRecord& component) {
+    if (!isArmed(component.kind) || component.rotateTime > 0) {
+        return std::nullopt;
+    }
+    return inconsistency(finding_key::NoRotateTime, e::RotateTime, component.rotateTime,
+                         "The rotate speed must be greater than zero", "at least 1");
+}
+
+std::optional<Finding> revolutionsFinding(const VehicleRecord& vehicle) {
+    if (vehicle.revolutionLimit >= vehicle.idleRevolutions) {
+        return std::nullopt;
+    }
+    return inconsistency(finding_key::RevolutionLimit, e::RpmLimit, vehicle.revolutionLimit,
+                         "The revolution limit must not be below the idle revolutions",
+                         "at least " + std::to_string(vehicle.idleRevolutions));
+}
+
+std::optional<Finding> componentRoomFinding(const VehicleRecord& vehicle) {
+    if (vehicle.components.size() < MaxSquadMembers) {
+        return std::nullopt;
+    }
+    return inconsistency(finding_key::NoRoom, e::Vehicle,
+                         static_cast<std::int32_t>(vehicle.components.size()),
+                         std::string(TooManyComponentsText), "fewer than " + std::to_string(MaxSquadMembers));
+}
+
+std::vector<Finding> vehicleFindings(const VehicleRecord& vehicle) {
+    std::vector<Finding> findings;
+    const auto add = [&findings](std::optional<Finding> finding, const std::string& path) {
+        if (finding) {
+            finding->field.insert(0, path);
+            findings.push_back(std::move(*finding));
+        }
+    };
+    const std::string vehiclePath = std::string(e::Vehicle) + ".";
+    add(revolutionsFinding(vehicle),
+        vehiclePath + std::string(e::Drive) + "." + std::string(e::Engine) + ".");
+    std::array<std::size_t, KindElements.size()> counts = {};
+    for (const ComponentRecord& component : vehicle.components) {
+        const auto kind = static_cast<std::size_t>(component.kind);
+        const std::string path =
+            vehiclePath + std::string(KindElements[kind]) + "[" + std::to_string(++counts[kind]) + "].";
+        for (const auto& rule : ComponentRules) {
+            add(rule(component), path);
+        }
+    }
+    return findings;
+}
+
+} // namespace varrocade

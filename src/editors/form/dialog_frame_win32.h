@@ -1,0 +1,73 @@
+#pragma once
+// What all dialogs of the form engine do alike: they open beside the drawing, end with OK or Cancel, refuse
+// with a box and a marked control, and complete what is chosen from drop-down lists.
+
+#include "editors/form/form_port_win32.h"
+#include "view/painting/gdi_object_win32.h"
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace varrocade {
+
+/// A modal dialog. What derives from it says what it is filled with and what OK takes.
+class DialogFrame {
+public:
+    DialogFrame(const DialogFrame&) = delete;
+    DialogFrame& operator=(const DialogFrame&) = delete;
+    virtual ~DialogFrame() = default;
+
+    /// Shows the dialog until it is ended; true when OK ended it.
+    bool run(HWND owner);
+
+protected:
+    /// `caption` is of the boxes with refusals.
+    DialogFrame(int dialogTemplate, std::string_view caption)
+        : template_(dialogTemplate), caption_(caption) {}
+
+    [[nodiscard]] HWND handle() const { return dialog_; }
+    [[nodiscard]] DialogPort& port() { return *port_; }
+    [[nodiscard]] const std::string& caption() const { return caption_; }
+
+    /// What a button of this dialog does, told before it runs.
+    void onButton(int control, std::function<void()> press);
+    /// Ends the dialog as OK does.
+    void end() { EndDialog(dialog_, 1); }
+    /// Says why the form cannot be taken: in a box, in the control, which gets the keyboard.
+    void refuse(const FormError& error);
+
+    /// Fills the dialog when it opens.
+    virtual void init() = 0;
+    /// Takes the dialog over; false, after telling why, leaves it open.
+    virtual bool accept() = 0;
+    /// What else than its buttons the dialog follows; an edit or a drop-down list has its new text already.
+    /// False leaves the notification to the system.
+    virtual bool notice(int control, int notification) = 0;
+    /// Paints a control that the dialog draws itself.
+    virtual void paint(const DRAWITEMSTRUCT&) {}
+    /// The private messages of a dialog.
+    virtual bool receive(UINT, WPARAM, LPARAM) { return false; }
+
+private:
+    struct Button {
+        int control;
+        std::function<void()> press;
+    };
+
+    static INT_PTR CALLBACK frameProcedure(HWND dialog, UINT message, WPARAM parameter, LPARAM pointer);
+    INT_PTR handleMessage(UINT message, WPARAM parameter, LPARAM pointer);
+    bool handleCommand(int control, int notification);
+    INT_PTR colourEdit(HDC device, HWND edit);
+
+    int template_;
+    std::string caption_;
+    std::vector<Button> buttons_;
+    HWND dialog_ = nullptr;
+    std::optional<DialogPort> port_;
+    GdiObject<HBRUSH> refusedBrush_;
+};
+
+} // namespace varrocade

@@ -1,0 +1,317 @@
+#include "view/painting/sheet_painter.h"
+
+#include "data/unit/enumerations.h"
+#include "view/painting/armour_painter.h"
+#include "view/painting/flag_painter.h"
+
+#include <algorithm>
+#include <numeric>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace varrocade {
+
+namespace {
+
+constexpr Colour RuleColour = {190, 172, 128};
+constexpr Colour SelectedGround = {186, 205, 226};
+
+/// Lays a sheet out from top to bottom and paints it on the way.
+class SheetPainter {
+public:
+    SheetPainter(PaintDevice& device, const PixelRect& area, const SheetOptions& options)
+        : device_(device), options_(options), left_(area.left + device.scaled(Margin)),
+          right_(area.right - device.scaled(Margin)), y_(area.top + device.scaled(Margin)),
+          clipBottom_(area.bottom) {}
+
+    SheetLayout paint(const DataSheet& sheet) {
+        const int top = y_ - device_.scaled(Margin);
+        paintTitle(sheet.title);
+        layout_.headHeight = y_ - top;
+        device_.clip({0, y_, right_ + device_.scaled(Margin), clipBottom_});
+        y_ -= options_.scroll;
+        const int before = y_;
+        if (!sheet.comment.empty()) {
+            paragraph(sheet.comment, TextFont::Normal, TextInk);
+            note({PartKind::Details}, before);
+        }
+        for (const SheetSection& section : sheet.sections) {
+            paintSection(section);
+        }
+        layout_.height = y_ + options_.scroll - top + device_.scaled(Margin);
+        return std::move(layout_);
+    }
+
+private:
+    static constexpr int Margin = 14;
+    static constexpr int FlagWidth = 48;
+    static constexpr int FlagHeight = 32;
+    static constexpr int SectionGap = 10;
+    static constexpr int TimelineHeight = 96;
+
+    [[nodiscard]] int widthOf(std::string_view words, TextFont font) const {
+        return device_.sizeOf(words, font).width;
+    }
+
+    /// Text broken into lines between `left` and `right`; returns its height.
+    int brokenText(const std::string& words, int left, int right, int y, TextFont font, Colour colour) {
+        const PixelSize size = device_.sizeOf(words, font);
+        // Most texts fit into one line, which is sooner done.
+        if (size.width <= right - left && words.find_first_of("\r\n") == std::string::npos) {
+            device_.text(words, {left, y}, font, colour);
+            return words.empty() ? 0 : size.height;
+        }
+        return device_.brokenText(brokenName(words, right - left, font), left, right, y, font, colour);
+    }
+
+    /// The names of files have no blanks: a long one is broken behind its underscores.
+    [[nodiscard]] std::string brokenName(const std::string& words, int width, TextFont font) const {
+        if (words.find_first_of(" \r\n") != std::string::npos) {
+            return words;
+        }
+        std::string result;
+        std::string rest = words;
+        while (widthOf(rest, font) > width) {
+            std::size_t end = rest.rfind('_', rest.size() - 2);
+            while (end != std::string::npos && end > 0 && widthOf(rest.substr(0, end + 1), font) > width) {
+                end = rest.rfind('_', end - 1);
+            }
+            if (end == std::string::npos || end == 0) {
+                break;
+            }
+            result += rest.substr(0, end + 1) + "\n";
+            rest.erase(0, end + 1);
+        }
+        return result + rest;
+    }
+
+    void paragraph(const std::string& words, TextFont font, Colour colour) {
+        y_ += brokenText(words, left_, right_, y_, font, colour) + device_.scaled(4);
+    }
+
+    static std::string_view wordOf(std::string_view nationality) {
+        return nationality.starts_with(NationalityPrefix) ? nationality.substr(NationalityPrefix.size())
+                                                          : std::string_view();
+    }
+
+    void paintTitle(const SheetTitle& title) {
+        const int flagWidth = device_.scaled(FlagWidth);
+        int textLeft = left_;
+        const PixelRect flag{left_, y_, left_ + flagWidth, y_ + device_.scaled(FlagHeight)};
+        if (paintFlag(device_, flag, wordOf(title.nationality), options_.bases)) {
+            textLeft += flagWidth + device_.scaled(Margin);
+        }
+        const int buttonWidth = device_.scaled(100);
+        const int titleHeight =
+            brokenText(title.text, textLeft, right_ - buttonWidth, y_, TextFont::Large, TextInk);
+        device_.text(title.subtitle, {textLeft, y_ + titleHeight}, TextFont::Normal, FaintInk);
+        y_ += std::max(titleHeight + device_.lineHeight(TextFont::Normal), device_.scaled(FlagHeight)) +
+              device_.scaled(SectionGap);
+    }
+
+    /// Notes that what was painted from `before` down to here shows a part.
+    void note(const UnitPart& part, int before) {
+        if (part) {
+            layout_.places.push_back({{left_, before + options_.scroll, right_, y_ + options_.scroll}, part});
+        }
+    }
+
+    void paintSection(const SheetSection& section) {
+        y_ += device_.scaled(SectionGap);
+        const int before = y_;
+        if (section.part && section.part == options_.selected) {
+            const PixelRect ground{left_ - device_.scaled(4), y_, right_ + device_.scaled(4),
+                                   y_ + device_.lineHeight(TextFont::Bold)};
+            device_.fill(ground, SelectedGround);
+        }
+        device_.text(section.heading.text, {left_, y_}, TextFont::Bold, TextInk);
+        y_ += device_.lineHeight(TextFont::Bold);
+        device_.line({left_, y_}, {right_, y_}, RuleColour, 1);
+        y_ += device_.scaled(4);
+        if (!section.timeline.empty()) {
+            const PixelRect area{left_, y_, right_, y_ + device_.scaled(TimelineHeight)};
+            device_.timeline(area, section.timeline);
+            y_ = area.bottom + device_.scaled(6);
+        }
+        paintPairs(section.pairs);
+        for (const SheetTable& table : section.tables) {
+            paintTable(table);
+        }
+        for (const SheetArmour& armour : section.armour) {
+            const int top = y_;
+            const int height = armourHeight(device_);
+            paintArmour(device_, {left_, y_, right_, y_ + height}, armour);
+            y_ += height + device_.scaled(4);
+            note(armour.part, top);
+        }
+        paintPictures(section.pictures);
+        for (const SheetNote& words : section.notes) {
+            paragraph(words.text, TextFont::Small, TextInk);
+        }
+        // After the rows within it, which are the more exact answer to a click.
+        note(section.part, before);
+    }
+
+    /// Pictures side by side at their own size, each above its caption.
+    void paintPictures(const std::vector<SheetPicture>& pictures) {
+        int x = left_;
+        int height = 0;
+        for (const SheetPicture& picture : pictures) {
+            for (const std::string& base : options_.bases) {
+                const auto size = device_.pictureSize(base + picture.path);
+                if (!size) {
+                    continue;
+                }
+                const PixmapPlacement placement{
+                    .width = static_cast<double>(device_.scaled(static_cast<int>(size->width))),
+                    .height = static_cast<double>(device_.scaled(static_cast<int>(size->height))),
+                    .isTile = true};
+                const PixelBox box = boxOf(placement);
+                if (x + box.width > right_ && x > left_) {
+                    x = left_;
+                    y_ += height;
+                    height = 0;
+                }
+                device_.picture(base + picture.path, {x, y_}, placement);
+                device_.text(picture.caption, {x, y_ + box.height}, TextFont::Small, FaintInk);
+                x += std::max(box.width, widthOf(picture.caption, TextFont::Small)) + device_.scaled(Margin);
+                height = std::max(height, box.height + device_.lineHeight(TextFont::Small));
+                break;
+            }
+        }
+        y_ += height;
+    }
+
+    /// Two columns of label and value; a value too long for its column takes more lines.
+    void paintPairs(const std::vector<SheetPair>& pairs) {
+        const int columnWidth = (right_ - left_) / 2;
+        const int labelWidth = device_.scaled(120);
+        for (std::size_t i = 0; i < pairs.size(); i += 2) {
+            int height = device_.lineHeight(TextFont::Normal);
+            for (std::size_t column = 0; column < 2 && i + column < pairs.size(); ++column) {
+                const SheetPair& pair = pairs[i + column];
+                const int x = left_ + static_cast<int>(column) * columnWidth;
+                device_.text(pair.label, {x, y_}, TextFont::Normal, FaintInk);
+                const int right = x + columnWidth - device_.scaled(8);
+                height = std::max(height, brokenText(pair.value.empty() ? "-" : pair.value, x + labelWidth,
+                                                     right, y_, TextFont::Normal, TextInk));
+            }
+            y_ += height;
+        }
+    }
+
+    [[nodiscard]] int wordWidth(std::string_view words, TextFont font) const {
+        int widest = 0;
+        while (!words.empty()) {
+            const std::size_t end = std::min(words.find(' '), words.size());
+            widest = std::max(widest, widthOf(std::string(words.substr(0, end)), font));
+            words.remove_prefix(std::min(words.size(), end + 1));
+        }
+        return widest;
+    }
+
+    /// Column widths by their longest cells. Where they do not fit, first the heads break between their
+    /// words, then the widest columns shrink and break their texts.
+    [[nodiscard]] std::vector<int> columnWidths(const SheetTable& table) const {
+        const TextFont font = TextFont::Small;
+        const std::vector<std::string>& heads = table.rows.front().cells;
+        std::vector<int> widths(heads.size(), 0);
+        for (const SheetRow& row : std::span(table.rows).subspan(1)) {
+            for (std::size_t column = 0; column < row.cells.size() && column < widths.size(); ++column) {
+                widths[column] = std::max(widths[column], widthOf(row.cells[column], font));
+            }
+        }
+        const int gap = device_.scaled(10);
+        const int free = right_ - left_ - gap * static_cast<int>(widths.size() - 1);
+        const auto withHeads = [&](auto headWidth) {
+            std::vector<int> wider = widths;
+            for (std::size_t column = 0; column < wider.size(); ++column) {
+                wider[column] = std::max(wider[column], headWidth(heads[column]));
+            }
+            return wider;
+        };
+        const auto totalOf = [](const std::vector<int>& all) {
+            return std::accumulate(all.begin(), all.end(), 0);
+        };
+        std::vector<int> whole = withHeads([&](const std::string& head) { return widthOf(head, font); });
+        if (totalOf(whole) <= free) {
+            return whole;
+        }
+        widths = withHeads([&](const std::string& head) { return wordWidth(head, font); });
+        int total = totalOf(widths);
+        // Only the wide columns give way: narrow ones hold numbers.
+        while (total > free) {
+            const auto widest = std::max_element(widths.begin(), widths.end());
+            const int less = std::min(total - free, std::max(1, *widest / 8));
+            *widest -= less;
+            total -= less;
+        }
+        return widths;
+    }
+
+    void paintTable(const SheetTable& table) {
+        const std::vector<int> widths = columnWidths(table);
+        for (std::size_t i = 0; i < table.rows.size(); ++i) {
+            const SheetRow& row = table.rows[i];
+            const int top = y_;
+            if (row.part && isSameShown(row.part, options_.selected)) {
+                const PixelRect ground{left_ - device_.scaled(4), y_, right_ + device_.scaled(4),
+                                       y_ + paintRow(row, widths, i == 0)};
+                device_.fill(ground, SelectedGround);
+            }
+            y_ += paintRow(row, widths, i == 0);
+            note(row.part, top);
+        }
+        y_ += device_.scaled(4);
+    }
+
+    /// Paints a row where the layout has come to; returns its height.
+    [[nodiscard]] int paintRow(const SheetRow& row, const std::vector<int>& widths, bool isHead) {
+        const int gap = device_.scaled(10);
+        const TextFont font = TextFont::Small;
+        int x = left_;
+        int height = device_.lineHeight(font);
+        for (std::size_t column = 0; column < row.cells.size() && column < widths.size(); ++column) {
+            height = std::max(height, brokenText(row.cells[column], x, x + widths[column] + device_.scaled(2),
+                                                 y_, font, isHead ? FaintInk : TextInk));
+            x += widths[column] + gap;
+        }
+        if (!row.detail.empty()) {
+            // Below the weapon's name, which is in the first column or in the one behind the place.
+            const bool hasPlace = widths.size() > 1 && row.cells.size() > 3;
+            const int indent = hasPlace ? widths.front() + gap : device_.scaled(12);
+            height += brokenText(row.detail, left_ + indent, right_, y_ + height, font, FaintInk);
+        }
+        return height;
+    }
+
+    PaintDevice& device_;
+    const SheetOptions& options_;
+    int left_;
+    int right_;
+    int y_;
+    int clipBottom_;
+    SheetLayout layout_;
+};
+
+} // namespace
+
+SheetLayout paintSheet(PaintDevice& device, const PixelRect& area, const DataSheet& sheet,
+                       const SheetOptions& options) {
+    device.clip(area);
+    return SheetPainter(device, area, options).paint(sheet);
+}
+
+UnitPart sheetPartAt(const SheetLayout& layout, int scroll, PixelPoint pixel) {
+    if (pixel.y < layout.headHeight) {
+        return {PartKind::Details};
+    }
+    pixel.y += scroll;
+    const auto found = std::find_if(layout.places.begin(), layout.places.end(),
+                                    [&](const SheetPlace& place) { return place.place.contains(pixel); });
+    return found == layout.places.end() ? UnitPart{} : found->part;
+}
+
+} // namespace varrocade

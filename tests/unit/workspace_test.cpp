@@ -1,0 +1,427 @@
+// The workspace without a window: what is open, what is saved of it, what is asked before something is lost.
+
+#include "app/workspace/category_list.h"
+#include "app/workspace/edits.h"
+#include "app/workspace/file_actions.h"
+#include "app/workspace/mod_mode.h"
+#include "app/workspace/names/file_names.h"
+#include "app/workspace/options.h"
+#include "app/workspace/positions.h"
+#include "app/workspace/record_files.h"
+#include "data/writing/unit_writers.h"
+#include "test_support.h"
+#include "weapons/weapon_files.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace varrocade::tests {
+namespace {
+
+using Names = std::vector<std::string>;
+
+const std::string Tank = "Data\\Vehicles\\German Tank.txt";
+constexpr UnitPart Gun{PartKind::Weapon, 1, 0};
+constexpr UnitPart Pipe{PartKind::Exhaust, 0, 0};
+
+/// Writes down what it hears.
+class Listener : public WorkspaceListener {
+public:
+    void recordOpened() override { heard += "opened "; }
+    void recordChanged() override { heard += "changed "; }
+    void recordSaved() override { heard += "saved "; }
+    void componentsRearranged(const FormerPlaces& places) override {
+        heard += "rearranged" + std::to_string(places.size()) + " ";
+    }
+    void filterDropped() override { heard += "unfiltered "; }
+    void modeChanged() override { heard += "mode "; }
+
+    std::string heard;
+};
+
+std::string tankText() {
+    SquadRecord unit = newUnit(Category::Vehicles, "", "NATIONALITY_GERMAN");
+    ComponentRecord& turret = unit.vehicle->components.emplace_back();
+    turret.kind = ComponentKind::Turret;
+    turret.weapons.emplace_back().type = "WEAPON_A";
+    unit.vehicle->exhaustPipes.resize(1);
+    return vehicleFileText(unit).value();
+}
+
+/// A game with two tanks, a squad and a weapon.
+class WorkspaceTest : public testing::Test {
+protected:
+    WorkspaceTest() {
+        folder.write("Game\\" + Tank, tankText());
+        folder.write("Game\\Data\\Vehicles\\German Truck.txt", tankText());
+        folder.write("Game\\Data\\Infantry\\German Squad.txt",
+                     squadFileText(newUnit(Category::Infantry, "", "NATIONALITY_GERMAN")));
+        folder.write("Game\\Data\\Weapons\\Gun.txt", weaponFileText(newWeapon("Gun")));
+        workspace.programFolder = folder.path() + "Game\\";
+        workspace.profileFolder = folder.path() + "User";
+        workspace.listener = &listener;
+        loadCatalogue(workspace);
+        refillNames(workspace);
+    }
+
+    /// Changes the name of the open unit or weapon as an editor does.
+    void change(const std::string& name) {
+        Record& record = workspace.open.present.record;
+        if (auto* weapon = std::get_if<WeaponRecord>(&record)) {
+            weapon->name = name;
+        } else {
+            std::get<SquadRecord>(record).longName = name;
+        }
+        recordChanged(workspace, "Name");
+    }
+
+    void nudge(const UnitPart& part, int right = 1) {
+        ASSERT_TRUE(nudgeOpenPart(workspace, part, right, 0, {}, false));
+    }
+
+    /// "w", "e" or "we" for the positions that are unsaved.
+    [[nodiscard]] std::string moved() const {
+        return std::string(workspace.open.weaponPosChanged() ? "w" : "") +
+               (workspace.open.exhaustPosChanged() ? "e" : "");
+    }
+
+    /// The files whose names begin so.
+    [[nodiscard]] Names files(const std::string& begin) const {
+        Names names = folder.files();
+        std::erase_if(names, [&](const std::string& name) { return !name.starts_with(begin); });
+        return names;
+    }
+
+    static Names captions() {
+        Names names;
+        for (const Message& message : MessageRecorder::shown()) {
+            names.push_back(message.caption);
+        }
+        return names;
+    }
+
+    TemporaryFolder folder;
+    MessageRecorder messages;
+    Listener listener;
+    Workspace workspace;
+};
+
+TEST_F(WorkspaceTest, UnitsAndWeaponsAreChangedUndoneAndSavedAlike) {
+    for (const auto& [category, name] :
+         {std::pair(Category::Vehicles, "German Tank"), {Category::Weapons, "Gun"}}) {
+        chooseCategory(workspace, category);
+        openEntry(workspace, name);
+        const std::string path = pathOf(workspace, name).substr(folder.path().size());
+        EXPECT_FALSE(workspace.open.isUnsaved());
+        const Record opened = workspace.open.present.record;
+        listener.heard.clear();
+        change("WEAPON_NEW");
+        EXPECT_TRUE(workspace.open.isUnsaved());
+        undoChange(workspace);
+        EXPECT_EQ(workspace.open.present.record, opened);
+        EXPECT_FALSE(workspace.open.isUnsaved());
+        redoChange(workspace);
+        redoChange(workspace);
+        ASSERT_EQ(saveOpenRecord(workspace), SaveResult::Saved);
+        EXPECT_FALSE(workspace.open.isUnsaved());
+        EXPECT_EQ(listener.heard, category == Category::Weapons
+                                      ? "changed changed changed saved "
+                                      : "changed rearranged2 changed rearranged2 changed saved ");
+        const std::string saved = folder.read(path);
+        EXPECT_NE(saved.find("WEAPON_NEW"), std::string::npos);
+        EXPECT_EQ(workspace.open.content, saved);
+        if (category == Category::Weapons) {
+            EXPECT_NE(workspace.catalogue.find("WEAPON_NEW"), nullptr) << "offered at once";
+        }
+        undoChange(workspace);
+        EXPECT_TRUE(workspace.open.isUnsaved()) << "the file has what was undone";
+        ASSERT_EQ(saveOpenRecord(workspace), SaveResult::Saved);
+        EXPECT_EQ(folder.read(path).find("WEAPON_NEW"), std::string::npos);
+    }
+    EXPECT_EQ(captions(), Names());
+}
+
+TEST_F(WorkspaceTest, WhatCannotBeLoadedLeavesNothingOpenAndIsShown) {
+    openEntry(workspace, "German Tank");
+    EXPECT_FALSE(openFile(workspace, "Missing"));
+    EXPECT_FALSE(isRecordOpen(workspace));
+    chooseCategory(workspace, Category::Weapons);
+    folder.write("Game\\Data\\Weapons\\Odd.txt", "<weapon><name>N</name><type>WEAPON_BOW</type></weapon>");
+    EXPECT_TRUE(openFile(workspace, "Odd"));
+    EXPECT_EQ(captions(), (Names{"Couldn't load file", "N"}));
+    EXPECT_EQ(MessageRecorder::shown()[0].text,
+              workspace.programFolder + "Data\\Vehicles\\Missing.txt\n\nCheck that the filename is made of "
+                                        "ASCII characters and not Unicode");
+    EXPECT_EQ(MessageRecorder::shown()[1].text, "unknown <type> 'WEAPON_BOW'");
+    EXPECT_EQ(MessageRecorder::shown()[1].icon, MessageIcon::Error);
+}
+
+TEST_F(WorkspaceTest, AHandMadeFileIsAskedForOnceAndBeforeItIsReplaced) {
+    const std::string handMade = "// by hand\n" + tankText() + "<extra>lost</extra>";
+    folder.write("Game\\" + Tank, handMade);
+    openEntry(workspace, "German Tank");
+    change("New");
+    MessageRecorder::answer({Answer::Cancel});
+    EXPECT_EQ(saveOpenRecord(workspace), SaveResult::Failed);
+    EXPECT_EQ(captions(), Names{"Hand-made file"});
+    EXPECT_NE(MessageRecorder::shown()[0].text.find("extra"), std::string::npos);
+    EXPECT_EQ(folder.read("Game\\" + Tank), handMade);
+    EXPECT_TRUE(workspace.open.isUnsaved());
+    EXPECT_EQ(saveOpenRecord(workspace), SaveResult::Saved);
+    change("Newer");
+    EXPECT_EQ(saveOpenRecord(workspace), SaveResult::Saved);
+    EXPECT_EQ(captions().size(), 2U);
+    const Names backups = files("Game\\Backups\\");
+    ASSERT_EQ(backups.size(), 1U);
+    EXPECT_EQ(folder.read(backups[0]), handMade);
+}
+
+TEST_F(WorkspaceTest, AFailedSaveChangesNothing) {
+    openEntry(workspace, "German Tank");
+    nudge(Gun);
+    folder.write("Game\\Backups", "no folder");
+    EXPECT_EQ(saveOpenRecord(workspace), SaveResult::Failed);
+    ASSERT_EQ(captions(), Names{"Couldn't save file"});
+    EXPECT_EQ(MessageRecorder::shown()[0].text, folder.path() + "Game\\" + Tank);
+    EXPECT_EQ(folder.read("Game\\" + Tank), tankText());
+    MessageRecorder::answer({Answer::Yes});
+    openEntry(workspace, "German Truck");
+    EXPECT_EQ(captions(), (Names{"Save changes", "Couldn't save file"}));
+    EXPECT_EQ(openFileName(workspace), "German Tank") << "it stays open";
+    EXPECT_EQ(workspace.list.selected, "German Tank");
+    EXPECT_EQ(moved(), "w");
+    EXPECT_TRUE(workspace.open.isUnsaved());
+}
+
+TEST_F(WorkspaceTest, WhatIsClosedUnsavedIsKeptBelowItsOwnCategory) {
+    openEntry(workspace, "German Tank");
+    change("Unsaved");
+    chooseCategory(workspace, Category::Infantry);
+    EXPECT_FALSE(isRecordOpen(workspace));
+    const Names kept = files("Game\\Backups\\Data\\Vehicles\\German Tank (unsaved)");
+    ASSERT_EQ(kept.size(), 1U);
+    EXPECT_NE(folder.read(kept[0]).find("Unsaved"), std::string::npos);
+    openEntry(workspace, "German Squad");
+    closeRecord(workspace);
+    EXPECT_EQ(files("Game\\Backups\\").size(), 1U) << "what is unchanged needs no keeping";
+    EXPECT_EQ(captions(), Names()) << "positions alone are asked for";
+}
+
+TEST_F(WorkspaceTest, TheMarksOfMovedPositionsFollowMovesInTheDrawingAndSaves) {
+    openEntry(workspace, "German Tank");
+    openUnit(workspace)->vehicle->components[1].weapons[0].offsetX += 5;
+    recordChanged(workspace, "Weapon");
+    EXPECT_EQ(moved(), "") << "a dialog moved it";
+    change("New");
+    undoChange(workspace);
+    EXPECT_EQ(moved(), "") << "nor is it undone in the drawing";
+    nudge(Gun);
+    nudge(Pipe);
+    EXPECT_EQ(moved(), "we");
+    undoChange(workspace);
+    EXPECT_EQ(moved(), "w");
+    ASSERT_EQ(saveOpenRecord(workspace), SaveResult::Saved);
+    EXPECT_EQ(moved(), "");
+    undoChange(workspace);
+    EXPECT_EQ(moved(), "w") << "the file has the gun where it was";
+    redoChange(workspace);
+    EXPECT_EQ(moved(), "");
+    undoChange(workspace);
+    nudge(Gun, -3);
+    EXPECT_EQ(moved(), "w") << "another move than the saved one";
+
+    ASSERT_EQ(saveOpenRecord(workspace), SaveResult::Saved);
+    const RecordState before = workspace.open.present;
+    EXPECT_TRUE(moveOpenPart(workspace, Pipe, {40, 40}, {}));
+    EXPECT_EQ(moved(), "e");
+    const Point start = positionOf(std::get<SquadRecord>(before.record), Pipe).value();
+    EXPECT_TRUE(moveOpenPart(workspace, Pipe, start, {}));
+    EXPECT_FALSE(finishMove(workspace, Pipe, before));
+    EXPECT_EQ(moved(), "") << "the mouse put it back";
+    EXPECT_FALSE(isMoveLast(workspace, Pipe));
+    EXPECT_TRUE(isMoveLast(workspace, Gun));
+}
+
+TEST_F(WorkspaceTest, MovedPositionsAreAskedForUntilTheyAreSavedOrDropped) {
+    const auto open = [&](const char* name, std::vector<Answer> answers) {
+        MessageRecorder::answer(std::move(answers));
+        openEntry(workspace, name);
+        return openFileName(workspace);
+    };
+    EXPECT_EQ(open("German Tank", {}), "German Tank");
+    nudge(Gun);
+    EXPECT_EQ(open("German Truck", {Answer::Cancel}), "German Tank");
+    EXPECT_EQ(moved(), "w");
+    EXPECT_EQ(workspace.list.selected, "German Tank");
+    // A dialog that is cancelled comes after the question: the tank stays open, and so do its marks.
+    for (int time = 0; time < 2; ++time) {
+        MessageRecorder::answer({Answer::No});
+        EXPECT_TRUE(mayLeavePositions(workspace));
+        EXPECT_EQ(captions(), Names{"Save changes"});
+        EXPECT_EQ(moved(), "w");
+    }
+    EXPECT_EQ(open("German Truck", {Answer::No}), "German Truck");
+    EXPECT_EQ(folder.read("Game\\" + Tank), tankText());
+    EXPECT_EQ(moved(), "") << "they went with the tank";
+    EXPECT_EQ(open("German Tank", {}), "German Tank");
+    EXPECT_EQ(captions(), Names());
+    nudge(Pipe);
+    nudge(Gun);
+    EXPECT_EQ(open("German Truck", {Answer::Yes}), "German Truck");
+    EXPECT_EQ(MessageRecorder::shown()[0].text, "Save your changes to weapon and exhaust positions?");
+    EXPECT_NE(folder.read("Game\\" + Tank), tankText());
+}
+
+TEST_F(WorkspaceTest, OpensAgainWhatAnotherProgramChanged) {
+    openEntry(workspace, "German Tank");
+    listener.heard.clear();
+    folder.write("Game\\" + Tank, tankText() + "// only a comment\n");
+    openEntry(workspace, "German Tank");
+    EXPECT_EQ(listener.heard, "");
+    const std::string changed = [] {
+        SquadRecord unit = readUnitText(tankText());
+        unit.longName = "Theirs";
+        return vehicleFileText(unit).value();
+    }();
+    folder.write("Game\\" + Tank, changed);
+    refreshAll(workspace);
+    EXPECT_EQ(openUnit(workspace)->longName, "Theirs");
+    change("Ours");
+    folder.write("Game\\" + Tank, tankText());
+    openEntry(workspace, "German Tank");
+    EXPECT_EQ(openUnit(workspace)->longName, "Ours") << "what is unsaved stays";
+}
+
+TEST_F(WorkspaceTest, RemembersTheSelectionAndDropsAFilterThatHidesAFile) {
+    openEntry(workspace, "German Truck");
+    chooseCategory(workspace, Category::Infantry);
+    setFilter(workspace, "tank");
+    EXPECT_TRUE(workspace.list.shown.empty());
+    chooseCategory(workspace, Category::Vehicles);
+    EXPECT_EQ(workspace.list.shown, Names{"German Tank"});
+    EXPECT_FALSE(isRecordOpen(workspace)) << "the filter hides what is remembered";
+    showFile(workspace, Category::Infantry, "German Squad");
+    EXPECT_EQ(openFileName(workspace), "German Squad");
+    EXPECT_EQ(workspace.list.selected, "German Squad");
+    EXPECT_NE(listener.heard.find("unfiltered"), std::string::npos);
+    chooseCategory(workspace, Category::Vehicles);
+    EXPECT_EQ(openFileName(workspace), "German Truck");
+    setFilter(workspace, "tank");
+    EXPECT_EQ(workspace.list.selected, "");
+    setFilter(workspace, "");
+    EXPECT_EQ(workspace.list.selected, "German Truck") << "shown again, it is selected again";
+}
+
+TEST_F(WorkspaceTest, FilesAreMadeDuplicatedRenamedAndDeleted) {
+    EXPECT_EQ(createUnit(workspace, "Tank", "NATIONALITY_GERMAN").value_or("").find("The filename must"), 0U);
+    EXPECT_EQ(createUnit(workspace, "German Tank", "NATIONALITY_GERMAN"), "Squad name already exists");
+    ASSERT_FALSE(createUnit(workspace, "German Two", "NATIONALITY_GERMAN"));
+    openNewFile(workspace, "German Two");
+    EXPECT_EQ(workspace.list.selected, "German Two");
+    change("Kept");
+    EXPECT_EQ(duplicateRecord(workspace, "German Tank"), "File already exists");
+    ASSERT_FALSE(duplicateRecord(workspace, "German Three"));
+    EXPECT_NE(folder.read("Game\\Data\\Vehicles\\German Three.txt").find("Kept"), std::string::npos);
+
+    EXPECT_EQ(renameFile(workspace, "German Tank"), "That file already exists");
+    EXPECT_EQ(renameFile(workspace, "German Two"), "That file already exists");
+    ASSERT_FALSE(renameFile(workspace, "German TWO"));
+    ASSERT_FALSE(renameFile(workspace, "German Four"));
+    showRenamed(workspace);
+    EXPECT_EQ(workspace.list.selected, "German Four");
+    undoChange(workspace);
+    EXPECT_EQ(openFileName(workspace), "German Four") << "of all its steps";
+    EXPECT_FALSE(workspace.open.isUnsaved());
+
+    setFilter(workspace, "German F");
+    MessageRecorder::answer({Answer::No, Answer::Yes});
+    deleteFile(workspace);
+    EXPECT_EQ(files("Game\\Data\\Vehicles\\").size(), 4U);
+    deleteFile(workspace);
+    EXPECT_EQ(captions(), (Names{"Delete", "Delete"}));
+    EXPECT_EQ(files("Game\\Data\\Vehicles\\").size(), 3U);
+    EXPECT_EQ(files("Game\\Backups\\Data\\Vehicles\\German Four").size(), 1U);
+    EXPECT_FALSE(isRecordOpen(workspace));
+    openEntry(workspace, workspace.list.all.back());
+    MessageRecorder::answer({Answer::Yes});
+    deleteFile(workspace);
+    EXPECT_EQ(openFileName(workspace), workspace.list.all.back()) << "at the end the one before";
+
+    folder.write("Game\\Backups", "no folder");
+    chooseCategory(workspace, Category::Weapons);
+    ASSERT_FALSE(createWeapon(workspace, "WEAPON_X"));
+    openNewFile(workspace, "WEAPON_X");
+    EXPECT_NE(workspace.catalogue.find("WEAPON_X"), nullptr);
+}
+
+TEST_F(WorkspaceTest, SwitchesToAnExistingModAndBack) {
+    detectModMode(workspace);
+    EXPECT_FALSE(workspace.modMode);
+    folder.write("Game\\Mod\\Mod.txt", "<mod><name>M</name></mod>");
+    folder.write("Game\\Mod\\Data\\Vehicles\\German Mod Tank.txt", tankText());
+    openEntry(workspace, "German Tank");
+    EXPECT_FALSE(switchModMode(workspace));
+    EXPECT_TRUE(workspace.modMode);
+    EXPECT_EQ(workspace.modSettings.value_or(ModSettings()).name, "M");
+    EXPECT_EQ(workspace.list.all, Names{"German Mod Tank"});
+    EXPECT_EQ(openFileName(workspace), "German Tank") << "kept on the screen";
+    EXPECT_EQ(rememberedSelection(workspace), "");
+    openEntry(workspace, "German Mod Tank");
+    change("Unsaved");
+    EXPECT_FALSE(switchModMode(workspace));
+    EXPECT_FALSE(workspace.modMode || workspace.modSettings);
+    EXPECT_FALSE(isRecordOpen(workspace));
+    EXPECT_EQ(files("Game\\Mod\\Backups\\").size(), 1U) << "in the folder that it came from";
+    EXPECT_EQ(workspace.list.all.size(), 2U);
+    folder.write("User\\AppData\\Roaming\\Quorlin Games\\Varrocade\\Mod\\Mod.txt", "");
+    EXPECT_TRUE(detectModMode(workspace));
+    EXPECT_EQ(baseFolder(workspace).find(workspace.profileFolder), 0U) << "the user's comes first";
+    EXPECT_EQ(captions(), Names());
+}
+
+TEST_F(WorkspaceTest, CreatesAModWhenTheUserWantsOne) {
+    openEntry(workspace, "German Tank");
+    nudge(Gun);
+    for (const auto& [answers, boxes] :
+         {std::pair(std::vector{Answer::Cancel}, 1U), {std::vector{Answer::No, Answer::Cancel}, 2U}}) {
+        MessageRecorder::answer(answers);
+        EXPECT_FALSE(switchModMode(workspace));
+        EXPECT_EQ(captions().size(), boxes);
+        EXPECT_FALSE(workspace.modMode);
+        EXPECT_EQ(moved(), "w") << "the tank stays";
+        EXPECT_EQ(rememberedSelection(workspace), "German Tank");
+    }
+    folder.write("User", "no folder");
+    MessageRecorder::answer({Answer::No, Answer::Ok});
+    EXPECT_FALSE(switchModMode(workspace));
+    EXPECT_EQ(captions(), (Names{"Save changes", "Create New Mod", "Failed to create directory"}));
+    EXPECT_FALSE(workspace.modMode);
+
+    workspace.profileFolder = folder.path() + "Other";
+    folder.write("Other\\AppData\\Roaming\\any", "");
+    MessageRecorder::answer({Answer::No, Answer::Ok});
+    EXPECT_TRUE(switchModMode(workspace));
+    EXPECT_TRUE(workspace.modMode);
+    EXPECT_FALSE(isRecordOpen(workspace));
+    EXPECT_EQ(moved(), "");
+    EXPECT_EQ(files("Game\\Backups\\").size(), 1U) << "what was moved is kept where the tank came from";
+    EXPECT_EQ(readModSettings(folder.read("Other\\AppData\\Roaming\\Quorlin Games\\Varrocade\\Mod\\Mod.txt")),
+              ModSettings());
+}
+
+TEST_F(WorkspaceTest, OptionsKeepTheGamesFolder) {
+    workspace.gameFolder = "C:\\Games\\";
+    EXPECT_EQ(writeOptions(workspace), 1);
+    workspace.gameFolder = "other";
+    EXPECT_TRUE(readOptions(workspace));
+    EXPECT_EQ(workspace.gameFolder, "C:\\Games\\");
+    workspace.programFolder = folder.path() + "None\\";
+    EXPECT_TRUE(readOptions(workspace));
+    EXPECT_EQ(workspace.gameFolder, "");
+    EXPECT_EQ(writeOptions(workspace), 0);
+    EXPECT_EQ(captions(), Names{"Couldn't save file"});
+}
+
+} // namespace
+} // namespace varrocade::tests
