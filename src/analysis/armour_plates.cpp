@@ -1,15 +1,12 @@
 #include "analysis/armour_plates.h"
 
-#include "data/unit/elements.h"
-#include "data/unit/plate_rows.h"
+#include "data/unit_fields.h"
 
 #include <array>
 
 namespace varrocade {
 
 namespace {
-
-namespace e = element;
 
 struct ThicknessRow {
     std::string_view name;
@@ -21,9 +18,9 @@ constexpr std::int32_t Upright = 0;
 constexpr std::int32_t Horizontal = 90;
 
 constexpr auto Thicknesses = std::to_array<ThicknessRow>({
-    {e::Top, &ArmourRecord::top, Horizontal},
-    {e::Bottom, &ArmourRecord::bottom, Horizontal},
-    {e::Mantlet, &ArmourRecord::mantlet, Upright},
+    {field::Top.element, &ArmourRecord::top, Horizontal},
+    {field::Bottom.element, &ArmourRecord::bottom, Horizontal},
+    {field::Mantlet.element, &ArmourRecord::mantlet, Upright},
 });
 
 } // namespace
@@ -37,8 +34,8 @@ std::vector<VehiclePlate> armourPlates(const VehicleRecord& vehicle) {
     };
     for (std::size_t i = 0; i < vehicle.components.size(); ++i) {
         const ArmourRecord& armour = vehicle.components[i].armour;
-        for (const ArmourPlateRow& row : ArmourPlateRows) {
-            add(i, row.element, armour.*row.member);
+        for (const auto* plate : field::Plates) {
+            add(i, plate->element, plate->of(armour));
         }
         for (const ThicknessRow& row : Thicknesses) {
             add(i, row.name, {.thickness = armour.*row.thickness, .angle = row.angle});

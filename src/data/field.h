@@ -10,6 +10,7 @@
 #include <limits>
 #include <span>
 #include <string_view>
+#include <tuple>
 #include <type_traits>
 
 namespace varrocade {
@@ -178,6 +179,10 @@ template <const auto& F>
 using RecordOf = typename FieldParts<std::remove_cvref_t<decltype(F)>>::Record;
 template <const auto& F>
 using ValueOf = typename FieldParts<std::remove_cvref_t<decltype(F)>>::Value;
+
+/// The fields of a record, in the order of its members. `fieldsOf<ComponentRecord>` is a tuple of references.
+template <typename Record>
+inline constexpr auto fieldsOf = std::tuple<>();
 
 /// The rows of the tables of fields.
 namespace field_row {

@@ -196,6 +196,10 @@ inline constexpr auto UpperRear =
     row::reference(FieldKind::Plate, &ArmourRecord::upperRear, "upper_rear", "Upper rear", PlateTraits);
 inline constexpr auto LowerRear =
     row::reference(FieldKind::Plate, &ArmourRecord::lowerRear, "lower_rear", "Lower rear", PlateTraits);
+/// The plates that stand around a component.
+inline constexpr auto Plates = std::to_array<const Field<ArmourRecord, ArmourPlate>*>(
+    {&UpperFront, &LowerFront, &UpperLeft, &UpperRight, &LowerLeft, &LowerRight, &UpperRear, &LowerRear});
+
 inline constexpr auto FrontSpaced =
     row::number(&ArmourRecord::frontSpaced, "front_spaced", "Front spaced", SpacedTraits);
 inline constexpr auto SideSpaced =
@@ -319,10 +323,6 @@ inline constexpr auto RotorDiameter = row::number(&RotorBladesRecord::diameter, 
 inline constexpr auto Clockwise = row::flag(&RotorBladesRecord::clockwise, "clockwise", "Clockwise");
 
 } // namespace field
-
-/// The fields of a record, in the order of its members. `fieldsOf<ComponentRecord>` is a tuple of references.
-template <typename Record>
-inline constexpr auto fieldsOf = std::tuple<>();
 
 template <>
 inline constexpr auto fieldsOf<SquadRecord> = std::tie(field::Type, field::LongName, field::ShortName,

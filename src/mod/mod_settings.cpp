@@ -1,20 +1,59 @@
 #include "mod/mod_settings.h"
 
-#include "data/format/file_text.h"
-#include "data/format/numbers.h"
-#include "data/format/tag_tree.h"
+#include "data/field_text.h"
+#include "data/tag_rules.h"
+#include "mod/mod_fields.h"
+
+#include <array>
 
 namespace varrocade {
 
 namespace {
 
+namespace mf = mod_field;
+
 constexpr std::string_view ModElement = "mod";
-constexpr std::string_view NameElement = "name";
-constexpr std::string_view AuthorElement = "author";
-constexpr std::string_view CommentElement = "comment";
 constexpr std::string_view YearsElement = "years";
-constexpr std::string_view FirstElement = "first";
-constexpr std::string_view LastElement = "last";
+
+/// As in weapon files, only the names of an element and of the one around it count.
+enum class ModPlace : std::uint8_t { Unknown, Mod, Years };
+
+struct ModReading : TagReading {
+    using Place = ModPlace;
+    using File = ModSettings;
+
+    ModSettings& settings;
+};
+
+ModSettings* target(ModReading& reading, const ModSettings*) {
+    return &reading.settings;
+}
+
+using ModRule = tag_rules::Rule<ModReading>;
+
+template <const auto& F>
+constexpr ModRule modRule(ModPlace in) {
+    return {in, F.element, ModPlace::Unknown, tag_rules::set<ModReading, F>};
+}
+
+constexpr auto ModRules = std::to_array<ModRule>({
+    {ModPlace::Unknown, ModElement, ModPlace::Mod},
+    {ModPlace::Unknown, YearsElement, ModPlace::Years},
+    modRule<mf::Name>(ModPlace::Mod),
+    modRule<mf::Author>(ModPlace::Mod),
+    modRule<mf::Comment>(ModPlace::Mod),
+    modRule<mf::FirstYear>(ModPlace::Years),
+    modRule<mf::LastYear>(ModPlace::Years),
+});
+
+ModPlace visitSetting(ModReading& reading, ModPlace parent, const TagNode& node, bool& hasRule) {
+    static const auto table = [] {
+        tag_rules::RuleTable<ModReading> rules;
+        rules.add(ModRules);
+        return rules;
+    }();
+    return tag_rules::apply(table, reading, parent, node, hasRule);
+}
 
 } // namespace
 
@@ -22,34 +61,18 @@ ModSettings readModSettings(std::string_view fileContent) {
     ModSettings settings;
     TagTree tree;
     tree.parse(fileContent);
-    const std::vector<TagNode>& nodes = tree.nodes();
-    for (std::size_t i = 1; i < nodes.size(); ++i) {
-        const TagNode& node = nodes[i];
-        const std::string_view parent = nodes[node.parent].name;
-        if (parent == ModElement && node.name == NameElement) {
-            settings.name = node.text;
-        } else if (parent == ModElement && node.name == AuthorElement) {
-            settings.author = node.text;
-        } else if (parent == ModElement && node.name == CommentElement) {
-            settings.comment = node.text;
-        } else if (parent == YearsElement && node.name == FirstElement) {
-            settings.firstYear = toInteger(node.text);
-        } else if (parent == YearsElement && node.name == LastElement) {
-            settings.lastYear = toInteger(node.text);
-        }
-    }
+    ModReading reading{{.tree = tree}, settings};
+    tag_rules::walk(reading, visitSetting);
     return settings;
 }
 
 std::string modSettingsText(const ModSettings& settings) {
+    using field_text::lines;
     FileText out;
     out.open(0, ModElement);
-    out.line(1, NameElement, settings.name);
-    out.lineIfGiven(1, AuthorElement, settings.author);
-    out.lineIfGiven(1, CommentElement, settings.comment);
+    lines(out, 1, settings, mf::Name, mf::Author, mf::Comment);
     out.open(1, YearsElement);
-    out.line(2, FirstElement, settings.firstYear);
-    out.line(2, LastElement, settings.lastYear);
+    lines(out, 2, settings, mf::FirstYear, mf::LastYear);
     out.close(1, YearsElement);
     out.close(0, ModElement);
     return out.take();

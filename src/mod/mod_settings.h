@@ -1,10 +1,10 @@
 #pragma once
 // The settings of a mod, as its "Mod.txt" holds them.
 
+#include "mod/mod_record.h"
 #include "platform/file_operations.h"
 #include "platform/safe_save.h"
 
-#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -12,16 +12,6 @@
 namespace varrocade {
 
 inline constexpr std::string_view ModFileName = "Mod.txt";
-
-/// A mod's identity and the years that it spans. A new mod begins with the Second World War.
-struct ModSettings {
-    std::string name = "New Mod";
-    std::string author;
-    std::string comment;
-    std::int32_t firstYear = 1939;
-    std::int32_t lastYear = 1945;
-    bool operator==(const ModSettings&) const = default;
-};
 
 /// Reads the content of a "Mod.txt"; what it does not name keeps its default.
 ModSettings readModSettings(std::string_view fileContent);

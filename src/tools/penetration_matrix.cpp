@@ -1,13 +1,12 @@
 #include "tools/penetration_matrix.h"
 
 #include "analysis/plate_ranges.h"
+#include "data/each_field.h"
 #include "data/finding_text.h"
 #include "data/format/numbers.h"
-#include "data/unit/elements.h"
 #include "weapons/weapon_names.h"
 
 #include <algorithm>
-#include <array>
 #include <iterator>
 #include <utility>
 
@@ -17,10 +16,6 @@ namespace {
 
 constexpr std::string_view MatrixHeading =
     "weapon\tshell\tflavour\tammunition\tvehicle\tcomponent\tkind\tplate\tthickness\tangle\trange\n";
-
-/// By `ComponentKind`.
-constexpr std::array<std::string_view, 4> KindNames = {element::Hull, element::Superstructure,
-                                                       element::Turret, element::FixedWeapon};
 
 /// A value of a file as a cell, with the tab after it.
 void appendCell(std::string& row, std::string_view value) {
@@ -100,8 +95,7 @@ void PenetrationMatrix::addPlates(std::string_view vehicleName, const VehicleRec
         target.plate = plate.plate;
         appendCell(target.cells, vehicleName);
         appendCell(target.cells, static_cast<std::int32_t>(plate.component));
-        appendCell(target.cells,
-                   KindNames[static_cast<std::size_t>(vehicle.components[plate.component].kind)]);
+        appendCell(target.cells, elementOf(vehicle.components[plate.component].kind));
         appendCell(target.cells, plate.name);
         appendCell(target.cells, plate.plate.thickness);
         appendCell(target.cells, plate.plate.angle);

@@ -1,8 +1,9 @@
 #include "analysis/performance/outliers.h"
 
 #include "analysis/armour_plates.h"
+#include "data/each_field.h"
 #include "data/format/numbers.h"
-#include "data/unit/elements.h"
+#include "data/unit_fields.h"
 
 #include <algorithm>
 #include <array>
@@ -13,12 +14,7 @@ namespace varrocade {
 
 namespace {
 
-namespace e = element;
-
 constexpr std::array<std::string_view, 3> Keys = {"vehicle-weight", "vehicle-plate", "vehicle-size"};
-
-/// By `ComponentKind`.
-constexpr std::array<std::string_view, 4> PartNames = {e::Hull, e::Superstructure, e::Turret, e::FixedWeapon};
 
 /// A weight is out of line beyond three robust deviations, between these logarithms: a half and a double
 /// (0.69) are to be told from the error of an estimate.
@@ -42,17 +38,17 @@ constexpr PlateLimits Roof = {1.6, 2.0, 9.0, 9.0};
 constexpr PlateLimits Spaced = {1.2, 2.0, 5.0, 9.0};
 
 constexpr auto PlateKinds = std::to_array<std::pair<std::string_view, PlateLimits>>({
-    {e::UpperFront, Front},
-    {e::LowerFront, Front},
-    {e::Mantlet, Front},
-    {e::UpperLeft, Side},
-    {e::UpperRight, Side},
-    {e::LowerLeft, Side},
-    {e::LowerRight, Side},
-    {e::UpperRear, Rear},
-    {e::LowerRear, Rear},
-    {e::Top, Roof},
-    {e::Bottom, Roof},
+    {field::UpperFront.element, Front},
+    {field::LowerFront.element, Front},
+    {field::Mantlet.element, Front},
+    {field::UpperLeft.element, Side},
+    {field::UpperRight.element, Side},
+    {field::LowerLeft.element, Side},
+    {field::LowerRight.element, Side},
+    {field::UpperRear.element, Rear},
+    {field::LowerRear.element, Rear},
+    {field::Top.element, Roof},
+    {field::Bottom.element, Roof},
 });
 
 constexpr int LayeredSince = 1960;
@@ -100,8 +96,7 @@ public:
         Outlier& outlier = found_.emplace_back();
         outlier.kind = OutlierKind::Size;
         outlier.component = component_;
-        outlier.what =
-            std::string(name) + " of the " + std::string(PartNames[static_cast<std::size_t>(kind_)]);
+        outlier.what = std::string(name) + " of the " + std::string(elementOf(kind_));
         outlier.given = given;
         outlier.expectedFrom = range.from;
         outlier.expectedTo = range.to;
@@ -147,9 +142,9 @@ std::vector<NamedPlate> bodyPlates(const VehicleRecord& vehicle) {
 void addSpaced(const VehicleRecord& vehicle, std::vector<NamedPlate>& plates) {
     for (std::size_t i = 0; i < vehicle.components.size(); ++i) {
         const ArmourRecord& armour = vehicle.components[i].armour;
-        for (const auto& [name, thickness] :
-             {std::pair(e::FrontSpaced, armour.frontSpaced), std::pair(e::SideSpaced, armour.sideSpaced),
-              std::pair(e::RearSpaced, armour.rearSpaced)}) {
+        for (const auto& [name, thickness] : {std::pair(field::FrontSpaced.element, armour.frontSpaced),
+                                              std::pair(field::SideSpaced.element, armour.sideSpaced),
+                                              std::pair(field::RearSpaced.element, armour.rearSpaced)}) {
             if (thickness > 0) {
                 plates.push_back({i, name, static_cast<double>(thickness), Spaced});
             }
@@ -185,16 +180,17 @@ std::vector<Outlier> sizeOutliers(const VehicleRecord& vehicle) {
         const ComponentRecord& part = vehicle.components[i];
         SizeCheck size(i, part.kind, found);
         if (part.kind == ComponentKind::Hull) {
-            size.check(e::Width, part.width, HullWidth);
-            size.check(e::Length, part.length, HullLength);
-            size.check(e::Height, part.height, HullHeight);
+            size.check(field::Width.element, part.width, HullWidth);
+            size.check(field::Length.element, part.length, HullLength);
+            size.check(field::Height.element, part.height, HullHeight);
         } else if (part.kind == ComponentKind::Superstructure) {
-            size.check(e::Width, part.width, {LeastBox, width});
-            size.check(e::Length, part.length, {LeastBox, length});
-            size.check(e::Height, part.height, BoxHeight);
+            size.check(field::Width.element, part.width, {LeastBox, width});
+            size.check(field::Length.element, part.length, {LeastBox, length});
+            size.check(field::Height.element, part.height, BoxHeight);
         } else if (part.kind == ComponentKind::Turret) {
-            size.check(e::Diameter, part.diameter, {LeastBox, std::min(width, MaxTurretDiameter)});
-            size.check(e::Height, part.height, TurretHeight);
+            size.check(field::Diameter.element, part.diameter,
+                       {LeastBox, std::min(width, MaxTurretDiameter)});
+            size.check(field::Height.element, part.height, TurretHeight);
         }
     }
     return found;
@@ -227,9 +223,8 @@ std::vector<Outlier> plateOutliers(const VehicleRecord& vehicle, const VehicleFi
             Outlier& outlier = found.emplace_back();
             outlier.kind = OutlierKind::Plate;
             outlier.component = plate.component;
-            outlier.what =
-                std::string(plate.name) + " of the " +
-                std::string(PartNames[static_cast<std::size_t>(vehicle.components[plate.component].kind)]);
+            outlier.what = std::string(plate.name) + " of the " +
+                           std::string(elementOf(vehicle.components[plate.component].kind));
             outlier.given = plate.thickness;
             outlier.expectedTo = limit;
             outlier.sentence = "The plate " + outlier.what + " is given as " + figure(plate.thickness) +
@@ -254,7 +249,7 @@ std::optional<Outlier> weightOutlier(const VehicleFigures& figures, const Weight
     Outlier outlier;
     outlier.name = figures.name;
     outlier.kind = OutlierKind::Weight;
-    outlier.what = e::Weight;
+    outlier.what = field::Weight.element;
     outlier.given = figures.weight;
     outlier.expectedFrom = estimate * std::exp(-limit);
     outlier.expectedTo = estimate * std::exp(limit);

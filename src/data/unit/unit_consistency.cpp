@@ -1,6 +1,8 @@
 #include "data/unit/unit_consistency.h"
 
+#include "data/each_field.h"
 #include "data/unit/elements.h"
+#include "data/unit_fields.h"
 
 #include <array>
 #include <string>
@@ -15,11 +17,11 @@ namespace e = element;
 constexpr std::int32_t FullCircle = 360; // degrees, as all angles here
 constexpr std::int32_t HalfCircle = 180;
 
-Finding inconsistency(std::string_view key, std::string_view field, std::int32_t value, std::string message,
+Finding inconsistency(std::string_view key, const FieldInfo& field, std::int32_t value, std::string message,
                       std::string expected) {
     return {.key = key,
             .severity = Severity::Error,
-            .field = std::string(field),
+            .field = std::string(field.element),
             .message = std::move(message),
             .value = std::to_string(value),
             .expected = std::move(expected)};
@@ -31,10 +33,6 @@ bool isArmed(ComponentKind kind) {
 
 constexpr auto ComponentRules = std::to_array<std::optional<Finding> (*)(const ComponentRecord&)>(
     {traverseFinding, offsetHeightFinding, rotateTimeFinding});
-
-/// By `ComponentKind`.
-constexpr std::array<std::string_view, 4> KindElements = {e::Hull, e::Superstructure, e::Turret,
-                                                          e::FixedWeapon};
 
 } // namespace
 
@@ -48,18 +46,18 @@ std::optional<Finding> traverseFinding(const ComponentRecord& component) {
     const auto isLimit = [](std::int32_t angle) { return angle >= 0 && angle <= FullCircle; };
     const bool isRightWrong = isLimit(component.rotateLeft);
     if (!isRightWrong || !isLimit(component.rotateRight)) {
-        return inconsistency(finding_key::TraverseLimit, isRightWrong ? e::RotateRight : e::RotateLeft,
-                             isRightWrong ? component.rotateRight : component.rotateLeft,
-                             rotateWho + " left and right angles must be between 0 and 360 degrees",
-                             "0 to 360");
+        return inconsistency(
+            finding_key::TraverseLimit, isRightWrong ? field::RotateRight : field::RotateLeft,
+            isRightWrong ? component.rotateRight : component.rotateLeft,
+            rotateWho + " left and right angles must be between 0 and 360 degrees", "0 to 360");
     }
     if (component.rotateLeft + component.rotateRight > FullCircle) {
-        return inconsistency(finding_key::TraverseSum, e::RotateLeft, component.rotateLeft,
+        return inconsistency(finding_key::TraverseSum, field::RotateLeft, component.rotateLeft,
                              rotateWho + " left and right angles must add up to less that 360 degrees",
                              "at most " + std::to_string(FullCircle - component.rotateRight));
     }
     if (component.offsetAngle < -HalfCircle || component.offsetAngle > HalfCircle) {
-        return inconsistency(finding_key::OffsetAngle, e::OffsetAngle, component.offsetAngle,
+        return inconsistency(finding_key::OffsetAngle, field::OffsetAngle, component.offsetAngle,
                              std::string(isTurret ? "The turret offset" : "The offset") +
                                  " angle must be between -180 and 180 degrees",
                              "-180 to 180");
@@ -71,7 +69,7 @@ std::optional<Finding> offsetHeightFinding(const ComponentRecord& component) {
     if (component.kind != ComponentKind::FixedWeapon || component.offsetZ > 0) {
         return std::nullopt;
     }
-    return inconsistency(finding_key::OffsetHeight, e::OffsetZ, component.offsetZ,
+    return inconsistency(finding_key::OffsetHeight, field::OffsetZ, component.offsetZ,
                          "OffsetZ must be greater than zero", "at least 1");
 }
 
@@ -79,7 +77,7 @@ std::optional<Finding> rotateTimeFinding(const ComponentRecord& component) {
     if (!isArmed(component.kind) || component.rotateTime > 0) {
         return std::nullopt;
     }
-    return inconsistency(finding_key::NoRotateTime, e::RotateTime, component.rotateTime,
+    return inconsistency(finding_key::NoRotateTime, field::RotateTime, component.rotateTime,
                          "The rotate speed must be greater than zero", "at least 1");
 }
 
@@ -87,7 +85,7 @@ std::optional<Finding> revolutionsFinding(const VehicleRecord& vehicle) {
     if (vehicle.revolutionLimit >= vehicle.idleRevolutions) {
         return std::nullopt;
     }
-    return inconsistency(finding_key::RevolutionLimit, e::RpmLimit, vehicle.revolutionLimit,
+    return inconsistency(finding_key::RevolutionLimit, field::RevolutionLimit, vehicle.revolutionLimit,
                          "The revolution limit must not be below the idle revolutions",
                          "at least " + std::to_string(vehicle.idleRevolutions));
 }
@@ -96,9 +94,12 @@ std::optional<Finding> componentRoomFinding(const VehicleRecord& vehicle) {
     if (vehicle.components.size() < MaxSquadMembers) {
         return std::nullopt;
     }
-    return inconsistency(finding_key::NoRoom, e::Vehicle,
-                         static_cast<std::int32_t>(vehicle.components.size()),
-                         std::string(TooManyComponentsText), "fewer than " + std::to_string(MaxSquadMembers));
+    return Finding{.key = finding_key::NoRoom,
+                   .severity = Severity::Error,
+                   .field = std::string(e::Vehicle),
+                   .message = std::string(TooManyComponentsText),
+                   .value = std::to_string(vehicle.components.size()),
+                   .expected = "fewer than " + std::to_string(MaxSquadMembers)};
 }
 
 std::vector<Finding> vehicleFindings(const VehicleRecord& vehicle) {
@@ -112,11 +113,11 @@ std::vector<Finding> vehicleFindings(const VehicleRecord& vehicle) {
     const std::string vehiclePath = std::string(e::Vehicle) + ".";
     add(revolutionsFinding(vehicle),
         vehiclePath + std::string(e::Drive) + "." + std::string(e::Engine) + ".");
-    std::array<std::size_t, KindElements.size()> counts = {};
+    std::array<std::size_t, 4> counts = {};
     for (const ComponentRecord& component : vehicle.components) {
         const auto kind = static_cast<std::size_t>(component.kind);
-        const std::string path =
-            vehiclePath + std::string(KindElements[kind]) + "[" + std::to_string(++counts[kind]) + "].";
+        const std::string path = vehiclePath + std::string(elementOf(component.kind)) + "[" +
+                                 std::to_string(++counts.at(kind)) + "].";
         for (const auto& rule : ComponentRules) {
             add(rule(component), path);
         }

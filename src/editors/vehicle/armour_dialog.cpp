@@ -1,6 +1,6 @@
 #include "editors/vehicle/armour_dialog.h"
 
-#include "data/unit/plate_rows.h"
+#include "data/unit_fields.h"
 #include "editors/form/form_dialog_win32.h"
 #include "editors/form/list_keys_win32.h"
 #include "editors/vehicle/armour_form.h"
@@ -26,8 +26,8 @@ void drawArmour(const DRAWITEMSTRUCT& item, const DrawingObjects& drawing, const
     const PixelRect area = pixelRect(item.rcItem);
     const int middle = (area.top + area.bottom) / 2;
     int thickest = std::max({1, armour.mantlet, armour.frontSpaced, armour.sideSpaced, armour.rearSpaced});
-    for (const ArmourPlateRow& row : ArmourPlateRows) {
-        thickest = std::max(thickest, (armour.*row.member).thickness);
+    for (const auto* plate : field::Plates) {
+        thickest = std::max(thickest, plate->of(armour).thickness);
     }
     paintPlates(device, {area.left, area.top, area.right, middle}, sideSketch(armour), "front (left) to rear",
                 thickest);

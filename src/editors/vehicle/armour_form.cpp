@@ -1,7 +1,6 @@
 #include "editors/vehicle/armour_form.h"
 
 #include "data/each_field.h"
-#include "data/unit/plate_rows.h"
 #include "data/unit_fields.h"
 #include "resources/resource.h"
 #include "view/drawing/armour_sketch.h"
@@ -42,7 +41,7 @@ constexpr FormRow<Component> angleRow(std::size_t plate) {
     return {firstControl(plate) + 1, OfPlate<Plate>(), field::PlateAngle, {.of = Plate.label}};
 }
 
-/// The plates' rows come first, in the order of `ArmourPlateRows`.
+/// The plates' rows come first, in the order of `field::Plates`.
 constexpr auto ArmourRows = std::to_array<FormRow<Component>>({
     thicknessRow<field::UpperFront>(0),
     angleRow<field::UpperFront>(0),
@@ -88,14 +87,14 @@ std::string effectiveText(const ArmourPlate& plate) {
 void followPlates(FormPort& port, ComponentRecord& component) {
     const Component former = component;
     readPossible(port, ArmourShape, component);
-    for (std::size_t i = 0; i < ArmourPlateRows.size(); ++i) {
+    for (std::size_t i = 0; i < field::Plates.size(); ++i) {
         const auto rows = ArmourShape.rows.subspan(RowsPerPlate * i, RowsPerPlate);
         const bool isTaken = std::none_of(rows.begin(), rows.end(), [&](const FormRow<Component>& row) {
             Component copy = former;
             return row.read(port, copy).has_value();
         });
         port.setText(firstControl(i) + 2,
-                     isTaken ? effectiveText(component.armour.*ArmourPlateRows[i].member) : "?");
+                     isTaken ? effectiveText(field::Plates[i]->of(component.armour)) : "?");
     }
 }
 

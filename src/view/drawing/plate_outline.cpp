@@ -1,6 +1,6 @@
 #include "view/drawing/plate_outline.h"
 
-#include "data/unit/elements.h"
+#include "data/unit_fields.h"
 
 #include <algorithm>
 #include <array>
@@ -12,8 +12,6 @@ namespace varrocade {
 
 namespace {
 
-namespace e = element;
-
 /// How wide a strip is, as a share of the narrower side's half or of the radius.
 constexpr double StripShare = 0.22;
 constexpr int Quarters = 4;
@@ -23,10 +21,10 @@ struct SidePlates {
     std::string_view lower;
     std::string_view upper;
 };
-constexpr std::array<SidePlates, Quarters> Sides = {{{e::LowerFront, e::UpperFront},
-                                                     {e::LowerRight, e::UpperRight},
-                                                     {e::LowerRear, e::UpperRear},
-                                                     {e::LowerLeft, e::UpperLeft}}};
+constexpr std::array<SidePlates, Quarters> Sides = {{{field::LowerFront.element, field::UpperFront.element},
+                                                     {field::LowerRight.element, field::UpperRight.element},
+                                                     {field::LowerRear.element, field::UpperRear.element},
+                                                     {field::LowerLeft.element, field::UpperLeft.element}}};
 
 /// The rim of a part at `share` of its size, a quarter of it a side clockwise from the front's left end.
 using Rim = std::array<std::vector<Point>, Quarters>;
@@ -103,7 +101,7 @@ private:
         }
         addRims(
             {roundRim(radius), roundRim(radius * (1 - StripShare)), roundRim(radius * (1 - 2 * StripShare))});
-        if (const auto mantlet = plateNamed(e::Mantlet)) {
+        if (const auto mantlet = plateNamed(field::Mantlet.element)) {
             const double half = radius / 2;
             addPatch({{-half, radius}, {-half, radius + half / 2}, {half, radius + half / 2}, {half, radius}},
                      mantlet);
@@ -117,7 +115,7 @@ private:
             addStrip(rims[1][side], rims[2][side], plateNamed(Sides[side].upper));
             top.insert(top.end(), rims[2][side].begin(), rims[2][side].end() - 1);
         }
-        addPatch(std::move(top), plateNamed(e::Top));
+        addPatch(std::move(top), plateNamed(field::Top.element));
     }
 
     void addStrip(const std::vector<Point>& outer, const std::vector<Point>& inner,

@@ -6,6 +6,8 @@
 #include "data/unit/enumerations.h"
 #include "data/unit/image_folders.h"
 #include "data/unit/image_names.h"
+#include "data/unit_fields.h"
+#include "view/sheet/field_pair.h"
 #include "weapons/ammo_words.h"
 
 #include <algorithm>
@@ -29,8 +31,8 @@ std::string optionalThickness(std::int32_t value) {
 SheetSection figuresSection(const SquadRecord& record) {
     const VehicleRecord& vehicle = *record.vehicle;
     SheetSection section{.heading = {"Vehicle"}, .part = {PartKind::Details}};
-    section.pairs.push_back({"Type", displayName(record.type, "TYPE_")});
-    section.pairs.push_back({"Weight", grouped(vehicle.weight) + " kg"});
+    section.pairs.push_back(pairOf(field::Type, record));
+    section.pairs.push_back(pairOf(field::Weight, vehicle));
     for (const ComponentRecord& component : vehicle.components) {
         if (component.kind == ComponentKind::Hull) {
             section.pairs.push_back({"Length", centimetres(component.length)});
@@ -44,26 +46,26 @@ SheetSection figuresSection(const SquadRecord& record) {
         crew += component.crew.size();
     }
     section.pairs.push_back({"Crew", std::to_string(crew)});
-    section.pairs.push_back({"Carries infantry", yesNo(vehicle.canMountInfantry)});
-    section.pairs.push_back({"Amphibious", yesNo(vehicle.amphibious)});
+    section.pairs.push_back(pairOf(field::CanMountInfantry, vehicle, "Carries infantry"));
+    section.pairs.push_back(pairOf(field::Amphibious, vehicle, "Amphibious"));
     return section;
 }
 
 SheetSection driveSection(const VehicleRecord& vehicle) {
     constexpr std::array<std::string_view, 3> mounts = {"rear", "middle", "front"};
     SheetSection section{.heading = {"Drive"}, .part = {PartKind::Drive}};
-    section.pairs.push_back({"Engine", vehicle.engineName.str()});
-    section.pairs.push_back({"Power", std::to_string(vehicle.horsepower) + " hp"});
+    section.pairs.push_back(pairOf(field::EngineName, vehicle));
+    section.pairs.push_back(pairOf(field::Horsepower, vehicle, "Power"));
     section.pairs.push_back({"Power to weight", powerToWeight(vehicle.horsepower, vehicle.weight)});
     section.pairs.push_back({"Mounted", std::string(mounts[static_cast<std::size_t>(vehicle.engineMount)])});
-    section.pairs.push_back({"Reliability", displayName(vehicle.reliability, "RELIABILITY_")});
+    section.pairs.push_back(pairOf(field::Reliability, vehicle));
     section.pairs.push_back({"Revolutions", std::to_string(vehicle.idleRevolutions) + " to " +
                                                 std::to_string(vehicle.revolutionLimit) + " rpm"});
     section.pairs.push_back({"Gears", std::to_string(vehicle.forwardGears) + " forward, " +
                                           std::to_string(vehicle.reverseGears) + " reverse"});
-    section.pairs.push_back({"Steering", displayName(vehicle.steering, "STEERING_")});
+    section.pairs.push_back(pairOf(field::Steering, vehicle));
     section.pairs.push_back({"Exhaust pipes", std::to_string(vehicle.exhaustPipes.size())});
-    section.pairs.push_back({"Smoke screen", yesNo(vehicle.smokeScreen)});
+    section.pairs.push_back(pairOf(field::SmokeScreen, vehicle, "Smoke screen"));
     return section;
 }
 

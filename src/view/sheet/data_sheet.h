@@ -5,6 +5,7 @@
 #include "data/unit/unit_record.h"
 #include "view/drawing/armour_sketch.h"
 #include "view/drawing/unit_part.h"
+#include "view/sheet/field_pair.h"
 #include "weapons/weapon_catalogue.h"
 #include "weapons/weapon_record.h"
 
@@ -24,11 +25,6 @@ struct SheetTitle {
 
 struct SheetHeading {
     std::string text;
-};
-
-struct SheetPair {
-    std::string label;
-    std::string value;
 };
 
 /// Running text, broken where it must.

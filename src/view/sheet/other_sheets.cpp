@@ -6,6 +6,8 @@
 #include "data/format/numbers.h"
 #include "data/format/words.h"
 #include "data/unit/enumerations.h"
+#include "data/unit_fields.h"
+#include "view/sheet/field_pair.h"
 #include "weapons/ammo_words.h"
 #include "weapons/weapon_names.h"
 
@@ -87,7 +89,7 @@ SheetSection heavyWeaponSection(const HeavyWeaponRecord& heavy, const WeaponCata
             appendFixed(trail, heavy.trailLength, 2);
             trail += " m";
         }
-        section.pairs.push_back({"Mass", grouped(heavy.mass) + " kg"});
+        section.pairs.push_back(pairOf(field::Mass, heavy));
         section.pairs.push_back({"Trail length", trail});
     }
     section.tables.push_back(armamentTable(heavy.weapons, heavy.ammo, catalogue));
