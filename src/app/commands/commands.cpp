@@ -4,6 +4,7 @@
 #include "app/commands/file_commands.h"
 #include "app/commands/game_folder.h"
 #include "app/commands/stubs.h"
+#include "app/commands/vehicle_performance_commands.h"
 #include "app/commands/weapon_problems.h"
 #include "app/windows/application.h"
 #include "app/windows/display/redraw.h"
@@ -185,6 +186,8 @@ constexpr auto Commands = std::to_array<Command>({
     {IDM_PENETRATION, penetrationCalculations, always},
     {IDM_CAN_PENETRATE, canItPenetrate, always},
     {IDM_WEAPON_PROBLEMS, showWeaponProblems, hasWeaponProblems},
+    {IDM_PERFORMANCE, showOpenPerformance, canEditOpenRecord},
+    {IDM_COMPARE_VEHICLES, compareAllVehicles, always},
     {IDM_REDUCE_IMAGES, reduceImageSizes, isVehicleOpen},
     {IDM_GENERATE_THUMBNAILS, generateThumbnails, always},
     {IDM_PNG_USAGE, generatePngUsage, always},

@@ -108,6 +108,7 @@ void showPartMenu(POINT screenPixel) {
     menu.addSeparator();
     menu.add(IDM_WHOLE_UNIT, "&Whole unit in view\tCtrl+0", app.display.hasDrawing);
     menu.add(IDC_EDIT_DETAILS, "&Details...", canEditOpenRecord());
+    menu.add(IDM_PERFORMANCE, "Weight and &top speed...", canEditOpenRecord());
     const int command = TrackPopupMenu(menu.get(), TPM_RETURNCMD | TPM_RIGHTBUTTON, screenPixel.x,
                                        screenPixel.y, 0, app.window, nullptr);
     if (command != 0) {

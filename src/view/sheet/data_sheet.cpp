@@ -1,5 +1,6 @@
 #include "view/sheet/data_sheet.h"
 
+#include "analysis/performance/vehicle_performance.h"
 #include "data/format/numbers.h"
 #include "data/format/words.h"
 #include "data/unit/component_words.h"
@@ -49,7 +50,8 @@ SheetSection figuresSection(const SquadRecord& record) {
     return section;
 }
 
-SheetSection driveSection(const VehicleRecord& vehicle) {
+SheetSection driveSection(const SquadRecord& record, const WeaponCatalogue& catalogue) {
+    const VehicleRecord& vehicle = *record.vehicle;
     constexpr std::array<std::string_view, 3> mounts = {"rear", "middle", "front"};
     SheetSection section{.heading = {"Drive"}, .part = {PartKind::Drive}};
     section.pairs.push_back({"Engine", vehicle.engineName.str()});
@@ -64,6 +66,8 @@ SheetSection driveSection(const VehicleRecord& vehicle) {
     section.pairs.push_back({"Steering", displayName(vehicle.steering, "STEERING_")});
     section.pairs.push_back({"Exhaust pipes", std::to_string(vehicle.exhaustPipes.size())});
     section.pairs.push_back({"Smoke screen", yesNo(vehicle.smokeScreen)});
+    const WeaponMasses weapons(catalogue, vehicle);
+    section.notes.push_back({performanceLine(vehiclePerformance(record, weapons))});
     return section;
 }
 
@@ -280,7 +284,7 @@ DataSheet unitSheet(const SquadRecord& record, std::span<const std::string> miss
     sheet.comment = record.comment.str();
     if (record.vehicle) {
         sheet.sections.push_back(figuresSection(record));
-        sheet.sections.push_back(driveSection(*record.vehicle));
+        sheet.sections.push_back(driveSection(record, catalogue));
         sheet.sections.push_back(armourSection(*record.vehicle));
         sheet.sections.push_back(weaponsSection(*record.vehicle, catalogue));
         sheet.sections.push_back(crewSection(*record.vehicle));
