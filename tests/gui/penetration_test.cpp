@@ -191,6 +191,7 @@ TEST_F(PenetrationTest, WeaponsFollowTheFilesAndTheMod) {
     chooseCategory(WeaponsId);
     select("WEAPON_RIFLE_KAR98K");
     window.startPress(DeleteId);
+    finish(editor->waitForDialog("Weapon in use"));
     finish(editor->waitForDialog("Delete"), IDYES);
     EXPECT_FALSE(isOffered("WEAPON_RIFLE_KAR98K"));
 }

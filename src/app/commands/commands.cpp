@@ -1,6 +1,7 @@
 #include "app/commands/commands.h"
 
 #include "app/commands/edit_record.h"
+#include "app/commands/edit_weapon.h"
 #include "app/commands/file_commands.h"
 #include "app/commands/game_folder.h"
 #include "app/commands/stubs.h"
@@ -159,7 +160,9 @@ void redo() {
 }
 
 void deleteSelectedFile() {
-    deleteFile(theWorkspace());
+    if (mayTakeWeaponAway("Deleting")) {
+        deleteFile(theWorkspace());
+    }
 }
 
 void modMode() {

@@ -1,6 +1,7 @@
 #include "app/windows/part_selection.h"
 
 #include "app/commands/edit_record.h"
+#include "app/commands/edit_weapon.h"
 #include "app/windows/application.h"
 #include "app/windows/display/redraw.h"
 #include "app/windows/display/unit_display.h"
@@ -52,12 +53,17 @@ void selectPart(const UnitPart& part) {
 }
 
 bool canEditSelectedPart() {
+    if (isWeaponOpen()) {
+        return true;
+    }
     const SquadRecord* unit = openUnit(theWorkspace());
     return unit != nullptr && hasEditor(*unit, application().display.selected);
 }
 
 void editSelectedPart() {
-    if (canEditSelectedPart()) {
+    if (isWeaponOpen()) {
+        editOpenWeapon();
+    } else if (canEditSelectedPart()) {
         const UnitPart part = application().display.selected;
         withEditContext([part](EditContext& edit) {
             return editPart(application().window, edit, application().drawing, part);

@@ -53,14 +53,14 @@ NameCheck createUnit(Workspace& workspace, const std::string& name, const std::s
     return checkOf(saveNew(workspace, newUnit(workspace.category, name, nationality)));
 }
 
-NameCheck createWeapon(Workspace& workspace, const std::string& name) {
+NameCheck createWeapon(Workspace& workspace, const std::string& name, WeaponType type) {
     if (auto refusal = refusalOfName(name)) {
         return refusal;
     }
     if (workspace.files->exists(pathOf(workspace, name))) {
         return "Weapon name already exists";
     }
-    return checkOf(saveNew(workspace, newWeapon(name)));
+    return checkOf(saveNew(workspace, newWeapon(name, type)));
 }
 
 NameCheck duplicateRecord(Workspace& workspace, const std::string& name) {

@@ -15,8 +15,8 @@ using NameCheck = std::optional<std::string>;
 /// Writes the file of a new unit of the present category. `nationality` is "NATIONALITY_...".
 NameCheck createUnit(Workspace& workspace, const std::string& name, const std::string& nationality);
 
-/// Writes the file of a new weapon.
-NameCheck createWeapon(Workspace& workspace, const std::string& name);
+/// Writes the file of a new weapon, with the figures that weapons of its type begin with.
+NameCheck createWeapon(Workspace& workspace, const std::string& name, WeaponType type = WeaponType::Rifle);
 
 /// Writes the open record under another name. It stays open under its own.
 NameCheck duplicateRecord(Workspace& workspace, const std::string& name);

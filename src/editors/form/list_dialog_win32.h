@@ -49,10 +49,11 @@ protected:
     void refresh(int chosen);
     void refreshShown() { refresh(shown_); }
 
-private:
-    void init() override;
     bool accept() override { return takeShown(); }
     bool notice(int control, int notification) override;
+
+private:
+    void init() override;
 
     [[nodiscard]] int lastIndex() const { return static_cast<int>(model_.count()) - 1; }
     void showEntry(int index);

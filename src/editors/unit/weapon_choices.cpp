@@ -44,6 +44,15 @@ std::string_view periodOf(const SquadRecord& record) {
     return LastEra;
 }
 
+std::vector<std::string> knownPeriods() {
+    std::vector<std::string> periods;
+    for (const Era& era : Eras) {
+        periods.emplace_back(era.period);
+    }
+    periods.emplace_back(LastEra);
+    return periods;
+}
+
 std::vector<std::string> weaponChoices(const WeaponCatalogue& catalogue, const SquadRecord& record,
                                        WeaponBearer bearer, bool all) {
     WeaponFilter filter;

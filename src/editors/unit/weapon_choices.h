@@ -16,6 +16,9 @@ namespace varrocade {
 /// up to 1919 "WW1", up to 1945 "WW2", up to 1991 "Cold War", then "Modern". Empty for a unit without dates.
 std::string_view periodOf(const SquadRecord& record);
 
+/// All of them, in the order of time.
+std::vector<std::string> knownPeriods();
+
 /// What carries a weapon, which decides the weapon types that its list offers.
 enum class WeaponBearer : std::uint8_t { Man, Vehicle };
 

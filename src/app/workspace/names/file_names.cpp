@@ -1,6 +1,7 @@
 #include "app/workspace/names/file_names.h"
 
 #include "data/unit/enumerations.h"
+#include "weapons/weapon_kinds.h"
 
 namespace varrocade {
 
@@ -50,8 +51,8 @@ SquadRecord newUnit(Category category, std::string_view name, std::string_view n
     return record;
 }
 
-WeaponRecord newWeapon(std::string_view name) {
-    WeaponRecord weapon;
+WeaponRecord newWeapon(std::string_view name, WeaponType type) {
+    WeaponRecord weapon = startingWeapon(type);
     weapon.fileName = name;
     weapon.name = name;
     return weapon;

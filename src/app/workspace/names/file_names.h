@@ -21,7 +21,7 @@ std::optional<std::string> refusalOfNationality(std::string_view name, std::stri
 /// A new unit of a category as its first file holds it.
 SquadRecord newUnit(Category category, std::string_view name, std::string_view nationality);
 
-/// A new weapon.
-WeaponRecord newWeapon(std::string_view name);
+/// A new weapon with the figures that its type begins with.
+WeaponRecord newWeapon(std::string_view name, WeaponType type = WeaponType::Rifle);
 
 } // namespace varrocade
