@@ -313,6 +313,14 @@ TEST_F(WorkspaceTest, RemembersTheSelectionAndDropsAFilterThatHidesAFile) {
     EXPECT_EQ(workspace.list.selected, "German Truck") << "shown again, it is selected again";
 }
 
+TEST_F(WorkspaceTest, ThatAFileExistsIsToldBeforeItsNationality) {
+    folder.write("Game\\Data\\Vehicles\\Sole.txt", tankText());
+    openNewFile(workspace, "German Tank");
+    EXPECT_EQ(renameFile(workspace, "Sole"), "That file already exists");
+    EXPECT_EQ(duplicateRecord(workspace, "Sole"), "File already exists");
+    EXPECT_EQ(renameFile(workspace, "Other").value_or("").find("The filename must"), 0U);
+}
+
 TEST_F(WorkspaceTest, FilesAreMadeDuplicatedRenamedAndDeleted) {
     EXPECT_EQ(createUnit(workspace, "Tank", "NATIONALITY_GERMAN").value_or("").find("The filename must"), 0U);
     EXPECT_EQ(createUnit(workspace, "German Tank", "NATIONALITY_GERMAN"), "Squad name already exists");

@@ -12,11 +12,15 @@ namespace varrocade {
 
 namespace {
 
-/// The refusal of a name for another file of the open record. A name whose former one did not begin with the
-/// nationality either need not do so.
-NameCheck refusalOfOtherName(const Workspace& workspace, const std::string& name) {
+/// The refusal of a name for another file of the open record. `taken`, that there is such a file, comes
+/// before what the name begins with. A name whose former one did not begin with the nationality either need
+/// not do so.
+NameCheck refusalOfOtherName(const Workspace& workspace, const std::string& name, const NameCheck& taken) {
     if (auto refusal = refusalOfName(name)) {
         return refusal;
+    }
+    if (taken) {
+        return taken;
     }
     const SquadRecord* unit = openUnit(workspace);
     if (unit != nullptr && !refusalOfNationality(unit->fileName, unit->nationality)) {
@@ -64,11 +68,10 @@ NameCheck createWeapon(Workspace& workspace, const std::string& name) {
 }
 
 NameCheck duplicateRecord(Workspace& workspace, const std::string& name) {
-    if (auto refusal = refusalOfOtherName(workspace, name)) {
+    const bool isTaken = workspace.files->exists(pathOf(workspace, name));
+    if (auto refusal =
+            refusalOfOtherName(workspace, name, isTaken ? NameCheck("File already exists") : NameCheck())) {
         return refusal;
-    }
-    if (workspace.files->exists(pathOf(workspace, name))) {
-        return "File already exists";
     }
     Record copy = workspace.open.present.record;
     setFileName(copy, name);
@@ -82,14 +85,13 @@ void openNewFile(Workspace& workspace, const std::string& name) {
 
 NameCheck renameFile(Workspace& workspace, const std::string& name) {
     const std::string former = openFileName(workspace);
-    if (auto refusal = refusalOfOtherName(workspace, name)) {
-        return refusal;
-    }
     const std::string target = pathOf(workspace, name);
     // Another case of the same letters is the same file to the system, and a fair new name.
     const bool isOnlyCase = equalsIgnoringCase(former, name) && former != name;
-    if (!isOnlyCase && workspace.files->exists(target)) {
-        return "That file already exists";
+    const bool isTaken = !isOnlyCase && workspace.files->exists(target);
+    if (auto refusal = refusalOfOtherName(workspace, name,
+                                          isTaken ? NameCheck("That file already exists") : NameCheck())) {
+        return refusal;
     }
     if (!workspace.files->rename(pathOf(workspace, former), target)) {
         showMessage({.text = pathOf(workspace, former) + "\n\n" + workspace.files->lastError(),

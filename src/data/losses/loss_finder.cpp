@@ -234,7 +234,7 @@ void LossFinder::foldLostGroups() {
 void LossFinder::reportEntry(std::uint32_t index) {
     const Fate fate = file_.trace.fateOf(index);
     nodes_[index].isWhole = true;
-    add(index, LossKind::Dropped,
+    add(index, fate == Fate::Replaced ? LossKind::Unread : LossKind::Dropped,
         elementText(node(index)) + (fate == Fate::Replaced ? ": a later one takes its place"
                                                            : " is not written in files of this kind"));
 }
@@ -253,7 +253,7 @@ void LossFinder::reportNodes() {
         const bool isEntry = fate == Fate::Entry || fate == Fate::Replaced || fate == Fate::Item;
         if (fate == Fate::Ignored) {
             state.isWhole = true;
-            add(i, LossKind::Dropped,
+            add(i, LossKind::Unread,
                 elementText(node(i)) + placeOf(i) +
                     (knowledge_.isElement(node(i).name) ? " is in the wrong place" : " is not known"));
         } else if (fate == Fate::LeftOut) {
@@ -263,7 +263,7 @@ void LossFinder::reportNodes() {
         } else if (isEntry && pairs_.isGone(i)) {
             reportEntry(i);
         } else if ((fate == Fate::Group || fate == Fate::Entry) && !node(i).text.empty()) {
-            add(i, LossKind::Dropped, elementText(node(i)) + " begins with text where elements should be");
+            add(i, LossKind::Unread, elementText(node(i)) + " begins with text where elements should be");
         } else if (state.isLost) {
             add(i, LossKind::Dropped, elementText(node(i)) + placeOf(i) + " is not written");
         } else if (state.isWhole) {

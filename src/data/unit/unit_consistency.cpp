@@ -1,7 +1,10 @@
 #include "data/unit/unit_consistency.h"
 
+#include "data/each_field.h"
+#include "data/finding_text.h"
 #include "data/unit/elements.h"
 
+#include <algorithm>
 #include <array>
 #include <string>
 #include <utility>
@@ -32,9 +35,16 @@ bool isArmed(ComponentKind kind) {
 constexpr auto ComponentRules = std::to_array<std::optional<Finding> (*)(const ComponentRecord&)>(
     {traverseFinding, offsetHeightFinding, rotateTimeFinding});
 
-/// By `ComponentKind`.
-constexpr std::array<std::string_view, 4> KindElements = {e::Hull, e::Superstructure, e::Turret,
-                                                          e::FixedWeapon};
+/// Calls `visit` with each component and its path, with a point at its end.
+template <typename Visit>
+void forEachComponent(const VehicleRecord& vehicle, Visit visit) {
+    std::array<std::size_t, 4> counts = {};
+    for (const ComponentRecord& component : vehicle.components) {
+        const std::size_t number = ++counts.at(static_cast<std::size_t>(component.kind));
+        visit(component, std::string(e::Vehicle) + "." + std::string(elementOf(component.kind)) + "[" +
+                             std::to_string(number) + "].");
+    }
+}
 
 } // namespace
 
@@ -92,6 +102,21 @@ std::optional<Finding> revolutionsFinding(const VehicleRecord& vehicle) {
                          "at least " + std::to_string(vehicle.idleRevolutions));
 }
 
+std::optional<Finding> ammunitionFinding(const AmmoLoadRecord& load,
+                                         std::span<const WeaponMountRecord> weapons) {
+    const auto fits = [&](const WeaponMountRecord& weapon) { return weapon.type == load.weaponType; };
+    if (!load.weaponType.empty() && std::any_of(weapons.begin(), weapons.end(), fits)) {
+        return std::nullopt;
+    }
+    const std::string rounds = std::to_string(load.rounds) + (load.rounds == 1 ? " round" : " rounds");
+    return Finding{.key = finding_key::AmmoWithoutWeapon,
+                   .field = std::string(e::For),
+                   .message = load.weaponType.empty()
+                                  ? rounds + " for no weapon"
+                                  : rounds + " for " + quoted(load.weaponType) + ", which is not there",
+                   .value = load.weaponType.str()};
+}
+
 std::optional<Finding> componentRoomFinding(const VehicleRecord& vehicle) {
     if (vehicle.components.size() < MaxSquadMembers) {
         return std::nullopt;
@@ -99,6 +124,28 @@ std::optional<Finding> componentRoomFinding(const VehicleRecord& vehicle) {
     return inconsistency(finding_key::NoRoom, e::Vehicle,
                          static_cast<std::int32_t>(vehicle.components.size()),
                          std::string(TooManyComponentsText), "fewer than " + std::to_string(MaxSquadMembers));
+}
+
+std::vector<Finding> ammunitionFindings(const SquadRecord& unit) {
+    std::vector<Finding> findings;
+    const auto check = [&findings](const auto& armed, const std::string& path) {
+        for (std::size_t i = 0; i < armed.ammo.size(); ++i) {
+            if (auto finding = ammunitionFinding(armed.ammo[i], armed.weapons)) {
+                finding->field.insert(0, path + std::string(e::Ammo) + "[" + std::to_string(i + 1) + "].");
+                findings.push_back(std::move(*finding));
+            }
+        }
+    };
+    if (unit.vehicle) {
+        forEachComponent(*unit.vehicle, check);
+    }
+    if (unit.heavyWeapon) {
+        check(*unit.heavyWeapon, std::string(elementOf(unit.heavyWeapon->kind)) + ".");
+    }
+    if (unit.aircraft) {
+        check(*unit.aircraft, std::string(e::Aircraft) + ".");
+    }
+    return findings;
 }
 
 std::vector<Finding> vehicleFindings(const VehicleRecord& vehicle) {
@@ -112,15 +159,11 @@ std::vector<Finding> vehicleFindings(const VehicleRecord& vehicle) {
     const std::string vehiclePath = std::string(e::Vehicle) + ".";
     add(revolutionsFinding(vehicle),
         vehiclePath + std::string(e::Drive) + "." + std::string(e::Engine) + ".");
-    std::array<std::size_t, KindElements.size()> counts = {};
-    for (const ComponentRecord& component : vehicle.components) {
-        const auto kind = static_cast<std::size_t>(component.kind);
-        const std::string path =
-            vehiclePath + std::string(KindElements[kind]) + "[" + std::to_string(++counts[kind]) + "].";
+    forEachComponent(vehicle, [&](const ComponentRecord& component, const std::string& path) {
         for (const auto& rule : ComponentRules) {
             add(rule(component), path);
         }
-    }
+    });
     return findings;
 }
 

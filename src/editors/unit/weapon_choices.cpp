@@ -65,6 +65,12 @@ std::string unknownWeapon(std::string_view weaponType, const WeaponCatalogue& ca
                : "Unknown, kept as it is: there is no weapon file \"" + std::string(weaponType) + "\"";
 }
 
+std::string unknownFlavour(std::string_view flavour) {
+    return flavour.empty() || flavourOf(flavour) != AmmoFlavour::None
+               ? ""
+               : "Unknown, kept as it is: the flavour \"" + std::string(flavour) + "\"";
+}
+
 std::vector<std::string> flavourChoices(const WeaponCatalogue& catalogue, std::string_view weaponType) {
     std::vector<std::string> names;
     if (const WeaponRecord* weapon = catalogue.find(weaponType)) {

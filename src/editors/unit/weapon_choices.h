@@ -26,6 +26,9 @@ std::vector<std::string> weaponChoices(const WeaponCatalogue& catalogue, const S
 /// Names a weapon that the catalogue does not hold, or empty; lists offer only some of those that it holds.
 std::string unknownWeapon(std::string_view weaponType, const WeaponCatalogue& catalogue);
 
+/// Names a flavour of ammunition that the game does not know, or empty.
+std::string unknownFlavour(std::string_view flavour);
+
 /// The names of the flavours that a weapon really has; empty for an unknown weapon.
 std::vector<std::string> flavourChoices(const WeaponCatalogue& catalogue, std::string_view weaponType);
 

@@ -29,7 +29,7 @@ std::string optionalThickness(std::int32_t value) {
 SheetSection figuresSection(const SquadRecord& record) {
     const VehicleRecord& vehicle = *record.vehicle;
     SheetSection section{.heading = {"Vehicle"}, .part = {PartKind::Details}};
-    section.pairs.push_back({"Type", displayName(record.type, "TYPE_")});
+    section.pairs.push_back({"Type", shownWord(record.type, "TYPE_", unitTypeNames())});
     section.pairs.push_back({"Weight", grouped(vehicle.weight) + " kg"});
     for (const ComponentRecord& component : vehicle.components) {
         if (component.kind == ComponentKind::Hull) {
@@ -56,12 +56,13 @@ SheetSection driveSection(const VehicleRecord& vehicle) {
     section.pairs.push_back({"Power", std::to_string(vehicle.horsepower) + " hp"});
     section.pairs.push_back({"Power to weight", powerToWeight(vehicle.horsepower, vehicle.weight)});
     section.pairs.push_back({"Mounted", std::string(mounts[static_cast<std::size_t>(vehicle.engineMount)])});
-    section.pairs.push_back({"Reliability", displayName(vehicle.reliability, "RELIABILITY_")});
+    section.pairs.push_back(
+        {"Reliability", shownWord(vehicle.reliability, "RELIABILITY_", reliabilityNames())});
     section.pairs.push_back({"Revolutions", std::to_string(vehicle.idleRevolutions) + " to " +
                                                 std::to_string(vehicle.revolutionLimit) + " rpm"});
     section.pairs.push_back({"Gears", std::to_string(vehicle.forwardGears) + " forward, " +
                                           std::to_string(vehicle.reverseGears) + " reverse"});
-    section.pairs.push_back({"Steering", displayName(vehicle.steering, "STEERING_")});
+    section.pairs.push_back({"Steering", shownWord(vehicle.steering, "STEERING_", steeringNames())});
     section.pairs.push_back({"Exhaust pipes", std::to_string(vehicle.exhaustPipes.size())});
     section.pairs.push_back({"Smoke screen", yesNo(vehicle.smokeScreen)});
     return section;
@@ -172,8 +173,8 @@ SheetSection crewSection(const VehicleRecord& vehicle) {
             for (const AmmoLoadRecord& ammo : man.ammo) {
                 rounds += (rounds.empty() ? "" : ", ") + ammoText(ammo);
             }
-            table.rows.push_back(
-                {{place, displayName(man.job, JobPrefix), arms, rounds}, {PartKind::CrewMan, i, j}});
+            table.rows.push_back({{place, shownWord(man.job, JobPrefix, jobNames()), arms, rounds},
+                                  {PartKind::CrewMan, i, j}});
             place.clear();
         }
     }
@@ -274,7 +275,7 @@ DataSheet unitSheet(const SquadRecord& record, std::span<const std::string> miss
                     const WeaponCatalogue& catalogue) {
     DataSheet sheet;
     sheet.title.text = record.longName.empty() ? record.fileName.str() : record.longName.str();
-    sheet.title.subtitle = displayName(record.nationality, NationalityPrefix) +
+    sheet.title.subtitle = shownWord(record.nationality, NationalityPrefix, nationalityNames()) +
                            (record.shortName.empty() ? "" : ", " + record.shortName.str());
     sheet.title.nationality = record.nationality.str();
     sheet.comment = record.comment.str();

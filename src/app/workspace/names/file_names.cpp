@@ -25,7 +25,6 @@ std::optional<std::string> refusalOfNationality(std::string_view name, std::stri
 SquadRecord newUnit(Category category, std::string_view name, std::string_view nationality) {
     SquadRecord record;
     record.fileName = name;
-    record.longName = name;
     record.nationality = nationality;
     switch (category) {
     case Category::Vehicles:
