@@ -38,6 +38,7 @@
 #define IDD_AMMUNITION 242
 #define IDD_AVAILABILITY 243
 #define IDD_PERSONAL_WEAPONS 244
+#define IDD_CHANGED_FILES 249
 #define IDD_CAN_PENETRATE 250
 #define IDD_WEAPON_PROBLEMS 251
 
@@ -83,6 +84,9 @@
 #define IDM_PUT_BACK 32809
 #define IDM_WHOLE_UNIT 32810
 #define IDM_SHOW_MARKS 32811
+#define IDM_SAVE_ALL 32812
+#define IDM_DISCARD 32813
+#define IDM_CHANGED_FILES 32814
 #define IDM_CAN_PENETRATE 32820
 #define IDM_WEAPON_PROBLEMS 32821
 
@@ -238,5 +242,9 @@
 // Controls of the dialogs that ask for a name.
 #define IDC_NEW_NAME 1230
 #define IDC_NEW_NATIONALITY 1231
+
+// Controls of the list of changed files.
+#define IDC_CHANGED_LIST 1232
+#define IDC_SAVE_ALL 1233
 
 // NOLINTEND(cppcoreguidelines-macro-usage)

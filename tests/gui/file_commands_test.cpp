@@ -51,11 +51,12 @@ protected:
                  game.read(dataFile(WrittenAlike[i], Categories[i].name)));
         }
     }
-    /// Presses "Delete..." and answers.
+    /// Presses "Delete..." and answers the box, which names the file.
     void startDeleting(int button, std::string_view kind = "squad") const {
+        const std::string caption = "Delete " + selected();
         window.startPress(DeleteId);
         const std::string question = "Are you sure you want to delete this " + std::string(kind) + "?";
-        answer({"Delete", question, {IDYES, IDNO}}, button);
+        answer({caption, question, {IDYES, IDNO}}, button);
     }
     void takeName(Window dialog, std::string_view name) const {
         dialog.setText(IDC_NEW_NAME, name);
@@ -155,9 +156,9 @@ TEST_F(FileCommandsTest, RenameMovesTheFileAndTheOpenRecord) {
         takeName(dialog, renamed);
         EXPECT_EQ(game.read(dataFile(renamed, category)), original);
         EXPECT_FALSE(game.exists(dataFile(name, category)) || isListed(name));
+        EXPECT_EQ(game.backups(dataFile(name, category)), std::vector<std::string>{original});
         expectOpen(renamed);
     });
-    EXPECT_FALSE(game.exists("Backups")) << "a new name alone is no unsaved change";
     // What is saved from now on goes to the new name.
     chooseCategory(VehiclesId);
     const Window details = openDetails();

@@ -1,5 +1,6 @@
 #include "app/commands/commands.h"
 
+#include "app/commands/changed_files.h"
 #include "app/commands/edit_record.h"
 #include "app/commands/file_commands.h"
 #include "app/commands/game_folder.h"
@@ -12,7 +13,9 @@
 #include "app/workspace/category_list.h"
 #include "app/workspace/edits.h"
 #include "app/workspace/file_actions.h"
+#include "app/workspace/file_steps.h"
 #include "app/workspace/mod_mode.h"
+#include "app/workspace/record/unsaved_records.h"
 #include "app/workspace/record_files.h"
 #include "editors/form/form_port_win32.h"
 #include "editors/penetration/penetration_dialog.h"
@@ -51,11 +54,12 @@ bool canDuplicate() {
 
 /// The open record's file is the one that is selected in the list.
 bool isSelectionOpen() {
-    return isRecordOpen(theWorkspace()) && !theWorkspace().list.selected.empty();
+    const std::string& selected = theWorkspace().list.selected;
+    return !selected.empty() && selected == listedOpenName(theWorkspace());
 }
 
-bool canUndo() {
-    return theWorkspace().open.history.canUndo();
+bool canUndoStep() {
+    return canUndoLast(theWorkspace());
 }
 
 bool canRedo() {
@@ -70,8 +74,24 @@ bool canSave() {
     return theWorkspace().open.isUnsaved();
 }
 
-void saveRecord() {
+void saveOne() {
     saveOpenRecord(theWorkspace());
+}
+
+bool canSaveSome() {
+    return canSaveAll(theWorkspace());
+}
+
+void saveEach() {
+    saveAll(theWorkspace());
+}
+
+void discard() {
+    discardChanges(theWorkspace());
+}
+
+bool hasChangedFiles() {
+    return !unsavedRecords(theWorkspace()).empty();
 }
 
 void exitProgram() {
@@ -151,7 +171,7 @@ void choose() {
 }
 
 void undo() {
-    undoChange(theWorkspace());
+    undoLast(theWorkspace());
 }
 
 void redo() {
@@ -198,8 +218,11 @@ constexpr auto Commands = std::to_array<Command>({
     {IDM_REFRESH, refreshFiles, always},
     {IDM_RENAME, renameOpenFile, isSelectionOpen},
     {IDM_DELETE, deleteSelectedFile, isSelectionOpen},
-    {IDM_SAVE, saveRecord, canSave},
-    {IDM_UNDO, undo, canUndo},
+    {IDM_SAVE, saveOne, canSave},
+    {IDM_SAVE_ALL, saveEach, canSaveSome},
+    {IDM_DISCARD, discard, canSave},
+    {IDM_CHANGED_FILES, showChangedFiles, hasChangedFiles},
+    {IDM_UNDO, undo, canUndoStep},
     {IDM_REDO, redo, canRedo},
     {IDM_EDIT_PART, editSelectedPart, canEditSelectedPart},
     {IDM_PUT_BACK, putBack, always},
@@ -227,7 +250,7 @@ bool runCommand(int id) {
 
 void updateMenu(HMENU menu) {
     const UndoHistory& history = theWorkspace().open.history;
-    const std::string undo = "&Undo " + std::string(history.undoName()) + "\tCtrl+Z";
+    const std::string undo = "&Undo " + lastStepName(theWorkspace()) + "\tCtrl+Z";
     const std::string redo = "&Redo " + std::string(history.redoName()) + "\tCtrl+Y";
     ModifyMenuA(menu, IDM_UNDO, MF_BYCOMMAND | MF_STRING, IDM_UNDO, undo.c_str());
     ModifyMenuA(menu, IDM_REDO, MF_BYCOMMAND | MF_STRING, IDM_REDO, redo.c_str());
