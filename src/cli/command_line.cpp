@@ -9,10 +9,11 @@ namespace varrocade::cli {
 namespace {
 
 constexpr auto Commands = std::to_array<Command>({
-    {"rewrite", "[--explain] CATEGORY IN OUT",
+    {"rewrite", "[--explain] CATEGORY IN OUT | --explain CATEGORY IN",
      "reads with the category's reader and writes with its writer; CATEGORY is vehicles, atguns, infantry, "
      "aircraft or weapons; where IN is a folder, every *.txt in it goes to the folder OUT; with --explain, "
-     "prints what that drops, changes or respells, a line each",
+     "prints what that drops, changes or respells, a line each, and without OUT does no more than that; only "
+     "regular files are read and replaced, and never the one that is read",
      rewriteCommand},
     {"penetration", "WEAPONFILE SHELLINDEX ANGLE K | --matrix GAMEFOLDER",
      "prints penetration and velocity of an ammunition type (counted from 0) at seven ranges, for armour "

@@ -36,7 +36,7 @@ bool print(std::string_view text);
 /// A folder as paths are built from it: ending in a separator.
 std::string asFolder(std::string path);
 
-/// `rewrite [--explain] CATEGORY IN OUT`
+/// `rewrite [--explain] CATEGORY IN OUT` and `rewrite --explain CATEGORY IN`
 int rewriteCommand(Arguments arguments);
 
 /// `penetration WEAPONFILE SHELLINDEX ANGLE K` and `penetration --matrix GAMEFOLDER`

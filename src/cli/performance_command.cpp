@@ -1,15 +1,15 @@
-#include "analysis/performance/drive_simulation.h"
-#include "analysis/performance/weight_estimate.h"
+#include "analysis/performance/vehicle_performance.h"
 #include "cli/command_line.h"
 #include "data/category.h"
 #include "data/finding_text.h"
 #include "data/format/numbers.h"
+#include "data/game_files.h"
 #include "data/reading/unit_reader.h"
 #include "platform/file_operations.h"
 
 #include <algorithm>
-#include <cmath>
 #include <cstdio>
+#include <optional>
 #include <vector>
 
 namespace varrocade::cli {
@@ -61,14 +61,11 @@ int printVehicle(const VehicleFigures& figures, bool usesEstimate, std::string& 
     const double weight = figures.weight > 0 || !usesEstimate ? figures.weight : estimate.value_or(0.0);
     const std::optional<DriveModel> drive = driveModel(figures, weight);
     out += performanceRow(figures, estimate, drive);
-    std::string reasons;
-    for (const MissingFigure figure : figures.missing()) {
-        reasons += (reasons.empty() ? "" : ", ") + std::string(missingFigureText(figure));
-    }
     if (drive && topSpeed(*drive, {}) < ComparedSpeed) {
         // Not a finding: a slow vehicle is not a fault of its file.
         complain(figures.name + ": does not reach 32 km/h");
     }
+    const std::string reasons = missingFiguresText(figures);
     if (!reasons.empty()) {
         complain(figures.name + ": " + reasons);
         return Findings;
@@ -76,26 +73,41 @@ int printVehicle(const VehicleFigures& figures, bool usesEstimate, std::string& 
     return Done;
 }
 
-/// A game folder's vehicles, or the files of a folder of vehicles.
-bool listVehicles(const std::string& base, std::string& folder, std::vector<std::string>& names) {
-    folder = categoryFolder(base, Category::Vehicles);
-    if (!isFolder(folder)) {
-        folder = base;
+/// A game folder's vehicles, or the files of a folder of vehicles. Nothing, after telling why, where the
+/// folder cannot be listed.
+std::optional<std::vector<GameFile>> listVehicles(const std::string& base) {
+    if (isFolder(categoryFolder(base, Category::Vehicles))) {
+        GameFileList list = listGameFiles({.program = base}, Category::Vehicles);
+        for (const FileFailure& failure : list.failures) {
+            complain(failure.path + ": " + failure.reason);
+        }
+        return list.failures.empty() ? std::optional(std::move(list.files)) : std::nullopt;
     }
-    if (!listFiles(folder, DataFileEnding, names)) {
-        return false;
+    std::vector<std::string> names;
+    if (!listFiles(base, DataFileEnding, names)) {
+        complain(base + ": " + systemFiles().lastError());
+        return std::nullopt;
     }
-    std::sort(names.begin(), names.end());
-    return true;
+    std::vector<GameFile> files;
+    files.reserve(names.size());
+    for (const std::string& name : names) {
+        files.push_back({.name = name.substr(0, name.size() - DataFileEnding.size()), .path = base + name});
+    }
+    return files;
+}
+
+/// In the order of their bytes, which is the same on every system.
+void sortByPath(std::vector<GameFile>& files) {
+    std::sort(files.begin(), files.end(),
+              [](const GameFile& a, const GameFile& b) { return a.path < b.path; });
 }
 
 int printPerformance(const std::string& base, bool usesEstimate) {
-    std::string folder;
-    std::vector<std::string> names;
-    if (!listVehicles(base, folder, names)) {
-        complain(folder + ": " + systemFiles().lastError());
+    std::optional<std::vector<GameFile>> files = listVehicles(base);
+    if (!files) {
         return CouldNot;
     }
+    sortByPath(*files);
     WeaponCatalogue catalogue;
     if (isFolder(categoryFolder(base, Category::Weapons))) {
         catalogue.load(base);
@@ -103,22 +115,23 @@ int printPerformance(const std::string& base, bool usesEstimate) {
     const WeaponMasses weapons(catalogue);
     int status = Done;
     std::string out(PerformanceHeading);
-    for (const std::string& diskName : names) {
+    GameFileWalk walk(std::move(*files));
+    walk.run([&](const GameFile& file, std::string_view content) {
         Diagnostics diagnostics;
-        const std::string name = diskName.substr(0, diskName.size() - DataFileEnding.size());
-        const std::optional<SquadRecord> unit = readUnitFile(folder + diskName, name, diagnostics);
-        if (!unit) {
-            complain(folder + diskName + ": " + systemFiles().lastError());
-            status = Findings;
-        } else if (!unit->vehicle) {
-            complain(name + ": holds no vehicle");
-            status = Findings;
+        const SquadRecord unit = readUnit(content, file.name, diagnostics);
+        if (unit.vehicle) {
+            status = std::max(status, printVehicle(vehicleFigures(unit, weapons), usesEstimate, out));
         } else {
-            status = std::max(status, printVehicle(vehicleFigures(*unit, weapons), usesEstimate, out));
+            complain(file.name + ": holds no vehicle");
+            status = Findings;
         }
         for (const Finding& finding : diagnostics) {
             complain(debuggerLine(finding));
         }
+    });
+    for (const FileFailure& failure : walk.failures()) {
+        complain(failure.path + ": " + failure.reason);
+        status = Findings;
     }
     return std::fwrite(out.data(), 1, out.size(), stdout) == out.size() ? status : CouldNot;
 }

@@ -66,6 +66,12 @@ inline constexpr std::string_view OffsetAngle = "offset-angle";
 inline constexpr std::string_view OffsetHeight = "offset-height";
 inline constexpr std::string_view NoRotateTime = "no-rotate-time";
 inline constexpr std::string_view RevolutionLimit = "revolution-limit";
+inline constexpr std::string_view AmmoWithoutWeapon = "ammo-without-weapon";
+
+// Of values that name what is not there.
+inline constexpr std::string_view UnknownWord = "unknown-word";
+inline constexpr std::string_view UnknownWeapon = "unknown-weapon";
+inline constexpr std::string_view MissingPicture = "missing-picture";
 
 } // namespace finding_key
 

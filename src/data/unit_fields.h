@@ -175,10 +175,8 @@ inline constexpr auto Armoured = Holders::allBut(Holder::FixedWeapon);
 inline constexpr FieldTraits PlateTraits = {.unit = Millimetres, .stored = Armoured};
 /// Thicknesses that the armour dialog takes.
 inline constexpr NumberRange Thickness = {.least = 0, .greatest = 100000};
-inline constexpr FieldTraits SpacedTraits = {.unit = Millimetres,
-                                             .range = {.zeroForOtherTexts = true},
-                                             .omitted = Omission::UpToDefault,
-                                             .stored = Armoured};
+inline constexpr FieldTraits SpacedTraits = {
+    .unit = Millimetres, .omitted = Omission::UpToDefault, .stored = Armoured};
 
 inline constexpr auto UpperFront =
     row::reference(FieldKind::Plate, &ArmourRecord::upperFront, "upper_front", "Upper front", PlateTraits);

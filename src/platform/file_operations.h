@@ -43,10 +43,12 @@ public:
 
     /// The whole content of a file into `content`; false when it cannot be opened or read.
     virtual bool read(const std::string& path, std::string& content) = 0;
+    /// Leaves the reason of the last failure as it is.
     virtual bool exists(const std::string& path) = 0;
     /// Creates a new file that nobody else may write; fails when it exists. Null on failure.
     virtual std::unique_ptr<OutputFile> createNew(const std::string& path) = 0;
-    /// Puts `from` in the place of `to` in one step; `to` need not exist.
+    /// Puts `from` in the place of `to` in one step; `to` need not exist. What the system lets others do with
+    /// `to` stays as it was.
     virtual bool replace(const std::string& from, const std::string& to) = 0;
     /// Gives a file another name; fails where another file has it. The same letters in another case are a
     /// fair new name.
@@ -88,6 +90,34 @@ bool listStampedFiles(const std::string& folder, std::string_view ending, std::v
 
 /// Whether `path` names a folder.
 bool isFolder(const std::string& path);
+
+enum class PathKind : std::uint8_t {
+    Missing,
+    File, ///< a regular one
+    Folder,
+    Link, ///< stands for another path, whatever there is
+    Other ///< a device, a pipe, a socket
+};
+
+/// What stands at a path, and which it is: two paths of the same volume and number lead to one file.
+struct PathStatus {
+    PathKind kind = PathKind::Missing;
+    std::uint64_t volume = 0;
+    std::uint64_t number = 0;
+    std::uint64_t names = 0; ///< how many names of one file lead here
+    [[nodiscard]] bool isSameAs(const PathStatus& other) const {
+        return kind != PathKind::Missing && kind == other.kind && volume == other.volume &&
+               number == other.number;
+    }
+};
+
+/// Looks at the path itself: a link at its end is not followed, unless a separator stands behind it.
+PathStatus statusOf(const std::string& path);
+
+/// Whether a folder's entry can be reached by its name. Some systems let names hold the separator of paths.
+inline bool isPlainName(std::string_view name) {
+    return name.find_first_of("\\/") == std::string_view::npos;
+}
 
 /// The present local time as "2026-11-21 090533", to name backups.
 std::string timeStamp();

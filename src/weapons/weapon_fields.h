@@ -32,7 +32,7 @@ inline constexpr auto BarrelLength =
                 {.unit = "mm", .range = Short, .omitted = Omission::UpToDefault, .stored = WithBarrel});
 inline constexpr auto Calibre =
     row::real(&WeaponRecord::calibre, "calibre", "Calibre",
-              {.unit = "mm", .omitted = Omission::UpToDefault, .stored = WithBarrel});
+              {.unit = "mm", .range = NotNegative, .omitted = Omission::UpToDefault, .stored = WithBarrel});
 inline constexpr auto NumberOfBarrels = row::number(
     &WeaponRecord::numberOfBarrels, "number_barrels", "Number of barrels",
     {.range = {.least = 1, .greatest = UINT8_MAX}, .omitted = Omission::UpToDefault, .stored = WithBarrel});
@@ -75,14 +75,19 @@ inline constexpr auto Era =
     row::choice(&AmmoTypeRecord::era, "era", "HEAT era", heatEraNames,
                 {.omitted = Omission::Default, .stored = Holders::of(Holder::ShapedCharge)});
 /// Grenades are thrown.
-inline constexpr auto Speed = row::real(&AmmoTypeRecord::speed, "speed", "Speed",
-                                        {.unit = "m/s", .storedWithin = Holders::allBut(Holder::Grenade)});
-inline constexpr auto Mass = row::real(&AmmoTypeRecord::mass, "mass", "Mass", {.unit = "kg"});
-inline constexpr auto HighExplosive = row::real(
-    &AmmoTypeRecord::highExplosive, "HE", "High explosive",
-    {.unit = "kg", .omitted = Omission::UpToDefault, .stored = Holders::allBut(Holder::PlainSmoke)});
-inline constexpr auto ExplodeIn = row::real(&AmmoTypeRecord::explodeIn, "explode_in", "Fuse",
-                                            {.unit = "s", .omitted = Omission::UpToDefault});
+inline constexpr auto Speed =
+    row::real(&AmmoTypeRecord::speed, "speed", "Speed",
+              {.unit = "m/s", .range = NotNegative, .storedWithin = Holders::allBut(Holder::Grenade)});
+inline constexpr auto Mass =
+    row::real(&AmmoTypeRecord::mass, "mass", "Mass", {.unit = "kg", .range = NotNegative});
+inline constexpr auto HighExplosive = row::real(&AmmoTypeRecord::highExplosive, "HE", "High explosive",
+                                                {.unit = "kg",
+                                                 .range = NotNegative,
+                                                 .omitted = Omission::UpToDefault,
+                                                 .stored = Holders::allBut(Holder::PlainSmoke)});
+inline constexpr auto ExplodeIn =
+    row::real(&AmmoTypeRecord::explodeIn, "explode_in", "Fuse",
+              {.unit = "s", .range = NotNegative, .omitted = Omission::UpToDefault});
 inline constexpr auto Guided = row::choice(&AmmoTypeRecord::guided, "guided", "Guidance", guidanceModeNames,
                                            {.omitted = Omission::Default});
 inline constexpr auto SmokeTrail = row::flag(&AmmoTypeRecord::smokeTrail, "smoke_trail", "Smoke trail");

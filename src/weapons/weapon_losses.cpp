@@ -24,10 +24,12 @@ std::vector<Finding> weaponSaveLosses(std::string_view fileContent) {
     TracedFile file(fileContent);
     const std::string text = weaponFileText(readTraced(file));
     TracedFile saved(text);
-    readTraced(saved);
-    return findLosses(
+    const std::string again = weaponFileText(readTraced(saved));
+    std::vector<Finding> losses = findLosses(
         file, saved,
         {.isElement = weapon_rules::isElement, .keys = {}, .goesWithoutSaying = goesWithoutSaying});
+    addReadBack(fileContent, text, again, losses);
+    return losses;
 }
 
 } // namespace varrocade

@@ -7,15 +7,19 @@
 #include "view/drawing/part_at.h"
 #include "view/drawing/part_positions.h"
 #include "view/drawing/plate_outline.h"
+#include "view/drawing/traverse.h"
 #include "view/drawing/view_place.h"
+#include "view/painting/pixmap.h"
 #include "view/sheet/data_sheet.h"
 #include "view/sheet/timeline.h"
 #include "weapons/weapon_files.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <limits>
+#include <vector>
 
 namespace varrocade::fuzz {
 
@@ -30,6 +34,52 @@ public:
     bool isSolidAt(const std::string&, double, double) override { return true; }
 };
 
+/// What the painter computes for items before it hands them to the device.
+class PaintedGeometry {
+public:
+    explicit PaintedGeometry(const Fit& fit) : fit_(fit) {}
+
+    void operator()(const SectorItem& item) const {
+        const std::vector<Point> corners = outlineOf(item);
+        require(corners.size() < 1000, "a sector of too many corners", "", "");
+        for (const Point corner : corners) {
+            pixelOf(corner);
+        }
+    }
+    void operator()(const PictureItem& item) const {
+        pixelOf(item.centre);
+        const PixmapPlacement placement{
+            .width = fit_.length(item.width), .height = fit_.length(item.height), .angle = item.angle};
+        const PixelBox box = boxOf(placement);
+        const PixelBox shown{std::max(box.left, -8), std::max(box.top, -8), std::clamp(box.width, 0, 16),
+                             std::clamp(box.height, 0, 16)};
+        placedPixmap({2, 2, {1, 2, 3, 4}}, placement, shown);
+    }
+    void operator()(const LineItem& item) const {
+        pixelOf(item.from);
+        pixelOf(item.to);
+    }
+    void operator()(const LabelItem& item) const { pixelOf(item.top); }
+    void operator()(const ShapeItem& item) const {
+        for (const Point corner : item.corners) {
+            pixelOf(corner);
+        }
+    }
+    template <typename Item>
+    void operator()(const Item& item) const {
+        pixelOf(item.centre);
+    }
+
+private:
+    void pixelOf(Point point) const {
+        require(std::isfinite(point.x) && std::isfinite(point.y), "an item nowhere", "", "");
+        nearestPixel(fit_.screenX(point.x));
+        nearestPixel(fit_.screenY(point.y));
+    }
+
+    const Fit& fit_;
+};
+
 void look(const DrawList& list) {
     HalfThePictures pictures;
     for (const double edge : {list.least.x, list.least.y, list.greatest.x, list.greatest.y}) {
@@ -38,7 +88,11 @@ void look(const DrawList& list) {
     const Fit fit = fitInto(list, 400, 800, 20);
     require(fit.pixelsPerMetre > 0, "a drawing without a scale", "", "");
     partAt(list, fit.pointAt(200, 400), 9, pictures);
-    zoomedAbout(fit, 200, 400, 5);
+    for (const Fit& view : {fit, zoomedAbout(fit, 200, 400, 50), zoomedAbout(fit, 200, 400, -50)}) {
+        for (const DrawItem& item : list.items) {
+            std::visit(PaintedGeometry(view), item);
+        }
+    }
 }
 
 void moveParts(SquadRecord& unit, const DrawList& list) {
@@ -71,7 +125,8 @@ void showUnit(SquadRecord unit) {
     unitSheet(unit, list.missingPictures, none);
     const TimelineScale scale = timelineScale(unit.availability, 300, 96);
     timelineSteps(unit.availability, scale);
-    timelineLabelStep(scale, 30);
+    const int years = (scale.lastYear - scale.firstYear) / timelineLabelStep(scale, 30);
+    require(years < 1000, "a timeline of too many years", "", "");
     moveParts(unit, list);
 }
 

@@ -251,7 +251,7 @@ TEST_F(DetailsTest, HandMadeFileIsReplacedOnlyWhenToldTo) {
     EXPECT_NE(contentOf(box).text.find("paint"), std::string::npos) << contentOf(box);
     finish(box, IDCANCEL);
     EXPECT_EQ(tigerText(), before);
-    EXPECT_FALSE(game.exists("Backups"));
+    EXPECT_TRUE(game.backups(dataFile(Tiger)).empty());
 
     details = openDetails();
     EXPECT_EQ(details.control(IDC_WEIGHT).text(), "1") << "the change is not lost";

@@ -189,11 +189,8 @@ std::vector<DialogCase> turretCases() {
          {setText(IDC_OFFSET_ANGLE, "361")},
          refusal("Weapons", "\"Angle\" must be a whole number from -360 to 360"),
          IDC_OFFSET_ANGLE,
-         {setText(IDC_OFFSET_ANGLE, "5"), chooseLine(IDC_ENTRY_LIST, 1), press(IDC_ENTRY_DELETE)},
-         {{"<offsetY>145</offsetY>", "<offsetY>145</offsetY><offset_angle>5</offset_angle>"},
-          {"\t\t\t<weapon><type>WEAPON_HMG_MG34</type><offsetX>30</offsetX><offsetY>120</offsetY></"
-           "weapon>\r\n",
-           ""}}},
+         {setText(IDC_OFFSET_ANGLE, "5")},
+         {{"<offsetY>145</offsetY>", "<offsetY>145</offsetY><offset_angle>5</offset_angle>"}}},
         {{TurretStep, {IDC_WEAPONS_BUTTON, "Weapons"}, {IDC_AMMO_BUTTON, "Ammunition"}},
          {setText(IDC_ROUNDS, "-1")},
          refusal("Ammunition", "\"Rounds\" must be a whole number of at least 0"),
@@ -326,6 +323,36 @@ TEST_F(DialogsTest, HullAndWhatItCarries) {
 
 TEST_F(DialogsTest, TurretsAndWeapons) {
     runCases(turretCases());
+}
+
+TEST_F(DialogsTest, ADeletedWeaponAsksForItsAmmunition) {
+    start();
+    select(Tiger);
+    const std::string before = tigerText();
+    std::vector<Window> dialogs = open({TurretStep, {IDC_WEAPONS_BUTTON, "Weapons"}});
+    act(dialogs.back(), {chooseLine(IDC_ENTRY_LIST, 1), press(IDC_ENTRY_DELETE)});
+    const Window weapons = dialogs.back();
+    weapons.startPress(IDOK);
+    ASSERT_TRUE(eventually([&] { return !weapons.isEnabled(); })) << "nobody asks";
+    const Window question = editor->waitForDialog("Weapons");
+    EXPECT_EQ(
+        contentOf(question),
+        (Box{"Weapons",
+             "The weapon HMG MG34 is no longer there. Does its ammunition (rounds: 3000) go with it?\n\n"
+             "Yes: it is deleted.\nNo: it stays, for a weapon that is not there.",
+             {IDCANCEL, IDYES, IDNO}}));
+    // The answer ends the dialog below the box too.
+    question.startPress(IDYES);
+    EXPECT_TRUE(eventually([&] { return !weapons.exists(); }));
+    dialogs.pop_back();
+    closeAll(dialogs, IDOK);
+    std::string expected = withReplaced(before,
+                                        "\t\t\t<weapon><type>WEAPON_HMG_MG34</type><offsetX>30</offsetX>"
+                                        "<offsetY>120</offsetY></weapon>\r\n",
+                                        "");
+    expected =
+        withReplaced(expected, "\t\t\t<ammo><for>WEAPON_HMG_MG34</for><rounds>3000</rounds></ammo>\r\n", "");
+    EXPECT_EQ(tigerText(), expected);
 }
 
 TEST_F(DialogsTest, CrewEndsAtThirteen) {

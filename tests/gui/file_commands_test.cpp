@@ -51,11 +51,12 @@ protected:
                  game.read(dataFile(WrittenAlike[i], Categories[i].name)));
         }
     }
-    /// Presses "Delete..." and answers.
+    /// Presses "Delete..." and answers the box, which names the file.
     void startDeleting(int button, std::string_view kind = "squad") const {
+        const std::string caption = "Delete " + selected();
         window.startPress(DeleteId);
         const std::string question = "Are you sure you want to delete this " + std::string(kind) + "?";
-        answer({"Delete", question, {IDYES, IDNO}}, button);
+        answer({caption, question, {IDYES, IDNO}}, button);
     }
     void takeName(Window dialog, std::string_view name) const {
         dialog.setText(IDC_NEW_NAME, name);
@@ -113,10 +114,18 @@ TEST_F(FileCommandsTest, NewWeapon) {
     Window dialog = openDialog(NewId, "New Weapon");
     expectNameRefusals(dialog, "WEAPON_TEST");
     expectRefusal(dialog, "WEAPON_CANNON_88_KWK36_L56", "Weapon name already exists");
-    takeName(dialog, "WEAPON_CANNON_99_TEST");
-    expectOpen("WEAPON_CANNON_99_TEST");
+    EXPECT_EQ(dialog.control(IDC_NEW_WEAPON_TYPE).text(), "Cannon (WEAPON_CANNON)") << "as the name has it";
+    dialog.setText(IDC_NEW_NAME, "99_TEST");
+    dialog.control(IDC_NEW_WEAPON_TYPE).choose("Mortar (WEAPON_MORTAR)");
+    EXPECT_EQ(dialog.control(IDC_NEW_WEAPON_PREFIX).text(), "File: WEAPON_MORTAR_99_TEST");
+    dialog.startPress(IDOK);
+    // The editor of what is new opens at once.
+    finish(editor->waitForDialog("Weapon Data"), IDCANCEL);
+    expectOpen("WEAPON_MORTAR_99_TEST");
     EXPECT_EQ(entries().size(), count + 1);
-    EXPECT_NE(game.read(dataFile("WEAPON_CANNON_99_TEST", "Weapons")), "");
+    const std::string text = game.read(dataFile("WEAPON_MORTAR_99_TEST", "Weapons"));
+    EXPECT_NE(text.find("<calibre>81.2</calibre>"), std::string::npos) << text;
+    EXPECT_NE(text.find("<flavour>FLAVOUR_MORTAR_HE</flavour>"), std::string::npos) << text;
 }
 
 TEST_F(FileCommandsTest, DuplicateWritesTheOpenRecordUnderAnotherName) {
@@ -145,7 +154,11 @@ TEST_F(FileCommandsTest, RenameMovesTheFileAndTheOpenRecord) {
     start();
     forEachWrittenAlike([&](const std::string& name, std::string_view category, const std::string& original) {
         const std::string renamed = name + " II";
-        const Window dialog = openDialog(RenameId, "Rename");
+        window.post(WM_COMMAND, MAKEWPARAM(RenameId, 0));
+        if (category == "Weapons") {
+            finish(editor->waitForDialog("Weapon in use"));
+        }
+        const Window dialog = editor->waitForDialog("Rename");
         EXPECT_EQ(dialog.control(IDC_NEW_NAME).text(), name);
         expectRefusal(dialog, "", NoName);
         expectRefusal(dialog, name + "?", NoCharacter);
@@ -155,9 +168,9 @@ TEST_F(FileCommandsTest, RenameMovesTheFileAndTheOpenRecord) {
         takeName(dialog, renamed);
         EXPECT_EQ(game.read(dataFile(renamed, category)), original);
         EXPECT_FALSE(game.exists(dataFile(name, category)) || isListed(name));
+        EXPECT_EQ(game.backups(dataFile(name, category)), std::vector<std::string>{original});
         expectOpen(renamed);
     });
-    EXPECT_FALSE(game.exists("Backups")) << "a new name alone is no unsaved change";
     // What is saved from now on goes to the new name.
     chooseCategory(VehiclesId);
     const Window details = openDetails();

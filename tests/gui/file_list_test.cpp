@@ -103,7 +103,7 @@ TEST_F(FileListTest, KeysMoveAndCommand) {
     finish(rename, IDCANCEL);
 
     list().pressKey(VK_DELETE);
-    answer({"Delete", "Are you sure you want to delete this squad?", {IDYES, IDNO}}, IDNO);
+    answer({"Delete " + name, "Are you sure you want to delete this squad?", {IDYES, IDNO}}, IDNO);
     EXPECT_TRUE(game.exists(dataFile(name)));
 
     game.write(dataFile("Polish New One"), "<squad>");

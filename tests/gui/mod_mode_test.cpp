@@ -89,8 +89,9 @@ TEST_F(ModModeTest, ExistingModKeepsTheOpenUnitAndSavesItThere) {
     writeFile(userMod.modFolder() + dataFile(Tiger), original);
     sendCommand(ModModeCommand);
     expectMode(userMod.modFolder());
-    EXPECT_EQ(selected(), Tiger);
+    EXPECT_EQ(selected(), "") << "what is open is the game's";
     EXPECT_TRUE(isEnabled(DuplicateId));
+    EXPECT_FALSE(isEnabled(DeleteId));
     const Window details = openDetails();
     details.setText(IDC_WEIGHT, "1");
     finish(details);
@@ -100,7 +101,8 @@ TEST_F(ModModeTest, ExistingModKeepsTheOpenUnitAndSavesItThere) {
     EXPECT_FALSE(game.exists("Backups"));
 
     window.startPress(DeleteId);
-    answer({"Delete", "Are you sure you want to delete this squad?", {IDYES, IDNO}}, IDYES);
+    answer({"Delete " + std::string(Tiger), "Are you sure you want to delete this squad?", {IDYES, IDNO}},
+           IDYES);
     EXPECT_TRUE(eventually([&] { return entries().empty(); }));
     EXPECT_FALSE(fileExists(userMod.modFolder() + dataFile(Tiger)));
     EXPECT_EQ(game.read(dataFile(Tiger)), original);

@@ -114,6 +114,26 @@ TEST_F(PainterTest, WhatIsMissingOrBrokenHasAFrame) {
                    {{-35, 70}, PlainGround}});
 }
 
+TEST_F(PainterTest, PicturesTooLargeAndBrokenOnesAreTriedOnce) {
+    using namespace std::string_literals;
+    // 30,000 pixels either way, as the header says.
+    game.write("bomb.png", "\x89PNG\r\n\x1A\n\0\0\0\x0DIHDR\0\0\x75\x30\0\0\x75\x30\x08\x06\0\0\0"s);
+    game.write("broken.png", "no picture");
+    const std::string bomb = game.path() + "bomb.png";
+    const std::string broken = game.path() + "broken.png";
+    EXPECT_EQ(pictures.pixels(bomb), nullptr);
+    EXPECT_EQ(pictures.failureOf(bomb), "Too large");
+    EXPECT_EQ(pictures.pixels(broken), nullptr);
+    EXPECT_EQ(pictures.failureOf(broken), "Unreadable");
+    EXPECT_EQ(pictures.failureOf(game.path() + "red.png"), "");
+    // Only what is forgotten is looked at again.
+    writeHalf(broken, 4, 4, Red);
+    EXPECT_EQ(pictures.pixels(broken), nullptr);
+    pictures.clear();
+    EXPECT_NE(pictures.pixels(broken), nullptr);
+    EXPECT_EQ(pictures.failureOf(broken), "");
+}
+
 TEST_F(PainterTest, TheSelectedPartHasARingInTheSystemsColour) {
     const UnitPart turret{PartKind::Component, 1, 0};
     DrawList list;

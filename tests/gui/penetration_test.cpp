@@ -40,19 +40,6 @@ void typeAngle(Window dialog, std::string_view text) {
                 reinterpret_cast<LPARAM>(dialog.control(AngleBox).handle()));
 }
 
-std::string clipboardText() {
-    std::string text;
-    if (OpenClipboard(nullptr) != FALSE) {
-        HANDLE memory = GetClipboardData(CF_TEXT);
-        if (const void* bytes = memory != nullptr ? GlobalLock(memory) : nullptr) {
-            text = static_cast<const char*>(bytes);
-            GlobalUnlock(memory);
-        }
-        CloseClipboard();
-    }
-    return text;
-}
-
 /// A weapon with the given ammunition entries.
 std::string weaponText(std::string_view name, std::string_view ammo) {
     return "<weapon><name>" + std::string(name) +
@@ -191,7 +178,8 @@ TEST_F(PenetrationTest, WeaponsFollowTheFilesAndTheMod) {
     chooseCategory(WeaponsId);
     select("WEAPON_RIFLE_KAR98K");
     window.startPress(DeleteId);
-    finish(editor->waitForDialog("Delete"), IDYES);
+    finish(editor->waitForDialog("Weapon in use"));
+    finish(editor->waitForDialog("Delete WEAPON_RIFLE_KAR98K"), IDYES);
     EXPECT_FALSE(isOffered("WEAPON_RIFLE_KAR98K"));
 }
 

@@ -171,6 +171,19 @@ std::ostream& operator<<(std::ostream& out, const Box& box) {
     return out;
 }
 
+std::string clipboardText() {
+    std::string text;
+    if (OpenClipboard(nullptr) != FALSE) {
+        HANDLE memory = GetClipboardData(CF_TEXT);
+        if (const void* bytes = memory != nullptr ? GlobalLock(memory) : nullptr) {
+            text = static_cast<const char*>(bytes);
+            GlobalUnlock(memory);
+        }
+        CloseClipboard();
+    }
+    return text;
+}
+
 Box contentOf(Window messageBox) {
     Box box{.caption = messageBox.text(), .text = messageBox.control(MessageTextId).text(), .buttons = {}};
     for (int id = IDOK; id <= IDCONTINUE; ++id) {

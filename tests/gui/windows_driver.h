@@ -109,6 +109,9 @@ std::ostream& operator<<(std::ostream& out, const Box& box);
 /// The content of a message box.
 Box contentOf(Window messageBox);
 
+/// The text on the clipboard, or nothing.
+std::string clipboardText();
+
 /// The visible top-level windows of a process.
 std::vector<Window> topLevelWindows(DWORD processId);
 

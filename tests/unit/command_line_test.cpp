@@ -3,7 +3,13 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <fstream>
 #include <iterator>
+
+#ifndef _WIN32
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
 
 #include <gtest/gtest.h>
 
@@ -102,14 +108,64 @@ TEST(CommandLine, RewritesAFile) {
     EXPECT_EQ(runCommand(folder, "rewrite infantry $in.txt $out.txt").status, cli::Done);
     EXPECT_EQ(folder.read("out.txt"), cleanSquad());
     EXPECT_EQ(folder.read("in.txt"), LooseSquad);
-    // In place, and over what is there.
-    EXPECT_EQ(runCommand(folder, "rewrite atguns $in.txt $in.txt").status, cli::Done);
-    EXPECT_EQ(folder.read("in.txt"), cleanSquad());
+    // Over what is there.
+    folder.write("out.txt", "x");
+    EXPECT_EQ(runCommand(folder, "rewrite atguns $in.txt $out.txt").status, cli::Done);
+    EXPECT_EQ(folder.read("out.txt"), cleanSquad());
     // Where a folder stands in the way.
     std::filesystem::create_directory(folder.nativePath("folder.txt"));
     EXPECT_EQ(runCommand(folder, "rewrite infantry $in.txt $folder.txt").status, cli::CouldNot);
     EXPECT_EQ(folder.files().size(), 2U) << "a temporary file was left";
 }
+
+#ifndef _WIN32
+// What other systems make of links, pipes, modes and backslashes.
+TEST(CommandLine, RewritesRegularFilesOnlyAndKeepsWhoMayReadThem) {
+    namespace fs = std::filesystem;
+    const TemporaryFolder folder;
+    folder.write("in\\a.txt", LooseSquad);
+    folder.write("victim.txt", LooseSquad);
+    fs::create_directory(folder.nativePath("out"));
+    std::ofstream(folder.nativePath("in") + "/..\\victim.txt") << LooseSquad;
+    ASSERT_EQ(::mkfifo((folder.nativePath("in") + "/pipe.txt").c_str(), 0600), 0);
+    fs::create_symlink("a.txt", folder.nativePath("in\\link.txt"));
+    const CommandOutcome outcome = runCommand(folder, "rewrite infantry $in $out");
+    EXPECT_EQ(outcome.status, cli::CouldNot);
+    EXPECT_EQ(outcome.complaints,
+              "varrocade-data: $in\\..\\victim.txt: cannot be read: its name holds a separator of paths\n"
+              "varrocade-data: $in\\link.txt: cannot be read: it is a link\n"
+              "varrocade-data: $in\\pipe.txt: cannot be read: it is no regular file\n");
+    EXPECT_EQ(folder.read("victim.txt"), LooseSquad);
+    EXPECT_EQ(folder.read("out\\a.txt"), cleanSquad());
+
+    folder.write("named.txt", "x");
+    fs::create_hard_link(folder.nativePath("named.txt"), folder.nativePath("other name.txt"));
+    fs::create_symlink("named.txt", folder.nativePath("link.txt"));
+    fs::create_directory_symlink("in", folder.nativePath("same"));
+    for (const std::string call :
+         {"$in\\a.txt $named.txt", "$in\\a.txt $link.txt", "$in\\a.txt $in\\pipe.txt", "$in\\a.txt /dev/null",
+          "/dev/null $new.txt", "$in $same"}) {
+        const CommandOutcome refused = runCommand(folder, "rewrite infantry " + call);
+        EXPECT_EQ(refused.status, cli::CouldNot) << call;
+        EXPECT_NE(refused.complaints.find(": it "), std::string::npos) << refused.complaints;
+    }
+    EXPECT_EQ(folder.read("named.txt"), "x");
+    EXPECT_TRUE(fs::is_symlink(folder.nativePath("link.txt")) && fs::exists("/dev/null"));
+
+    folder.write("mode.txt", "x");
+    constexpr auto mode = fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read;
+    fs::permissions(folder.nativePath("mode.txt"), mode);
+    EXPECT_EQ(runCommand(folder, "rewrite infantry $in\\a.txt $mode.txt").status, cli::Done);
+    EXPECT_EQ(fs::status(folder.nativePath("mode.txt")).permissions(), mode);
+    // The reason is that of what was tried first. Who is root meets no such folder.
+    fs::permissions(folder.nativePath("out"), fs::perms::owner_read | fs::perms::owner_exec);
+    if (::geteuid() != 0) {
+        EXPECT_NE(runCommand(folder, "rewrite infantry $in\\a.txt $out\\b.txt").complaints.find("ermission"),
+                  std::string::npos);
+    }
+    fs::permissions(folder.nativePath("out"), fs::perms::owner_all);
+}
+#endif
 
 TEST(CommandLine, RewritesTheSampleFolders) {
     const TemporaryFolder folder;
@@ -144,7 +200,7 @@ TEST(CommandLine, GoesOnBehindAFileItCannotRewrite) {
     const CommandOutcome outcome = runCommand(folder, "rewrite infantry $in $out");
     EXPECT_EQ(outcome.status, cli::CouldNot);
     EXPECT_NE(outcome.complaints.find("c.txt"), std::string::npos);
-    EXPECT_EQ(outcome.complaints.find("m.txt: cannot be read") == std::string::npos,
+    EXPECT_EQ(outcome.complaints.find("m.txt: cannot be read: it is a link") == std::string::npos,
               static_cast<bool>(noSymbolicLinks));
     EXPECT_EQ(folder.read("out\\a.txt"), cleanSquad());
     EXPECT_EQ(folder.read("out\\d.TXT"), cleanSquad());

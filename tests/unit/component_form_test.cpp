@@ -149,6 +149,9 @@ TEST(ArmourForm, NotGivenIsAStateOfItsOwn) {
     EXPECT_EQ(port.texts[IDC_PLATES + 2], "?");
     EXPECT_EQ(port.texts[IDC_PLATES + 5], "70 mm");
     EXPECT_EQ(armour.lowerFront.thickness, 70);
+    port.texts[IDC_PLATES + 1] = "90";
+    port.texts[IDC_SIDE_SPACED] = "6O";
+    EXPECT_EQ(readForm(port, armourShape(), component)->control, IDC_SIDE_SPACED) << "no 0 without a word";
     component.kind = ComponentKind::Hull;
     fillForm(port, armourShape(), component);
     EXPECT_TRUE(port.disabled.contains(IDC_MANTLET_GIVEN)) << "a turret's";

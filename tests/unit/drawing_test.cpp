@@ -8,6 +8,9 @@
 #include "view/drawing/view_place.h"
 #include "view_support.h"
 
+#include <limits>
+#include <optional>
+
 #include <gtest/gtest.h>
 
 namespace varrocade::tests {
@@ -143,6 +146,30 @@ TEST(DrawVehicle, TurnsWhatIsOnATurretWithinItsTraverse) {
     EXPECT_EQ(sectors[1].centre, (Point{50, 200}));
     EXPECT_DOUBLE_EQ(allOf<MarkItem>(list)[1].direction.value(), 60);
     EXPECT_DOUBLE_EQ(allOf<MarkItem>(list)[0].elevation, 90);
+}
+
+TEST(DrawVehicle, SectorsAreBoundedWhateverTheLimitsSay) {
+    constexpr std::int32_t most = std::numeric_limits<std::int32_t>::max();
+    constexpr std::int32_t least = std::numeric_limits<std::int32_t>::min();
+    struct Case {
+        std::int32_t left, right;
+        std::optional<double> sweep;
+    };
+    for (const Case& c :
+         {Case{15, 10, 25}, Case{-5, 20, 15}, Case{0, most, 360}, Case{most, most, 360},
+          Case{least, 0, std::nullopt}, Case{5, -5, std::nullopt}, Case{least, most, std::nullopt}}) {
+        const auto sector = sectorOf({}, 100, 0, c.left, c.right, BowGun);
+        ASSERT_EQ(sector.has_value(), c.sweep.has_value()) << c.left << " " << c.right;
+        if (sector) {
+            EXPECT_DOUBLE_EQ(sector->to - sector->from, *c.sweep);
+            EXPECT_LE(outlineOf(*sector).size(), 183U);
+        }
+    }
+    const std::vector<Point> corners = outlineOf({{1, 2}, 100, -90, 90});
+    expectNear(corners[1], {-99, 2});
+    expectNear(corners[46], {1, 102});
+    expectNear(corners.back(), {1, 2});
+    EXPECT_EQ(nearestPixel(-1e300), -(1 << 24));
 }
 
 TEST(ComponentPlaces, WhatIsKeptOfAComponentGoesWithIt) {

@@ -2,7 +2,6 @@
 
 #include "editors/form/form.h"
 #include "fake_form_port.h"
-#include "weapons/weapon_record.h"
 
 #include <gtest/gtest.h>
 
@@ -10,11 +9,14 @@
 
 namespace varrocade {
 
+/// An enumeration of which forms offer some values only.
+enum class SampleGuidance : std::uint8_t { Unguided, FireAndForget, TopAttack };
+
 template <>
-struct FormWords<GuidanceMode> {
-    static constexpr auto Table = std::to_array<FormWord<GuidanceMode>>(
-        {{GuidanceMode::Unguided, "Unguided"}, {GuidanceMode::TopAttack, "Top attack"}});
-    static constexpr std::span<const FormWord<GuidanceMode>> words() { return Table; }
+struct FormWords<SampleGuidance> {
+    static constexpr auto Table = std::to_array<FormWord<SampleGuidance>>(
+        {{SampleGuidance::Unguided, "Unguided"}, {SampleGuidance::TopAttack, "Top attack"}});
+    static constexpr std::span<const FormWord<SampleGuidance>> words() { return Table; }
 };
 
 namespace tests {
@@ -30,7 +32,7 @@ struct Sample {
     std::string name = "two\r\nlines";
     FixedString<4> code{"ab"};
     Text image{"tracer"};
-    GuidanceMode guided = GuidanceMode::FireAndForget;
+    SampleGuidance guided = SampleGuidance::FireAndForget;
     std::optional<std::int16_t> given;
     bool isTracer = false;
     bool operator==(const Sample&) const = default;

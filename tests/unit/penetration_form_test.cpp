@@ -5,6 +5,7 @@
 #include "analysis/penetration.h"
 #include "fake_form_port.h"
 #include "resources/resource.h"
+#include "view/chart/chart.h"
 
 #include <gtest/gtest.h>
 

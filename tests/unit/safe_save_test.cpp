@@ -184,26 +184,48 @@ TEST(Saving, DoesNothingForARecordOfAnotherKind) {
     EXPECT_TRUE(folder.files().empty());
 }
 
-TEST(Backups, AreMadeOncePerRunAndFile) {
+TEST(Backups, HoldEveryContentThatWasReplacedOnce) {
     const TemporaryFolder folder;
-    folder.write(UnitFile, OldText);
-    folder.write("Data\\Infantry\\Other.txt", "other");
-    const auto saveAs = [&](BackupKeeper& backups, std::string_view name) {
-        ASSERT_EQ(save(systemFiles(), backups, folder, newSquad(name)).result, SaveResult::Saved);
+    const std::string path = folder.path() + UnitFile;
+    const auto kept = [&] { return count(folder.files(), "Backups\\Data\\Infantry\\Squad "); };
+    const auto contents = [&] {
+        Names texts;
+        for (const std::string& name : folder.files()) {
+            texts.push_back(name.starts_with("Backups") ? folder.read(name) : "");
+        }
+        std::erase(texts, "");
+        std::sort(texts.begin(), texts.end());
+        return texts;
     };
-    BackupKeeper firstRun;
-    // A new file has no former content.
-    for (const char* name : {"Squad", "Squad", "Other", "Third"}) {
-        saveAs(firstRun, name);
+    BackupKeeper backups;
+    const auto replace = [&](const std::string& content) {
+        EXPECT_FALSE(replaceDataFile(systemFiles(), backups, folder.path(), path, content));
+    };
+    replace("one");
+    EXPECT_EQ(kept(), 0U) << "a new file has no former content";
+    for (const char* content : {"two", "one", "two", "two"}) {
+        replace(content);
     }
-    EXPECT_EQ(count(folder.files(), "Backups\\"), 2U);
-    EXPECT_EQ(count(folder.files(), "Backups\\Data\\Infantry\\Other "), 1U);
-    // The next run keeps what it finds, also within the same second.
-    for (std::size_t run = 2; run < 5; ++run) {
-        BackupKeeper nextRun;
-        saveAs(nextRun, "Squad");
-        EXPECT_EQ(count(folder.files(), "Backups\\Data\\Infantry\\Squad "), run);
+    EXPECT_EQ(contents(), Names({"one", "one", "two", "two"}));
+    // Of another run, of another program, of a file with a longer name: each its own.
+    backups = {};
+    folder.write(UnitFile, "theirs");
+    folder.write("Data\\Infantry\\Squad 2.txt", "longer");
+    EXPECT_FALSE(backups.keep(systemFiles(), folder.path(), folder.path() + "Data\\Infantry\\Squad 2.txt"));
+    replace("three");
+    EXPECT_EQ(kept(), 6U);
+    EXPECT_EQ(count(folder.files(), "Backups\\Data\\Infantry\\Squad 2 "), 1U);
+    folder.write("Backups\\Data\\Infantry\\Squad 2001-01-01 000000.txt", "oldest");
+    folder.write("Backups\\Data\\Infantry\\Squad 2002-02-02 old.txt", "no backup");
+    for (int i = 0; i < 40; ++i) {
+        replace("content " + std::to_string(i));
     }
+    const Names all = contents();
+    EXPECT_EQ(kept(), 1 + BackupKeeper::MostNewest + 2) << "and the two that are none of its own";
+    for (const char* content : {"oldest", "no backup", "longer", "content 38", "content 19"}) {
+        EXPECT_NE(std::find(all.begin(), all.end(), content), all.end()) << content;
+    }
+    EXPECT_EQ(std::find(all.begin(), all.end(), "content 18"), all.end());
 }
 
 TEST(Backups, OfAFailedSaveServeTheNext) {

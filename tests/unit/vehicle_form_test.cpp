@@ -41,6 +41,27 @@ TEST(VehicleForm, TakesTheFieldsOverAsTheUserLeftThem) {
     EXPECT_TRUE(record.vehicle->amphibious);
 }
 
+TEST(VehicleForm, NamesKeepTheEndingsThatFilesGaveThem) {
+    SquadRecord record = vehicleUnit();
+    record.namedUniform = true;
+    record.uniformName = "uniform_old.png";
+    record.uniformRanks = "odd.png"; // odd.png.png
+    FakeFormPort port;
+    fillForm(port, vehicleShape(), record);
+    SquadRecord read = record;
+    ASSERT_FALSE(readForm(port, vehicleShape(), read));
+    EXPECT_EQ(read, record);
+    port.texts[IDC_UNIFORM_NAME] = "other.png";
+    port.choices[IDC_PROFILE_IMAGE] = {"even.png"};
+    port.texts[IDC_PROFILE_IMAGE] = "even.png";
+    ASSERT_FALSE(readForm(port, vehicleShape(), read));
+    EXPECT_EQ(read.uniformName, "other.png") << "written as it stands";
+    EXPECT_EQ(read.vehicle->profileImage, "even.png") << "a picture of the list";
+    port.texts[IDC_UNIFORM_NAME] = "DEFAULT.PNG";
+    ASSERT_FALSE(readForm(port, vehicleShape(), read));
+    EXPECT_TRUE(read.uniformName.empty());
+}
+
 TEST(VehicleForm, LanguageIsTwoCharactersOrNone) {
     for (const auto& [text, expected] : std::map<std::string, std::string>{
              {"fr", "fr"}, {"f", ""}, {"fra", ""}, {"Default", ""}, {"", ""}}) {

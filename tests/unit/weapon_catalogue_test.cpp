@@ -73,7 +73,7 @@ protected:
     WeaponCatalogue catalogue;
 };
 
-using Names = std::vector<std::string>;
+using WeaponNames = std::vector<std::string>;
 
 } // namespace
 
@@ -86,8 +86,8 @@ TEST_F(WeaponCatalogueTest, SortsForPeople) {
     inProgram("f", {.name = "WEAPON_792", .calibre = "7.92"});
     inMod("g", {.name = "WEAPON_75_SHORT", .barrelLength = "1000"});
     load();
-    EXPECT_EQ(names(), (Names{"WEAPON_792", "WEAPON_75_SHORT", "weapon_75_a", "WEAPON_75_A_2", "WEAPON_75_B",
-                              "WEAPON_75_LONG", "WEAPON_120"}));
+    EXPECT_EQ(names(), (WeaponNames{"WEAPON_792", "WEAPON_75_SHORT", "weapon_75_a", "WEAPON_75_A_2",
+                                    "WEAPON_75_B", "WEAPON_75_LONG", "WEAPON_120"}));
     EXPECT_TRUE(catalogue.problems().empty());
 }
 
@@ -98,10 +98,11 @@ TEST_F(WeaponCatalogueTest, PrefersTheModsFiles) {
     inMod("weapon_a", {.name = "mod's A"});
     inMod("WEAPON_C", {.name = "mod's C"});
     load();
-    EXPECT_EQ(names(), (Names{"mod's A", "mod's C", "program's B", "program's other B"}));
+    EXPECT_EQ(names(), (WeaponNames{"mod's A", "mod's C", "program's B", "program's other B"}));
     EXPECT_EQ(catalogue.entries().front().path, mod.path() + below("weapon_a"));
     catalogue.load(program.path());
-    EXPECT_EQ(names(), (Names{"program's A", "program's B", "program's other B"})) << "out of the mod again";
+    EXPECT_EQ(names(), (WeaponNames{"program's A", "program's B", "program's other B"}))
+        << "out of the mod again";
 }
 
 TEST_F(WeaponCatalogueTest, FindsByFileNameBeforeName) {
@@ -129,7 +130,7 @@ TEST_F(WeaponCatalogueTest, ListsByTypeNationalityAndPeriod) {
     struct Case {
         std::string_view nationality;
         std::string_view period;
-        Names others; ///< between the two that are everybody's
+        WeaponNames others; ///< between the two that are everybody's
     };
     const std::vector<Case> cases = {{"", "", {"german", "korean", "finnish"}},
                                      {"NATIONALITY_GERMAN", "", {"german"}},
@@ -145,15 +146,15 @@ TEST_F(WeaponCatalogueTest, ListsByTypeNationalityAndPeriod) {
                                      {"NATIONALITY_GERMAN", "Modern", {}},
                                      {"NATIONALITY_GERMAN", "WW2", {"german"}}};
     for (const Case& c : cases) {
-        Names expected = c.others;
+        WeaponNames expected = c.others;
         expected.insert(expected.begin(), "all");
         expected.emplace_back("blanks");
         EXPECT_EQ(select({.nationality = c.nationality, .period = c.period}), expected)
             << c.nationality << ", " << c.period;
     }
     const std::vector<WeaponType> machineGuns = {WeaponType::Lmg, WeaponType::Hmg};
-    EXPECT_EQ(select({.types = machineGuns}), Names{"german"});
-    EXPECT_EQ(select({.types = machineGuns, .nationality = "NATIONALITY_FRENCH"}), Names{});
+    EXPECT_EQ(select({.types = machineGuns}), WeaponNames{"german"});
+    EXPECT_EQ(select({.types = machineGuns, .nationality = "NATIONALITY_FRENCH"}), WeaponNames{});
 }
 
 TEST_F(WeaponCatalogueTest, GoesOnPastBadFiles) {
@@ -166,12 +167,13 @@ TEST_F(WeaponCatalogueTest, GoesOnPastBadFiles) {
     mod.write(below("shadowed"), "<weapon><name>cut off");
     mod.write(below("Picture"), "also none");
     load();
-    EXPECT_EQ(names(), (Names{"good", "program's", "strange", "no weapon: empty", "no weapon: Picture"}));
-    EXPECT_EQ(select({}), (Names{"good", "program's", "strange"})) << "a unit cannot have them";
+    EXPECT_EQ(names(),
+              (WeaponNames{"good", "program's", "strange", "no weapon: empty", "no weapon: Picture"}));
+    EXPECT_EQ(select({}), (WeaponNames{"good", "program's", "strange"})) << "a unit cannot have them";
     EXPECT_EQ(catalogue.find("empty"), nullptr);
-    EXPECT_EQ(problemPaths(), (Names{program.path() + below("empty"), mod.path() + below("Picture"),
-                                     mod.path() + below("shadowed"), program.path() + below("strange"),
-                                     program.path() + below("picture")}));
+    EXPECT_EQ(problemPaths(), (WeaponNames{program.path() + below("empty"), mod.path() + below("Picture"),
+                                           mod.path() + below("shadowed"), program.path() + below("strange"),
+                                           program.path() + below("picture")}));
     EXPECT_EQ(sentence(catalogue.problemsOf(program.path() + below("strange")).front()),
               "Line 1: \"WEAPON_SLINGSHOT\" is not a weapon type.");
     EXPECT_EQ(catalogue.problemsOf(program.path() + below("empty")).at(0).message, "holds no weapon");
@@ -185,16 +187,16 @@ TEST_F(WeaponCatalogueTest, ListsFilesThatCannotBeOpened) {
         GTEST_SKIP() << "no symbolic links here";
     }
     load();
-    EXPECT_EQ(names(), (Names{"good", "no weapon: dangling"}));
-    EXPECT_EQ(problemPaths(), Names{program.path() + below("dangling")});
+    EXPECT_EQ(names(), (WeaponNames{"good", "no weapon: dangling"}));
+    EXPECT_EQ(problemPaths(), WeaponNames{program.path() + below("dangling")});
 }
 
 TEST_F(WeaponCatalogueTest, NeedsTheProgramsFolderOnly) {
     load();
-    EXPECT_EQ(problemPaths(), Names{program.path() + "Data\\Weapons\\"});
+    EXPECT_EQ(problemPaths(), WeaponNames{program.path() + "Data\\Weapons\\"});
     inProgram("a", {.name = "a"});
     load();
-    EXPECT_EQ(names(), Names{"a"});
+    EXPECT_EQ(names(), WeaponNames{"a"});
     EXPECT_TRUE(catalogue.problems().empty()) << "a mod may have no weapons";
     EXPECT_EQ(catalogue.find("b"), nullptr);
 }
@@ -205,25 +207,25 @@ TEST_F(WeaponCatalogueTest, FollowsWhatIsSavedCreatedAndDeleted) {
     load();
     inProgram("b", {.name = "b", .calibre = "37"});
     catalogue.refresh("b");
-    EXPECT_EQ(names(), (Names{"b", "program's a"})) << "saved with another calibre";
+    EXPECT_EQ(names(), (WeaponNames{"b", "program's a"})) << "saved with another calibre";
     inMod("A", {.name = "mod's a", .calibre = "20"});
     catalogue.refresh("A");
-    EXPECT_EQ(names(), (Names{"mod's a", "b"})) << "created in the mod";
+    EXPECT_EQ(names(), (WeaponNames{"mod's a", "b"})) << "created in the mod";
     mod.write(below("A"), "");
     catalogue.refresh("a");
-    EXPECT_EQ(names(), (Names{"b", "program's a"}));
-    EXPECT_EQ(problemPaths(), Names{mod.path() + below("A")}) << "spoilt in the mod";
+    EXPECT_EQ(names(), (WeaponNames{"b", "program's a"}));
+    EXPECT_EQ(problemPaths(), WeaponNames{mod.path() + below("A")}) << "spoilt in the mod";
     std::filesystem::remove(mod.nativePath(below("A")));
     catalogue.refresh("A");
-    EXPECT_EQ(names(), (Names{"b", "program's a"}));
+    EXPECT_EQ(names(), (WeaponNames{"b", "program's a"}));
     EXPECT_TRUE(catalogue.problems().empty()) << "deleted in the mod";
     std::filesystem::remove(program.nativePath(below("a")));
     catalogue.refresh("a");
-    EXPECT_EQ(names(), Names{"b"}) << "deleted in the program";
+    EXPECT_EQ(names(), WeaponNames{"b"}) << "deleted in the program";
     std::filesystem::rename(program.nativePath(below("b")), program.nativePath(below("c")));
     catalogue.refresh("b");
     catalogue.refresh("c");
-    ASSERT_EQ(names(), Names{"b"}) << "the name inside stays";
+    ASSERT_EQ(names(), WeaponNames{"b"}) << "the name inside stays";
     EXPECT_EQ(catalogue.entries().front().weapon.fileName, "c");
     EXPECT_EQ(catalogue.entries().front().path, program.path() + below("c"));
 }

@@ -1,111 +1,10 @@
 // The workspace without a window: what is open, what is saved of it, what is asked before something is lost.
 
-#include "app/workspace/category_list.h"
-#include "app/workspace/edits.h"
-#include "app/workspace/file_actions.h"
-#include "app/workspace/mod_mode.h"
-#include "app/workspace/names/file_names.h"
 #include "app/workspace/options.h"
-#include "app/workspace/positions.h"
-#include "app/workspace/record_files.h"
-#include "data/writing/unit_writers.h"
-#include "test_support.h"
-#include "weapons/weapon_files.h"
-
-#include <gtest/gtest.h>
-
-#include <algorithm>
+#include "workspace_fixture.h"
 
 namespace varrocade::tests {
 namespace {
-
-using Names = std::vector<std::string>;
-
-const std::string Tank = "Data\\Vehicles\\German Tank.txt";
-constexpr UnitPart Gun{PartKind::Weapon, 1, 0};
-constexpr UnitPart Pipe{PartKind::Exhaust, 0, 0};
-
-/// Writes down what it hears.
-class Listener : public WorkspaceListener {
-public:
-    void recordOpened() override { heard += "opened "; }
-    void recordChanged() override { heard += "changed "; }
-    void recordSaved() override { heard += "saved "; }
-    void componentsRearranged(const FormerPlaces& places) override {
-        heard += "rearranged" + std::to_string(places.size()) + " ";
-    }
-    void filterDropped() override { heard += "unfiltered "; }
-    void modeChanged() override { heard += "mode "; }
-
-    std::string heard;
-};
-
-std::string tankText() {
-    SquadRecord unit = newUnit(Category::Vehicles, "", "NATIONALITY_GERMAN");
-    ComponentRecord& turret = unit.vehicle->components.emplace_back();
-    turret.kind = ComponentKind::Turret;
-    turret.weapons.emplace_back().type = "WEAPON_A";
-    unit.vehicle->exhaustPipes.resize(1);
-    return vehicleFileText(unit).value();
-}
-
-/// A game with two tanks, a squad and a weapon.
-class WorkspaceTest : public testing::Test {
-protected:
-    WorkspaceTest() {
-        folder.write("Game\\" + Tank, tankText());
-        folder.write("Game\\Data\\Vehicles\\German Truck.txt", tankText());
-        folder.write("Game\\Data\\Infantry\\German Squad.txt",
-                     squadFileText(newUnit(Category::Infantry, "", "NATIONALITY_GERMAN")));
-        folder.write("Game\\Data\\Weapons\\Gun.txt", weaponFileText(newWeapon("Gun")));
-        workspace.programFolder = folder.path() + "Game\\";
-        workspace.profileFolder = folder.path() + "User";
-        workspace.listener = &listener;
-        loadCatalogue(workspace);
-        refillNames(workspace);
-    }
-
-    /// Changes the name of the open unit or weapon as an editor does.
-    void change(const std::string& name) {
-        Record& record = workspace.open.present.record;
-        if (auto* weapon = std::get_if<WeaponRecord>(&record)) {
-            weapon->name = name;
-        } else {
-            std::get<SquadRecord>(record).longName = name;
-        }
-        recordChanged(workspace, "Name");
-    }
-
-    void nudge(const UnitPart& part, int right = 1) {
-        ASSERT_TRUE(nudgeOpenPart(workspace, part, right, 0, {}, false));
-    }
-
-    /// "w", "e" or "we" for the positions that are unsaved.
-    [[nodiscard]] std::string moved() const {
-        return std::string(workspace.open.weaponPosChanged() ? "w" : "") +
-               (workspace.open.exhaustPosChanged() ? "e" : "");
-    }
-
-    /// The files whose names begin so.
-    [[nodiscard]] Names files(const std::string& begin) const {
-        Names names = folder.files();
-        std::erase_if(names, [&](const std::string& name) { return !name.starts_with(begin); });
-        return names;
-    }
-
-    static Names captions() {
-        Names names;
-        for (const Message& message : MessageRecorder::shown()) {
-            names.push_back(message.caption);
-        }
-        return names;
-    }
-
-    TemporaryFolder folder;
-    MessageRecorder messages;
-    Listener listener;
-    Workspace workspace;
-};
 
 TEST_F(WorkspaceTest, UnitsAndWeaponsAreChangedUndoneAndSavedAlike) {
     for (const auto& [category, name] :
@@ -173,8 +72,8 @@ TEST_F(WorkspaceTest, AHandMadeFileIsAskedForOnceAndBeforeItIsReplaced) {
     EXPECT_EQ(saveOpenRecord(workspace), SaveResult::Saved);
     EXPECT_EQ(captions().size(), 2U);
     const Names backups = files("Game\\Backups\\");
-    ASSERT_EQ(backups.size(), 1U);
-    EXPECT_EQ(folder.read(backups[0]), handMade);
+    ASSERT_EQ(backups.size(), 2U) << "and what was saved in between";
+    EXPECT_EQ((folder.read(backups[0]) == handMade) + (folder.read(backups[1]) == handMade), 1);
 }
 
 TEST_F(WorkspaceTest, AFailedSaveChangesNothing) {
@@ -192,20 +91,6 @@ TEST_F(WorkspaceTest, AFailedSaveChangesNothing) {
     EXPECT_EQ(workspace.list.selected, "German Tank");
     EXPECT_EQ(moved(), "w");
     EXPECT_TRUE(workspace.open.isUnsaved());
-}
-
-TEST_F(WorkspaceTest, WhatIsClosedUnsavedIsKeptBelowItsOwnCategory) {
-    openEntry(workspace, "German Tank");
-    change("Unsaved");
-    chooseCategory(workspace, Category::Infantry);
-    EXPECT_FALSE(isRecordOpen(workspace));
-    const Names kept = files("Game\\Backups\\Data\\Vehicles\\German Tank (unsaved)");
-    ASSERT_EQ(kept.size(), 1U);
-    EXPECT_NE(folder.read(kept[0]).find("Unsaved"), std::string::npos);
-    openEntry(workspace, "German Squad");
-    closeRecord(workspace);
-    EXPECT_EQ(files("Game\\Backups\\").size(), 1U) << "what is unchanged needs no keeping";
-    EXPECT_EQ(captions(), Names()) << "positions alone are asked for";
 }
 
 TEST_F(WorkspaceTest, TheMarksOfMovedPositionsFollowMovesInTheDrawingAndSaves) {
@@ -313,6 +198,14 @@ TEST_F(WorkspaceTest, RemembersTheSelectionAndDropsAFilterThatHidesAFile) {
     EXPECT_EQ(workspace.list.selected, "German Truck") << "shown again, it is selected again";
 }
 
+TEST_F(WorkspaceTest, ThatAFileExistsIsToldBeforeItsNationality) {
+    folder.write("Game\\Data\\Vehicles\\Sole.txt", tankText());
+    openNewFile(workspace, "German Tank");
+    EXPECT_EQ(renameFile(workspace, "Sole"), "That file already exists");
+    EXPECT_EQ(duplicateRecord(workspace, "Sole"), "File already exists");
+    EXPECT_EQ(renameFile(workspace, "Other").value_or("").find("The filename must"), 0U);
+}
+
 TEST_F(WorkspaceTest, FilesAreMadeDuplicatedRenamedAndDeleted) {
     EXPECT_EQ(createUnit(workspace, "Tank", "NATIONALITY_GERMAN").value_or("").find("The filename must"), 0U);
     EXPECT_EQ(createUnit(workspace, "German Tank", "NATIONALITY_GERMAN"), "Squad name already exists");
@@ -330,19 +223,34 @@ TEST_F(WorkspaceTest, FilesAreMadeDuplicatedRenamedAndDeleted) {
     ASSERT_FALSE(renameFile(workspace, "German Four"));
     showRenamed(workspace);
     EXPECT_EQ(workspace.list.selected, "German Four");
-    undoChange(workspace);
+    EXPECT_EQ(lastStepName(workspace), "Rename German TWO");
+    undoLast(workspace);
+    EXPECT_EQ(workspace.list.selected, "German TWO");
+    EXPECT_EQ(lastStepName(workspace), "Name") << "which is older";
+    ASSERT_FALSE(renameFile(workspace, "German Four"));
+    showRenamed(workspace);
+    change("Later");
+    undoLast(workspace);
+    undoLast(workspace);
     EXPECT_EQ(openFileName(workspace), "German Four") << "of all its steps";
     EXPECT_FALSE(workspace.open.isUnsaved());
+    change("Unsaved");
 
     setFilter(workspace, "German F");
     MessageRecorder::answer({Answer::No, Answer::Yes});
     deleteFile(workspace);
     EXPECT_EQ(files("Game\\Data\\Vehicles\\").size(), 4U);
     deleteFile(workspace);
-    EXPECT_EQ(captions(), (Names{"Delete", "Delete"}));
+    EXPECT_EQ(captions(), (Names{"Delete German Four", "Delete German Four"}));
     EXPECT_EQ(files("Game\\Data\\Vehicles\\").size(), 3U);
     EXPECT_EQ(files("Game\\Backups\\Data\\Vehicles\\German Four").size(), 1U);
     EXPECT_FALSE(isRecordOpen(workspace));
+    chooseCategory(workspace, Category::Infantry);
+    undoLast(workspace);
+    EXPECT_EQ(workspace.list.selected, "German Four") << "back from another category";
+    EXPECT_EQ(openUnit(workspace)->longName, "Unsaved");
+    undoLast(workspace);
+    EXPECT_FALSE(workspace.open.isUnsaved()) << "with its history";
     openEntry(workspace, workspace.list.all.back());
     MessageRecorder::answer({Answer::Yes});
     deleteFile(workspace);
@@ -360,20 +268,31 @@ TEST_F(WorkspaceTest, SwitchesToAnExistingModAndBack) {
     EXPECT_FALSE(workspace.modMode);
     folder.write("Game\\Mod\\Mod.txt", "<mod><name>M</name></mod>");
     folder.write("Game\\Mod\\Data\\Vehicles\\German Mod Tank.txt", tankText());
+    folder.write("Game\\Mod\\" + Tank, "theirs");
     openEntry(workspace, "German Tank");
     EXPECT_FALSE(switchModMode(workspace));
     EXPECT_TRUE(workspace.modMode);
     EXPECT_EQ(workspace.modSettings.value_or(ModSettings()).name, "M");
-    EXPECT_EQ(workspace.list.all, Names{"German Mod Tank"});
+    EXPECT_EQ(workspace.list.all.size(), 2U);
     EXPECT_EQ(openFileName(workspace), "German Tank") << "kept on the screen";
+    EXPECT_EQ(workspace.list.selected, "") << "though the mod has a file of that name";
+    change("Ours");
+    EXPECT_EQ(markOf(workspace, "German Tank"), EntryMark::None);
+    MessageRecorder::answer({Answer::Cancel});
+    EXPECT_EQ(saveOpenRecord(workspace), SaveResult::Failed);
+    EXPECT_EQ(captions(), Names{"Changed outside"});
+    EXPECT_EQ(folder.read("Game\\Mod\\" + Tank), "theirs");
+    MessageRecorder::answer({});
     EXPECT_EQ(rememberedSelection(workspace), "");
     openEntry(workspace, "German Mod Tank");
     change("Unsaved");
     EXPECT_FALSE(switchModMode(workspace));
     EXPECT_FALSE(workspace.modMode || workspace.modSettings);
     EXPECT_FALSE(isRecordOpen(workspace));
-    EXPECT_EQ(files("Game\\Mod\\Backups\\").size(), 1U) << "in the folder that it came from";
     EXPECT_EQ(workspace.list.all.size(), 2U);
+    EXPECT_EQ(unsavedRecordText(workspace, workspace.aside[1]),
+              "Vehicles: German Mod Tank (in " + workspace.modFolder + ")");
+    EXPECT_EQ(markOf(workspace, "German Tank"), EntryMark::Unsaved) << "in the folder that it came from";
     folder.write("User\\AppData\\Roaming\\Quorlin Games\\Varrocade\\Mod\\Mod.txt", "");
     EXPECT_TRUE(detectModMode(workspace));
     EXPECT_EQ(baseFolder(workspace).find(workspace.profileFolder), 0U) << "the user's comes first";
@@ -405,7 +324,7 @@ TEST_F(WorkspaceTest, CreatesAModWhenTheUserWantsOne) {
     EXPECT_TRUE(workspace.modMode);
     EXPECT_FALSE(isRecordOpen(workspace));
     EXPECT_EQ(moved(), "");
-    EXPECT_EQ(files("Game\\Backups\\").size(), 1U) << "what was moved is kept where the tank came from";
+    EXPECT_TRUE(workspace.aside.empty()) << "what was moved is dropped";
     EXPECT_EQ(readModSettings(folder.read("Other\\AppData\\Roaming\\Quorlin Games\\Varrocade\\Mod\\Mod.txt")),
               ModSettings());
 }

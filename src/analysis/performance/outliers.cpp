@@ -235,6 +235,14 @@ std::vector<Outlier> plateOutliers(const VehicleRecord& vehicle, const VehicleFi
     return found;
 }
 
+std::vector<Outlier> bodyOutliers(const VehicleRecord& vehicle, const VehicleFigures& figures) {
+    std::vector<Outlier> found = sizeOutliers(vehicle);
+    for (Outlier& outlier : plateOutliers(vehicle, figures)) {
+        found.push_back(std::move(outlier));
+    }
+    return found;
+}
+
 std::optional<Outlier> weightOutlier(const VehicleFigures& figures, const WeightCalibration& calibration) {
     const std::optional<WeightShares> shares = estimateWeight(figures, calibration.factors);
     if (!shares || figures.lacks(MissingFigure::Weight)) {
@@ -267,10 +275,7 @@ std::vector<Outlier> findOutliers(std::span<const SquadRecord> units,
             continue;
         }
         const std::size_t before = found.size();
-        for (Outlier& outlier : sizeOutliers(*units[i].vehicle)) {
-            found.push_back(std::move(outlier));
-        }
-        for (Outlier& outlier : plateOutliers(*units[i].vehicle, figures[i])) {
+        for (Outlier& outlier : bodyOutliers(*units[i].vehicle, figures[i])) {
             found.push_back(std::move(outlier));
         }
         if (found.size() == before) {

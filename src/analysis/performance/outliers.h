@@ -33,6 +33,8 @@ struct Outlier {
 /// would be wrong for that reason alone.
 std::vector<Outlier> sizeOutliers(const VehicleRecord& vehicle);
 std::vector<Outlier> plateOutliers(const VehicleRecord& vehicle, const VehicleFigures& figures);
+/// Those of size and, behind them, those of plates.
+std::vector<Outlier> bodyOutliers(const VehicleRecord& vehicle, const VehicleFigures& figures);
 std::optional<Outlier> weightOutlier(const VehicleFigures& figures, const WeightCalibration& calibration);
 
 /// All vehicles of a folder together; `figures` are those of `units`, in the same order. The weights' factors

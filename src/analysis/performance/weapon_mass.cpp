@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <utility>
 
 namespace varrocade {
 
@@ -67,6 +68,10 @@ bool isNumber(std::string_view word) {
            std::all_of(word.begin(), word.end(), [](char c) { return c >= '0' && c <= '9'; });
 }
 
+WeaponMass massOf(const WeaponRecord& weapon) {
+    return weaponMass(weapon.type, weapon.calibre, weapon.barrelLength, weapon.numberOfBarrels);
+}
+
 } // namespace
 
 WeaponMass weaponMass(WeaponType type, double calibre, double barrelLength, int barrels) {
@@ -113,9 +118,6 @@ WeaponMass weaponMassByName(std::string_view name) {
 }
 
 WeaponMasses::WeaponMasses(const WeaponCatalogue& catalogue) {
-    const auto massOf = [](const WeaponRecord& weapon) {
-        return weaponMass(weapon.type, weapon.calibre, weapon.barrelLength, weapon.numberOfBarrels);
-    };
     // The name of a file goes before a weapon's own, as in the catalogue.
     for (const CatalogueEntry& entry : catalogue.entries()) {
         if (entry.holdsWeapon) {
@@ -125,6 +127,25 @@ WeaponMasses::WeaponMasses(const WeaponCatalogue& catalogue) {
     for (const CatalogueEntry& entry : catalogue.entries()) {
         if (entry.holdsWeapon) {
             masses_.emplace(loweredText(entry.weapon.name), massOf(entry.weapon));
+        }
+    }
+}
+
+WeaponMasses::WeaponMasses(const WeaponCatalogue& catalogue, const VehicleRecord& vehicle) {
+    const auto add = [&](const Text& name) {
+        std::string key = loweredText(name);
+        if (masses_.contains(key)) {
+            return;
+        }
+        const WeaponRecord* weapon = catalogue.find(name);
+        masses_.emplace(std::move(key), weapon != nullptr ? massOf(*weapon) : weaponMassByName(name));
+    };
+    for (const ComponentRecord& component : vehicle.components) {
+        for (const WeaponMountRecord& mount : component.weapons) {
+            add(mount.type);
+        }
+        for (const AmmoLoadRecord& load : component.ammo) {
+            add(load.weaponType);
         }
     }
 }

@@ -1,8 +1,10 @@
 #pragma once
 // What weapons and their ammunition weigh, estimated from calibre and length of barrel.
 
+#include "data/unit/unit_record.h"
 #include "weapons/weapon_catalogue.h"
 
+#include <string>
 #include <string_view>
 #include <unordered_map>
 
@@ -26,6 +28,8 @@ class WeaponMasses {
 public:
     WeaponMasses() = default;
     explicit WeaponMasses(const WeaponCatalogue& catalogue);
+    /// Those of one vehicle's weapons and ammunition alone, which is much sooner done.
+    WeaponMasses(const WeaponCatalogue& catalogue, const VehicleRecord& vehicle);
 
     /// Letter case does not count. A weapon without a file is estimated by its name.
     [[nodiscard]] WeaponMass of(std::string_view name) const;

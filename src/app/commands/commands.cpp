@@ -1,9 +1,12 @@
 #include "app/commands/commands.h"
 
+#include "app/commands/changed_files.h"
 #include "app/commands/edit_record.h"
+#include "app/commands/edit_weapon.h"
 #include "app/commands/file_commands.h"
 #include "app/commands/game_folder.h"
 #include "app/commands/stubs.h"
+#include "app/commands/vehicle_performance_commands.h"
 #include "app/commands/weapon_problems.h"
 #include "app/windows/application.h"
 #include "app/windows/display/redraw.h"
@@ -12,7 +15,9 @@
 #include "app/workspace/category_list.h"
 #include "app/workspace/edits.h"
 #include "app/workspace/file_actions.h"
+#include "app/workspace/file_steps.h"
 #include "app/workspace/mod_mode.h"
+#include "app/workspace/record/unsaved_records.h"
 #include "app/workspace/record_files.h"
 #include "editors/form/form_port_win32.h"
 #include "editors/penetration/penetration_dialog.h"
@@ -51,11 +56,12 @@ bool canDuplicate() {
 
 /// The open record's file is the one that is selected in the list.
 bool isSelectionOpen() {
-    return isRecordOpen(theWorkspace()) && !theWorkspace().list.selected.empty();
+    const std::string& selected = theWorkspace().list.selected;
+    return !selected.empty() && selected == listedOpenName(theWorkspace());
 }
 
-bool canUndo() {
-    return theWorkspace().open.history.canUndo();
+bool canUndoStep() {
+    return canUndoLast(theWorkspace());
 }
 
 bool canRedo() {
@@ -70,8 +76,24 @@ bool canSave() {
     return theWorkspace().open.isUnsaved();
 }
 
-void saveRecord() {
+void saveOne() {
     saveOpenRecord(theWorkspace());
+}
+
+bool canSaveSome() {
+    return canSaveAll(theWorkspace());
+}
+
+void saveEach() {
+    saveAll(theWorkspace());
+}
+
+void discard() {
+    discardChanges(theWorkspace());
+}
+
+bool hasChangedFiles() {
+    return !unsavedRecords(theWorkspace()).empty();
 }
 
 void exitProgram() {
@@ -151,7 +173,7 @@ void choose() {
 }
 
 void undo() {
-    undoChange(theWorkspace());
+    undoLast(theWorkspace());
 }
 
 void redo() {
@@ -159,7 +181,9 @@ void redo() {
 }
 
 void deleteSelectedFile() {
-    deleteFile(theWorkspace());
+    if (mayTakeWeaponAway("Deleting")) {
+        deleteFile(theWorkspace());
+    }
 }
 
 void modMode() {
@@ -185,6 +209,8 @@ constexpr auto Commands = std::to_array<Command>({
     {IDM_PENETRATION, penetrationCalculations, always},
     {IDM_CAN_PENETRATE, canItPenetrate, always},
     {IDM_WEAPON_PROBLEMS, showWeaponProblems, hasWeaponProblems},
+    {IDM_PERFORMANCE, showOpenPerformance, canEditOpenRecord},
+    {IDM_COMPARE_VEHICLES, compareAllVehicles, always},
     {IDM_REDUCE_IMAGES, reduceImageSizes, isVehicleOpen},
     {IDM_GENERATE_THUMBNAILS, generateThumbnails, always},
     {IDM_PNG_USAGE, generatePngUsage, always},
@@ -198,8 +224,11 @@ constexpr auto Commands = std::to_array<Command>({
     {IDM_REFRESH, refreshFiles, always},
     {IDM_RENAME, renameOpenFile, isSelectionOpen},
     {IDM_DELETE, deleteSelectedFile, isSelectionOpen},
-    {IDM_SAVE, saveRecord, canSave},
-    {IDM_UNDO, undo, canUndo},
+    {IDM_SAVE, saveOne, canSave},
+    {IDM_SAVE_ALL, saveEach, canSaveSome},
+    {IDM_DISCARD, discard, canSave},
+    {IDM_CHANGED_FILES, showChangedFiles, hasChangedFiles},
+    {IDM_UNDO, undo, canUndoStep},
     {IDM_REDO, redo, canRedo},
     {IDM_EDIT_PART, editSelectedPart, canEditSelectedPart},
     {IDM_PUT_BACK, putBack, always},
@@ -227,7 +256,7 @@ bool runCommand(int id) {
 
 void updateMenu(HMENU menu) {
     const UndoHistory& history = theWorkspace().open.history;
-    const std::string undo = "&Undo " + std::string(history.undoName()) + "\tCtrl+Z";
+    const std::string undo = "&Undo " + lastStepName(theWorkspace()) + "\tCtrl+Z";
     const std::string redo = "&Redo " + std::string(history.redoName()) + "\tCtrl+Y";
     ModifyMenuA(menu, IDM_UNDO, MF_BYCOMMAND | MF_STRING, IDM_UNDO, undo.c_str());
     ModifyMenuA(menu, IDM_REDO, MF_BYCOMMAND | MF_STRING, IDM_REDO, redo.c_str());

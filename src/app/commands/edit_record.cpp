@@ -1,5 +1,6 @@
 #include "app/commands/edit_record.h"
 
+#include "app/commands/edit_weapon.h"
 #include "app/windows/application.h"
 #include "app/workspace/edits.h"
 #include "app/workspace/record_files.h"
@@ -8,6 +9,9 @@
 namespace varrocade {
 
 bool canEditOpenRecord() {
+    if (isWeaponOpen()) {
+        return true;
+    }
     const SquadRecord* unit = openUnit(theWorkspace());
     return unit != nullptr && unit->vehicle && theWorkspace().category == Category::Vehicles;
 }
@@ -30,7 +34,9 @@ void withEditContext(const std::function<bool(EditContext&)>& work) {
 }
 
 void editOpenRecord() {
-    if (canEditOpenRecord()) {
+    if (isWeaponOpen()) {
+        editOpenWeapon();
+    } else if (canEditOpenRecord()) {
         withEditContext(
             [](EditContext& edit) { return editVehicle(application().window, edit, application().drawing); });
     }

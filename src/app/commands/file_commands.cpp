@@ -1,5 +1,6 @@
 #include "app/commands/file_commands.h"
 
+#include "app/commands/edit_weapon.h"
 #include "app/commands/name_dialogs.h"
 #include "app/windows/application.h"
 #include "app/workspace/file_actions.h"
@@ -14,7 +15,7 @@ NameCheck takeNewSquad(const NewFileChoice& choice) {
 }
 
 NameCheck takeNewWeapon(const NewFileChoice& choice) {
-    return createWeapon(theWorkspace(), choice.name);
+    return createWeapon(theWorkspace(), choice.name, choice.weaponType);
 }
 
 NameCheck takeDuplicate(const NewFileChoice& choice) {
@@ -38,6 +39,9 @@ void newFile() {
                       .take = isWeapon ? takeNewWeapon : takeNewSquad};
     if (askForName(dialog)) {
         openNewFile(workspace, dialog.choice.name);
+        if (isWeapon) {
+            editOpenWeapon();
+        }
     }
 }
 
@@ -56,7 +60,7 @@ void duplicateOpenFile() {
 
 void renameOpenFile() {
     Workspace& workspace = theWorkspace();
-    if (!isRecordOpen(workspace) || !mayLeavePositions(workspace)) {
+    if (!isRecordOpen(workspace) || !mayLeavePositions(workspace) || !mayTakeWeaponAway("Renaming")) {
         return;
     }
     NameDialog dialog{.owner = application().window, .kind = NameDialogKind::Rename, .take = takeRename};

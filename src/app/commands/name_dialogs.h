@@ -13,7 +13,8 @@ enum class NameDialogKind { NewSquad, NewWeapon, Duplicate, Rename };
 
 struct NewFileChoice {
     std::string name;
-    std::string nationality; ///< "NATIONALITY_...", of a new squad only
+    std::string nationality;                   ///< "NATIONALITY_...", of a new squad only
+    WeaponType weaponType = WeaponType::Rifle; ///< of a new weapon only
 };
 
 struct NameDialog {

@@ -3,6 +3,7 @@
 #include "app/windows/application.h"
 #include "app/workspace/category_list.h"
 #include "app/workspace/names/name_filter.h"
+#include "app/workspace/record/unsaved_records.h"
 #include "resources/resource.h"
 #include "view/painting/flag_painter.h"
 #include "view/painting/gdi_device_win32.h"
@@ -39,6 +40,25 @@ std::string entryText(HWND list, LRESULT index) {
     SendMessageA(list, LB_GETTEXT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(text.data()));
     text.resize(static_cast<std::size_t>(length));
     return text;
+}
+
+/// The row of a name; LB_ERR where it is not shown.
+LRESULT rowOf(HWND list, const std::string& name) {
+    return name.empty() ? LB_ERR
+                        : SendMessageA(list, LB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
+                                       reinterpret_cast<LPARAM>(name.c_str()));
+}
+
+std::string_view markText(EntryMark mark) {
+    switch (mark) {
+    case EntryMark::None:
+        break;
+    case EntryMark::Unsaved:
+        return " *";
+    case EntryMark::ChangedOutside:
+        return " * (changed outside)";
+    }
+    return {};
 }
 
 void selectIndex(HWND list, LRESULT index) {
@@ -145,11 +165,7 @@ void showNames() {
 
 void showSelectedName() {
     HWND list = listWindow();
-    const std::string& name = theWorkspace().list.selected;
-    const LRESULT index = name.empty() ? LB_ERR
-                                       : SendMessageA(list, LB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
-                                                      reinterpret_cast<LPARAM>(name.c_str()));
-    SendMessageA(list, LB_SETCURSEL, static_cast<WPARAM>(index), 0);
+    SendMessageA(list, LB_SETCURSEL, static_cast<WPARAM>(rowOf(list, theWorkspace().list.selected)), 0);
 }
 
 std::string selectedEntry() {
@@ -192,8 +208,7 @@ void drawListEntry(const DRAWITEMSTRUCT& item) {
     const Selection font(item.hDC, objects.normalFont.get());
     SetBkMode(item.hDC, TRANSPARENT);
     SetTextColor(item.hDC, GetSysColor(isSelected ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT));
-    const bool isUnsaved = isSelected && app.workspace.open.isUnsaved();
-    const std::string text = isUnsaved ? name + " *" : name;
+    const std::string text = name + std::string(markText(markOf(app.workspace, name)));
     constexpr UINT format = DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS;
     DrawTextA(item.hDC, text.c_str(), static_cast<int>(text.size()), &place, format);
     if ((item.itemState & ODS_FOCUS) != 0) {
@@ -201,14 +216,18 @@ void drawListEntry(const DRAWITEMSTRUCT& item) {
     }
 }
 
-void redrawSelectedEntry() {
+void redrawOpenEntry() {
     HWND list = listWindow();
     RECT place{};
-    const LRESULT selected = SendMessageA(list, LB_GETCURSEL, 0, 0);
-    if (selected >= 0 && SendMessageA(list, LB_GETITEMRECT, static_cast<WPARAM>(selected),
-                                      reinterpret_cast<LPARAM>(&place)) != LB_ERR) {
+    const LRESULT row = rowOf(list, listedOpenName(theWorkspace()));
+    if (row >= 0 && SendMessageA(list, LB_GETITEMRECT, static_cast<WPARAM>(row),
+                                 reinterpret_cast<LPARAM>(&place)) != LB_ERR) {
         InvalidateRect(list, &place, FALSE);
     }
+}
+
+void redrawEntries() {
+    InvalidateRect(listWindow(), nullptr, FALSE);
 }
 
 void leaveFilter() {

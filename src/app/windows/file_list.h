@@ -28,8 +28,9 @@ void applyFilter();
 void drawListEntry(const DRAWITEMSTRUCT& item);
 int listEntryHeight();
 
-/// Shows the selected entry anew: its mark for unsaved changes may be another.
-void redrawSelectedEntry();
+/// Shows the open record's entry anew, or all: their marks for unsaved changes may be others.
+void redrawOpenEntry();
+void redrawEntries();
 
 /// Empties the filter and takes the keyboard focus to the list.
 void leaveFilter();

@@ -8,8 +8,8 @@
 #include "app/windows/file_list.h"
 #include "app/windows/sheet_window.h"
 #include "app/workspace/category_list.h"
+#include "app/workspace/journal.h"
 #include "app/workspace/options.h"
-#include "app/workspace/positions.h"
 #include "app/workspace/record_files.h"
 #include "app/workspace/window_layout.h"
 #include "resources/resource.h"
@@ -44,6 +44,10 @@ constexpr std::array<ButtonRow, FileButtonCount> FileButtons = {{
 
 constexpr Place DetailsButton = {0, 12, 84, 26};
 constexpr int DetailsButtonMargin = 14;
+/// The timer of the journal of unsaved changes.
+constexpr UINT_PTR JournalTimer = 1;
+/// Comes after the program was gone to from another one, when that is done with.
+constexpr UINT ReturnMessage = WM_APP + 1;
 constexpr int MostNameLength = 256;
 constexpr int MostClassLength = 100;
 
@@ -116,6 +120,7 @@ LRESULT create(HWND window) {
     createSheetWindow(window);
     setFonts(window);
     updateButtons();
+    SetTimer(window, JournalTimer, JournalInterval, nullptr);
     return 0;
 }
 
@@ -245,17 +250,30 @@ LRESULT CALLBACK mainWindowProcedure(HWND window, UINT message, WPARAM parameter
     case WM_PAINT:
         paintMainWindow(window);
         return 0;
+    case WM_TIMER:
+        keepJournal(theWorkspace());
+        return 0;
+    case WM_ACTIVATEAPP:
+        if (parameter != 0) {
+            PostMessageA(window, ReturnMessage, 0, 0);
+        }
+        return 0;
+    case ReturnMessage:
+        // A dialog may be at work on the open record.
+        if (IsWindowEnabled(window) != FALSE) {
+            noticeOutsideChanges(theWorkspace());
+        }
+        return 0;
     case WM_CLOSE:
-        if (mayLeavePositions(theWorkspace())) {
+        if (mayExit(theWorkspace())) {
             DestroyWindow(window);
         }
         return 0;
     case WM_QUERYENDSESSION:
-        return mayLeavePositions(theWorkspace()) ? TRUE : FALSE;
+        return mayExit(theWorkspace()) ? TRUE : FALSE;
     case WM_ENDSESSION:
         if (parameter != 0) {
             // The process may end without coming back here.
-            keepUnsaved(theWorkspace(), baseFolder(theWorkspace()));
             writeOptions(theWorkspace());
         }
         return 0;

@@ -1,6 +1,7 @@
 #include "app/windows/part_selection.h"
 
 #include "app/commands/edit_record.h"
+#include "app/commands/edit_weapon.h"
 #include "app/windows/application.h"
 #include "app/windows/display/redraw.h"
 #include "app/windows/display/unit_display.h"
@@ -52,12 +53,17 @@ void selectPart(const UnitPart& part) {
 }
 
 bool canEditSelectedPart() {
+    if (isWeaponOpen()) {
+        return true;
+    }
     const SquadRecord* unit = openUnit(theWorkspace());
     return unit != nullptr && hasEditor(*unit, application().display.selected);
 }
 
 void editSelectedPart() {
-    if (canEditSelectedPart()) {
+    if (isWeaponOpen()) {
+        editOpenWeapon();
+    } else if (canEditSelectedPart()) {
         const UnitPart part = application().display.selected;
         withEditContext([part](EditContext& edit) {
             return editPart(application().window, edit, application().drawing, part);
@@ -108,6 +114,7 @@ void showPartMenu(POINT screenPixel) {
     menu.addSeparator();
     menu.add(IDM_WHOLE_UNIT, "&Whole unit in view\tCtrl+0", app.display.hasDrawing);
     menu.add(IDC_EDIT_DETAILS, "&Details...", canEditOpenRecord());
+    menu.add(IDM_PERFORMANCE, "Weight and &top speed...", canEditOpenRecord());
     const int command = TrackPopupMenu(menu.get(), TPM_RETURNCMD | TPM_RIGHTBUTTON, screenPixel.x,
                                        screenPixel.y, 0, app.window, nullptr);
     if (command != 0) {

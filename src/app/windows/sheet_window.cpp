@@ -151,11 +151,25 @@ void lookForUsers(HWND window) {
     }
 }
 
+/// A line of the bar leads to what it is about.
+void click(POINT pixel) {
+    const SheetWarningPlace* warning = sheetWarningAt(pixel);
+    if (warning == nullptr) {
+        selectPart(sheetPartAt(pixel));
+    } else if (warning->part) {
+        const UnitPart part = warning->part;
+        selectPart(part);
+        showSelectedRow();
+    } else {
+        showProblems();
+    }
+}
+
 LRESULT CALLBACK sheetProcedure(HWND window, UINT message, WPARAM parameter, LPARAM detail) {
     switch (message) {
     case WM_LBUTTONDOWN:
         SetFocus(window);
-        selectPart(sheetPartAt({GET_X_LPARAM(detail), GET_Y_LPARAM(detail)}));
+        click({GET_X_LPARAM(detail), GET_Y_LPARAM(detail)});
         return 0;
     case WM_RBUTTONDOWN:
         SetFocus(window);

@@ -4,10 +4,10 @@
 #include "app/windows/main_window.h"
 #include "app/windows/message_boxes.h"
 #include "app/windows/window_listener.h"
+#include "app/workspace/journal.h"
 #include "app/workspace/mod_mode.h"
 #include "app/workspace/options.h"
 #include "app/workspace/options_file.h"
-#include "app/workspace/record_files.h"
 #include "data/unit/image_folders.h"
 #include "platform/messages.h"
 #include "resources/resource.h"
@@ -62,7 +62,9 @@ int runMessageLoop() {
 void releaseRecordsAndDrawing() {
     Application& app = application();
     app.workspace.listener = &deafListener();
-    closeRecord(app.workspace);
+    // What is unsaved is in the journal since the window was closed.
+    app.workspace.open = {};
+    app.workspace.aside.clear();
     app.workspace.modSettings.reset();
     app.display = {};
     app.pictures.clear();
@@ -116,6 +118,7 @@ int startApplication(HINSTANCE instance, int showCommand) {
     detectModMode(workspace);
     ShowWindow(app.window, showCommand);
     UpdateWindow(app.window);
+    offerUnsavedChanges(workspace);
     const int status = runMessageLoop();
     writeOptions(workspace);
     releaseRecordsAndDrawing();

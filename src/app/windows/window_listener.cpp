@@ -31,10 +31,12 @@ public:
     void recordChanged() override {
         displayChanged();
         redrawNow();
-        redrawSelectedEntry();
+        redrawOpenEntry();
     }
 
-    void recordSaved() override { redrawSelectedEntry(); }
+    void recordSaved() override { redrawOpenEntry(); }
+
+    void marksChanged() override { redrawEntries(); }
 
     void componentsRearranged(const FormerPlaces& places) override { carryComponents(places); }
 

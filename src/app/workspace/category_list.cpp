@@ -1,6 +1,7 @@
 #include "app/workspace/category_list.h"
 
 #include "app/workspace/positions.h"
+#include "app/workspace/record/unsaved_records.h"
 #include "app/workspace/record_files.h"
 
 namespace varrocade {
@@ -27,7 +28,7 @@ void selectUnfiltered(Workspace& workspace, const std::string& name) {
 
 void setFilter(Workspace& workspace, const std::string& filter) {
     workspace.list.filter = filter;
-    filterNames(workspace.list, openFileName(workspace));
+    filterNames(workspace.list, listedOpenName(workspace));
     workspace.listener->namesChanged();
 }
 
@@ -36,12 +37,12 @@ void openEntry(Workspace& workspace, const std::string& name) {
         return;
     }
     selectName(workspace.list, name);
-    if (isRecordOpen(workspace) && name == openFileName(workspace)) {
+    if (isRecordOpen(workspace) && name == listedOpenName(workspace)) {
         reopenIfChanged(workspace);
         return;
     }
     if (!mayLeavePositions(workspace)) {
-        select(workspace, openFileName(workspace));
+        select(workspace, listedOpenName(workspace));
         return;
     }
     rememberedSelection(workspace) = name;
@@ -77,6 +78,21 @@ void showFile(Workspace& workspace, Category category, const std::string& name) 
     }
 }
 
+void showUnsaved(Workspace& workspace, std::size_t index) {
+    const auto records = unsavedRecords(workspace);
+    if (index >= records.size() || records[index] == &workspace.open ||
+        records[index]->base != baseFolder(workspace)) {
+        return;
+    }
+    const Category category = records[index]->category;
+    const std::string name = fileNameOf(records[index]->present.record);
+    showFile(workspace, category, name);
+    // One whose file is gone is not in the list.
+    if (category == workspace.category && isAside(workspace, name) && mayLeavePositions(workspace)) {
+        openFile(workspace, name);
+    }
+}
+
 void refillAndSelect(Workspace& workspace, const std::string& name) {
     if (workspace.category == Category::Weapons) {
         loadCatalogue(workspace);
@@ -89,7 +105,7 @@ void refillAndSelect(Workspace& workspace, const std::string& name) {
 void refreshAll(Workspace& workspace) {
     loadCatalogue(workspace);
     workspace.listener->listOutdated(workspace);
-    if (isRecordOpen(workspace) && !workspace.list.selected.empty()) {
+    if (!listedOpenName(workspace).empty() && !workspace.list.selected.empty()) {
         reopenIfChanged(workspace);
     }
     workspace.listener->recordChanged();

@@ -3,6 +3,7 @@
 
 #include "app/workspace/workspace.h"
 
+#include <cstddef>
 #include <string>
 
 namespace varrocade {
@@ -19,6 +20,9 @@ void chooseCategory(Workspace& workspace, Category category);
 
 /// Shows a file of any category, whatever the filter holds back.
 void showFile(Workspace& workspace, Category category, const std::string& name);
+
+/// Shows one of `unsavedRecords`; nothing where it is of the base folder that is not in use.
+void showUnsaved(Workspace& workspace, std::size_t index);
 
 /// Reads the list anew, and selects and remembers an entry of it, which is not opened.
 void refillAndSelect(Workspace& workspace, const std::string& name);

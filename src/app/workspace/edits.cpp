@@ -23,6 +23,7 @@ void goTo(Workspace& workspace, const RecordState& state) {
 
 void recordChanged(Workspace& workspace, std::string_view change) {
     workspace.open.history.note(change, workspace.open.present);
+    workspace.isFileStepLast = false;
     workspace.listener->recordChanged();
 }
 

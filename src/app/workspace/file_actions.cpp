@@ -3,21 +3,42 @@
 #include "app/workspace/category_list.h"
 #include "app/workspace/names/file_names.h"
 #include "app/workspace/positions.h"
+#include "app/workspace/record/unsaved_moves.h"
+#include "app/workspace/record/unsaved_records.h"
 #include "app/workspace/record_files.h"
 #include "data/format/texts.h"
 #include "platform/messages.h"
 #include "weapons/weapon_files.h"
 
+#include <algorithm>
+#include <utility>
+#include <vector>
+
 namespace varrocade {
 
 namespace {
 
-/// The refusal of a name for another file of the open record. A name whose former one did not begin with the
-/// nationality either need not do so.
-NameCheck refusalOfOtherName(const Workspace& workspace, const std::string& name) {
+/// The refusal of a name for a file that is to be written.
+NameCheck refusalOfFile(const Workspace& workspace, const std::string& name) {
     if (auto refusal = refusalOfName(name)) {
         return refusal;
     }
+    const std::size_t length = pathOf(workspace, name).size();
+    if (length > MaxDataPathLength) {
+        return "The path of the file would have " + std::to_string(length) +
+               " characters. The game opens paths of at most " + std::to_string(MaxDataPathLength) + ".";
+    }
+    return std::nullopt;
+}
+
+/// Whether a name has its file, or a record with unsaved changes whose file is gone.
+bool isTaken(const Workspace& workspace, const std::string& name) {
+    return workspace.files->exists(pathOf(workspace, name)) || isAside(workspace, name);
+}
+
+/// The refusal of another nationality's name for the open record. One whose former name did not begin with
+/// the nationality either need not do so.
+NameCheck refusalOfOtherNationality(const Workspace& workspace, const std::string& name) {
     const SquadRecord* unit = openUnit(workspace);
     if (unit != nullptr && !refusalOfNationality(unit->fileName, unit->nationality)) {
         return refusalOfNationality(name, unit->nationality);
@@ -27,6 +48,42 @@ NameCheck refusalOfOtherName(const Workspace& workspace, const std::string& name
 
 NameCheck checkOf(const SaveOutcome& outcome) {
     return !tellFailure(outcome) && outcome.result == SaveResult::Saved ? NameCheck() : NameCheck("");
+}
+
+/// Notes what is done to the file of a record, which is as it was before, so that it can be undone.
+void noteFileStep(Workspace& workspace, FileStep step) {
+    constexpr std::size_t mostSteps = 50;
+    if (workspace.fileSteps.size() == mostSteps) {
+        workspace.fileSteps.erase(workspace.fileSteps.begin());
+    }
+    workspace.fileSteps.push_back(std::move(step));
+    workspace.isFileStepLast = true;
+}
+
+/// Whether a folder lists a file in just this letter case.
+bool isListedSo(const std::string& path) {
+    const std::size_t name = path.rfind('\\') + 1;
+    std::vector<std::string> names;
+    listFiles(path.substr(0, name), "", names);
+    return std::find(names.begin(), names.end(), path.substr(name)) != names.end();
+}
+
+/// Gives a file its other name; the reason where that fails, which leaves it its own. Some systems do nothing
+/// where only the case of letters changes: so there is a step between, and a look at what came of it.
+std::string renameOnDisk(FileOperations& files, const std::string& from, const std::string& to) {
+    if (!equalsIgnoringCase(from, to)) {
+        return files.rename(from, to) ? std::string() : files.lastError();
+    }
+    const std::string between = from + std::string(RenamingEnding);
+    if (!files.rename(from, between)) {
+        return files.lastError();
+    }
+    if (files.rename(between, to) && isListedSo(to)) {
+        return {};
+    }
+    std::string reason = files.lastError();
+    files.rename(files.exists(between) ? between : to, from);
+    return reason.empty() ? "The system does not change the case of its letters." : reason;
 }
 
 SaveOutcome saveNew(Workspace& workspace, const Record& record) {
@@ -41,34 +98,37 @@ SaveOutcome saveNew(Workspace& workspace, const Record& record) {
 } // namespace
 
 NameCheck createUnit(Workspace& workspace, const std::string& name, const std::string& nationality) {
-    if (auto refusal = refusalOfName(name)) {
+    if (auto refusal = refusalOfFile(workspace, name)) {
         return refusal;
     }
     if (auto refusal = refusalOfNationality(name, nationality)) {
         return refusal;
     }
-    if (workspace.files->exists(pathOf(workspace, name))) {
+    if (isTaken(workspace, name)) {
         return "Squad name already exists";
     }
     return checkOf(saveNew(workspace, newUnit(workspace.category, name, nationality)));
 }
 
-NameCheck createWeapon(Workspace& workspace, const std::string& name) {
-    if (auto refusal = refusalOfName(name)) {
+NameCheck createWeapon(Workspace& workspace, const std::string& name, WeaponType type) {
+    if (auto refusal = refusalOfFile(workspace, name)) {
         return refusal;
     }
-    if (workspace.files->exists(pathOf(workspace, name))) {
+    if (isTaken(workspace, name)) {
         return "Weapon name already exists";
     }
-    return checkOf(saveNew(workspace, newWeapon(name)));
+    return checkOf(saveNew(workspace, newWeapon(name, type)));
 }
 
 NameCheck duplicateRecord(Workspace& workspace, const std::string& name) {
-    if (auto refusal = refusalOfOtherName(workspace, name)) {
+    if (auto refusal = refusalOfFile(workspace, name)) {
         return refusal;
     }
-    if (workspace.files->exists(pathOf(workspace, name))) {
+    if (isTaken(workspace, name)) {
         return "File already exists";
+    }
+    if (auto refusal = refusalOfOtherNationality(workspace, name)) {
+        return refusal;
     }
     Record copy = workspace.open.present.record;
     setFileName(copy, name);
@@ -82,26 +142,45 @@ void openNewFile(Workspace& workspace, const std::string& name) {
 
 NameCheck renameFile(Workspace& workspace, const std::string& name) {
     const std::string former = openFileName(workspace);
-    if (auto refusal = refusalOfOtherName(workspace, name)) {
+    if (auto refusal = refusalOfFile(workspace, name)) {
         return refusal;
     }
-    const std::string target = pathOf(workspace, name);
-    // Another case of the same letters is the same file to the system, and a fair new name.
-    const bool isOnlyCase = equalsIgnoringCase(former, name) && former != name;
-    if (!isOnlyCase && workspace.files->exists(target)) {
-        return "That file already exists";
+    if (!equalsIgnoringCase(former, name) || former == name) {
+        // Another case of the same letters is the same file to the system, and a fair new name.
+        if (isTaken(workspace, name)) {
+            return "That file already exists";
+        }
     }
-    if (!workspace.files->rename(pathOf(workspace, former), target)) {
-        showMessage({.text = pathOf(workspace, former) + "\n\n" + workspace.files->lastError(),
-                     .caption = "Couldn't rename file",
-                     .icon = MessageIcon::Warning});
+    if (auto refusal = refusalOfOtherNationality(workspace, name)) {
+        return refusal;
+    }
+    FileStep step{.record = workspace.open, .content = {}, .renamedTo = name};
+    if (!giveName(workspace, name)) {
         return "";
     }
+    noteFileStep(workspace, std::move(step));
+    return std::nullopt;
+}
+
+bool giveName(Workspace& workspace, const std::string& name) {
     OpenRecord& open = workspace.open;
+    const std::string from = pathOf(workspace, openFileName(workspace));
+    std::string reason;
+    if (const auto failure = workspace.backups.keep(*workspace.files, open.base, from)) {
+        reason = failure->reason;
+    } else {
+        reason = renameOnDisk(*workspace.files, from, pathOf(workspace, name));
+    }
+    if (!reason.empty()) {
+        showMessage({.text = from + "\n\n" + reason,
+                     .caption = "Couldn't rename file",
+                     .icon = MessageIcon::Warning});
+        return false;
+    }
     setFileName(open.present.record, name);
     setFileName(open.saved.record, name);
     open.history.rename(name);
-    return std::nullopt;
+    return true;
 }
 
 void showRenamed(Workspace& workspace) {
@@ -111,26 +190,32 @@ void showRenamed(Workspace& workspace) {
 
 void deleteFile(Workspace& workspace) {
     const std::string name = workspace.list.selected;
-    if (name.empty() || !isRecordOpen(workspace) || !mayLeavePositions(workspace)) {
+    if (name.empty() || name != listedOpenName(workspace) || !mayLeavePositions(workspace)) {
         return;
     }
     const Answer answer = showMessage({.text = workspace.category == Category::Weapons
                                                    ? "Are you sure you want to delete this weapon?"
                                                    : "Are you sure you want to delete this squad?",
-                                       .caption = "Delete",
+                                       .caption = "Delete " + name,
                                        .buttons = MessageButtons::YesNo,
                                        .icon = MessageIcon::Question});
     if (answer != Answer::Yes) {
         return;
     }
+    FileStep step{.record = workspace.open, .content = {}, .renamedTo = {}};
+    step.record.present = withoutMoves(step.record);
+    FileOperations& files = *workspace.files;
     const std::string path = pathOf(workspace, name);
-    if (workspace.backups.keep(*workspace.files, baseFolder(workspace), path) ||
-        !workspace.files->recycle(path)) {
+    const bool isGone = files.read(path, step.content) &&
+                        !workspace.backups.keepContent(files, baseFolder(workspace), path, step.content) &&
+                        files.recycle(path) && !files.exists(path);
+    if (!isGone) {
         showMessage({.text = path, .caption = "Couldn't delete file", .icon = MessageIcon::Warning});
         return;
     }
+    noteFileStep(workspace, std::move(step));
     const std::string next = nameAfterSelected(workspace.list);
-    closeRecord(workspace);
+    workspace.open = {};
     refillAndSelect(workspace, next);
     if (!next.empty()) {
         openFile(workspace, next);

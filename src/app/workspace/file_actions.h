@@ -6,8 +6,12 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace varrocade {
+
+/// What a file's name has at its end while the case of its letters is changed.
+inline constexpr std::string_view RenamingEnding = ".renaming";
 
 /// Why a name is refused; an empty text when the reason has been shown already. Nothing: it is taken.
 using NameCheck = std::optional<std::string>;
@@ -15,8 +19,8 @@ using NameCheck = std::optional<std::string>;
 /// Writes the file of a new unit of the present category. `nationality` is "NATIONALITY_...".
 NameCheck createUnit(Workspace& workspace, const std::string& name, const std::string& nationality);
 
-/// Writes the file of a new weapon.
-NameCheck createWeapon(Workspace& workspace, const std::string& name);
+/// Writes the file of a new weapon, with the figures that weapons of its type begin with.
+NameCheck createWeapon(Workspace& workspace, const std::string& name, WeaponType type = WeaponType::Rifle);
 
 /// Writes the open record under another name. It stays open under its own.
 NameCheck duplicateRecord(Workspace& workspace, const std::string& name);
@@ -24,14 +28,17 @@ NameCheck duplicateRecord(Workspace& workspace, const std::string& name);
 /// Shows a file that was just made in the list and opens it.
 void openNewFile(Workspace& workspace, const std::string& name);
 
-/// Gives the file of the open record another name, and the record with all its steps.
+/// Gives the file of the open record another name, and the record with all its steps. Can be undone.
 NameCheck renameFile(Workspace& workspace, const std::string& name);
+
+/// Does the same without looking at the name; false when it fails, which has been shown.
+bool giveName(Workspace& workspace, const std::string& name);
 
 /// Selects the open record under its new name and has it shown.
 void showRenamed(Workspace& workspace);
 
 /// Moves the selected file to the recycle bin, after the questions about unsaved positions and about that,
-/// and opens the next one of the list.
+/// and opens the next one of the list. Can be undone.
 void deleteFile(Workspace& workspace);
 
 } // namespace varrocade

@@ -32,6 +32,8 @@ bool hasModFile(const std::string& folder) {
 /// Reads the weapons of the present mode and has it shown with the list of its files.
 void enterMode(Workspace& workspace) {
     loadCatalogue(workspace);
+    // A file of the same name in the other folder is another file.
+    workspace.list.selected.clear();
     workspace.listener->modeChanged();
     workspace.listener->listOutdated(workspace);
 }
@@ -104,7 +106,6 @@ bool switchModMode(Workspace& workspace) {
     }
     bool isCreated = false;
     if (workspace.modMode) {
-        // Closed while its folder is still the mod's: what is unsaved is kept there.
         closeRecord(workspace);
         leaveModMode(workspace);
         workspace.listener->recordOpened();
@@ -114,7 +115,7 @@ bool switchModMode(Workspace& workspace) {
         }
         isCreated = createModFolder(workspace);
         if (isCreated) {
-            closeRecord(workspace, workspace.programFolder);
+            closeRecord(workspace);
             workspace.listener->recordOpened();
         }
     }

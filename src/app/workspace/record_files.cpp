@@ -1,5 +1,7 @@
 #include "app/workspace/record_files.h"
 
+#include "app/workspace/record/unsaved_moves.h"
+#include "app/workspace/record/unsaved_records.h"
 #include "data/finding_text.h"
 #include "data/losses/save_losses.h"
 #include "data/reading/unit_reader.h"
@@ -55,6 +57,7 @@ void take(OpenRecord& open, Loaded& loaded, const Diagnostics& diagnostics) {
 
 OpenRecord loadRecord(const Workspace& workspace, const std::string& name) {
     OpenRecord open;
+    open.base = baseFolder(workspace);
     open.category = workspace.category;
     if (workspace.category != Category::Weapons) {
         LoadedUnit unit = loadUnit(*workspace.files, baseFolder(workspace), workspace.category, name);
@@ -80,16 +83,14 @@ std::string lossSummary(const std::vector<Finding>& losses) {
     return text;
 }
 
-/// Before a file that was written by hand is replaced for the first time, tells what the game's layout has no
-/// place for. What is only spelt otherwise is no reason to ask.
-bool mayReplaceFile(const Workspace& workspace, const std::string& path) {
-    std::string content;
-    if (workspace.backups.hasKept(path) || !workspace.files->read(path, content)) {
+/// Before a file that was written by hand is replaced, tells what the game's layout has no place for. What is
+/// only spelt otherwise is no reason to ask.
+bool mayReplaceHandMade(const OpenRecord& record, const std::string& content) {
+    if (content == fileTextOf(record.category, record.saved.record)) {
         return true;
     }
-    const Category category = workspace.open.category;
-    auto losses = category == Category::Weapons ? std::optional(weaponSaveLosses(content))
-                                                : unitSaveLosses(category, content);
+    auto losses = record.category == Category::Weapons ? std::optional(weaponSaveLosses(content))
+                                                       : unitSaveLosses(record.category, content);
     if (!losses) {
         return true;
     }
@@ -106,33 +107,106 @@ bool mayReplaceFile(const Workspace& workspace, const std::string& path) {
     return answer == Answer::Ok;
 }
 
-/// The path of the open record's file below a base folder.
-std::string openPath(const Workspace& workspace, const std::string& base) {
-    return dataFilePath(base, workspace.open.category, openFileName(workspace));
+Answer askAboutOutsideChange(const std::string& path) {
+    return showMessage(
+        {.text = path + "\n\nThis file is not what was opened here: another program has changed it, or "
+                        "it is the mod's.\n\nYes: reload it (Undo brings your changes back)\nNo: "
+                        "overwrite it (it is kept in the folder Backups)\nCancel: leave both as they are",
+         .caption = "Changed outside",
+         .buttons = MessageButtons::YesNoCancel,
+         .icon = MessageIcon::Warning});
+}
+
+/// Takes what the file holds for the record, as a change that can be undone.
+void reload(OpenRecord& record, std::string content) {
+    const bool wasMoved = record.weaponPosChanged() || record.exhaustPosChanged();
+    record.present.record = readRecord(record.category, content, fileNameOf(record.present.record));
+    if (wasMoved) {
+        // Undone, the moves are unsaved again.
+        record.present.weaponMove = record.present.exhaustMove = ++record.lastMove;
+    }
+    record.saved = record.present;
+    record.content = std::move(content);
+    record.isChangedOutside = false;
+    record.history.note("Reload", record.present);
+}
+
+std::string pathOf(const OpenRecord& record, const std::string& base) {
+    return dataFilePath(base, record.category, fileNameOf(record.present.record));
+}
+
+/// Marks a record with unsaved changes whose file is another than the one that was read.
+bool markIfChangedOutside(Workspace& workspace, OpenRecord& record) {
+    std::string content;
+    const bool isRead = workspace.files->read(pathOf(record, record.base), content);
+    const bool was = std::exchange(record.isChangedOutside, !isRead || content != record.content);
+    return was != record.isChangedOutside;
+}
+
+SaveOutcome write(Workspace& workspace, const OpenRecord& record, const std::string& base) {
+    if (const auto* weapon = std::get_if<WeaponRecord>(&record.present.record)) {
+        SaveOutcome outcome =
+            saveWeapon(*workspace.files, workspace.backups, base, weapon->fileName, *weapon);
+        workspace.catalogue.refresh(weapon->fileName);
+        return outcome;
+    }
+    return saveUnit(*workspace.files, workspace.backups, base, record.category,
+                    std::get<SquadRecord>(record.present.record));
 }
 
 } // namespace
 
 bool openFile(Workspace& workspace, const std::string& name) {
     closeRecord(workspace);
-    workspace.open = loadRecord(workspace, name);
+    if (auto kept = takeFromAside(workspace, name)) {
+        workspace.open = std::move(*kept);
+        markIfChangedOutside(workspace, workspace.open);
+    } else {
+        workspace.open = loadRecord(workspace, name);
+        if (!isRecordOpen(workspace) && !workspace.files->exists(pathOf(workspace, name))) {
+            workspace.listener->listOutdated(workspace);
+        }
+    }
     workspace.listener->recordOpened();
     return isRecordOpen(workspace);
 }
 
 void reopenIfChanged(Workspace& workspace) {
     OpenRecord& open = workspace.open;
-    if (!open.isOpen() || open.isUnsaved()) {
+    if (!open.isOpen()) {
+        return;
+    }
+    if (open.isUnsaved()) {
+        if (markIfChangedOutside(workspace, open)) {
+            workspace.listener->marksChanged();
+        }
         return;
     }
     const std::string name = openFileName(workspace);
     std::string content;
-    const bool isRead = workspace.files->read(openPath(workspace, baseFolder(workspace)), content);
+    const bool isRead = workspace.files->read(pathOf(open, open.base), content);
     if (isRead &&
         (content == open.content || readRecord(open.category, content, name) == open.saved.record)) {
         open.content = std::move(content);
-    } else {
+    } else if (open.base == baseFolder(workspace) && open.category == workspace.category) {
         openFile(workspace, name);
+    }
+}
+
+void noticeOutsideChanges(Workspace& workspace) {
+    if (namesOfFiles(categoryFolder(baseFolder(workspace), workspace.category)) != workspace.list.all) {
+        workspace.listener->listOutdated(workspace);
+    }
+    bool isMarkChanged = false;
+    for (OpenRecord& record : workspace.aside) {
+        isMarkChanged = markIfChangedOutside(workspace, record) || isMarkChanged;
+    }
+    if (isMarkChanged) {
+        workspace.listener->marksChanged();
+    }
+    const OpenRecord& open = workspace.open;
+    if (open.isOpen() && workspace.files->exists(pathOf(open, open.base))) {
+        reopenIfChanged(workspace);
     }
 }
 
@@ -145,53 +219,96 @@ bool tellFailure(const SaveOutcome& outcome) {
     return true;
 }
 
+SaveResult saveRecord(Workspace& workspace, OpenRecord& record, const std::string& base) {
+    std::string content;
+    if (workspace.files->read(pathOf(record, base), content)) {
+        const Answer answer =
+            content == record.content ? Answer::No : askAboutOutsideChange(pathOf(record, base));
+        if (answer == Answer::Yes) {
+            reload(record, std::move(content));
+            record.base = base;
+            return SaveResult::NothingToSave;
+        }
+        if (answer != Answer::No || !mayReplaceHandMade(record, content)) {
+            return SaveResult::Failed;
+        }
+    }
+    SaveOutcome outcome = write(workspace, record, base);
+    tellFailure(outcome);
+    if (outcome.result == SaveResult::Saved) {
+        // The file holds moved positions too.
+        record.saved = record.present;
+        record.content = std::move(outcome.content);
+        record.base = base;
+        record.isChangedOutside = false;
+    }
+    return outcome.result;
+}
+
 SaveResult saveOpenRecord(Workspace& workspace) {
     OpenRecord& open = workspace.open;
     if (!open.isOpen()) {
         return SaveResult::NothingToSave;
     }
-    const std::string& base = baseFolder(workspace);
-    if (!mayReplaceFile(workspace, openPath(workspace, base))) {
-        return SaveResult::Failed;
+    const std::string former = open.base;
+    const SaveResult result = saveRecord(workspace, open, baseFolder(workspace));
+    if (result == SaveResult::Failed) {
+        return result;
     }
-    const WeaponRecord* weapon = openWeapon(workspace);
-    SaveOutcome outcome =
-        weapon != nullptr
-            ? saveWeapon(*workspace.files, workspace.backups, base, weapon->fileName, *weapon)
-            : saveUnit(*workspace.files, workspace.backups, base, open.category, *openUnit(workspace));
-    if (weapon != nullptr) {
-        workspace.catalogue.refresh(weapon->fileName);
+    if (open.base != former || !isListed(workspace.list, openFileName(workspace))) {
+        workspace.listener->listOutdated(workspace);
     }
-    tellFailure(outcome);
-    if (outcome.result == SaveResult::Saved) {
-        // The file holds moved positions too.
-        open.saved = open.present;
-        open.content = std::move(outcome.content);
+    if (result == SaveResult::Saved) {
         workspace.listener->recordSaved();
+    } else {
+        workspace.listener->recordChanged();
     }
-    return outcome.result;
+    return result;
 }
 
-void keepUnsaved(Workspace& workspace, const std::string& base) {
-    const OpenRecord& open = workspace.open;
-    if (!open.isModified()) {
-        return;
-    }
-    if (const auto text = fileTextOf(open.category, open.present.record)) {
-        if (const auto failure =
-                workspace.backups.keepUnsaved(*workspace.files, base, openPath(workspace, base), *text)) {
-            tellDebugger(*failure);
+bool saveAll(Workspace& workspace) {
+    bool isAllSaved = !workspace.open.isUnsaved() || saveOpenRecord(workspace) != SaveResult::Failed;
+    const std::string base = baseFolder(workspace);
+    for (OpenRecord& record : workspace.aside) {
+        if (record.base == base) {
+            isAllSaved = saveRecord(workspace, record, base) != SaveResult::Failed && isAllSaved;
         }
     }
+    std::erase_if(workspace.aside, [](const OpenRecord& record) { return !record.isUnsaved(); });
+    workspace.listener->listOutdated(workspace);
+    return isAllSaved;
 }
 
-void closeRecord(Workspace& workspace, const std::string& base) {
-    keepUnsaved(workspace, base);
-    workspace.open = {};
+void discardChanges(Workspace& workspace) {
+    OpenRecord& open = workspace.open;
+    if (!open.isUnsaved()) {
+        return;
+    }
+    if (std::holds_alternative<std::monostate>(open.saved.record)) {
+        open = {};
+        workspace.listener->recordOpened();
+        return;
+    }
+    open.present = open.saved;
+    open.history.note("Discard changes", open.present);
+    workspace.isFileStepLast = false;
+    workspace.listener->recordChanged();
 }
 
 void closeRecord(Workspace& workspace) {
-    closeRecord(workspace, baseFolder(workspace));
+    OpenRecord open = std::exchange(workspace.open, {});
+    if (!open.isOpen()) {
+        return;
+    }
+    const RecordState kept = withoutMoves(open);
+    if (open.weaponPosChanged() || open.exhaustPosChanged()) {
+        open.present = kept;
+        open.history.note("Leave the moved positions", kept);
+    }
+    if (open.isModified()) {
+        workspace.aside.push_back(std::move(open));
+    }
+    workspace.listener->marksChanged();
 }
 
 } // namespace varrocade

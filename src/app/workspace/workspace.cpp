@@ -39,13 +39,19 @@ void loadCatalogue(Workspace& workspace) {
     workspace.catalogue.load(workspace.programFolder, workspace.modMode ? workspace.modFolder : "");
 }
 
-void refillNames(Workspace& workspace) {
-    NameList& list = workspace.list;
-    listFiles(categoryFolder(baseFolder(workspace), workspace.category), DataFileEnding, list.all);
-    for (std::string& name : list.all) {
+std::vector<std::string> namesOfFiles(const std::string& folder) {
+    std::vector<std::string> names;
+    listFiles(folder, DataFileEnding, names);
+    for (std::string& name : names) {
         name.resize(name.size() - DataFileEnding.size());
     }
-    filterNames(list, openFileName(workspace));
+    return names;
+}
+
+void refillNames(Workspace& workspace) {
+    NameList& list = workspace.list;
+    list.all = namesOfFiles(categoryFolder(baseFolder(workspace), workspace.category));
+    filterNames(list, listedOpenName(workspace));
     workspace.listener->namesChanged();
 }
 
@@ -67,6 +73,12 @@ const WeaponRecord* openWeapon(const Workspace& workspace) {
 
 std::string openFileName(const Workspace& workspace) {
     return fileNameOf(workspace.open.present.record);
+}
+
+std::string listedOpenName(const Workspace& workspace) {
+    const OpenRecord& open = workspace.open;
+    const bool isListed = open.category == workspace.category && open.base == baseFolder(workspace);
+    return isListed ? openFileName(workspace) : std::string();
 }
 
 } // namespace varrocade

@@ -7,12 +7,13 @@
 #include "data/category.h"
 #include "data/game_files.h"
 #include "mod/mod_settings.h"
+#include "platform/backups.h"
 #include "platform/file_operations.h"
-#include "platform/safe_save.h"
 #include "view/drawing/component_places.h"
 #include "weapons/weapon_catalogue.h"
 
 #include <array>
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -43,6 +44,8 @@ public:
     virtual void namesChanged() {}
     /// Another name is selected, or none.
     virtual void selectionChanged() {}
+    /// Other names of the list than before have unsaved changes.
+    virtual void marksChanged() {}
     /// The filter was emptied, since it hid what is to be selected.
     virtual void filterDropped() {}
     /// Mod mode was turned on or off.
@@ -51,6 +54,19 @@ public:
 
 /// One that hears nothing.
 WorkspaceListener& deafListener();
+
+/// A file that was deleted or renamed, as it was before.
+struct FileStep {
+    OpenRecord record;
+    std::string content;   ///< of the file
+    std::string renamedTo; ///< empty of a deleted one
+};
+
+/// The copies of unsaved changes on the disk.
+struct Journal {
+    std::map<std::string, std::string> written; ///< the content of each file by its path
+    bool hasFailed = false;                     ///< which was told, and is not told again before it succeeds
+};
 
 struct Workspace {
     FileOperations* files = &systemFiles();
@@ -67,6 +83,10 @@ struct Workspace {
     std::array<std::string, CategoryCount> rememberedSelections;
     NameList list; ///< of the category
     OpenRecord open;
+    std::vector<OpenRecord> aside; ///< those with unsaved changes that are not shown
+    Journal journal;               ///< of the unsaved changes of them all
+    std::vector<FileStep> fileSteps;
+    bool isFileStepLast = false; ///< nothing was changed in the open record since the last of these
     WeaponCatalogue catalogue;
     BackupKeeper backups;
 };
@@ -89,6 +109,9 @@ std::string& rememberedSelection(Workspace& workspace);
 /// Reads the weapons of the game and, in mod mode, of the mod anew.
 void loadCatalogue(Workspace& workspace);
 
+/// The names of the data files of a folder, without their ending.
+std::vector<std::string> namesOfFiles(const std::string& folder);
+
 /// Reads the names of the category's files and filters them.
 void refillNames(Workspace& workspace);
 
@@ -102,5 +125,9 @@ const WeaponRecord* openWeapon(const Workspace& workspace);
 
 /// The name of the open record's file, or empty.
 std::string openFileName(const Workspace& workspace);
+
+/// The same where that file is one of the list's; empty of the game's unit that stays open in a mod, which
+/// may have a file of the same name.
+std::string listedOpenName(const Workspace& workspace);
 
 } // namespace varrocade

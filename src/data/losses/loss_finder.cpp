@@ -1,6 +1,7 @@
 #include "data/losses/loss_finder.h"
 
 #include "data/finding_text.h"
+#include "data/format/texts.h"
 #include "data/losses/entry_pairs.h"
 #include "data/losses/loss_list.h"
 #include "data/losses/lost_text.h"
@@ -14,6 +15,8 @@
 namespace varrocade {
 
 namespace {
+
+constexpr std::string_view ReadBack = " will be read back as ";
 
 class LossFinder {
 public:
@@ -178,7 +181,7 @@ void LossFinder::judgeWritten(std::uint32_t index, const std::vector<const Trace
         }
         if (saved->after != value->after) {
             add(index, LossKind::Changed,
-                elementText(element) + " will be read back as " + quoted(saved->after));
+                elementText(element) + std::string(ReadBack) + quoted(saved->after));
             return;
         }
         if (std::find(written.begin(), written.end(), &savedNodes[saved->node]) == written.end()) {
@@ -234,7 +237,7 @@ void LossFinder::foldLostGroups() {
 void LossFinder::reportEntry(std::uint32_t index) {
     const Fate fate = file_.trace.fateOf(index);
     nodes_[index].isWhole = true;
-    add(index, LossKind::Dropped,
+    add(index, fate == Fate::Replaced ? LossKind::Unread : LossKind::Dropped,
         elementText(node(index)) + (fate == Fate::Replaced ? ": a later one takes its place"
                                                            : " is not written in files of this kind"));
 }
@@ -253,7 +256,7 @@ void LossFinder::reportNodes() {
         const bool isEntry = fate == Fate::Entry || fate == Fate::Replaced || fate == Fate::Item;
         if (fate == Fate::Ignored) {
             state.isWhole = true;
-            add(i, LossKind::Dropped,
+            add(i, LossKind::Unread,
                 elementText(node(i)) + placeOf(i) +
                     (knowledge_.isElement(node(i).name) ? " is in the wrong place" : " is not known"));
         } else if (fate == Fate::LeftOut) {
@@ -263,7 +266,7 @@ void LossFinder::reportNodes() {
         } else if (isEntry && pairs_.isGone(i)) {
             reportEntry(i);
         } else if ((fate == Fate::Group || fate == Fate::Entry) && !node(i).text.empty()) {
-            add(i, LossKind::Dropped, elementText(node(i)) + " begins with text where elements should be");
+            add(i, LossKind::Unread, elementText(node(i)) + " begins with text where elements should be");
         } else if (state.isLost) {
             add(i, LossKind::Dropped, elementText(node(i)) + placeOf(i) + " is not written");
         } else if (state.isWhole) {
@@ -279,6 +282,50 @@ void LossFinder::reportNodes() {
 std::vector<Finding> findLosses(const TracedFile& file, const TracedFile& saved,
                                 const LossKnowledge& knowledge) {
     return LossFinder(file, saved, knowledge).run();
+}
+
+namespace {
+
+std::string_view takeLine(std::string_view& text) {
+    const std::size_t end = std::min(text.find('\n'), text.size());
+    std::string_view line = text.substr(0, end);
+    line.remove_suffix(line.ends_with('\r') ? 1 : 0);
+    text.remove_prefix(std::min(end + 1, text.size()));
+    return trimmed(line);
+}
+
+/// The first line that holds what a written line says; 1 where none does.
+std::size_t lineOf(std::string_view fileContent, std::string_view writtenLine) {
+    const std::size_t at = writtenLine.empty() ? std::string_view::npos : fileContent.find(writtenLine);
+    const std::size_t end = at == std::string_view::npos ? 0 : at;
+    return 1 + static_cast<std::size_t>(std::count(
+                   fileContent.begin(), fileContent.begin() + static_cast<std::ptrdiff_t>(end), '\n'));
+}
+
+} // namespace
+
+void addReadBack(std::string_view fileContent, std::string_view saved, std::string_view savedAgain,
+                 std::vector<Finding>& losses) {
+    const bool isTold = std::any_of(losses.begin(), losses.end(), [](const Finding& loss) {
+        return loss.message.find(ReadBack) != std::string::npos;
+    });
+    // Where nothing else is lost, values that go without saying are all that is written otherwise.
+    if (losses.empty() || isTold || saved == savedAgain) {
+        return;
+    }
+    std::string_view written;
+    std::string_view readBack;
+    do {
+        written = takeLine(saved);
+        readBack = takeLine(savedAgain);
+    } while (written == readBack && !(saved.empty() && savedAgain.empty()));
+    LossList list;
+    list.add({.line = lineOf(fileContent, written)}, LossKind::Changed,
+             "what is written as " + quoted(written) + std::string(ReadBack) + quoted(readBack));
+    const std::vector<Finding> added = list.take();
+    const auto place = std::upper_bound(losses.begin(), losses.end(), added.front(),
+                                        [](const Finding& a, const Finding& b) { return a.line < b.line; });
+    losses.insert(place, added.front());
 }
 
 } // namespace varrocade

@@ -27,4 +27,10 @@ struct LossKnowledge {
 std::vector<Finding> findLosses(const TracedFile& file, const TracedFile& saved,
                                 const LossKnowledge& knowledge);
 
+/// For `losses` none of which says that something is read back otherwise: where what was saved is not what
+/// reading it and saving it again gives, adds one that names the first such line. Broken nesting and order
+/// take values elsewhere, beyond what comparing them one by one can tell.
+void addReadBack(std::string_view fileContent, std::string_view saved, std::string_view savedAgain,
+                 std::vector<Finding>& losses);
+
 } // namespace varrocade

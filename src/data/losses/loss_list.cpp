@@ -17,7 +17,8 @@ struct LossKindTraits {
 };
 
 /// By `LossKind`. What is only spelt otherwise is no reason to ask anybody.
-constexpr std::array<LossKindTraits, 3> LossKinds = {{{finding_key::Dropped, Severity::Warning},
+constexpr std::array<LossKindTraits, 4> LossKinds = {{{finding_key::Dropped, Severity::Error},
+                                                      {finding_key::Dropped, Severity::Warning},
                                                       {finding_key::Changed, Severity::Warning},
                                                       {finding_key::Respelt, Severity::Note}}};
 

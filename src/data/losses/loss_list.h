@@ -11,7 +11,12 @@
 
 namespace varrocade {
 
-enum class LossKind : std::uint8_t { Dropped, Changed, Respelt };
+enum class LossKind : std::uint8_t {
+    Unread, ///< dropped by the reader already: an error of the file
+    Dropped,
+    Changed,
+    Respelt
+};
 
 /// One line about a loss: "12: dropped: ...". Its key says what becomes of it: `finding_key::Dropped`,
 /// `Changed` or `Respelt`.

@@ -50,7 +50,7 @@ public:
         const std::vector<TagNode>& nodes = tree_.nodes();
         for (std::uint32_t i = 0; i < nodes.size(); ++i) {
             if (budget_ == 0) {
-                losses_.add(places_.placeAt(openingOf(nodes[i])), LossKind::Dropped,
+                losses_.add(places_.placeAt(openingOf(nodes[i])), LossKind::Unread,
                             tagText(nodes[i].name) + " stands in a nesting too deep to be checked");
                 return;
             }
@@ -108,7 +108,7 @@ private:
             message = tagText(rest.substr(1, tagEnd - 1)) + where +
                       " is not closed, and nothing from there on is read";
         }
-        losses_.add(places_.placeAt(offset), LossKind::Dropped, std::move(message));
+        losses_.add(places_.placeAt(offset), LossKind::Unread, std::move(message));
     }
 
     const SourceMap& places_;
@@ -133,7 +133,7 @@ void findLostComments(const SourceMap& places, std::string_view fileContent, std
 
 void findBrokenNesting(const SourceMap& places, const TagTree& tree, LossList& losses) {
     if (!tree.root().text.empty()) {
-        losses.add({}, LossKind::Dropped,
+        losses.add({}, LossKind::Unread,
                    quoted(tree.root().text) + " is no element, and nothing of the file is read");
         return;
     }

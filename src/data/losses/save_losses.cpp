@@ -71,7 +71,7 @@ std::optional<std::vector<Finding>> unitSaveLosses(Category category, std::strin
         return std::nullopt;
     }
     TracedFile saved(*text);
-    readTraced(saved);
+    const std::optional<std::string> again = unitFileText(category, readTraced(saved));
     // Writers sort weapons and ammunition by their types, and conversions mix points with those of a file.
     const std::array<FieldId, 5> keys = {&field::MountedType, &field::AmmoFor, &field::Month, &field::Year,
                                          &field::NumberOfUnits};
@@ -79,7 +79,9 @@ std::optional<std::vector<Finding>> unitSaveLosses(Category category, std::strin
         .isElement = unit_rules::isElement,
         .keys = keys,
         .goesWithoutSaying = category == Category::Vehicles ? goesWithoutSayingInVehicle : goesWithoutSaying};
-    return findLosses(file, saved, knowledge);
+    std::vector<Finding> losses = findLosses(file, saved, knowledge);
+    addReadBack(fileContent, *text, again ? std::string_view(*again) : std::string_view(), losses);
+    return losses;
 }
 
 } // namespace varrocade

@@ -204,6 +204,12 @@ std::string displayName(std::string_view name, std::string_view prefix) {
     return words;
 }
 
+std::string shownWord(std::string_view name, std::string_view prefix,
+                      std::span<const std::string_view> names) {
+    const bool isKnown = std::find(names.begin(), names.end(), name) != names.end();
+    return isKnown || name.empty() ? displayName(name, prefix) : std::string(name) + " (unknown)";
+}
+
 std::string weaponWord(std::string_view weaponType) {
     if (weaponType.starts_with(WeaponPrefix)) {
         weaponType.remove_prefix(WeaponPrefix.size());

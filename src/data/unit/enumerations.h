@@ -50,6 +50,10 @@ bool isDefaultFlavour(std::string_view weaponType, std::string_view flavour);
 /// A name for people: "NATIONALITY_NORTH_KOREAN" without its prefix as "North Korean".
 std::string displayName(std::string_view name, std::string_view prefix);
 
+/// The same for one of `names`; any other name as it stands, with a mark.
+std::string shownWord(std::string_view name, std::string_view prefix,
+                      std::span<const std::string_view> names);
+
 /// A weapon type for people: "Cannon 75 KWK42 L70".
 std::string weaponWord(std::string_view weaponType);
 

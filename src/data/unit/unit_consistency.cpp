@@ -1,9 +1,11 @@
 #include "data/unit/unit_consistency.h"
 
 #include "data/each_field.h"
+#include "data/finding_text.h"
 #include "data/unit/elements.h"
 #include "data/unit_fields.h"
 
+#include <algorithm>
 #include <array>
 #include <string>
 #include <utility>
@@ -33,6 +35,17 @@ bool isArmed(ComponentKind kind) {
 
 constexpr auto ComponentRules = std::to_array<std::optional<Finding> (*)(const ComponentRecord&)>(
     {traverseFinding, offsetHeightFinding, rotateTimeFinding});
+
+/// Calls `visit` with each component and its path, with a point at its end.
+template <typename Visit>
+void forEachComponent(const VehicleRecord& vehicle, Visit visit) {
+    std::array<std::size_t, 4> counts = {};
+    for (const ComponentRecord& component : vehicle.components) {
+        const std::size_t number = ++counts.at(static_cast<std::size_t>(component.kind));
+        visit(component, std::string(e::Vehicle) + "." + std::string(elementOf(component.kind)) + "[" +
+                             std::to_string(number) + "].");
+    }
+}
 
 } // namespace
 
@@ -90,6 +103,21 @@ std::optional<Finding> revolutionsFinding(const VehicleRecord& vehicle) {
                          "at least " + std::to_string(vehicle.idleRevolutions));
 }
 
+std::optional<Finding> ammunitionFinding(const AmmoLoadRecord& load,
+                                         std::span<const WeaponMountRecord> weapons) {
+    const auto fits = [&](const WeaponMountRecord& weapon) { return weapon.type == load.weaponType; };
+    if (!load.weaponType.empty() && std::any_of(weapons.begin(), weapons.end(), fits)) {
+        return std::nullopt;
+    }
+    const std::string rounds = std::to_string(load.rounds) + (load.rounds == 1 ? " round" : " rounds");
+    return Finding{.key = finding_key::AmmoWithoutWeapon,
+                   .field = std::string(field::AmmoFor.element),
+                   .message = load.weaponType.empty()
+                                  ? rounds + " for no weapon"
+                                  : rounds + " for " + quoted(load.weaponType) + ", which is not there",
+                   .value = load.weaponType.str()};
+}
+
 std::optional<Finding> componentRoomFinding(const VehicleRecord& vehicle) {
     if (vehicle.components.size() < MaxSquadMembers) {
         return std::nullopt;
@@ -100,6 +128,28 @@ std::optional<Finding> componentRoomFinding(const VehicleRecord& vehicle) {
                    .message = std::string(TooManyComponentsText),
                    .value = std::to_string(vehicle.components.size()),
                    .expected = "fewer than " + std::to_string(MaxSquadMembers)};
+}
+
+std::vector<Finding> ammunitionFindings(const SquadRecord& unit) {
+    std::vector<Finding> findings;
+    const auto check = [&findings](const auto& armed, const std::string& path) {
+        for (std::size_t i = 0; i < armed.ammo.size(); ++i) {
+            if (auto finding = ammunitionFinding(armed.ammo[i], armed.weapons)) {
+                finding->field.insert(0, path + std::string(e::Ammo) + "[" + std::to_string(i + 1) + "].");
+                findings.push_back(std::move(*finding));
+            }
+        }
+    };
+    if (unit.vehicle) {
+        forEachComponent(*unit.vehicle, check);
+    }
+    if (unit.heavyWeapon) {
+        check(*unit.heavyWeapon, std::string(elementOf(unit.heavyWeapon->kind)) + ".");
+    }
+    if (unit.aircraft) {
+        check(*unit.aircraft, std::string(e::Aircraft) + ".");
+    }
+    return findings;
 }
 
 std::vector<Finding> vehicleFindings(const VehicleRecord& vehicle) {
@@ -113,15 +163,11 @@ std::vector<Finding> vehicleFindings(const VehicleRecord& vehicle) {
     const std::string vehiclePath = std::string(e::Vehicle) + ".";
     add(revolutionsFinding(vehicle),
         vehiclePath + std::string(e::Drive) + "." + std::string(e::Engine) + ".");
-    std::array<std::size_t, 4> counts = {};
-    for (const ComponentRecord& component : vehicle.components) {
-        const auto kind = static_cast<std::size_t>(component.kind);
-        const std::string path = vehiclePath + std::string(elementOf(component.kind)) + "[" +
-                                 std::to_string(++counts.at(kind)) + "].";
+    forEachComponent(vehicle, [&](const ComponentRecord& component, const std::string& path) {
         for (const auto& rule : ComponentRules) {
             add(rule(component), path);
         }
-    }
+    });
     return findings;
 }
 

@@ -7,6 +7,7 @@
 #include "data/unit/unit_record.h"
 
 #include <optional>
+#include <span>
 #include <vector>
 
 namespace varrocade {
@@ -26,6 +27,14 @@ std::optional<Finding> revolutionsFinding(const VehicleRecord& vehicle);
 
 /// Why a vehicle takes no further component.
 std::optional<Finding> componentRoomFinding(const VehicleRecord& vehicle);
+
+/// Ammunition is for one of these weapons.
+std::optional<Finding> ammunitionFinding(const AmmoLoadRecord& load,
+                                         std::span<const WeaponMountRecord> weapons);
+
+/// The ammunition of a unit that is for none of the weapons beside it, with fields from the unit on:
+/// "vehicle.turret[2].ammo[1].for".
+std::vector<Finding> ammunitionFindings(const SquadRecord& unit);
 
 /// Everything that is inconsistent in a vehicle, with fields from the unit on:
 /// "vehicle.turret[2].rotate_left" is that of its second turret.

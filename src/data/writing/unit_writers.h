@@ -4,7 +4,7 @@
 
 #include "data/category.h"
 #include "data/unit/unit_record.h"
-#include "platform/safe_save.h"
+#include "platform/backups.h"
 
 #include <optional>
 #include <string>

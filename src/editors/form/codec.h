@@ -26,7 +26,8 @@ struct CodecTerms {
     std::string_view label = {}; ///< in refusals
     NumberRange range = {};
     int decimals = -1;             ///< of a real number; below 0 the shortest form
-    bool isImage = false;          ///< a name that records hold without ".png"
+    bool isImage = false;          ///< the name of a picture, which may be the default one
+    bool losesEnding = false;      ///< a name that records hold without ".png"
     std::string_view emptyAs = {}; ///< the word that stands for an empty value
 };
 
@@ -159,7 +160,10 @@ private:
         if (!terms.isImage) {
             return text;
         }
-        return isDefaultImage(text) && !terms.emptyAs.empty() ? terms.emptyAs : imageNameOf(text);
+        if (isDefaultImage(text) && !terms.emptyAs.empty()) {
+            return terms.emptyAs;
+        }
+        return terms.losesEnding ? imageNameOf(text) : text;
     }
 };
 

@@ -1,10 +1,18 @@
 #include "editors/form/dialog_frame_win32.h"
 
+#include "editors/form/combo_list_win32.h"
 #include "platform/messages.h"
 
 #include <algorithm>
 
 namespace varrocade {
+
+namespace {
+
+/// A drop-down list has opened, whose control is the first parameter. Dialogs' own messages lie below.
+constexpr UINT ComboOpened = WM_APP + 0x100;
+
+} // namespace
 
 bool DialogFrame::run(HWND owner) {
     return runDialog(owner, template_, frameProcedure, this) != 0;
@@ -47,6 +55,9 @@ INT_PTR DialogFrame::handleMessage(UINT message, WPARAM parameter, LPARAM pointe
         return TRUE;
     case WM_CTLCOLOREDIT:
         return colourEdit(reinterpret_cast<HDC>(parameter), reinterpret_cast<HWND>(pointer));
+    case ComboOpened:
+        keepOpenedText(static_cast<int>(parameter));
+        return TRUE;
     case WM_DESTROY:
         port().unmarkAll();
         return FALSE;
@@ -72,7 +83,33 @@ bool DialogFrame::handleCommand(int control, int notification) {
         button->press();
         return true;
     }
+    if (port().isFilling()) {
+        return true;
+    }
+    if (isTypedInto(GetDlgItem(dialog_, control))) {
+        followCombo(control, notification);
+    }
     return notice(control, notification);
+}
+
+/// What is typed narrows the list; opening it takes nothing for the user, who may only want to look.
+void DialogFrame::followCombo(int control, int notification) {
+    if (notification == CBN_EDITCHANGE) {
+        port().filterChoices(control);
+    } else if (notification == CBN_KILLFOCUS) {
+        port().showAllChoices(control);
+    } else if (notification == CBN_DROPDOWN) {
+        openedWith_ = port().text(control);
+        PostMessageA(dialog_, ComboOpened, static_cast<WPARAM>(control), 0);
+    }
+}
+
+/// The system completes the text from the list's entries as it opens.
+void DialogFrame::keepOpenedText(int control) {
+    if (port().text(control) != openedWith_) {
+        port().setText(control, openedWith_);
+        SendDlgItemMessageA(dialog_, control, CB_SETEDITSEL, 0, MAKELPARAM(-1, -1));
+    }
 }
 
 INT_PTR DialogFrame::colourEdit(HDC device, HWND edit) {

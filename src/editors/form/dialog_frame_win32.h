@@ -60,6 +60,8 @@ private:
     static INT_PTR CALLBACK frameProcedure(HWND dialog, UINT message, WPARAM parameter, LPARAM pointer);
     INT_PTR handleMessage(UINT message, WPARAM parameter, LPARAM pointer);
     bool handleCommand(int control, int notification);
+    void followCombo(int control, int notification);
+    void keepOpenedText(int control);
     INT_PTR colourEdit(HDC device, HWND edit);
 
     int template_;
@@ -68,6 +70,7 @@ private:
     HWND dialog_ = nullptr;
     std::optional<DialogPort> port_;
     GdiObject<HBRUSH> refusedBrush_;
+    std::string openedWith_; ///< the text of the drop-down list that was opened last
 };
 
 } // namespace varrocade

@@ -1,5 +1,9 @@
 #include "editors/form/form.h"
 
+#include "data/format/texts.h"
+
+#include <algorithm>
+
 namespace varrocade {
 
 std::string notStoredText(std::span<const std::string> labels) {
@@ -11,6 +15,20 @@ std::string notStoredText(std::span<const std::string> labels) {
         text += (i + 1 < labels.size() ? ", " : " and ") + labels[i];
     }
     return text + (labels.size() > 1 ? " are" : " is") + " not stored in the file)";
+}
+
+std::vector<std::string> fittingChoices(std::span<const std::string> choices, std::string_view text) {
+    std::vector<std::string> fitting(choices.begin(), choices.end());
+    std::string words = loweredText(text);
+    while (!words.empty()) {
+        const std::size_t end = std::min(words.find(' '), words.size());
+        const std::string word = words.substr(0, end);
+        std::erase_if(fitting, [&](const std::string& choice) {
+            return loweredText(choice).find(word) == std::string::npos;
+        });
+        words.erase(0, std::min(end + 1, words.size()));
+    }
+    return fitting;
 }
 
 void addUnknown(std::string& names, FormPort& port, int control, std::string_view label) {

@@ -31,6 +31,9 @@ std::string notStoredText(std::span<const std::string> labels);
 /// Names a text that a drop-down list does not offer: `Unknown, kept as it is: Type "X"`.
 void addUnknown(std::string& names, FormPort& port, int control, std::string_view label);
 
+/// The choices that hold every word of a text, whatever the case of its letters.
+std::vector<std::string> fittingChoices(std::span<const std::string> choices, std::string_view text);
+
 namespace form_detail {
 
 template <typename Record>

@@ -1,22 +1,18 @@
 #include "editors/form/form_port_win32.h"
 
+#include "data/format/texts.h"
+#include "editors/form/combo_list_win32.h"
+#include "editors/form/form.h"
 #include "resources/resource.h"
 
 #include <commctrl.h>
 
 #include <algorithm>
-#include <array>
+#include <utility>
 
 namespace varrocade {
 
 namespace {
-
-/// Whether a control is a drop-down list, whose messages are others than an edit's.
-bool isComboBox(HWND control) {
-    std::array<char, 16> name{};
-    GetClassNameA(control, name.data(), static_cast<int>(name.size()));
-    return lstrcmpiA(name.data(), "ComboBox") == 0;
-}
 
 /// The window property of a dialog with the window that shows why its controls are marked.
 constexpr const char* RefusalTipsProperty = "Varrocade.RefusalTips";
@@ -90,8 +86,21 @@ void DialogPort::setEnabled(int control, bool enabled) {
 
 void DialogPort::setChoices(int control, std::span<const std::string> choices) {
     HWND window = GetDlgItem(dialog_, control);
-    // Emptying the list empties its edit part too.
     const std::string kept = text(control);
+    if (isTypedInto(window)) {
+        std::vector<std::string> all(choices.begin(), choices.end());
+        const auto [known, isNew] = choices_.try_emplace(control);
+        if (!isNew && known->second == all) {
+            return;
+        }
+        known->second = std::move(all);
+        filtered_.erase(control);
+        showChoices(window, known->second);
+        if (isNew) {
+            guardText(window);
+        }
+        return;
+    }
     SendMessageA(window, CB_RESETCONTENT, 0, 0);
     for (const std::string& choice : choices) {
         SendMessageA(window, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(choice.c_str()));
@@ -99,7 +108,32 @@ void DialogPort::setChoices(int control, std::span<const std::string> choices) {
     setText(control, kept);
 }
 
+void DialogPort::showChoices(HWND window, std::span<const std::string> choices) {
+    const bool wasFilling = std::exchange(isFilling_, true);
+    replaceEntries(window, choices);
+    isFilling_ = wasFilling;
+}
+
+void DialogPort::filterChoices(int control) {
+    const auto known = choices_.find(control);
+    if (known != choices_.end()) {
+        filtered_.insert(control);
+        showChoices(GetDlgItem(dialog_, control), fittingChoices(known->second, text(control)));
+    }
+}
+
+void DialogPort::showAllChoices(int control) {
+    if (filtered_.erase(control) > 0) {
+        showChoices(GetDlgItem(dialog_, control), choices_[control]);
+    }
+}
+
 bool DialogPort::offers(int control, std::string_view text) {
+    const auto known = choices_.find(control);
+    if (known != choices_.end()) {
+        return std::any_of(known->second.begin(), known->second.end(),
+                           [text](const std::string& choice) { return equalsIgnoringCase(choice, text); });
+    }
     return SendDlgItemMessageA(dialog_, control, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
                                reinterpret_cast<LPARAM>(std::string(text).c_str())) != CB_ERR;
 }

@@ -4,6 +4,12 @@
 
 #include <windows.h>
 
+#include <map>
+#include <set>
+#include <span>
+#include <string>
+#include <vector>
+
 namespace varrocade {
 
 /// The controls of a real dialog.
@@ -23,11 +29,23 @@ public:
     /// Marked controls have another background (`refusedColour`), and tell why while the mouse rests on them.
     void mark(int control, std::string_view refusal) override;
 
+    /// Shows only those entries of a drop-down list that fit what was typed into it.
+    void filterChoices(int control);
+    /// Shows all of them again.
+    void showAllChoices(int control);
+    /// Whether a list is being filled: what its control reports is no change of the user's.
+    [[nodiscard]] bool isFilling() const { return isFilling_; }
+
     /// Takes all marks off, before the dialog goes.
     void unmarkAll();
 
 private:
+    void showChoices(HWND window, std::span<const std::string> choices);
+
     HWND dialog_;
+    bool isFilling_ = false;
+    std::map<int, std::vector<std::string>> choices_; ///< of the lists that are typed into
+    std::set<int> filtered_;
 };
 
 /// Shows a text in IDC_UNKNOWN, which is there only while there is something to say. It can be as long as it

@@ -91,6 +91,7 @@ private:
                 .range = field->traits.range,
                 .decimals = field->traits.decimals,
                 .isImage = field->kind == FieldKind::Image || field->kind == FieldKind::Uniform,
+                .losesEnding = field->kind == FieldKind::Image,
                 .emptyAs = terms.emptyAs};
     }
 
@@ -134,8 +135,10 @@ private:
                 }
             }
             const std::string label = row.label();
-            const CodecTerms terms = row.codecTerms(label);
+            CodecTerms terms = row.codecTerms(label);
             const std::string text = port.text(row.control);
+            // The list offers names without their ending: "odd.png" is the picture "odd.png.png".
+            terms.losesEnding = terms.losesEnding && !port.offers(row.control, text);
             // What is not changed is not changed: neither rounded nor refused.
             const bool isUntouched = text == onOneLine(Converter::textOf(value, terms));
             if (Refusal refusal = isUntouched ? std::nullopt : Converter::take(text, terms, value)) {

@@ -38,6 +38,8 @@ protected:
     /// What the shown entry holds that no list offers, in words.
     virtual std::string unknownText() { return model_.unknown(shownIndex(), port()); }
 
+    bool accept() override { return takeShown(); }
+
     [[nodiscard]] bool isShown() const { return shown_ >= 0; }
     /// The place of the entry that the form shows, which there must be.
     [[nodiscard]] std::size_t shownIndex() const { return static_cast<std::size_t>(shown_); }
@@ -49,10 +51,10 @@ protected:
     void refresh(int chosen);
     void refreshShown() { refresh(shown_); }
 
+    bool notice(int control, int notification) override;
+
 private:
     void init() override;
-    bool accept() override { return takeShown(); }
-    bool notice(int control, int notification) override;
 
     [[nodiscard]] int lastIndex() const { return static_cast<int>(model_.count()) - 1; }
     void showEntry(int index);

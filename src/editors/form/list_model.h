@@ -5,6 +5,7 @@
 #include "editors/form/form.h"
 
 #include <cstddef>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -53,40 +54,66 @@ struct ListShape {
     void (*mirror)(Entry& entry) = nullptr; ///< to the other side of the vehicle
     /// What a new entry holds.
     Entry blank = {};
+    /// Refuses an entry that says nothing yet. Only what is made so is refused: what a file holds stays.
+    std::optional<FormError> (*incomplete)(const Entry& entry) = nullptr;
+};
+
+/// What a list's entries depend on besides themselves.
+template <typename Entry>
+struct ListSurroundings {
+    std::function<Entry()> next; ///< a new entry, where it is not the shape's blank
+    std::function<std::string(const Entry& entry)> warn = {}; ///< what is wrong with an entry, or empty
 };
 
 /// The entries of a vector.
 template <typename Entry>
 class VectorListModel : public ListModel {
 public:
-    VectorListModel(std::vector<Entry>& entries, const ListShape<Entry>& shape)
-        : entries_(entries), shape_(shape) {}
+    VectorListModel(std::vector<Entry>& entries, const ListShape<Entry>& shape,
+                    ListSurroundings<Entry> surroundings = {})
+        : entries_(entries), shape_(shape), surroundings_(std::move(surroundings)),
+          isNew_(entries.size(), 0) {}
 
     [[nodiscard]] std::size_t count() const override { return entries_.size(); }
     [[nodiscard]] std::string line(std::size_t index) const override {
-        return shape_.line(index + 1, entries_[index]);
+        const std::string warning =
+            surroundings_.warn != nullptr ? surroundings_.warn(entries_[index]) : std::string();
+        return shape_.line(index + 1, entries_[index]) + (warning.empty() ? "" : "  (!)");
     }
     [[nodiscard]] bool hasRoom() const override { return entries_.size() < shape_.most; }
     [[nodiscard]] bool canMirror() const override { return shape_.mirror != nullptr; }
 
     void show(std::size_t index, FormPort& port) override { fillForm(port, shape_.form, entries_[index]); }
     std::optional<FormError> read(std::size_t index, FormPort& port) override {
-        return readForm(port, shape_.form, entries_[index]);
+        Entry read = entries_[index];
+        if (auto error = readForm(port, shape_.form, read)) {
+            return error;
+        }
+        const auto incomplete = [this](const Entry& entry) {
+            return shape_.incomplete != nullptr ? shape_.incomplete(entry) : std::nullopt;
+        };
+        if (auto error = incomplete(read); error && (isNew_[index] != 0 || !incomplete(entries_[index]))) {
+            return error;
+        }
+        entries_[index] = std::move(read);
+        return std::nullopt;
     }
-    void add() override { entries_.push_back(shape_.blank); }
-    void copy(std::size_t index) override {
-        Entry twin = entries_[index];
-        entries_.push_back(std::move(twin));
-    }
+    void add() override { append(surroundings_.next != nullptr ? surroundings_.next() : shape_.blank); }
+    void copy(std::size_t index) override { append(entries_[index]); }
     void mirror(std::size_t index) override {
         Entry twin = entries_[index];
         shape_.mirror(twin);
-        entries_.push_back(std::move(twin));
+        append(std::move(twin));
     }
     void erase(std::size_t index) override {
-        entries_.erase(entries_.begin() + static_cast<std::ptrdiff_t>(index));
+        const auto place = static_cast<std::ptrdiff_t>(index);
+        entries_.erase(entries_.begin() + place);
+        isNew_.erase(isNew_.begin() + place);
     }
-    void swap(std::size_t index, std::size_t other) override { std::swap(entries_[index], entries_[other]); }
+    void swap(std::size_t index, std::size_t other) override {
+        std::swap(entries_[index], entries_[other]);
+        std::swap(isNew_[index], isNew_[other]);
+    }
     void disable(FormPort& port) override {
         for (const FormRow<Entry>& row : shape_.form.rows) {
             port.setEnabled(row.control, false);
@@ -107,8 +134,15 @@ public:
     }
 
 private:
+    void append(Entry entry) {
+        entries_.push_back(std::move(entry));
+        isNew_.push_back(1);
+    }
+
     std::vector<Entry>& entries_;
     const ListShape<Entry>& shape_;
+    ListSurroundings<Entry> surroundings_;
+    std::vector<char> isNew_; ///< whether the dialog made the entry
 };
 
 } // namespace varrocade

@@ -2,7 +2,7 @@
 
 #include "data/format/numbers.h"
 #include "data/format/words.h"
-#include "editors/penetration/penetration_form.h"
+#include "view/chart/chart.h"
 #include "view/painting/painter_win32.h"
 
 #include <algorithm>
@@ -26,11 +26,6 @@ constexpr int RangeStep = 500;
 constexpr int MostSteps = 6;
 constexpr int OneColumn = 4; ///< more lines of the legend stand in two columns
 constexpr COLORREF AxisColour = RGB(190, 180, 150);
-/// Told apart by the colour-blind too. Where a weapon has more ammunition types, they begin again, dashed.
-constexpr std::array<COLORREF, 7> CurveColours = {RGB(0, 114, 178),  RGB(213, 94, 0),  RGB(0, 158, 115),
-                                                  RGB(204, 80, 150), RGB(150, 110, 0), RGB(60, 150, 220),
-                                                  RGB(90, 90, 90)};
-
 /// Where the parts of the chart are.
 struct ChartPlaces {
     RECT plot{};
@@ -131,10 +126,10 @@ void paintCurve(HDC device, const ChartPlaces& places, const PenetrationCurve& c
 }
 
 GdiObject<HPEN> curvePen(std::size_t index, const PenetrationChart& chart, const DrawingObjects& drawing) {
-    const bool isAgain = index >= CurveColours.size();
+    const bool isAgain = index >= ChartColours.size();
     const int width = index == chart.chosen ? drawing.scaled(3) : 1;
     return GdiObject<HPEN>(CreatePen(isAgain && width == 1 ? PS_DASH : PS_SOLID, width,
-                                     CurveColours[index % CurveColours.size()]));
+                                     colourRef(ChartColours[index % ChartColours.size()])));
 }
 
 void paintLegendLine(HDC device, const ChartPlaces& places, const PenetrationChart& chart, std::size_t index,
@@ -187,11 +182,8 @@ void paintContent(HDC device, const RECT& area, const PenetrationChart& chart,
 } // namespace
 
 void paintChart(const DRAWITEMSTRUCT& item, const PenetrationChart& chart, const DrawingObjects& drawing) {
-    const RECT& area = item.rcItem;
-    const MemoryBitmap memory(item.hDC, area.right, area.bottom);
-    FillRect(memory.device(), &area, drawing.beigeBrush.get());
-    paintContent(memory.device(), area, chart, drawing);
-    BitBlt(item.hDC, 0, 0, area.right, area.bottom, memory.device(), 0, 0, SRCCOPY);
+    paintBuffered(item.hDC, item.rcItem, drawing,
+                  [&](HDC device) { paintContent(device, item.rcItem, chart, drawing); });
 }
 
 std::optional<int> chartRangeAt(const RECT& area, POINT point, const PenetrationChart& chart,

@@ -9,7 +9,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 
 namespace varrocade {
 
@@ -119,18 +118,6 @@ void showPenetration(FormPort& port, const WeaponRecord* weapon, std::size_t she
         port.setText(IDC_VELOCITY_ROWS + row, result.velocity);
         ++row;
     }
-}
-
-ChartAxis chartAxis(double greatest, int mostSteps) {
-    constexpr double kilometre = 1e6;
-    const double reached = std::min(greatest, kilometre);
-    const double least = reached / mostSteps;
-    const double power = std::pow(10.0, std::floor(std::log10(least)));
-    double step = 10 * power;
-    for (const double factor : {5.0, 2.0, 1.0}) {
-        step = factor * power >= least ? factor * power : step;
-    }
-    return {.step = step, .steps = static_cast<int>(std::ceil(reached / step))};
 }
 
 std::string weaponFileNote(const WeaponCatalogue& catalogue, std::size_t weapon) {

@@ -41,17 +41,6 @@ double formDrag(FormPort& port, AmmoFlavour flavour);
 /// The angle in degrees that the form holds.
 double formAngle(FormPort& port);
 
-/// An axis of millimetres that begins at 0.
-struct ChartAxis {
-    double step = 1; ///< between two lines: 1, 2 or 5 times a power of ten
-    int steps = 1;
-    [[nodiscard]] double top() const { return step * steps; }
-};
-
-/// The axis that reaches up to `greatest`, above 0, in at most `mostSteps` steps. It ends at a kilometre: a
-/// negative wind resistance has no bounds.
-ChartAxis chartAxis(double greatest, int mostSteps);
-
 /// What to tell of the chosen weapon's file, or else of the catalogue's other files; empty when all are
 /// sound.
 std::string weaponFileNote(const WeaponCatalogue& catalogue, std::size_t weapon);

@@ -110,7 +110,7 @@ constexpr auto CrewRows = std::to_array<FormRow<CrewManRecord>>({
 });
 
 std::string crewLine(std::size_t place, const CrewManRecord& man) {
-    std::string text = displayName(man.job, JobPrefix);
+    std::string text = shownWord(man.job, JobPrefix, jobNames());
     for (const Text& weapon : man.weapons) {
         text += ", " + weaponWord(weapon);
     }
@@ -118,6 +118,14 @@ std::string crewLine(std::size_t place, const CrewManRecord& man) {
 }
 
 // ---- weapons and ammunition
+
+FormError chooseWeapon() {
+    return {.control = IDC_WEAPON_TYPE, .message = "Choose a weapon"};
+}
+
+std::optional<FormError> withoutWeapon(const WeaponMountRecord& weapon) {
+    return weapon.type.empty() ? std::optional(chooseWeapon()) : std::nullopt;
+}
 
 constexpr auto WeaponRows = std::to_array<FormRow<WeaponMountRecord>>({
     {IDC_WEAPON_TYPE, field::MountedType},
@@ -140,6 +148,17 @@ constexpr auto PersonalWeaponRows = std::to_array<FormRow<PersonalWeapon>>({
 
 std::string personalWeaponLine(std::size_t place, const PersonalWeapon& weapon) {
     return numbered(place, weapon.type.empty() ? "(no weapon)" : weaponWord(weapon.type));
+}
+
+std::optional<FormError> withoutPersonalWeapon(const PersonalWeapon& weapon) {
+    return weapon.type.empty() ? std::optional(chooseWeapon()) : std::nullopt;
+}
+
+std::optional<FormError> ofNobody(const AmmoLoadRecord& ammo) {
+    return ammo.weaponType.empty() ? std::optional(FormError{.control = IDC_WEAPON_TYPE,
+                                                             .message = "Choose the weapon that the "
+                                                                        "ammunition is for"})
+                                   : std::nullopt;
 }
 
 constexpr auto AmmunitionRows = std::to_array<FormRow<AmmoLoadRecord>>({
@@ -194,18 +213,21 @@ const ListShape<CrewManRecord>& crewShape() {
 }
 
 const ListShape<WeaponMountRecord>& weaponShape() {
-    static const ListShape<WeaponMountRecord> shape{.form = {.rows = WeaponRows}, .line = weaponLine};
+    static const ListShape<WeaponMountRecord> shape{
+        .form = {.rows = WeaponRows}, .line = weaponLine, .incomplete = withoutWeapon};
     return shape;
 }
 
 const ListShape<PersonalWeapon>& personalWeaponShape() {
     static const ListShape<PersonalWeapon> shape{.form = {.rows = PersonalWeaponRows},
-                                                 .line = personalWeaponLine};
+                                                 .line = personalWeaponLine,
+                                                 .incomplete = withoutPersonalWeapon};
     return shape;
 }
 
 const ListShape<AmmoLoadRecord>& ammunitionShape() {
-    static const ListShape<AmmoLoadRecord> shape{.form = {.rows = AmmunitionRows}, .line = ammunitionLine};
+    static const ListShape<AmmoLoadRecord> shape{
+        .form = {.rows = AmmunitionRows}, .line = ammunitionLine, .incomplete = ofNobody};
     return shape;
 }
 

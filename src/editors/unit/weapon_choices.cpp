@@ -44,6 +44,15 @@ std::string_view periodOf(const SquadRecord& record) {
     return LastEra;
 }
 
+std::vector<std::string> knownPeriods() {
+    std::vector<std::string> periods;
+    for (const Era& era : Eras) {
+        periods.emplace_back(era.period);
+    }
+    periods.emplace_back(LastEra);
+    return periods;
+}
+
 std::vector<std::string> weaponChoices(const WeaponCatalogue& catalogue, const SquadRecord& record,
                                        WeaponBearer bearer, bool all) {
     WeaponFilter filter;
@@ -63,6 +72,12 @@ std::string unknownWeapon(std::string_view weaponType, const WeaponCatalogue& ca
     return weaponType.empty() || catalogue.find(weaponType) != nullptr
                ? ""
                : "Unknown, kept as it is: there is no weapon file \"" + std::string(weaponType) + "\"";
+}
+
+std::string unknownFlavour(std::string_view flavour) {
+    return flavour.empty() || flavourOf(flavour) != AmmoFlavour::None
+               ? ""
+               : "Unknown, kept as it is: the flavour \"" + std::string(flavour) + "\"";
 }
 
 std::vector<std::string> flavourChoices(const WeaponCatalogue& catalogue, std::string_view weaponType) {

@@ -16,6 +16,9 @@ namespace varrocade {
 /// up to 1919 "WW1", up to 1945 "WW2", up to 1991 "Cold War", then "Modern". Empty for a unit without dates.
 std::string_view periodOf(const SquadRecord& record);
 
+/// All of them, in the order of time.
+std::vector<std::string> knownPeriods();
+
 /// What carries a weapon, which decides the weapon types that its list offers.
 enum class WeaponBearer : std::uint8_t { Man, Vehicle };
 
@@ -25,6 +28,9 @@ std::vector<std::string> weaponChoices(const WeaponCatalogue& catalogue, const S
 
 /// Names a weapon that the catalogue does not hold, or empty; lists offer only some of those that it holds.
 std::string unknownWeapon(std::string_view weaponType, const WeaponCatalogue& catalogue);
+
+/// Names a flavour of ammunition that the game does not know, or empty.
+std::string unknownFlavour(std::string_view flavour);
 
 /// The names of the flavours that a weapon really has; empty for an unknown weapon.
 std::vector<std::string> flavourChoices(const WeaponCatalogue& catalogue, std::string_view weaponType);

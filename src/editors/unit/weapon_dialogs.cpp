@@ -1,12 +1,12 @@
 // The weapons and the ammunition of a component, and the ammunition of a man.
 
 #include "editors/form/list_dialog_win32.h"
+#include "editors/unit/carried_ammo.h"
 #include "editors/unit/list_dialogs.h"
 #include "editors/unit/unit_lists.h"
 #include "editors/unit/weapon_choices.h"
+#include "platform/messages.h"
 #include "resources/resource.h"
-
-#include <algorithm>
 
 namespace varrocade {
 
@@ -31,7 +31,8 @@ public:
     /// `component` is the copy that the dialog works on.
     WeaponsDialog(EditContext& edit, ComponentRecord& component)
         : ListDialog({.dialogTemplate = IDD_WEAPONS, .caption = "Weapons", .first = edit.firstShown}, model_),
-          edit_(edit), component_(component), model_(component.weapons, weaponShape()) {
+          edit_(edit), component_(component), former_(component.weapons),
+          model_(component.weapons, weaponShape()) {
         onButton(IDC_SHOW_ALL, [this] { offerWeapons(); });
         onButton(IDC_AMMO_BUTTON, [this] {
             if (takeShown()) {
@@ -56,8 +57,29 @@ private:
         return unknown;
     }
 
+    /// Ammunition does not stay behind unasked.
+    bool accept() override {
+        if (!ListDialog::accept()) {
+            return false;
+        }
+        std::vector<AmmoLoadRecord> ammo = component_.ammo;
+        for (const OrphanedAmmo& orphan : orphanedAmmo(former_, component_.weapons, ammo)) {
+            const Answer answer = showMessage({.text = orphanQuestion(orphan),
+                                               .caption = caption(),
+                                               .buttons = MessageButtons::YesNoCancel,
+                                               .icon = MessageIcon::Question});
+            if (answer == Answer::Cancel) {
+                return false;
+            }
+            settleOrphan(orphan, answer == Answer::Yes, ammo);
+        }
+        component_.ammo = std::move(ammo);
+        return true;
+    }
+
     EditContext& edit_;
     ComponentRecord& component_;
+    std::vector<WeaponMountRecord> former_;
     VectorListModel<WeaponMountRecord> model_;
 };
 
@@ -69,7 +91,10 @@ public:
                      std::vector<AmmoLoadRecord>& ammo)
         : ListDialog({.dialogTemplate = IDD_AMMUNITION, .caption = "Ammunition"}, model_), edit_(edit),
           weaponTypes_(std::move(weaponTypes)), hasFlavour_(hasFlavour), ammo_(ammo),
-          model_(ammo, ammunitionShape()) {}
+          model_(
+              ammo, ammunitionShape(),
+              {.next = [this] { return nextAmmunition(weaponTypes_, ammo_, hasFlavour_, edit_.catalogue); },
+               .warn = [this](const AmmoLoadRecord& load) { return warningOf(load); }}) {}
 
 private:
     void prepare() override {
@@ -90,7 +115,15 @@ private:
         if (GetFocus() == nullptr || GetParent(GetFocus()) != GetDlgItem(handle(), IDC_FLAVOUR)) {
             port().setChoices(IDC_FLAVOUR, flavourChoices(edit_.catalogue, ammo.weaponType));
         }
-        port().setText(IDC_WARNING, ammunitionWarning(ammo, weaponTypes_, edit_.catalogue));
+        port().setText(IDC_WARNING, warningOf(ammo));
+    }
+    std::string unknownText() override {
+        const std::string unknown = unknownWeapon(port().text(IDC_WEAPON_TYPE), edit_.catalogue);
+        const std::string flavour = unknownFlavour(port().text(IDC_FLAVOUR));
+        return unknown + (unknown.empty() || flavour.empty() ? "" : "; ") + flavour;
+    }
+    [[nodiscard]] std::string warningOf(const AmmoLoadRecord& ammo) const {
+        return ammunitionWarning(ammo, weaponTypes_, edit_.catalogue);
     }
 
     EditContext& edit_;
@@ -122,14 +155,7 @@ bool editWeapons(HWND owner, EditContext& edit, ComponentRecord& component) {
 }
 
 bool editComponentAmmunition(HWND owner, EditContext& edit, ComponentRecord& component) {
-    std::vector<std::string> weaponTypes;
-    for (const WeaponMountRecord& weapon : component.weapons) {
-        // Two weapons of a type share their ammunition.
-        if (std::find(weaponTypes.begin(), weaponTypes.end(), weapon.type.view()) == weaponTypes.end()) {
-            weaponTypes.push_back(weapon.type.str());
-        }
-    }
-    return editAmmunition(owner, edit, std::move(weaponTypes), true, component.ammo);
+    return editAmmunition(owner, edit, weaponTypesOf(component.weapons), true, component.ammo);
 }
 
 bool editManAmmunition(HWND owner, EditContext& edit, CrewManRecord& man) {

@@ -58,7 +58,14 @@ public:
         onButton(IDC_REMOVE, [this] { deleteFromList(); });
         onButton(IDC_UP, [this] { moveInList(true); });
         onButton(IDC_DOWN, [this] { moveInList(false); });
-        onButton(IDC_DRIVE, [this] { editDrive(handle(), edit_); });
+        onButton(IDC_DRIVE, [this] {
+            const std::int32_t former = vehicle().weight;
+            editDrive(handle(), edit_);
+            if (vehicle().weight != former) {
+                // The estimate was taken there: this form would put the former weight back.
+                port().setText(IDC_WEIGHT, std::to_string(vehicle().weight));
+            }
+        });
         onButton(IDC_AVAILABILITY, [this, &drawing] {
             if (editAvailability(handle(), edit_, drawing)) {
                 edit_.changed("Availability");

@@ -1,6 +1,8 @@
 #include "editors/vehicle/drive_dialog.h"
 
+#include "analysis/performance/vehicle_performance.h"
 #include "editors/form/form_dialog_win32.h"
+#include "editors/performance/performance_dialog.h"
 #include "editors/unit/list_dialogs.h"
 #include "editors/vehicle/drive_form.h"
 #include "resources/resource.h"
@@ -21,10 +23,25 @@ public:
                 edit_.changed("Exhaust pipes");
             }
         });
+        onButton(IDC_PERFORMANCE, [this] {
+            showPerformance(handle(), {.edit = edit_, .shown = typed()});
+            follow();
+        });
     }
 
 private:
     void prepare() override { port().setChoices(IDC_ENGINE, engineNames()); }
+    void follow() override {
+        const SquadRecord unit = typed();
+        port().setText(IDC_DRIVE_FIGURES, performanceLine(vehiclePerformance(
+                                              unit, WeaponMasses(edit_.catalogue, *unit.vehicle))));
+    }
+    /// The unit with what the form holds, as far as that can be taken.
+    [[nodiscard]] SquadRecord typed() {
+        SquadRecord unit = edit_.record;
+        readPossible(port(), driveShape(), *unit.vehicle);
+        return unit;
+    }
     bool notice(int control, int notification) override {
         const bool isFollowed = FormDialog::notice(control, notification);
         if (control == IDC_ENGINE && notification == CBN_SELCHANGE) {

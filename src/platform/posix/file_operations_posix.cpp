@@ -59,7 +59,12 @@ private:
 class PosixFiles : public FileOperations {
 public:
     bool read(const std::string& path, std::string& content) override { return readWholeFile(path, content); }
-    bool exists(const std::string& path) override { return ::access(nativePath(path).c_str(), F_OK) == 0; }
+    bool exists(const std::string& path) override {
+        const int lastReason = errno;
+        const bool isThere = ::access(nativePath(path).c_str(), F_OK) == 0;
+        errno = lastReason;
+        return isThere;
+    }
     std::unique_ptr<OutputFile> createNew(const std::string& path) override {
         constexpr int mode = 0666;
         const int descriptor =
@@ -67,6 +72,16 @@ public:
         return descriptor < 0 ? nullptr : std::make_unique<PosixOutputFile>(descriptor);
     }
     bool replace(const std::string& from, const std::string& to) override {
+        struct stat former {};
+        if (::lstat(nativePath(to).c_str(), &former) == 0 && S_ISREG(former.st_mode)) {
+            constexpr mode_t permissions = 0777;
+            // Who may not give files away keeps this one.
+            const int isGiven = ::chown(nativePath(from).c_str(), former.st_uid, former.st_gid);
+            static_cast<void>(isGiven);
+            if (::chmod(nativePath(from).c_str(), former.st_mode & permissions) != 0) {
+                return false;
+            }
+        }
         return ::rename(nativePath(from).c_str(), nativePath(to).c_str()) == 0;
     }
     bool rename(const std::string& from, const std::string& to) override {
@@ -74,7 +89,7 @@ public:
             errno = EEXIST;
             return false;
         }
-        return replace(from, to);
+        return ::rename(nativePath(from).c_str(), nativePath(to).c_str()) == 0;
     }
     bool remove(const std::string& path) override { return ::unlink(nativePath(path).c_str()) == 0; }
     bool recycle(const std::string& path) override { return remove(path); }
@@ -169,6 +184,19 @@ bool listStampedFiles(const std::string& folder, std::string_view ending, std::v
 bool isFolder(const std::string& path) {
     struct stat status {};
     return ::stat(nativePath(path).c_str(), &status) == 0 && S_ISDIR(status.st_mode);
+}
+
+PathStatus statusOf(const std::string& path) {
+    struct stat status {};
+    if (::lstat(nativePath(path).c_str(), &status) != 0) {
+        return {};
+    }
+    const PathKind kind = S_ISREG(status.st_mode)   ? PathKind::File
+                          : S_ISDIR(status.st_mode) ? PathKind::Folder
+                          : S_ISLNK(status.st_mode) ? PathKind::Link
+                                                    : PathKind::Other;
+    return {kind, static_cast<std::uint64_t>(status.st_dev), static_cast<std::uint64_t>(status.st_ino),
+            static_cast<std::uint64_t>(status.st_nlink)};
 }
 
 std::string timeStamp() {

@@ -70,7 +70,10 @@ class Win32Files : public FileOperations {
 public:
     bool read(const std::string& path, std::string& content) override { return readWholeFile(path, content); }
     bool exists(const std::string& path) override {
-        return GetFileAttributesW(nativePath(path).c_str()) != INVALID_FILE_ATTRIBUTES;
+        const DWORD lastReason = GetLastError();
+        const bool isThere = GetFileAttributesW(nativePath(path).c_str()) != INVALID_FILE_ATTRIBUTES;
+        SetLastError(lastReason);
+        return isThere;
     }
     std::unique_ptr<OutputFile> createNew(const std::string& path) override {
         HANDLE handle = CreateFileW(nativePath(path).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
@@ -101,7 +104,15 @@ public:
         operation.wFunc = FO_DELETE;
         operation.pFrom = paths.c_str();
         operation.fFlags = FOF_ALLOWUNDO | FOF_NOCONFIRMATION | FOF_SILENT | FOF_NOERRORUI;
-        return SHFileOperationA(&operation) == 0 && operation.fAnyOperationsAborted == FALSE;
+        if (SHFileOperationA(&operation) != 0 || operation.fAnyOperationsAborted != FALSE) {
+            return false;
+        }
+        // Wine's shell reports success for a file that is still there.
+        if (GetFileAttributesW(nativePath(path).c_str()) != INVALID_FILE_ATTRIBUTES) {
+            SetLastError(ERROR_ACCESS_DENIED);
+            return false;
+        }
+        return true;
     }
     bool createFolder(const std::string& path) override {
         return CreateDirectoryW(nativePath(path).c_str(), nullptr) != 0 ||
@@ -214,6 +225,28 @@ bool listStampedFiles(const std::string& folder, std::string_view ending, std::v
 bool isFolder(const std::string& path) {
     const DWORD attributes = GetFileAttributesA(path.c_str());
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
+PathStatus statusOf(const std::string& path) {
+    const std::wstring native = nativePath(path);
+    // Opened without any right, not even to read: a pipe or device is not waited for.
+    const FileHandle file(
+        CreateFileW(native.c_str(), 0, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                    OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS | FILE_FLAG_OPEN_REPARSE_POINT, nullptr));
+    if (!file.valid()) {
+        const bool isThere = GetFileAttributesW(native.c_str()) != INVALID_FILE_ATTRIBUTES;
+        return {.kind = isThere ? PathKind::Other : PathKind::Missing};
+    }
+    BY_HANDLE_FILE_INFORMATION status{};
+    if (GetFileType(file.get()) != FILE_TYPE_DISK || GetFileInformationByHandle(file.get(), &status) == 0) {
+        return {.kind = PathKind::Other};
+    }
+    const auto has = [&](DWORD attribute) { return (status.dwFileAttributes & attribute) != 0; };
+    const PathKind kind = has(FILE_ATTRIBUTE_REPARSE_POINT) ? PathKind::Link
+                          : has(FILE_ATTRIBUTE_DIRECTORY)   ? PathKind::Folder
+                                                            : PathKind::File;
+    return {kind, status.dwVolumeSerialNumber, joined(status.nFileIndexHigh, status.nFileIndexLow),
+            status.nNumberOfLinks};
 }
 
 std::string timeStamp() {

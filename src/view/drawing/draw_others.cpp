@@ -3,6 +3,7 @@
 #include "data/unit/image_folders.h"
 #include "data/unit/image_names.h"
 #include "view/drawing/drawing_angles.h"
+#include "view/drawing/traverse.h"
 
 #include <algorithm>
 
@@ -42,9 +43,11 @@ public:
     }
 
     /// A sector of traverse that reaches over what has been drawn.
-    void sector(double left, double right, UnitPart part) {
+    void addSector(std::int32_t left, std::int32_t right, UnitPart part) {
         const double radius = std::max(UnknownPictureSize, list_.greatest.y);
-        list_.items.push_back(SectorItem{{}, radius, left, right, part});
+        if (const auto sector = sectorOf({}, radius, 0, left, right, part)) {
+            list_.items.emplace_back(*sector);
+        }
     }
 
     void mark(MarkItem item) { list_.items.push_back(std::move(item)); }
@@ -72,8 +75,8 @@ DrawList drawHeavyWeapon(const HeavyWeaponRecord& weapon, const DrawOptions& opt
     PictureStack stack(options, sizes);
     const UnitPart whole{PartKind::HeavyWeapon};
     stack.add(weapon.baseImage, {}, GroundScale, whole);
-    if (options.showMarks && weapon.limitedTraverse && weapon.rotateLeft + weapon.rotateRight > 0) {
-        stack.sector(-weapon.rotateLeft, weapon.rotateRight, whole);
+    if (options.showMarks && weapon.limitedTraverse) {
+        stack.addSector(weapon.rotateLeft, weapon.rotateRight, whole);
     }
     stack.add(weapon.gunImage, {}, GroundScale, whole, 0, turnOf(options.turns, 0));
     return stack.take();

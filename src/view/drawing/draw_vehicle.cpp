@@ -2,6 +2,7 @@
 #include "data/unit/image_folders.h"
 #include "data/unit/image_names.h"
 #include "view/drawing/drawing_angles.h"
+#include "view/drawing/traverse.h"
 
 #include <algorithm>
 #include <array>
@@ -190,15 +191,17 @@ private:
         const ComponentRecord& component = vehicle_.components[place];
         const bool isLimited = component.kind == ComponentKind::FixedWeapon ||
                                (component.kind == ComponentKind::Turret && component.limitedTraverse);
-        if (!isLimited || component.rotateLeft + component.rotateRight <= 0) {
+        if (!isLimited) {
             return;
         }
         constexpr double beyondMuzzle = 1.15;
         const auto picture = pictureOf(component, image_folder::Turrets);
         const double reach = picture ? picture->size.height * centimetresPerPixel_ / 2 : UnknownPartSize;
-        const double rest = angleOf(component, 0);
-        add(SectorItem{pivotOf(component), std::max(UnknownPartSize, reach * beyondMuzzle),
-                       rest - component.rotateLeft, rest + component.rotateRight, partOf(place)});
+        if (const auto sector =
+                sectorOf(pivotOf(component), std::max(UnknownPartSize, reach * beyondMuzzle),
+                         angleOf(component, 0), component.rotateLeft, component.rotateRight, partOf(place))) {
+            add(*sector);
+        }
     }
 
     void drawExhausts() {

@@ -102,6 +102,15 @@ bool movePart(SquadRecord& unit, const UnitPart& part, Point to, std::span<const
     return set(*position, offset.x, offset.y);
 }
 
+void takePosition(SquadRecord& unit, const UnitPart& part, const SquadRecord& from, const UnitPart& other) {
+    const auto position = find(unit, part, {});
+    const auto wanted = find(from, other, {});
+    if (position && wanted) {
+        *position->x = *wanted->x;
+        *position->y = *wanted->y;
+    }
+}
+
 bool nudgePart(SquadRecord& unit, const UnitPart& part, int right, int up, std::span<const double> turns) {
     const auto position = find(unit, part, turns);
     if (!position) {

@@ -25,6 +25,9 @@ std::string positionText(const SquadRecord& unit, const UnitPart& part);
 /// Moves a part to the whole centimetre nearest to a point; false when that is where it is.
 bool movePart(SquadRecord& unit, const UnitPart& part, Point to, std::span<const double> turns = {});
 
+/// Gives a part the figures that another one has in the file; nothing where one of them cannot be moved.
+void takePosition(SquadRecord& unit, const UnitPart& part, const SquadRecord& from, const UnitPart& other);
+
 /// Moves a part by whole centimetres as an arrow key says: to the right and upwards in the drawing, exactly
 /// along the axis of the component that lies nearest, so that the opposite key leads back.
 bool nudgePart(SquadRecord& unit, const UnitPart& part, int right, int up,

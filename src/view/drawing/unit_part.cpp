@@ -95,11 +95,11 @@ std::string partName(const SquadRecord& unit, const UnitPart& part) {
     case PartKind::Discharger:
         return "Smoke discharger " + number;
     case PartKind::CrewMan:
-        return displayName(componentOf(unit, part)->crew[part.index].job, JobPrefix);
+        return shownWord(componentOf(unit, part)->crew[part.index].job, JobPrefix, jobNames());
     case PartKind::Exhaust:
         return "Exhaust pipe " + number;
     case PartKind::Man:
-        return number + ". " + displayName(unit.infantrymen[part.index].job, JobPrefix);
+        return number + ". " + shownWord(unit.infantrymen[part.index].job, JobPrefix, jobNames());
     case PartKind::Rotor:
         return "Rotor " + number;
     case PartKind::HeavyWeapon:

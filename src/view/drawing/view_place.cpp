@@ -15,10 +15,8 @@ Fit fitInto(const DrawList& list, int width, int height, int margin, int greates
         std::min(std::min(freeX / extentX, freeY / extentY) * 100, static_cast<double>(greatestScale));
     Fit fit;
     fit.pixelsPerMetre = std::max(static_cast<int>(scale), LeastPixelsPerMetre);
-    fit.originX =
-        static_cast<int>(std::lround(width / 2.0 - fit.length((list.least.x + list.greatest.x) / 2)));
-    fit.originY =
-        static_cast<int>(std::lround(height / 2.0 + fit.length((list.least.y + list.greatest.y) / 2)));
+    fit.originX = nearestPixel(width / 2.0 - fit.length((list.least.x + list.greatest.x) / 2));
+    fit.originY = nearestPixel(height / 2.0 + fit.length((list.least.y + list.greatest.y) / 2));
     return fit;
 }
 
@@ -34,8 +32,8 @@ Fit zoomedAbout(const Fit& fit, int pixelX, int pixelY, int steps) {
         std::min(std::max(wanted, static_cast<double>(least)), static_cast<double>(greatest));
     zoomed.pixelsPerMetre = std::clamp(static_cast<int>(std::lround(clamped)), LeastPixelsPerMetre,
                                        std::max(GreatestScale, fit.pixelsPerMetre));
-    zoomed.originX = static_cast<int>(std::lround(pixelX - zoomed.length(fixed.x)));
-    zoomed.originY = static_cast<int>(std::lround(pixelY + zoomed.length(fixed.y)));
+    zoomed.originX = nearestPixel(pixelX - zoomed.length(fixed.x));
+    zoomed.originY = nearestPixel(pixelY + zoomed.length(fixed.y));
     return zoomed;
 }
 

@@ -3,7 +3,17 @@
 
 #include "view/drawing/draw_list.h"
 
+#include <algorithm>
+#include <cmath>
+
 namespace varrocade {
+
+/// The pixel nearest to a place of the screen, however far a file's figures lead: devices draw no further
+/// than some 2^27 pixels, and turned or surrounded places must stay below that too.
+inline int nearestPixel(double place) {
+    constexpr double furthest = 1 << 24;
+    return static_cast<int>(std::lround(std::clamp(place, -furthest, furthest)));
+}
 
 /// A scale at which a metre is a whole number of pixels, and the pixel of the point (0, 0).
 struct Fit {

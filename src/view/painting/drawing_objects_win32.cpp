@@ -76,7 +76,7 @@ DrawingObjects createDrawingObjects(HINSTANCE instance, const std::string& gridP
     }
     objects.beigeBrush = brush(Beige);
     objects.whiteBrush = brush(RGB(255, 255, 255));
-    objects.highlightBrush = GdiObject<HBRUSH>(CreateSolidBrush(GetSysColor(COLOR_HIGHLIGHT)));
+    objects.highlightBrush = brush(GetSysColor(COLOR_HIGHLIGHT));
     objects.redPen = pen(1, RGB(255, 0, 0));
     objects.greenPen = pen(1, RGB(0, 255, 0));
     objects.blackPen = pen(1, RGB(0, 0, 0));

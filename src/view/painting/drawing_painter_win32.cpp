@@ -2,6 +2,7 @@
 
 #include "view/drawing/drawing_angles.h"
 #include "view/drawing/part_at.h"
+#include "view/drawing/traverse.h"
 #include "view/painting/paint_device.h"
 
 #include <cmath>
@@ -33,8 +34,8 @@ HPEN penOf(const DrawingObjects& objects, Ink ink) {
 }
 
 POINT centreOf(const PictureItem& item, const RECT& area, const Fit& fit) {
-    return {std::lround(area.left + fit.screenX(item.centre.x)),
-            std::lround(area.top + fit.screenY(item.centre.y))};
+    return {nearestPixel(area.left + fit.screenX(item.centre.x)),
+            nearestPixel(area.top + fit.screenY(item.centre.y))};
 }
 
 /// A picture as it is shown, so far as it lies in the area.
@@ -84,8 +85,8 @@ public:
 
     void operator()(const PictureItem& item) const {
         if (pictures_.pixels(item.path) == nullptr) {
-            (*this)(PlaceholderItem{"Unreadable: " + item.path, item.centre, item.width, item.height,
-                                    item.angle, false, item.part});
+            (*this)(PlaceholderItem{std::string(pictures_.failureOf(item.path)) + ": " + item.path,
+                                    item.centre, item.width, item.height, item.angle, false, item.part});
             return;
         }
         const POINT centre = centreOf(item, area_, fit_);
@@ -116,14 +117,10 @@ public:
     }
 
     void operator()(const SectorItem& item) const {
-        constexpr double step = 2; // degrees
-        std::vector<POINT> corners = {pixel(item.centre)};
-        const int steps = std::max(1, rounded((item.to - item.from) / step));
-        for (int i = 0; i <= steps; ++i) {
-            corners.push_back(
-                pixel(along(item.centre, item.from + (item.to - item.from) * i / steps, item.radius)));
+        std::vector<POINT> corners;
+        for (const Point corner : outlineOf(item)) {
+            corners.push_back(pixel(corner));
         }
-        corners.push_back(corners.front());
         const Selection pen(device_, objects_.paleGreenPen.get());
         Polyline(device_, corners.data(), static_cast<int>(corners.size()));
     }
@@ -145,15 +142,16 @@ public:
         const Selection selection(memory.get(), mark);
         const int width = objects_.scaled(size.bmWidth);
         const int height = objects_.scaled(size.bmHeight);
-        GdiAlphaBlend(device_, rounded(x(item.centre)) - width / 2, rounded(y(item.centre)) - height / 2,
-                      width, height, memory.get(), 0, 0, size.bmWidth, size.bmHeight, OverGround);
+        GdiAlphaBlend(device_, nearestPixel(x(item.centre)) - width / 2,
+                      nearestPixel(y(item.centre)) - height / 2, width, height, memory.get(), 0, 0,
+                      size.bmWidth, size.bmHeight, OverGround);
     }
 
     void operator()(const LabelItem& item) const {
         const Selection font(device_, item.isBold ? objects_.boldFont.get() : objects_.smallFont.get());
         SetBkMode(device_, TRANSPARENT);
         SetTextColor(device_, LabelInk);
-        const int halfWidth = rounded(fit_.length(item.width) / 2);
+        const int halfWidth = nearestPixel(fit_.length(item.width) / 2);
         const POINT top = pixel(item.top);
         RECT place{top.x - halfWidth, top.y, top.x + halfWidth, area_.bottom};
         DrawTextA(device_, item.text.data(), static_cast<int>(item.text.size()), &place,
@@ -202,7 +200,7 @@ public:
         const int bottom = area_.bottom - objects_.scaled(DrawingMargin) / 2;
         const int height = objects_.scaled(5);
         const int pad = objects_.scaled(6);
-        const int length = rounded(unit * units);
+        const int length = nearestPixel(unit * units);
         // On a plate of its own: the unit may reach below it.
         const RECT plate{left - pad, bottom - height - objects_.scaled(20), left + length + pad,
                          bottom + pad};
@@ -211,19 +209,18 @@ public:
         const int bars = units <= tenths ? units : tenths / 2;
         for (int bar = 0; bar < bars; ++bar) {
             const Selection brush(device_, GetStockObject(bar % 2 == 0 ? BLACK_BRUSH : WHITE_BRUSH));
-            Rectangle(device_, left + rounded(unit * units * bar / bars), bottom - height,
-                      left + rounded(unit * units * (bar + 1) / bars) + 1, bottom + 1);
+            Rectangle(device_, left + nearestPixel(unit * units * bar / bars), bottom - height,
+                      left + nearestPixel(unit * units * (bar + 1) / bars) + 1, bottom + 1);
         }
         const std::string words =
             isLarge ? std::to_string(units * tenths) + " cm" : std::to_string(units) + " m";
-        text(words, left + rounded(unit * units / 2), bottom - height - objects_.scaled(2));
+        text(words, left + nearestPixel(unit * units / 2), bottom - height - objects_.scaled(2));
     }
 
 private:
-    static int rounded(double value) { return static_cast<int>(std::lround(value)); }
     [[nodiscard]] double x(Point point) const { return area_.left + fit_.screenX(point.x); }
     [[nodiscard]] double y(Point point) const { return area_.top + fit_.screenY(point.y); }
-    [[nodiscard]] POINT pixel(Point point) const { return {rounded(x(point)), rounded(y(point))}; }
+    [[nodiscard]] POINT pixel(Point point) const { return {nearestPixel(x(point)), nearestPixel(y(point))}; }
 
     /// 1, 2, 5, 10, 20 ...: the greatest that is not above `most`.
     static int niceCount(int most) {
@@ -237,13 +234,13 @@ private:
     }
 
     void line(double fromX, double fromY, double toX, double toY) const {
-        MoveToEx(device_, rounded(fromX), rounded(fromY), nullptr);
-        LineTo(device_, rounded(toX), rounded(toY));
+        MoveToEx(device_, nearestPixel(fromX), nearestPixel(fromY), nullptr);
+        LineTo(device_, nearestPixel(toX), nearestPixel(toY));
     }
 
     void circle(Point centre, double radius) const {
         const POINT middle = pixel(centre);
-        const int size = rounded(radius);
+        const int size = nearestPixel(radius);
         Ellipse(device_, middle.x - size, middle.y - size, middle.x + size + 1, middle.y + size + 1);
     }
 
@@ -345,7 +342,8 @@ private:
     /// Broken into lines within the outline, or within the least width that names can be read in.
     void labelPlaceholder(const PlaceholderItem& item) const {
         constexpr int leastWidth = 100;
-        const int halfWidth = std::max(rounded(fit_.length(item.width)), objects_.scaled(leastWidth)) / 2;
+        const int halfWidth =
+            std::max(nearestPixel(fit_.length(item.width)), objects_.scaled(leastWidth)) / 2;
         const Selection font(device_, objects_.smallFont.get());
         SetBkMode(device_, TRANSPARENT);
         SetTextColor(device_, LabelInk);

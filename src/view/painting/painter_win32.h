@@ -24,6 +24,15 @@ private:
     HGDIOBJ former_;
 };
 
+/// Paints an area on the ground of all sheets so that the screen changes in one step.
+template <typename Paint>
+void paintBuffered(HDC screen, const RECT& area, const DrawingObjects& objects, Paint paint) {
+    const MemoryBitmap memory(screen, area.right, area.bottom);
+    FillRect(memory.device(), &area, objects.beigeBrush.get());
+    paint(memory.device());
+    BitBlt(screen, 0, 0, area.right, area.bottom, memory.device(), 0, 0, SRCCOPY);
+}
+
 /// A bitmap that is kept from one painting to the next.
 struct Canvas {
     std::unique_ptr<MemoryBitmap> bitmap;

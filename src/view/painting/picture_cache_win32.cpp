@@ -104,17 +104,38 @@ PictureCache::Entry& PictureCache::keep(Entry entry) {
     return entries_.front();
 }
 
+std::string_view PictureCache::decode(const std::string& path, Pixmap& pixmap) {
+    constexpr std::string_view unreadable = "Unreadable";
+    // The header decides, before the rest is so much as read.
+    if (const auto size = sizeOf(path);
+        size && static_cast<std::uint64_t>(size->width) * static_cast<std::uint64_t>(size->height) >
+                    MostPicturePixels) {
+        return "Too large";
+    }
+    std::string content;
+    if (!readWholeFile(path, content)) {
+        return unreadable;
+    }
+    pixmap = decoder_.decode(std::move(content));
+    return pixmap.pixels.empty() ? unreadable : std::string_view();
+}
+
+std::string_view PictureCache::failureOf(const std::string& path) const {
+    const auto found = failures_.find(path);
+    return found == failures_.end() ? std::string_view() : found->second;
+}
+
 const Pixmap* PictureCache::pixels(const std::string& path) {
     const Key key{path, 0, 0, 0, false, 0, 0, 0, 0};
     if (const Entry* entry = find(key)) {
         return &entry->pixels;
     }
-    std::string content;
-    if (!readWholeFile(path, content)) {
+    if (failures_.contains(path)) {
         return nullptr;
     }
-    Pixmap pixmap = decoder_.decode(std::move(content));
-    if (pixmap.pixels.empty()) {
+    Pixmap pixmap;
+    if (const std::string_view failure = decode(path, pixmap); !failure.empty()) {
+        failures_.emplace(path, failure);
         return nullptr;
     }
     const std::size_t bytes = pixmap.pixels.size() * sizeof(std::uint32_t);
@@ -177,6 +198,7 @@ void PictureCache::clear() {
     entries_.clear();
     byKey_.clear();
     sizes_.clear();
+    failures_.clear();
     bytes_ = 0;
     decoder_ = {};
 }

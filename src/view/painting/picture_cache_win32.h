@@ -13,6 +13,7 @@
 #include <memory>
 #include <span>
 #include <string>
+#include <string_view>
 #include <tuple>
 
 namespace varrocade {
@@ -32,6 +33,9 @@ class PictureCache : public PictureSizes {
 public:
     /// The pixels of a file; null when there is no picture in it. Valid until the next call.
     const Pixmap* pixels(const std::string& path);
+
+    /// Why `pixels` gave nothing for a file, in a word or two; empty where it did not.
+    [[nodiscard]] std::string_view failureOf(const std::string& path) const;
 
     /// The picture of a file as it is placed, so far as it lies in `clip`, a box around its centre; null when
     /// there is none. Valid until the next call.
@@ -63,12 +67,16 @@ private:
     };
 
     static Key keyOf(const std::string& name, const PixmapPlacement& placement, const PixelBox& box);
+    /// The pixels of a file, or none and why.
+    std::string_view decode(const std::string& path, Pixmap& pixmap);
     Entry* find(const Key& key);
     Entry& keep(Entry entry);
 
     std::list<Entry> entries_; ///< most recently used first
     std::map<Key, std::list<Entry>::iterator> byKey_;
     std::map<std::string, std::optional<PictureSize>, std::less<>> sizes_;
+    /// Why files have no pixels: what failed once is not tried again at every redraw.
+    std::map<std::string, std::string_view, std::less<>> failures_;
     std::size_t bytes_ = 0;
     PictureDecoder decoder_;
 };

@@ -11,9 +11,6 @@ namespace varrocade {
 
 namespace {
 
-/// A file of a few bytes can say that it is larger than the memory.
-constexpr std::uint64_t MostPixels = std::uint64_t{1} << 26U;
-
 /// The interface that a call hands out, or null.
 template <typename Interface, typename Call>
 Owned<Interface> obtained(Call call) {
@@ -25,7 +22,7 @@ Pixmap pixelsOfSource(IWICBitmapSource& source) {
     UINT width = 0;
     UINT height = 0;
     source.GetSize(&width, &height);
-    if (std::uint64_t{width} * height > MostPixels) {
+    if (std::uint64_t{width} * height > MostPicturePixels) {
         return {};
     }
     Pixmap pixmap{static_cast<int>(width), static_cast<int>(height), {}};

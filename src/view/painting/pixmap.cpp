@@ -136,11 +136,15 @@ PixelBox boxOf(const PixmapPlacement& placement) {
     const double height = placement.width * sine + placement.height * cosine;
     // A little less than the half, so that a picture of whole pixels gets no empty row from rounding.
     constexpr double slack = 1e-6;
+    // The figures of files may stretch a picture further than any screen, and than the numbers of pixels.
+    constexpr double furthest = 1 << 24;
+    const double halfWidth = std::min(width / 2 - slack, furthest);
+    const double halfHeight = std::min(height / 2 - slack, furthest);
     PixelBox box;
-    box.left = static_cast<int>(std::floor(-width / 2 + slack));
-    box.top = static_cast<int>(std::floor(-height / 2 + slack));
-    box.width = static_cast<int>(std::ceil(width / 2 - slack)) - box.left;
-    box.height = static_cast<int>(std::ceil(height / 2 - slack)) - box.top;
+    box.left = static_cast<int>(std::floor(-halfWidth));
+    box.top = static_cast<int>(std::floor(-halfHeight));
+    box.width = static_cast<int>(std::ceil(halfWidth)) - box.left;
+    box.height = static_cast<int>(std::ceil(halfHeight)) - box.top;
     return box;
 }
 

@@ -17,6 +17,7 @@ namespace {
 
 constexpr Colour RuleColour = {190, 172, 128};
 constexpr Colour SelectedGround = {186, 205, 226};
+constexpr Colour BarGround = {255, 221, 148};
 
 /// Lays a sheet out from top to bottom and paints it on the way.
 class SheetPainter {
@@ -29,6 +30,7 @@ public:
     SheetLayout paint(const DataSheet& sheet) {
         const int top = y_ - device_.scaled(Margin);
         paintTitle(sheet.title);
+        paintBar(sheet.warnings);
         layout_.headHeight = y_ - top;
         device_.clip({0, y_, right_ + device_.scaled(Margin), clipBottom_});
         y_ -= options_.scroll;
@@ -111,6 +113,46 @@ private:
               device_.scaled(SectionGap);
     }
 
+    /// As much of a text as a line holds.
+    [[nodiscard]] std::string cut(std::string words, int width, TextFont font) const {
+        if (widthOf(words, font) <= width) {
+            return words;
+        }
+        constexpr std::string_view dots = "...";
+        std::size_t fits = 0;
+        std::size_t tooMuch = words.size();
+        while (tooMuch - fits > 1) {
+            const std::size_t middle = (fits + tooMuch) / 2;
+            const int needed = widthOf(words.substr(0, middle) + std::string(dots), font);
+            (needed <= width ? fits : tooMuch) = middle;
+        }
+        return words.substr(0, fits).append(dots);
+    }
+
+    /// What is wrong stays in sight however far the sheet is scrolled: a few lines of it.
+    void paintBar(const std::vector<SheetWarning>& warnings) {
+        constexpr std::size_t mostLines = 3;
+        const int margin = device_.scaled(4);
+        const int lineHeight = device_.lineHeight(TextFont::Small);
+        const std::size_t lines = std::min(warnings.size(), mostLines);
+        if (lines == 0) {
+            return;
+        }
+        const int bottom = y_ + static_cast<int>(lines) * lineHeight + 2 * margin;
+        device_.fill({left_ - margin, y_, right_ + margin, bottom}, BarGround);
+        y_ += margin;
+        for (std::size_t i = 0; i < lines; ++i) {
+            const bool isRest = i + 1 == mostLines && warnings.size() > mostLines;
+            const std::string text =
+                isRest ? "and " + std::to_string(warnings.size() - i) + " more..." : warnings[i].text;
+            device_.text(cut(text, right_ - left_, TextFont::Small), {left_, y_}, TextFont::Small, TextInk);
+            layout_.warnings.push_back({{left_ - margin, y_, right_ + margin, y_ + lineHeight},
+                                        isRest ? UnitPart{} : warnings[i].part});
+            y_ += lineHeight;
+        }
+        y_ = bottom + margin;
+    }
+
     /// Notes that what was painted from `before` down to here shows a part.
     void note(const UnitPart& part, int before) {
         if (part) {
@@ -152,6 +194,9 @@ private:
         }
         // After the rows within it, which are the more exact answer to a click.
         note(section.part, before);
+        if (section.holdsProblems) {
+            layout_.problems = {left_, before + options_.scroll, right_, y_ + options_.scroll};
+        }
     }
 
     /// Pictures side by side at their own size, each above its caption.
@@ -302,6 +347,13 @@ SheetLayout paintSheet(PaintDevice& device, const PixelRect& area, const DataShe
                        const SheetOptions& options) {
     device.clip(area);
     return SheetPainter(device, area, options).paint(sheet);
+}
+
+const SheetWarningPlace* sheetWarningAt(const SheetLayout& layout, PixelPoint pixel) {
+    const auto found =
+        std::find_if(layout.warnings.begin(), layout.warnings.end(),
+                     [&](const SheetWarningPlace& warning) { return warning.place.contains(pixel); });
+    return found == layout.warnings.end() ? nullptr : &*found;
 }
 
 UnitPart sheetPartAt(const SheetLayout& layout, int scroll, PixelPoint pixel) {

@@ -22,15 +22,26 @@ struct SheetPlace {
     UnitPart part;
 };
 
+/// A line of the bar below the title, which does not scroll either.
+struct SheetWarningPlace {
+    PixelRect place;
+    UnitPart part; ///< none: the section of problems
+};
+
 struct SheetLayout {
-    int height = 0;                 ///< pixels of the whole sheet
-    int headHeight = 0;             ///< pixels of its title, which does not scroll
-    std::vector<SheetPlace> places; ///< rows before the sections that they are in
+    int height = 0;                          ///< pixels of the whole sheet
+    int headHeight = 0;                      ///< pixels of its title and bar, which do not scroll
+    std::vector<SheetPlace> places;          ///< rows before the sections that they are in
+    std::vector<SheetWarningPlace> warnings; ///< the lines of the bar
+    PixelRect problems = {};                 ///< the section that holds them, as `SheetPlace` counts
 };
 
 /// Paints a sheet into `area`, whose ground is there already.
 SheetLayout paintSheet(PaintDevice& device, const PixelRect& area, const DataSheet& sheet,
                        const SheetOptions& options);
+
+/// The line of the bar at a pixel of the area, or null.
+const SheetWarningPlace* sheetWarningAt(const SheetLayout& layout, PixelPoint pixel);
 
 /// The part at a pixel of the area that a sheet was painted into, scrolled down so far.
 UnitPart sheetPartAt(const SheetLayout& layout, int scroll, PixelPoint pixel);

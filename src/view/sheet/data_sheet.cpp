@@ -1,5 +1,6 @@
 #include "view/sheet/data_sheet.h"
 
+#include "analysis/performance/vehicle_performance.h"
 #include "data/format/numbers.h"
 #include "data/format/words.h"
 #include "data/unit/component_words.h"
@@ -51,7 +52,8 @@ SheetSection figuresSection(const SquadRecord& record) {
     return section;
 }
 
-SheetSection driveSection(const VehicleRecord& vehicle) {
+SheetSection driveSection(const SquadRecord& record, const WeaponCatalogue& catalogue) {
+    const VehicleRecord& vehicle = *record.vehicle;
     constexpr std::array<std::string_view, 3> mounts = {"rear", "middle", "front"};
     SheetSection section{.heading = {"Drive"}, .part = {PartKind::Drive}};
     section.pairs.push_back(pairOf(field::EngineName, vehicle));
@@ -66,6 +68,8 @@ SheetSection driveSection(const VehicleRecord& vehicle) {
     section.pairs.push_back(pairOf(field::Steering, vehicle));
     section.pairs.push_back({"Exhaust pipes", std::to_string(vehicle.exhaustPipes.size())});
     section.pairs.push_back(pairOf(field::SmokeScreen, vehicle, "Smoke screen"));
+    const WeaponMasses weapons(catalogue, vehicle);
+    section.notes.push_back({performanceLine(vehiclePerformance(record, weapons))});
     return section;
 }
 
@@ -174,8 +178,8 @@ SheetSection crewSection(const VehicleRecord& vehicle) {
             for (const AmmoLoadRecord& ammo : man.ammo) {
                 rounds += (rounds.empty() ? "" : ", ") + ammoText(ammo);
             }
-            table.rows.push_back(
-                {{place, displayName(man.job, JobPrefix), arms, rounds}, {PartKind::CrewMan, i, j}});
+            table.rows.push_back({{place, shownWord(man.job, JobPrefix, jobNames()), arms, rounds},
+                                  {PartKind::CrewMan, i, j}});
             place.clear();
         }
     }
@@ -276,13 +280,13 @@ DataSheet unitSheet(const SquadRecord& record, std::span<const std::string> miss
                     const WeaponCatalogue& catalogue) {
     DataSheet sheet;
     sheet.title.text = record.longName.empty() ? record.fileName.str() : record.longName.str();
-    sheet.title.subtitle = displayName(record.nationality, NationalityPrefix) +
+    sheet.title.subtitle = shownWord(record.nationality, NationalityPrefix, nationalityNames()) +
                            (record.shortName.empty() ? "" : ", " + record.shortName.str());
     sheet.title.nationality = record.nationality.str();
     sheet.comment = record.comment.str();
     if (record.vehicle) {
         sheet.sections.push_back(figuresSection(record));
-        sheet.sections.push_back(driveSection(*record.vehicle));
+        sheet.sections.push_back(driveSection(record, catalogue));
         sheet.sections.push_back(armourSection(*record.vehicle));
         sheet.sections.push_back(weaponsSection(*record.vehicle, catalogue));
         sheet.sections.push_back(crewSection(*record.vehicle));

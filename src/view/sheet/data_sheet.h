@@ -6,6 +6,7 @@
 #include "view/drawing/armour_sketch.h"
 #include "view/drawing/unit_part.h"
 #include "view/sheet/field_pair.h"
+#include "view/sheet/unit_problems.h"
 #include "weapons/weapon_catalogue.h"
 #include "weapons/weapon_record.h"
 
@@ -68,18 +69,29 @@ struct SheetSection {
     std::vector<SheetPicture> pictures = {};
     std::vector<SheetNote> notes = {};
     std::vector<AvailabilityPoint> timeline = {}; ///< shown as steps over the years
+    bool holdsProblems = false;                   ///< what the bar cannot point at is found here
+};
+
+/// A line of the bar below the title.
+struct SheetWarning {
+    std::string text;
+    UnitPart part = {}; ///< what a click on it leads to; without one, the section that holds the problems
 };
 
 struct DataSheet {
     SheetTitle title;
     std::string comment;
     std::vector<SheetSection> sections;
+    std::vector<SheetWarning> warnings = {};
 };
 
 /// The sheet of a unit of any category that has a `SquadRecord`. `missingPictures` are listed at its end; the
 /// figures of its weapons come from the catalogue.
 DataSheet unitSheet(const SquadRecord& record, std::span<const std::string> missingPictures,
                     const WeaponCatalogue& catalogue);
+
+/// Puts what is wrong with a unit on its sheet: into the bar, and in full into a section at its end.
+void addProblems(DataSheet& sheet, std::span<const SheetProblem> problems);
 
 /// The sheet of a weapon, what could not be read of its file, and the units that use it, as far as these are
 /// known yet.

@@ -24,7 +24,7 @@ inline std::string_view familyOf(const FieldInfo& field) {
 }
 
 /// A field's label, or another that the sheet has for it, and its value in words: numbers with their unit,
-/// words without what all of their kind begin with.
+/// words without what all of their kind begin with, unknown ones as they stand.
 template <typename Record, typename Value>
 SheetPair pairOf(const Field<Record, Value>& field, const Record& record, std::string_view label = {}) {
     const Value& value = field.of(record);
@@ -37,7 +37,7 @@ SheetPair pairOf(const Field<Record, Value>& field, const Record& record, std::s
         text = textOfValue(value);
     }
     if (field.words != nullptr) {
-        text = displayName(text, familyOf(field));
+        text = shownWord(text, familyOf(field), field.words());
     }
     if (!field.traits.unit.empty()) {
         text += " " + std::string(field.traits.unit);

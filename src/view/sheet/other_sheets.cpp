@@ -64,7 +64,8 @@ SheetSection menSection(const SquadRecord& record) {
             rounds += (rounds.empty() ? "" : ", ") + ammoText(ammo) + " for " + weaponWord(ammo.weaponType);
         }
         table.rows.push_back(
-            {{std::to_string(i + 1), displayName(man.job, JobPrefix), arms, rounds}, {PartKind::Man, 0, i}});
+            {{std::to_string(i + 1), shownWord(man.job, JobPrefix, jobNames()), arms, rounds},
+             {PartKind::Man, 0, i}});
     }
     section.tables.push_back(std::move(table));
     return section;
@@ -133,6 +134,22 @@ void addAircraftSections(DataSheet& sheet, const AircraftRecord& aircraft, const
     sheet.sections.push_back(std::move(armament));
 }
 
+void addProblems(DataSheet& sheet, std::span<const SheetProblem> problems) {
+    if (problems.empty()) {
+        return;
+    }
+    SheetSection section{.heading = {"Problems"}, .holdsProblems = true};
+    SheetTable table;
+    table.rows.push_back({{"What is wrong"}});
+    for (const SheetProblem& problem : problems) {
+        const std::string text = sentence(problem.finding);
+        sheet.warnings.push_back({text, problem.part});
+        table.rows.push_back({{text}, problem.part, problem.source});
+    }
+    section.tables.push_back(std::move(table));
+    sheet.sections.push_back(std::move(section));
+}
+
 DataSheet weaponSheet(const WeaponRecord& weapon, std::span<const Finding> problems,
                       const std::optional<std::vector<std::string>>& users) {
     DataSheet sheet;
@@ -143,6 +160,10 @@ DataSheet weaponSheet(const WeaponRecord& weapon, std::span<const Finding> probl
         std::vector<std::string> lines(problems.size());
         std::transform(problems.begin(), problems.end(), lines.begin(), sentence);
         sheet.sections.push_back(notesSection("Problems of the file", lines));
+        sheet.sections.back().holdsProblems = true;
+        for (std::string& line : lines) {
+            sheet.warnings.push_back({std::move(line)});
+        }
     }
     SheetSection figures{.heading = {"Figures"}};
     const auto whole = [](std::int32_t value, std::string_view unit) {

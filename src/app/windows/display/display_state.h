@@ -34,6 +34,8 @@ struct Drag {
 struct UnitDisplay {
     DrawList drawing;
     DataSheet sheet;
+    std::string checkedContent; ///< the file's bytes that `fileProblems` are of
+    std::vector<SheetProblem> fileProblems;
     std::optional<std::vector<std::string>> weaponUsers; ///< that the sheet of a weapon shows
     bool wantsWeaponUsers = false;                       ///< they are to be looked for
     bool hasDrawing = false;

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <utility>
 
 namespace varrocade {
@@ -82,6 +83,22 @@ void composeWeaponSheet(UnitDisplay& display, const WeaponRecord& weapon) {
     display.sheet = weaponSheet(weapon, problemsOf(weapon), display.weaponUsers);
 }
 
+/// The file is looked through once; the values with every change.
+void composeUnitSheet(UnitDisplay& display, const SquadRecord& unit) {
+    const Workspace& workspace = theWorkspace();
+    const std::string& content = workspace.open.content;
+    if (display.checkedContent != content) {
+        display.checkedContent = content;
+        display.fileProblems = fileProblems(workspace.open.category, content);
+    }
+    std::vector<SheetProblem> problems = display.fileProblems;
+    std::vector<SheetProblem> values =
+        valueProblems(unit, content, display.drawing.missingPictures, workspace.catalogue);
+    std::move(values.begin(), values.end(), std::back_inserter(problems));
+    display.sheet = unitSheet(unit, display.drawing.missingPictures, workspace.catalogue);
+    addProblems(display.sheet, problems);
+}
+
 /// Makes anew what the record or the view has changed.
 void composeDisplay(UnitDisplay& display) {
     const Workspace& workspace = theWorkspace();
@@ -95,7 +112,7 @@ void composeDisplay(UnitDisplay& display) {
             composeWeaponSheet(display, *weapon);
             display.wantsWeaponUsers = true;
         } else if (const SquadRecord* unit = openUnit(workspace)) {
-            display.sheet = unitSheet(*unit, display.drawing.missingPictures, workspace.catalogue);
+            composeUnitSheet(display, *unit);
         } else {
             display.sheet = {};
         }
@@ -181,20 +198,32 @@ void scrollSheet(int pixels) {
 
 namespace {
 
+void scrollTo(const PixelRect& place) {
+    const UnitDisplay& display = application().display;
+    const int shownFrom = display.scroll + display.sheetLayout.headHeight;
+    if (place.top < shownFrom) {
+        scrollSheet(place.top - shownFrom);
+    } else if (place.bottom > display.scroll + visibleSheetHeight()) {
+        scrollSheet(place.bottom - display.scroll - visibleSheetHeight());
+    }
+}
+
 void scrollToSelected() {
     const UnitDisplay& display = application().display;
     const auto& places = display.sheetLayout.places;
-    const auto found = std::find_if(places.begin(), places.end(), [&](const SheetPlace& place) {
+    const auto find = [&places](auto isMeant) { return std::find_if(places.begin(), places.end(), isMeant); };
+    auto found = find([&](const SheetPlace& place) {
         return display.selected && isSameShown(place.part, display.selected);
     });
     if (found == places.end()) {
-        return;
+        // What has no row of its own, as ammunition, stands in those of its kind of component.
+        found = find([&](const SheetPlace& place) {
+            return display.selected.kind == PartKind::Ammunition && place.part.kind == PartKind::Weapon &&
+                   place.part.component == display.selected.component;
+        });
     }
-    const int shownFrom = display.scroll + display.sheetLayout.headHeight;
-    if (found->place.top < shownFrom) {
-        scrollSheet(found->place.top - shownFrom);
-    } else if (found->place.bottom > display.scroll + visibleSheetHeight()) {
-        scrollSheet(found->place.bottom - display.scroll - visibleSheetHeight());
+    if (found != places.end()) {
+        scrollTo(found->place);
     }
 }
 
@@ -202,6 +231,15 @@ void scrollToSelected() {
 
 void showSelectedRow() {
     scrollToSelected();
+    redrawSheet();
+}
+
+const SheetWarningPlace* sheetWarningAt(POINT pixel) {
+    return sheetWarningAt(application().display.sheetLayout, {pixel.x, pixel.y});
+}
+
+void showProblems() {
+    scrollTo(application().display.sheetLayout.problems);
     redrawSheet();
 }
 

@@ -4,6 +4,7 @@
 #include "view/drawing/component_places.h"
 #include "view/drawing/draw_list.h"
 #include "view/drawing/view_place.h"
+#include "view/painting/sheet_painter.h"
 
 #include <windows.h>
 
@@ -31,6 +32,12 @@ void scrollSheet(int pixels);
 
 /// Scrolls the sheet so far that it shows the selected part, where it has a row for it, and paints it.
 void showSelectedRow();
+
+/// The line of the sheet's bar at a pixel of its window, or null.
+const SheetWarningPlace* sheetWarningAt(POINT pixel);
+
+/// Scrolls the sheet to the section of problems.
+void showProblems();
 
 /// How much of the sheet is in sight, in pixels.
 int visibleSheetHeight();

@@ -12,7 +12,8 @@
 namespace varrocade {
 
 /// The message that refuses a name, or nothing: it must not be empty nor hold characters that file names
-/// cannot have. A full stop is refused too, since the program adds the ending.
+/// cannot have, neither begin nor end with a blank, nor be a device's (NUL, COM1). A full stop is refused
+/// too, since the program adds the ending.
 std::optional<std::string> refusalOfName(std::string_view name);
 
 /// The message that refuses a unit's name which does not begin with its nationality ("German").
@@ -21,7 +22,7 @@ std::optional<std::string> refusalOfNationality(std::string_view name, std::stri
 /// A new unit of a category as its first file holds it.
 SquadRecord newUnit(Category category, std::string_view name, std::string_view nationality);
 
-/// A new weapon.
-WeaponRecord newWeapon(std::string_view name);
+/// A new weapon with the figures that its type begins with.
+WeaponRecord newWeapon(std::string_view name, WeaponType type = WeaponType::Rifle);
 
 } // namespace varrocade

@@ -24,6 +24,11 @@ void filterNames(NameList& list, const std::string& otherwise) {
     selectName(list, wanted);
 }
 
+bool isListed(const NameList& list, const std::string& name) {
+    return std::any_of(list.all.begin(), list.all.end(),
+                       [&](const std::string& listed) { return equalsIgnoringCase(listed, name); });
+}
+
 bool selectName(NameList& list, const std::string& name) {
     const auto place = std::find_if(list.shown.begin(), list.shown.end(), [&](const std::string& shown) {
         return equalsIgnoringCase(shown, name);

@@ -17,6 +17,9 @@ struct NameList {
 /// may have hidden before.
 void filterNames(NameList& list, const std::string& otherwise);
 
+/// Whether a name is in the list, letter case ignored, shown or not.
+bool isListed(const NameList& list, const std::string& name);
+
 /// Selects a shown name, letter case ignored; false when it is not shown, which leaves nothing selected.
 bool selectName(NameList& list, const std::string& name);
 

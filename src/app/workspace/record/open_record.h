@@ -9,11 +9,14 @@
 namespace varrocade {
 
 struct OpenRecord {
+    std::string base; ///< the base folder that it was read from or written to last
     Category category = Category::Vehicles;
     RecordState present;
     RecordState saved; ///< as its file holds it
     UndoHistory history;
-    std::string content;   ///< the file's bytes, as they were last read or written
+    std::string content; ///< the file's bytes, as they were last read or written
+    /// Another program has changed or removed the file since; what is unsaved here differs from both.
+    bool isChangedOutside = false;
     unsigned lastMove = 0; ///< how many moves in the drawing there were
 
     [[nodiscard]] bool isOpen() const { return !std::holds_alternative<std::monostate>(present.record); }

@@ -1,0 +1,18 @@
+#pragma once
+// The editor at work on the open weapon, and what its users are told of.
+
+#include <string_view>
+
+namespace varrocade {
+
+/// Whether a weapon is open.
+bool isWeaponOpen();
+
+/// Opens "Weapon Data" on the open weapon and saves what the user keeps.
+void editOpenWeapon();
+
+/// Before the file of the open weapon is deleted or gets another name: says which units carry it. False when
+/// the user thinks better of it. `action` is what is to be done, such as "Deleting".
+bool mayTakeWeaponAway(std::string_view action);
+
+} // namespace varrocade

@@ -1,0 +1,118 @@
+// What the bar on top of a unit's sheet says.
+
+#include "data/finding_text.h"
+#include "test_support.h"
+#include "view/sheet/data_sheet.h"
+
+#include <gtest/gtest.h>
+
+namespace varrocade::tests {
+namespace {
+
+const WeaponCatalogue& theWeapons() {
+    static const WeaponCatalogue catalogue = [] {
+        WeaponCatalogue loaded;
+        loaded.load("sample\\");
+        return loaded;
+    }();
+    return catalogue;
+}
+
+std::string replaced(std::string text, const std::string& what, const std::string& by) {
+    const std::size_t at = text.find(what);
+    EXPECT_NE(at, std::string::npos) << what;
+    return at == std::string::npos ? text : text.replace(at, what.size(), by);
+}
+
+std::vector<SheetProblem> problemsOf(const std::string& content, std::vector<std::string> missing = {}) {
+    auto problems = fileProblems(Category::Vehicles, content);
+    for (SheetProblem& problem : valueProblems(readUnitText(content), content, missing, theWeapons())) {
+        problems.push_back(std::move(problem));
+    }
+    return problems;
+}
+
+TEST(UnitProblems, SampleUnitsHaveNone) {
+    for (const SampleFile& file : sampleFiles()) {
+        if (file.category == Category::Weapons) {
+            continue;
+        }
+        for (const SheetProblem& problem : fileProblems(file.category, file.content)) {
+            // Two are made by hand, with elements that the game does not know.
+            EXPECT_TRUE(problem.finding.message.ends_with(" is not known"))
+                << file.name << ": " << sentence(problem.finding);
+        }
+        for (const SheetProblem& problem :
+             valueProblems(readUnitText(file.content), file.content, {}, theWeapons())) {
+            ADD_FAILURE() << file.name << ": " << sentence(problem.finding);
+        }
+    }
+}
+
+TEST(UnitProblems, NameThePlaceAndThePart) {
+    const std::string tank =
+        "<squad>\n<description>\n<type>TYPE_TANK</type>\n</description>\n<vehicle>\n<hull>\n"
+        "<image_view>Some.png</image_view>\n<man><job>JOB_DRIVER</job></man>\n</hull>\n"
+        "<turret>\n<rotate_time>20</rotate_time>\n"
+        "<weapon><type>WEAPON_HMG_BESA</type></weapon>\n"
+        "<ammo><for>WEAPON_HMG_BESA</for><rounds>9</rounds></ammo>\n"
+        "</turret>\n<turret>\n<rotate_time>20</rotate_time>\n</turret>\n"
+        "</vehicle>\n</squad>\n";
+    struct Case {
+        const char* what;
+        const char* by;
+        const char* sentence;
+        UnitPart part;
+    };
+    const std::vector<Case> cases = {
+        {"TYPE_TANK", "TYPE_TNAK", "Line 3: Type \"TYPE_TNAK\" is not known.", {PartKind::Details}},
+        {"JOB_DRIVER", "JOB_DRIVERR", "Line 8: Job \"JOB_DRIVERR\" is not known.", {PartKind::CrewMan, 0, 0}},
+        {"<type>WEAPON_HMG",
+         "<type>WEAPON_X",
+         "Line 12: there is no weapon file \"WEAPON_X_BESA\".",
+         {PartKind::Weapon, 1, 0}},
+        {"<for>WEAPON_HMG_BESA",
+         "<for>WEAPON_HMG_BREDA_M38",
+         "Line 13: 9 rounds for \"WEAPON_HMG_BREDA_M38\", which is not there.",
+         {PartKind::Ammunition, 1, 0}},
+        {"<for>WEAPON_HMG_BESA", "<for>", "9 rounds for no weapon.", {PartKind::Ammunition, 1, 0}},
+        {"Some", "Gone", "Line 7: the picture \"Gone.png\" is missing.", {PartKind::Component, 0, 0}},
+        {"20", "0", "Line 11: The rotate speed must be greater than zero.", {PartKind::Component, 1, 0}},
+        {"</turret>\n<turret>", "<turret>", "Line 14: <turret> in <turret> is in the wrong place.", {}},
+        {"<rotate_time>",
+         "<rotate_tim>",
+         "Line 11: <rotate_tim> in <turret> is not closed, and nothing from there on is "
+         "read.",
+         {}},
+        {"</vehicle>",
+         "",
+         "Line 5: <vehicle> in <squad> is not closed, and nothing from there on is read.",
+         {}},
+    };
+    EXPECT_TRUE(problemsOf(tank, {"Images\\Gone.png"}).empty());
+    for (const Case& row : cases) {
+        const auto problems = problemsOf(replaced(tank, row.what, row.by), {"Images\\Gone.png"});
+        ASSERT_FALSE(problems.empty()) << row.by;
+        std::string all;
+        bool isFound = false;
+        for (const SheetProblem& problem : problems) {
+            all += sentence(problem.finding) + "\n";
+            isFound = isFound || (sentence(problem.finding) == row.sentence && problem.part == row.part);
+        }
+        EXPECT_TRUE(isFound) << row.by << ":\n" << all;
+    }
+}
+
+TEST(UnitProblems, StandInTheBarAndInFullAtTheEnd) {
+    DataSheet sheet;
+    const Finding finding{.line = 4, .message = "nothing is there"};
+    addProblems(sheet, std::vector<SheetProblem>{{finding, {PartKind::Drive}, "<drive"}});
+    ASSERT_EQ(sheet.warnings.size(), 1U);
+    EXPECT_EQ(sheet.warnings[0].text, "Line 4: nothing is there.");
+    ASSERT_EQ(sheet.sections.size(), 1U);
+    EXPECT_TRUE(sheet.sections[0].holdsProblems);
+    EXPECT_EQ(sheet.sections[0].tables[0].rows[1].detail, "<drive");
+}
+
+} // namespace
+} // namespace varrocade::tests
