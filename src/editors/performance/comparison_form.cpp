@@ -53,6 +53,7 @@ std::string knownFigure(double value, int decimals) {
 
 std::vector<std::string> comparedFigureChoices() {
     std::vector<std::string> choices;
+    choices.reserve(Figures.size());
     for (const FigureTerms& terms : Figures) {
         choices.push_back(std::string(terms.name) + " (" + std::string(terms.unit) + ")");
     }
@@ -100,7 +101,7 @@ std::string progressText(const VehicleComparison& comparison) {
         return "Reading " + countText(progress.done) + " of " + countText(progress.total) + ": " +
                std::string(progress.name);
     }
-    const auto vehicles = comparison.vehicles();
+    const auto& vehicles = comparison.vehicles();
     const auto faulty = std::count_if(vehicles.begin(), vehicles.end(),
                                       [](const ComparedVehicle& one) { return !one.faults.empty(); });
     std::string text = countText(vehicles.size()) + (vehicles.size() == 1 ? " vehicle, " : " vehicles, ") +

@@ -46,6 +46,7 @@ std::string_view periodOf(const SquadRecord& record) {
 
 std::vector<std::string> knownPeriods() {
     std::vector<std::string> periods;
+    periods.reserve(Eras.size() + 1);
     for (const Era& era : Eras) {
         periods.emplace_back(era.period);
     }
