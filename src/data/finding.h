@@ -73,6 +73,9 @@ inline constexpr std::string_view UnknownWord = "unknown-word";
 inline constexpr std::string_view UnknownWeapon = "unknown-weapon";
 inline constexpr std::string_view MissingPicture = "missing-picture";
 
+// Of what people typed.
+inline constexpr std::string_view BadInput = "bad-input";
+
 } // namespace finding_key
 
 } // namespace varrocade

@@ -1,10 +1,14 @@
 #pragma once
 // What forms speak to: a dialog's controls, so that forms are tested without windows.
 
+#include "data/field.h"
+#include "data/finding.h"
+
 #include <cstddef>
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace varrocade {
 
@@ -33,12 +37,20 @@ public:
     virtual void mark(int control, std::string_view refusal) = 0;
 };
 
-/// Why a form cannot be taken as it stands.
-struct FormError {
+/// Why a form cannot be taken as it stands, and the control of the field that the finding names.
+struct FormError : Finding {
     int control = 0;
-    std::string message;
     std::string caption = {}; ///< of its box; empty: the dialog's own
 };
+
+/// The refusal of a text for a field.
+inline Finding refusedInput(const FieldInfo& field, std::string message, std::string text = {}) {
+    return {.key = finding_key::BadInput,
+            .severity = Severity::Error,
+            .field = std::string(field.element),
+            .message = std::move(message),
+            .value = std::move(text)};
+}
 
 /// What an edit shows of a text: records hold texts on one line.
 std::string onOneLine(std::string_view text);

@@ -142,9 +142,8 @@ private:
             // What is not changed is not changed: neither rounded nor refused.
             const bool isUntouched = text == onOneLine(Converter::textOf(value, terms));
             if (Refusal refusal = isUntouched ? std::nullopt : Converter::take(text, terms, value)) {
-                return FormError{.control = row.control,
-                                 .message = std::move(*refusal),
-                                 .caption = std::string(row.terms.caption)};
+                return FormError{refusedInput(*row.field, std::move(*refusal), text), row.control,
+                                 std::string(row.terms.caption)};
             }
         }
         return std::nullopt;

@@ -120,7 +120,7 @@ std::string crewLine(std::size_t place, const CrewManRecord& man) {
 // ---- weapons and ammunition
 
 FormError chooseWeapon() {
-    return {.control = IDC_WEAPON_TYPE, .message = "Choose a weapon"};
+    return {refusedInput(field::MountedType, "Choose a weapon"), IDC_WEAPON_TYPE};
 }
 
 std::optional<FormError> withoutWeapon(const WeaponMountRecord& weapon) {
@@ -155,10 +155,11 @@ std::optional<FormError> withoutPersonalWeapon(const PersonalWeapon& weapon) {
 }
 
 std::optional<FormError> ofNobody(const AmmoLoadRecord& ammo) {
-    return ammo.weaponType.empty() ? std::optional(FormError{.control = IDC_WEAPON_TYPE,
-                                                             .message = "Choose the weapon that the "
-                                                                        "ammunition is for"})
-                                   : std::nullopt;
+    if (!ammo.weaponType.empty()) {
+        return std::nullopt;
+    }
+    return FormError{refusedInput(field::AmmoFor, "Choose the weapon that the ammunition is for"),
+                     IDC_WEAPON_TYPE};
 }
 
 constexpr auto AmmunitionRows = std::to_array<FormRow<AmmoLoadRecord>>({

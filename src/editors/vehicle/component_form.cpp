@@ -68,7 +68,7 @@ std::optional<FormError> check(const Component& component) {
     }
     const auto place = std::find_if(RefusalPlaces.begin(), RefusalPlaces.end(),
                                     [&](const RefusalPlace& row) { return row.field == finding->field; });
-    return FormError{place->control, finding->message, std::string(place->caption)};
+    return FormError{*finding, place->control, std::string(place->caption)};
 }
 
 /// A fixed weapon always has limits.

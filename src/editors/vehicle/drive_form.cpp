@@ -39,7 +39,7 @@ std::optional<FormError> checkRevolutions(const Vehicle& former, Vehicle& read) 
     const bool isTouched =
         read.revolutionLimit != former.revolutionLimit || read.idleRevolutions != former.idleRevolutions;
     if (const auto finding = revolutionsFinding(read); finding && isTouched) {
-        return FormError{.control = IDC_RPM_LIMIT, .message = finding->message};
+        return FormError{*finding, IDC_RPM_LIMIT};
     }
     return std::nullopt;
 }
