@@ -1,6 +1,9 @@
 #include "corpus.h"
 
+#include "data/reading/unit_reader.h"
 #include "platform/file_operations.h"
+#include "tools/asset_files.h"
+#include "tools/references.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -8,6 +11,7 @@
 #include <filesystem>
 #include <fstream>
 #include <random>
+#include <set>
 
 #include <pugixml.hpp>
 
@@ -23,7 +27,7 @@ std::vector<CorpusFile> readSample() {
         listFiles(folder, DataFileEnding, names);
         std::sort(names.begin(), names.end());
         for (const std::string& name : names) {
-            CorpusFile file{category, {}};
+            CorpusFile file{category, {}, name.substr(0, name.size() - DataFileEnding.size())};
             if (readWholeFile(folder + name, file.content)) {
                 files.push_back(std::move(file));
             }
@@ -103,6 +107,37 @@ void append(std::vector<CorpusFile>& files, std::size_t count, std::size_t facto
     }
 }
 
+void replaceAll(std::string& text, std::string_view from, std::string_view to) {
+    for (std::size_t at = text.find(from); at != std::string::npos; at = text.find(from, at + to.size())) {
+        text.replace(at, from.size(), to);
+    }
+}
+
+/// Gives each picture that a unit names a number behind its name, and tells where they are.
+void numberPictures(CorpusFile& file, const std::string& number, std::vector<CorpusPicture>& pictures) {
+    static AssetFiles files({.program = "sample\\"});
+    Diagnostics diagnostics;
+    const SquadRecord unit = readUnit(file.content, file.name, diagnostics);
+    std::set<std::string> numbered;
+    forEachReference(unit, [&](const Reference& reference) {
+        const AssetFile* model = files.find(reference);
+        const bool isOfUnit = reference.kind == ReferenceKind::Picture && model != nullptr;
+        if (isOfUnit && numbered.insert(model->below()).second) {
+            const std::string name(reference.name);
+            for (const std::string_view ending : {"<", ".png<"}) {
+                replaceAll(file.content, ">" + name + std::string(ending),
+                           ">" + name + number + std::string(ending));
+            }
+            pictures.push_back({model->folder + name + number + ".png", model->below()});
+        }
+    });
+}
+
+std::filesystem::path onDisk(std::string path) {
+    std::replace(path.begin(), path.end(), '\\', '/');
+    return path;
+}
+
 } // namespace
 
 std::vector<CorpusFile> wellFormedUnits(std::size_t count) {
@@ -119,6 +154,35 @@ std::vector<CorpusFile> gameFiles(std::size_t units, std::size_t weapons, std::s
     return files;
 }
 
+std::vector<CorpusFile> namedCopies(std::size_t units, std::size_t weapons,
+                                    std::vector<CorpusPicture>* pictures) {
+    std::vector<CorpusFile> files;
+    const auto add = [&](std::size_t count, bool isOfWeapons, std::string_view nameTag) {
+        std::vector<const CorpusFile*> models;
+        for (const CorpusFile& file : sample()) {
+            if ((file.category == Category::Weapons) == isOfWeapons) {
+                models.push_back(&file);
+            }
+        }
+        for (std::size_t i = 0; i < count; ++i) {
+            CorpusFile file = *models[i % models.size()];
+            const std::size_t end = file.content.find(nameTag);
+            if (i >= models.size() && end != std::string::npos) {
+                const std::string number = "_" + std::to_string(i);
+                file.name += number;
+                file.content.insert(end, number);
+                if (pictures != nullptr && !isOfWeapons) {
+                    numberPictures(file, number, *pictures);
+                }
+            }
+            files.push_back(std::move(file));
+        }
+    };
+    add(units, false, "</long_name>");
+    add(weapons, true, "</name>");
+    return files;
+}
+
 FilesOnDisk::FilesOnDisk(const std::vector<CorpusFile>& files) {
     std::random_device random;
     const std::filesystem::path folder =
@@ -128,11 +192,24 @@ FilesOnDisk::FilesOnDisk(const std::vector<CorpusFile>& files) {
         std::filesystem::create_directories(folder / "Data" / categoryName(category));
     }
     for (const CorpusFile& file : files) {
-        const std::string path =
-            (folder / "Data" / categoryName(file.category) / (std::to_string(files_.size()) + ".txt"))
-                .string();
+        const std::string name = file.name.empty() ? std::to_string(files_.size()) : file.name;
+        const std::string path = (folder / "Data" / categoryName(file.category) / (name + ".txt")).string();
         std::ofstream(path, std::ios::binary) << file.content;
         files_.push_back({file.category, path});
+    }
+}
+
+void FilesOnDisk::addAssets() const {
+    for (const char* folder : {"Images", "Sounds"}) {
+        std::filesystem::copy(std::filesystem::path("sample") / folder,
+                              std::filesystem::path(folder_) / folder,
+                              std::filesystem::copy_options::recursive);
+    }
+}
+
+void FilesOnDisk::addPictures(const std::vector<CorpusPicture>& pictures) const {
+    for (const CorpusPicture& picture : pictures) {
+        std::filesystem::copy_file(onDisk("sample\\" + picture.model), onDisk(base() + picture.file));
     }
 }
 

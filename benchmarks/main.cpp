@@ -33,5 +33,27 @@ int main(int argumentCount, char** arguments) {
              UnitCount, 1.3);
     printRow("the weapon catalogue : opening and reading its files", catalogueContest(rounds), WeaponCount,
              4.0);
+    constexpr std::size_t reportRounds = 31;
+    printRow("spreadsheets : loading all records", sheetsContest(reportRounds), UnitCount + WeaponCount, 1.2);
+    printRow("PNG usage : loading all records, listing pictures", usageContest(reportRounds),
+             UnitCount + WeaponCount, 1.5);
+    printRow("unused files : loading all records, listing pictures", unusedContest(reportRounds),
+             UnitCount + WeaponCount, 1.5);
+    constexpr std::size_t longRounds = 3;
+    printRow("thumbnails : decoding and encoding their pictures", thumbnailContest(longRounds),
+             ThumbnailCount, 1.3);
+    printRow("thumbnails, times faster on two threads : on one", thumbnailThreadContest(longRounds),
+             ThumbnailCount, 1.8);
+    constexpr std::size_t checkRounds = 21;
+    constexpr std::size_t checkedFiles = UnitCount + WeaponCount;
+    printRow("checking a folder on all cores : loading its files", checkingContest(checkRounds), checkedFiles,
+             2.0);
+    printRow("checking a folder on one core : loading its files", singleCheckingContest(checkRounds),
+             checkedFiles, 4.0);
+    constexpr std::size_t largeRounds = 5;
+    printRow("4 MB of ammunition types too many : four times 1 MB", weaponLeftOutContest(largeRounds), 1,
+             1.5);
+    printRow("4 MB of availability points too many : four times 1 MB", unitLeftOutContest(largeRounds), 1,
+             1.5);
     return 0;
 }

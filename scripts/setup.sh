@@ -102,7 +102,8 @@ stopWine() {
 }
 
 # projectFiles PATTERN...: the project's own files of these names, NUL-terminated, relative to its root. The makers of the
-# sample are left to themselves: they are run once in a while, and nothing of the program depends on them.
+# sample are left to themselves: they are run once in a while, and nothing of the program depends on them. So are the
+# libraries of others.
 projectFiles() {
     local file
     cd "$ProjectRoot" || return
@@ -110,5 +111,5 @@ projectFiles() {
         if [ -f "$file" ]; then
             printf '%s\0' "$file"
         fi
-    done < <(git -c safe.directory='*' ls-files -z --cached --others --exclude-standard --deduplicate -- "$@" ':!sample/makers')
+    done < <(git -c safe.directory='*' ls-files -z --cached --others --exclude-standard --deduplicate -- "$@" ':!sample/makers' ':!third_party')
 }

@@ -1,5 +1,7 @@
 #include "analysis/plate_ranges.h"
 
+#include "data/unit_fields.h"
+
 #include <algorithm>
 #include <array>
 
@@ -27,7 +29,9 @@ std::optional<int> rangeThrough(const PenetrationCurve& curve, const ArmourPlate
 std::vector<PlateRange> plateRanges(const VehicleRecord& vehicle, const PenetrationCurve& curve) {
     std::vector<PlateRange> ranges;
     for (const VehiclePlate& plate : armourPlates(vehicle)) {
-        ranges.push_back({plate, rangeThrough(curve, plate.plate)});
+        if (plate.name != field::Top.element && plate.name != field::Bottom.element) {
+            ranges.push_back({plate, rangeThrough(curve, plate.plate)});
+        }
     }
     return ranges;
 }

@@ -21,7 +21,8 @@ struct PlateRange {
 /// account; nothing when it does not at all.
 std::optional<int> rangeThrough(const PenetrationCurve& curve, const ArmourPlate& plate);
 
-/// Every plate of `armourPlates` with the range up to which a projectile with this curve goes through it.
+/// The plates that a level shot can meet, all but top and bottom, with the range up to which a projectile
+/// with this curve goes through each.
 std::vector<PlateRange> plateRanges(const VehicleRecord& vehicle, const PenetrationCurve& curve);
 
 /// Ranges that a drawing shows in one colour.

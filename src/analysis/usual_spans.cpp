@@ -160,8 +160,7 @@ std::vector<std::string> unusualFigures(const WeaponRecord& weapon, std::size_t 
             valuesOf(figure, weapon, others, false, [&](const WeaponRecord& other, const AmmoTypeRecord&) {
                 return other.type == weapon.type;
             });
-        note(notes, figure, weapon, {}, std::move(values),
-             displayName(nameOf(weapon.type), WeaponPrefix) + " weapons");
+        note(notes, figure, weapon, {}, std::move(values), "the type " + std::string(wordOf(weapon.type)));
     }
     if (ammo >= weapon.ammoTypes.size()) {
         return notes;

@@ -9,22 +9,54 @@ namespace varrocade::cli {
 namespace {
 
 constexpr auto Commands = std::to_array<Command>({
+    {"check",
+     "FOLDER [--mod FOLDER] [--format text|json|sarif|github] [--severity note|warning|error] [--only KEYS] "
+     "[--baseline FILE | --write-baseline FILE]",
+     "tells what is wrong with the files of a game folder, which holds Data, Images and Sounds, or of a mod "
+     "for "
+     "that game; --only takes the keys of rules, separated by commas; a baseline holds findings that are not "
+     "to "
+     "be told again; what the rules are is told in docs/checks.md",
+     checkCommand},
     {"rewrite", "[--explain] CATEGORY IN OUT | --explain CATEGORY IN",
      "reads with the category's reader and writes with its writer; CATEGORY is vehicles, atguns, infantry, "
      "aircraft or weapons; where IN is a folder, every *.txt in it goes to the folder OUT; with --explain, "
      "prints what that drops, changes or respells, a line each, and without OUT does no more than that; only "
      "regular files are read and replaced, and never the one that is read",
      rewriteCommand},
+    {"find", "NAME FOLDER",
+     "tells where the files of a game folder name a weapon, a picture, a sound, a uniform or a nationality",
+     findCommand},
     {"penetration", "WEAPONFILE SHELLINDEX ANGLE K | --matrix GAMEFOLDER",
      "prints penetration and velocity of an ammunition type (counted from 0) at seven ranges, for armour "
      "that leans by ANGLE degrees and the drag coefficient K; with --matrix, tab separated, the range up to "
-     "which every ammunition type goes through every plate of every vehicle, at most 3000 m, \"-\" for none",
+     "which every ammunition type goes through every plate of every vehicle, at most 3000 m, \"-\" for none, "
+     "and "
+     "its penetration at the seven ranges",
      penetrationCommand},
     {"performance", "FOLDER [--estimate-weight]",
      "prints weight, estimated weight, speeds, acceleration and steepest slope of every vehicle of a game "
      "folder or a folder of vehicles, tab separated; with --estimate-weight, those without a weight drive "
      "with the estimate",
      performanceCommand},
+    {"import", "SHEET FOLDER [--mod FOLDER] [--write]",
+     "reads a table that report sheets made and prints what its changed cells change: line, unit, column, "
+     "former and new value, tab separated; with --write, all of it is written, or nothing where one cell is "
+     "refused",
+     importCommand},
+    {"mod-changes", "GAME MOD [--format text|markdown]",
+     "prints which units and weapons the folder MOD adds to those of the folder GAME, changes and takes out, "
+     "value by value with the game's beside it",
+     modChangesCommand},
+    {"report", "NAME FOLDER [--mod FOLDER] [OUT]",
+     "makes a report over a game folder or, with --mod, over the mod; its files go to OUT, otherwise to the "
+     "folder that it is about; NAME is sheets: a table of each category, Vehicles.csv and so on; png-usage: "
+     "which pictures are used, by whom, and which are not; of a mod, printed: duplicates, the files that are "
+     "the game's own; unused, those that nothing names; voices, those that its men lack; "
+     "thumbnails: vehicles as PNGs and a sheet for each nationality, with --scale PX_PER_M or --fit SIZE; "
+     "reduce: which PNGs could be smaller, with --unit NAME, --scale-down where the game needs fewer pixels, "
+     "--write to do it",
+     reportCommand},
     {"tree", "FILE", "prints how the file parses, one element a line", treeCommand},
 });
 

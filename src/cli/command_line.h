@@ -14,6 +14,10 @@ inline constexpr int CouldNot = 2;
 
 using Arguments = std::span<const std::string>;
 
+// Options that several commands know.
+inline constexpr std::string_view ModOption = "--mod"; ///< with the mod's folder behind it
+inline constexpr std::string_view WriteOption = "--write";
+
 /// One command: its name, its arguments as the usage text shows them, what it does, and how.
 struct Command {
     std::string_view name;
@@ -36,14 +40,29 @@ bool print(std::string_view text);
 /// A folder as paths are built from it: ending in a separator.
 std::string asFolder(std::string path);
 
+/// `check FOLDER [--mod FOLDER] [--format F] [--severity S] [--only KEYS] [--baseline FILE]`
+int checkCommand(Arguments arguments);
+
+/// `find NAME FOLDER`
+int findCommand(Arguments arguments);
+
 /// `rewrite [--explain] CATEGORY IN OUT` and `rewrite --explain CATEGORY IN`
 int rewriteCommand(Arguments arguments);
+
+/// `mod-changes GAME MOD [--format text|markdown]`
+int modChangesCommand(Arguments arguments);
 
 /// `penetration WEAPONFILE SHELLINDEX ANGLE K` and `penetration --matrix GAMEFOLDER`
 int penetrationCommand(Arguments arguments);
 
 /// `performance FOLDER [--estimate-weight]`
 int performanceCommand(Arguments arguments);
+
+/// `import SHEET FOLDER [--mod FOLDER] [--write]`
+int importCommand(Arguments arguments);
+
+/// `report NAME FOLDER [--mod FOLDER] [OUT]`
+int reportCommand(Arguments arguments);
 
 /// `tree FILE`
 int treeCommand(Arguments arguments);

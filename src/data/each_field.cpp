@@ -33,18 +33,51 @@ Holder holderOf(const SquadRecord& unit) {
     return unit.aircraft ? Holder::AircraftFile : unit.vehicle ? Holder::VehicleFile : Holder::SquadFile;
 }
 
-each_field::Path::Step::Step(Path& path, std::string_view name, std::size_t number)
-    : path_(path), length_(path.text_.size()) {
-    std::string& text = path.text_;
-    if (!text.empty()) {
-        text += '.';
+std::string FieldPath::text() const {
+    std::array<const Step*, MostSteps> steps{};
+    std::size_t count = 0;
+    for (const Step* step = last_; step != nullptr; step = step->around) {
+        steps.at(count++) = step;
     }
-    text += name;
-    if (number > 0) {
-        text += '[';
-        text += std::to_string(number);
-        text += ']';
+    std::string text;
+    while (count > 0) {
+        const Step& step = *steps.at(--count);
+        text += text.empty() ? "" : ".";
+        text += step.name;
+        if (step.number > 0) {
+            text += '[';
+            text += std::to_string(step.number);
+            text += ']';
+        }
     }
+    return text;
+}
+
+bool FieldPath::operator==(std::string_view text) const {
+    const auto take = [&text](char c) {
+        const bool is = text.ends_with(c);
+        text.remove_suffix(is ? 1 : 0);
+        return is;
+    };
+    for (const Step* step = last_; step != nullptr; step = step->around) {
+        if (step->number > 0) {
+            bool is = take(']');
+            for (std::size_t rest = step->number; is && rest > 0; rest /= 10) {
+                is = take(static_cast<char>('0' + rest % 10));
+            }
+            if (!is || !take('[')) {
+                return false;
+            }
+        }
+        if (!text.ends_with(step->name)) {
+            return false;
+        }
+        text.remove_suffix(step->name.size());
+        if (step->around != nullptr && !take('.')) {
+            return false;
+        }
+    }
+    return text.empty();
 }
 
 } // namespace varrocade

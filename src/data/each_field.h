@@ -12,9 +12,33 @@
 
 namespace varrocade {
 
+/// The way to a value: a chain of steps, good as long as the value is visited. Most values are only looked at
+/// and nobody asks for their paths, which become texts only then.
+class FieldPath {
+public:
+    struct Step {
+        const Step* around = nullptr; ///< null for the outermost
+        std::string_view name = {};
+        std::size_t number = 0; ///< of an entry, from 1; 0 for what is there once
+    };
+    /// Nothing lies deeper.
+    static constexpr std::size_t MostSteps = 8;
+
+    FieldPath() = default;
+    explicit FieldPath(const Step* last) : last_(last) {}
+
+    /// Such as "vehicle.turret[2].armour.mantlet"; entries count from 1.
+    [[nodiscard]] std::string text() const;
+    /// Whether that is its text, without making it.
+    bool operator==(std::string_view text) const;
+
+private:
+    const Step* last_ = nullptr;
+};
+
 /// One value of a record while it is visited.
 struct FieldPlace {
-    std::string_view path; ///< such as "vehicle.turret[2].armour.mantlet"; entries count from 1
+    FieldPath path;
     const FieldInfo& field;
     Holder holder; ///< of the record that the value belongs to
     Holder around; ///< of what that stands in, where it matters; otherwise the same
@@ -34,26 +58,38 @@ Holder holderOf(const SquadRecord& unit);
 
 namespace each_field {
 
-/// The path while it grows and shrinks.
-class Path {
+/// The steps from the record to where the walk is.
+class Steps {
 public:
-    /// Adds a step for as long as the object lives; a number of 0 is none.
-    class Step {
-    public:
-        Step(Path& path, std::string_view name, std::size_t number = 0);
-        ~Step() { path_.text_.resize(length_); }
-        Step(const Step&) = delete;
-        Step& operator=(const Step&) = delete;
-
-    private:
-        Path& path_;
-        std::size_t length_;
-    };
-
-    [[nodiscard]] std::string_view text() const { return text_; }
+    void add(std::string_view name, std::size_t number) {
+        const FieldPath::Step* around = last();
+        steps_.at(count_) = {around, name, number};
+        ++count_;
+    }
+    void removeLast() { --count_; }
+    [[nodiscard]] FieldPath path() const { return FieldPath(last()); }
 
 private:
-    std::string text_;
+    [[nodiscard]] const FieldPath::Step* last() const {
+        return count_ == 0 ? nullptr : &steps_.at(count_ - 1);
+    }
+
+    std::array<FieldPath::Step, FieldPath::MostSteps> steps_ = {};
+    std::size_t count_ = 0;
+};
+
+/// Adds a step for as long as the object lives.
+class Descent {
+public:
+    Descent(Steps& steps, std::string_view name, std::size_t number = 0) : steps_(steps) {
+        steps.add(name, number);
+    }
+    ~Descent() { steps_.removeLast(); }
+    Descent(const Descent&) = delete;
+    Descent& operator=(const Descent&) = delete;
+
+private:
+    Steps& steps_;
 };
 
 /// The walk over a record and what it holds. `Visit` takes a `FieldPlace` and a reference to the value.
@@ -68,18 +104,18 @@ public:
         values(unit, file);
         list(unit.availability, element::Availability, file);
         if (unit.vehicle) {
-            const Path::Step step(path_, element::Vehicle);
+            const Descent step(steps_, element::Vehicle);
             vehicle(*unit.vehicle, file);
         }
         men(unit.infantrymen, Holder::Infantryman);
         if (unit.heavyWeapon) {
-            const Path::Step step(path_, elementOf(unit.heavyWeapon->kind));
+            const Descent step(steps_, elementOf(unit.heavyWeapon->kind));
             const Holder holder = holderOf(unit.heavyWeapon->kind);
             values(*unit.heavyWeapon, holder);
             armament(*unit.heavyWeapon, holder);
         }
         if (unit.aircraft) {
-            const Path::Step step(path_, element::Aircraft);
+            const Descent step(steps_, element::Aircraft);
             values(*unit.aircraft, Holder::AircraftFile);
             armament(*unit.aircraft, Holder::AircraftFile);
             list(unit.aircraft->rotorBlades, element::RotorBlades, Holder::AircraftFile);
@@ -100,7 +136,7 @@ public:
     /// The fields of an entry of a list.
     template <typename Record>
     void entry(Record& record, std::string_view name, std::size_t number, Holder holder, Holder around) {
-        const Path::Step step(path_, name, number);
+        const Descent step(steps_, name, number);
         values(record, holder, around);
     }
 
@@ -110,12 +146,12 @@ private:
         auto& value = field.of(record);
         if constexpr (std::is_same_v<const FieldType, decltype(field::PersonalWeapons)>) {
             for (std::size_t i = 0; i < value.size(); ++i) {
-                const Path::Step step(path_, element::Weapon, i + 1);
-                visit_(FieldPlace{path_.text(), field, holder, around}, value[i]);
+                const Descent step(steps_, element::Weapon, i + 1);
+                visit_(FieldPlace{steps_.path(), field, holder, around}, value[i]);
             }
         } else {
-            const Path::Step step(path_, field.element);
-            visit_(FieldPlace{path_.text(), field, holder, around}, value);
+            const Descent step(steps_, field.element);
+            visit_(FieldPlace{steps_.path(), field, holder, around}, value);
         }
     }
 
@@ -135,7 +171,7 @@ private:
     template <typename Men>
     void men(Men& men, Holder holder) {
         for (std::size_t i = 0; i < men.size(); ++i) {
-            const Path::Step step(path_, element::Man, i + 1);
+            const Descent step(steps_, element::Man, i + 1);
             values(men[i], holder);
             list(men[i].ammo, element::Ammo, holder);
         }
@@ -148,11 +184,11 @@ private:
         std::array<std::size_t, 4> counts{};
         for (auto& component : vehicle.components) {
             const std::size_t number = ++counts.at(static_cast<std::size_t>(component.kind));
-            const Path::Step step(path_, elementOf(component.kind), number);
+            const Descent step(steps_, elementOf(component.kind), number);
             const Holder holder = holderOf(component.kind);
             values(component, holder);
             {
-                const Path::Step armour(path_, element::Armour);
+                const Descent armour(steps_, element::Armour);
                 values(component.armour, holder);
             }
             list(component.smokeDischargers, element::SmokeDischarger, holder);
@@ -162,7 +198,7 @@ private:
     }
 
     Visit& visit_;
-    Path path_;
+    Steps steps_;
 };
 
 } // namespace each_field

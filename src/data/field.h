@@ -31,7 +31,8 @@ enum class FieldKind : std::uint8_t {
     Uniform,     ///< a picture below `images`, its name as it stands
     Sound,       ///< a file below "Sounds\"
     Weapon,      ///< the type name of a weapon, which is the name of its file
-    Flavour      ///< of ammunition
+    Flavour,     ///< of ammunition
+    Colour       ///< red, green and blue, 0 to 255
 };
 
 /// The whole numbers that a field takes from people; files may hold others.
@@ -123,6 +124,10 @@ struct FieldInfo {
     FieldTraits traits = {};
     Words words = nullptr;
     std::span<const ImageSource> images = {};
+    /// What the record can hold: numbers beyond are brought to the nearest that it can.
+    NumberRange held = {};
+    /// The most characters of a text that the record can hold; 0 for any number.
+    std::size_t capacity = 0;
 
     [[nodiscard]] constexpr bool isStoredBy(Holder holder) const { return traits.stored.has(holder); }
     [[nodiscard]] constexpr bool isStoredBy(Holder holder, Holder around) const {
@@ -187,11 +192,31 @@ inline constexpr auto fieldsOf = std::tuple<>();
 /// The rows of the tables of fields.
 namespace field_row {
 
+/// What a type of whole numbers holds, as far as it is narrower than 32 bits.
+template <typename V>
+constexpr NumberRange heldBy() {
+    if constexpr (std::is_integral_v<V> && !std::is_same_v<V, bool> && sizeof(V) < sizeof(std::int32_t)) {
+        return {.least = std::numeric_limits<V>::min(), .greatest = std::numeric_limits<V>::max()};
+    } else {
+        return {};
+    }
+}
+
+/// How many characters a type of texts of fixed capacity holds.
+template <typename V>
+constexpr std::size_t capacityOf() {
+    if constexpr (requires { V::MaxLength; }) {
+        return V::MaxLength;
+    } else {
+        return 0;
+    }
+}
+
 template <typename R, typename V>
 constexpr Field<R, V> make(FieldKind kind, V R::*member, std::string_view element, std::string_view label,
                            const FieldTraits& traits, Words words = nullptr,
                            std::span<const ImageSource> images = {}) {
-    return {{element, label, kind, traits, words, images}, member};
+    return {{element, label, kind, traits, words, images, heldBy<V>(), capacityOf<V>()}, member};
 }
 
 template <typename R, typename V>
@@ -235,6 +260,12 @@ template <typename R, typename V>
 constexpr auto image(V R::*member, std::string_view element, std::string_view label,
                      std::span<const ImageSource> images, const FieldTraits& traits = {}) {
     return make(FieldKind::Image, member, element, label, traits, nullptr, images);
+}
+
+/// Colours are written only where they are not what a new record says.
+template <typename R, typename V>
+constexpr auto colour(V R::*member, std::string_view element, std::string_view label) {
+    return make(FieldKind::Colour, member, element, label, {.omitted = Omission::Default});
 }
 
 /// A field of one of the kinds that need no more than their name.

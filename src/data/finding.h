@@ -68,10 +68,14 @@ inline constexpr std::string_view NoRotateTime = "no-rotate-time";
 inline constexpr std::string_view RevolutionLimit = "revolution-limit";
 inline constexpr std::string_view AmmoWithoutWeapon = "ammo-without-weapon";
 
+// Of units that are not finished.
+inline constexpr std::string_view Incomplete = "incomplete";
+
 // Of values that name what is not there.
 inline constexpr std::string_view UnknownWord = "unknown-word";
 inline constexpr std::string_view UnknownWeapon = "unknown-weapon";
 inline constexpr std::string_view MissingPicture = "missing-picture";
+inline constexpr std::string_view MissingSound = "missing-sound";
 
 // Of what people typed.
 inline constexpr std::string_view BadInput = "bad-input";

@@ -31,7 +31,7 @@ bool addFolder(std::vector<GameFile>& files, const std::string& folder, const Ga
         return isListed;
     }
     std::vector<std::string> diskNames;
-    const bool isListed = listFiles(folder, DataFileEnding, diskNames);
+    const bool isListed = listRegularFiles(folder, DataFileEnding, diskNames);
     files.reserve(files.size() + diskNames.size());
     for (std::string& diskName : diskNames) {
         addFile(files, folder, std::move(diskName), model);

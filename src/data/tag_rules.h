@@ -18,6 +18,7 @@
 #include <array>
 #include <concepts>
 #include <cstdint>
+#include <span>
 #include <string_view>
 #include <type_traits>
 #include <vector>
@@ -46,7 +47,15 @@ struct Rule {
     std::string_view element;
     Place place = Place::Unknown;
     Action apply = nullptr;
+    /// What its text sets, for those who look at texts without reading them.
+    std::span<const FieldId> fields = {};
+    /// What writers put in the place of an older spelling; empty for today's.
+    std::string_view today = {};
 };
+
+/// The list of these fields.
+template <const auto&... Fields>
+inline constexpr std::array<FieldId, sizeof...(Fields)> FieldList = {&Fields...};
 
 /// Rules by place and element, in a table that one look finds most of them in.
 template <typename Reading>

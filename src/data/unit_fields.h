@@ -28,6 +28,8 @@ inline constexpr auto Destroyed = std::to_array<ImageSource>({{image_folder::Des
 inline constexpr auto Profile =
     std::to_array<ImageSource>({{image_folder::Profiles}, {image_folder::Units, ProfilePrefix}});
 inline constexpr auto Unit = std::to_array<ImageSource>({{image_folder::Units}});
+/// Those of guns and aircraft as they are drawn.
+inline constexpr auto UnitPicture = std::to_array<ImageSource>({{image_folder::Units, GenericPrefix}});
 inline constexpr auto UnitProfile = std::to_array<ImageSource>({{image_folder::Units, ProfilePrefix}});
 inline constexpr auto UniformProfile =
     std::to_array<ImageSource>({{image_folder::Units, ProfilePrefix}, {image_folder::Uniforms, "uniform_"}});

@@ -1,9 +1,10 @@
 #pragma once
-// The settings of a mod, as its "Mod.txt" holds them.
+// The settings of a mod, as its "Mod.txt" holds them. The file is the modder's own: what the editor does not
+// know, comments and layout stay as they are, and saving what was not changed gives its bytes.
 
-#include "mod/mod_record.h"
+#include "mod/mod_text.h"
+#include "platform/backups.h"
 #include "platform/file_operations.h"
-#include "platform/safe_save.h"
 
 #include <optional>
 #include <string>
@@ -13,17 +14,11 @@ namespace varrocade {
 
 inline constexpr std::string_view ModFileName = "Mod.txt";
 
-/// Reads the content of a "Mod.txt"; what it does not name keeps its default.
-ModSettings readModSettings(std::string_view fileContent);
+/// Reads "Mod.txt" in `modFolder`; nothing when there is none.
+std::optional<ModSettings> loadModSettings(const std::string& modFolder);
 
-/// The text of a "Mod.txt", in the tagged syntax of the data files.
-std::string modSettingsText(const ModSettings& settings);
-
-/// Reads "Mod.txt" in `modFolder`; the default settings when there is none.
-ModSettings loadModSettings(const std::string& modFolder);
-
-/// Writes "Mod.txt" into `modFolder`.
-std::optional<FileFailure> saveModSettings(FileOperations& files, const std::string& modFolder,
-                                           const ModSettings& settings);
+/// Writes "Mod.txt" into `modFolder`. A file that is there is changed in place, and backed up before.
+std::optional<FileFailure> saveModSettings(FileOperations& files, BackupKeeper& backups,
+                                           const std::string& modFolder, const ModSettings& settings);
 
 } // namespace varrocade

@@ -77,6 +77,10 @@ bool readFileBeginning(const std::string& path, std::size_t length, std::string&
 /// "*.txt"), in the order in which the system lists them. False when the folder cannot be listed.
 bool listFiles(const std::string& folder, std::string_view ending, std::vector<std::string>& names);
 
+/// The same of regular files only, links to such included, that can be reached by their names: opening a pipe
+/// would wait for its other end.
+bool listRegularFiles(const std::string& folder, std::string_view ending, std::vector<std::string>& names);
+
 /// A file of a folder with what tells whether it has changed.
 struct StampedFile {
     std::string name;
@@ -85,7 +89,7 @@ struct StampedFile {
     bool operator==(const StampedFile&) const = default;
 };
 
-/// The same with the files' sizes and times.
+/// Regular files with their sizes and times.
 bool listStampedFiles(const std::string& folder, std::string_view ending, std::vector<StampedFile>& files);
 
 /// Whether `path` names a folder.

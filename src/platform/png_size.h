@@ -17,6 +17,10 @@ struct PictureSize {
     bool operator==(const PictureSize&) const = default;
 };
 
+/// Larger pictures are not decoded: a file of a few bytes can say that it is larger than the memory. Some
+/// sixteen million pixels take 64 MB; the game's own pictures have less than one million.
+inline constexpr std::uint64_t MostPicturePixels = std::uint64_t{1} << 24U;
+
 /// The size that the header of a PNG file names; nothing when the bytes do not begin such a file.
 std::optional<PictureSize> pngSizeOf(std::string_view bytes);
 

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <map>
 #include <utility>
 
 namespace varrocade {
@@ -15,7 +16,38 @@ namespace varrocade {
 namespace {
 
 constexpr std::string_view MatrixHeading =
-    "weapon\tshell\tflavour\tammunition\tvehicle\tcomponent\tkind\tplate\tthickness\tangle\trange\n";
+    "weapon\tshell\tflavour\tammunition\tvehicle\tcomponent\tkind\tplate\tthickness\tangle\trange";
+
+/// The heads of the penetrations at the calculator's ranges: "mm_at_100".
+std::string heading() {
+    std::string text(MatrixHeading);
+    for (const int range : PenetrationRanges) {
+        text += "\tmm_at_";
+        appendInteger(text, range);
+    }
+    return text;
+}
+
+/// The penetrations of one ammunition type as cells, worked out once for each angle.
+class PenetrationCells {
+public:
+    PenetrationCells(const Projectile& projectile, double drag) : projectile_(projectile), drag_(drag) {}
+
+    const std::string& at(std::int32_t angle) {
+        const auto [known, isNew] = cells_.try_emplace(angle);
+        for (std::size_t i = 0; isNew && i < PenetrationRanges.size(); ++i) {
+            known->second += '\t';
+            appendFixed(known->second, impactAt(projectile_, drag_, PenetrationRanges[i], angle).penetration,
+                        1);
+        }
+        return known->second;
+    }
+
+private:
+    const Projectile& projectile_;
+    double drag_;
+    std::map<std::int32_t, std::string> cells_;
+};
 
 /// A value of a file as a cell, with the tab after it.
 void appendCell(std::string& row, std::string_view value) {
@@ -94,7 +126,7 @@ void PenetrationMatrix::addPlates(std::string_view vehicleName, const VehicleRec
         Target& target = targets_.emplace_back();
         target.plate = plate.plate;
         appendCell(target.cells, vehicleName);
-        appendCell(target.cells, static_cast<std::int32_t>(plate.component));
+        appendCell(target.cells, static_cast<std::int32_t>(plate.component + 1));
         appendCell(target.cells, elementOf(vehicle.components[plate.component].kind));
         appendCell(target.cells, plate.name);
         appendCell(target.cells, plate.plate.thickness);
@@ -104,7 +136,10 @@ void PenetrationMatrix::addPlates(std::string_view vehicleName, const VehicleRec
 
 bool PenetrationMatrix::write(const TextSink& sink) const {
     Rows rows(sink);
-    rows.text() += MatrixHeading;
+    rows.text() += heading();
+    if (!rows.endRow()) {
+        return false;
+    }
     for (const CatalogueEntry& entry : catalogue_.entries()) {
         for (std::size_t shell = 0; shell < entry.weapon.ammoTypes.size(); ++shell) {
             if (!writeAmmoType(entry.weapon, shell, rows)) {
@@ -122,7 +157,9 @@ bool PenetrationMatrix::writeAmmoType(const WeaponRecord& weapon, std::size_t sh
     if (penetrationOf(projectile, projectile.muzzleVelocity) <= 0) {
         return true;
     }
-    const PenetrationCurve curve = penetrationCurve(projectile, defaultDrag(ammoType.flavour));
+    const double drag = defaultDrag(ammoType.flavour);
+    const PenetrationCurve curve = penetrationCurve(projectile, drag);
+    PenetrationCells penetrations(projectile, drag);
     std::string start;
     appendCell(start, weapon.fileName);
     appendCell(start, static_cast<std::int32_t>(shell));
@@ -136,6 +173,7 @@ bool PenetrationMatrix::writeAmmoType(const WeaponRecord& weapon, std::size_t sh
         } else {
             rows.text() += '-';
         }
+        rows.text() += penetrations.at(target.plate.angle);
         if (!rows.endRow()) {
             return false;
         }

@@ -27,8 +27,9 @@ public:
     [[nodiscard]] const Diagnostics& diagnostics() const { return diagnostics_; }
 
     /// A heading, and a row for every ammunition type that goes through anything and every plate, tab
-    /// separated: the range in metres, at most `CurveEnd`, or "-". A whole mod has millions of rows: they
-    /// come in large pieces. False when one could not be written.
+    /// separated: the range in metres, at most `CurveEnd`, or "-", and the penetration in millimetres at each
+    /// of `PenetrationRanges`, of armour that leans as the plate does. Components count from 1. A whole mod
+    /// has millions of rows: they come in large pieces. False when one could not be written.
     [[nodiscard]] bool write(const TextSink& sink) const;
 
 private:

@@ -1,6 +1,7 @@
 #include "tools/weapon_users.h"
 
 #include "data/reading/unit_reader.h"
+#include "tools/references.h"
 
 #include <algorithm>
 #include <set>
@@ -10,37 +11,14 @@ namespace varrocade {
 
 namespace {
 
+/// A man with grenades has no weapon for them: what he throws is among his ammunition.
 std::vector<std::string> weaponsOf(const SquadRecord& unit) {
     std::set<std::string> weapons;
-    const auto addMounts = [&](const std::vector<WeaponMountRecord>& mounts) {
-        for (const WeaponMountRecord& mount : mounts) {
-            weapons.insert(mount.type.str());
+    forEachReference(unit, [&](const Reference& reference) {
+        if (reference.kind == ReferenceKind::Weapon) {
+            weapons.emplace(reference.name);
         }
-    };
-    // A man with grenades has no weapon for them: what he throws is among his ammunition.
-    const auto addMen = [&](const std::vector<CrewManRecord>& men) {
-        for (const CrewManRecord& man : men) {
-            for (const Text& weapon : man.weapons) {
-                weapons.insert(weapon.str());
-            }
-            for (const AmmoLoadRecord& ammo : man.ammo) {
-                weapons.insert(ammo.weaponType.str());
-            }
-        }
-    };
-    addMen(unit.infantrymen);
-    if (unit.vehicle) {
-        for (const ComponentRecord& component : unit.vehicle->components) {
-            addMounts(component.weapons);
-            addMen(component.crew);
-        }
-    }
-    if (unit.heavyWeapon) {
-        addMounts(unit.heavyWeapon->weapons);
-    }
-    if (unit.aircraft) {
-        addMounts(unit.aircraft->weapons);
-    }
+    });
     return {weapons.begin(), weapons.end()};
 }
 

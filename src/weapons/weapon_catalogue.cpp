@@ -6,6 +6,7 @@
 #include "data/unit/image_names.h"
 #include "platform/file_operations.h"
 #include "weapons/weapon_files.h"
+#include "weapons/weapon_usage.h"
 
 #include <algorithm>
 #include <array>
@@ -16,24 +17,16 @@ namespace varrocade {
 
 namespace {
 
-/// Identifiers and words for people compare alike: "NORTH_KOREAN" and "North Korean".
-char folded(char c) {
-    return c == '_' ? ' ' : lowered(c);
-}
-
-bool sameFolded(std::string_view a, std::string_view b) {
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                      [](char x, char y) { return folded(x) == folded(y); });
-}
-
 /// Less than 0, 0 or more, as `std::string_view::compare`.
 int compareFolded(std::string_view a, std::string_view b) {
-    const auto [x, y] = std::mismatch(a.begin(), a.end(), b.begin(), b.end(),
-                                      [](char left, char right) { return folded(left) == folded(right); });
+    const auto [x, y] = std::mismatch(a.begin(), a.end(), b.begin(), b.end(), [](char left, char right) {
+        return foldedInName(left) == foldedInName(right);
+    });
     if (x == a.end() || y == b.end()) {
         return static_cast<int>(x != a.end()) - static_cast<int>(y != b.end());
     }
-    return static_cast<unsigned char>(folded(*x)) < static_cast<unsigned char>(folded(*y)) ? -1 : 1;
+    return static_cast<unsigned char>(foldedInName(*x)) < static_cast<unsigned char>(foldedInName(*y)) ? -1
+                                                                                                       : 1;
 }
 
 bool comesBefore(const CatalogueEntry& a, const CatalogueEntry& b) {
@@ -70,48 +63,6 @@ bool isUntouched(const WeaponRecord& weapon) {
     WeaponRecord untouched;
     untouched.fileName = weapon.fileName;
     return weapon == untouched;
-}
-
-/// The forms of nationalities in old files, and the ones that stand for the same nation today.
-constexpr auto NationalitySynonyms = std::to_array<std::pair<std::string_view, std::string_view>>({
-    {"Armenia", "Armenian"},
-    {"Azerbaijan", "Azerbaijani"},
-    {"Finland", "Finnish"},
-    {"Kuwati", "Kuwaiti"},
-});
-
-std::string_view nationOf(std::string_view nationality) {
-    if (nationality.starts_with(NationalityPrefix)) {
-        nationality.remove_prefix(NationalityPrefix.size());
-    }
-    for (const auto& [old, present] : NationalitySynonyms) {
-        if (sameFolded(nationality, old)) {
-            return present;
-        }
-    }
-    return nationality;
-}
-
-std::string_view itself(std::string_view word) {
-    return word;
-}
-
-/// Whether one of the words of a list, separated by commas, is the wanted one. A list without words names
-/// all.
-bool lists(std::string_view list, std::string_view wanted, std::string_view (*meaning)(std::string_view)) {
-    bool isEmpty = true;
-    while (!list.empty()) {
-        const std::size_t comma = std::min(list.find(','), list.size());
-        const std::string_view word = trimmed(list.substr(0, comma));
-        if (!word.empty()) {
-            if (sameFolded(meaning(word), wanted)) {
-                return true;
-            }
-            isEmpty = false;
-        }
-        list.remove_prefix(std::min(comma + 1, list.size()));
-    }
-    return isEmpty;
 }
 
 } // namespace
@@ -216,15 +167,15 @@ void WeaponCatalogue::sortEntries() {
 }
 
 std::vector<const WeaponRecord*> WeaponCatalogue::select(const WeaponFilter& filter) const {
-    const std::string_view nation = nationOf(filter.nationality);
     std::vector<const WeaponRecord*> found;
     for (const CatalogueEntry& entry : entries_) {
         const WeaponRecord& weapon = entry.weapon;
-        const bool isWanted = entry.holdsWeapon &&
-                              (filter.types.empty() || std::find(filter.types.begin(), filter.types.end(),
-                                                                 weapon.type) != filter.types.end()) &&
-                              (nation.empty() || lists(weapon.countries, nation, nationOf)) &&
-                              (filter.period.empty() || lists(weapon.period, filter.period, itself));
+        const bool isWanted =
+            entry.holdsWeapon &&
+            (filter.types.empty() ||
+             std::find(filter.types.begin(), filter.types.end(), weapon.type) != filter.types.end()) &&
+            (filter.nationality.empty() || usesWeapon(filter.nationality, weapon.countries)) &&
+            (filter.period.empty() || isOfPeriod(filter.period, weapon.period));
         if (isWanted) {
             found.push_back(&weapon);
         }

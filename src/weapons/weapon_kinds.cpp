@@ -93,13 +93,20 @@ std::string namePrefixOf(WeaponType type) {
 }
 
 WeaponType typeOfWeaponName(std::string_view name) {
+    static const auto words = [] {
+        std::array<std::string_view, Kinds.size()> ofKinds;
+        std::transform(Kinds.begin(), Kinds.end(), ofKinds.begin(),
+                       [](const KindRow& kind) { return nameOf(kind.type); });
+        return ofKinds;
+    }();
     WeaponType found = WeaponType::None;
     std::size_t longest = 0;
-    for (const KindRow& kind : Kinds) {
-        const std::string prefix = namePrefixOf(kind.type);
-        if (prefix.size() > longest && name.starts_with(prefix)) {
-            longest = prefix.size();
-            found = kind.type;
+    for (std::size_t i = 0; i < Kinds.size(); ++i) {
+        const std::string_view word = words.at(i);
+        if (word.size() > longest && name.size() > word.size() && name[word.size()] == '_' &&
+            name.starts_with(word)) {
+            longest = word.size();
+            found = Kinds.at(i).type;
         }
     }
     return found;

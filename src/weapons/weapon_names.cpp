@@ -12,28 +12,29 @@ template <typename Value>
 struct NameRow {
     Value value;
     std::string_view name;
+    std::string_view word = {}; ///< for people
 };
 
 constexpr auto Types = std::to_array<NameRow<WeaponType>>({
-    {WeaponType::Rifle, "WEAPON_RIFLE"},
-    {WeaponType::Pistol, "WEAPON_PISTOL"},
-    {WeaponType::Carbine, "WEAPON_CARBINE"},
-    {WeaponType::Shotgun, "WEAPON_SHOTGUN"},
-    {WeaponType::AtRifle, "WEAPON_AT_RIFLE"},
-    {WeaponType::Smg, "WEAPON_SMG"},
-    {WeaponType::Lmg, "WEAPON_LMG"},
-    {WeaponType::Hmg, "WEAPON_HMG"},
-    {WeaponType::Rpg, "WEAPON_RPG"},
-    {WeaponType::RecoillessRifle, "WEAPON_RECOILLESS_RIFLE"},
-    {WeaponType::FlamethrowerPortable, "WEAPON_FLAMETHROWER_PORTABLE"},
-    {WeaponType::FlamethrowerTank, "WEAPON_FLAMETHROWER_TANK"},
-    {WeaponType::Grenade, "WEAPON_GRENADE"},
-    {WeaponType::GrenadeLauncher, "WEAPON_GRENADE_LAUNCHER"},
-    {WeaponType::Mortar, "WEAPON_MORTAR"},
-    {WeaponType::Cannon, "WEAPON_CANNON"},
-    {WeaponType::Mlrs, "WEAPON_MLRS"},
-    {WeaponType::Artillery, "WEAPON_ARTILLERY"},
-    {WeaponType::Bomb, "WEAPON_BOMB"},
+    {WeaponType::Rifle, "WEAPON_RIFLE", "Rifle"},
+    {WeaponType::Pistol, "WEAPON_PISTOL", "Pistol"},
+    {WeaponType::Carbine, "WEAPON_CARBINE", "Carbine"},
+    {WeaponType::Shotgun, "WEAPON_SHOTGUN", "Shotgun"},
+    {WeaponType::AtRifle, "WEAPON_AT_RIFLE", "Anti-tank rifle"},
+    {WeaponType::Smg, "WEAPON_SMG", "Submachine gun"},
+    {WeaponType::Lmg, "WEAPON_LMG", "Light machine gun"},
+    {WeaponType::Hmg, "WEAPON_HMG", "Heavy machine gun"},
+    {WeaponType::Rpg, "WEAPON_RPG", "Rocket launcher"},
+    {WeaponType::RecoillessRifle, "WEAPON_RECOILLESS_RIFLE", "Recoilless rifle"},
+    {WeaponType::FlamethrowerPortable, "WEAPON_FLAMETHROWER_PORTABLE", "Portable flamethrower"},
+    {WeaponType::FlamethrowerTank, "WEAPON_FLAMETHROWER_TANK", "Tank flamethrower"},
+    {WeaponType::Grenade, "WEAPON_GRENADE", "Grenade"},
+    {WeaponType::GrenadeLauncher, "WEAPON_GRENADE_LAUNCHER", "Grenade launcher"},
+    {WeaponType::Mortar, "WEAPON_MORTAR", "Mortar"},
+    {WeaponType::Cannon, "WEAPON_CANNON", "Cannon"},
+    {WeaponType::Mlrs, "WEAPON_MLRS", "Multiple rocket launcher"},
+    {WeaponType::Artillery, "WEAPON_ARTILLERY", "Artillery"},
+    {WeaponType::Bomb, "WEAPON_BOMB", "Bomb"},
 });
 
 struct FlavourRow {
@@ -90,24 +91,24 @@ constexpr auto OlderFlavourNames = std::to_array<NameRow<AmmoFlavour>>({
 });
 
 constexpr auto Eras = std::to_array<NameRow<HeatEra>>({
-    {HeatEra::Early, "HEAT_ERA_EARLY"},
-    {HeatEra::Late, "HEAT_ERA_LATE"},
-    {HeatEra::ColdWarEarly, "HEAT_ERA_COLD_WAR_EARLY"},
-    {HeatEra::ColdWar, "HEAT_ERA_COLD_WAR"},
-    {HeatEra::ColdWarLate, "HEAT_ERA_COLD_WAR_LATE"},
-    {HeatEra::Modern, "HEAT_ERA_MODERN"},
+    {HeatEra::Early, "HEAT_ERA_EARLY", "Early"},
+    {HeatEra::Late, "HEAT_ERA_LATE", "Late"},
+    {HeatEra::ColdWarEarly, "HEAT_ERA_COLD_WAR_EARLY", "Early Cold War"},
+    {HeatEra::ColdWar, "HEAT_ERA_COLD_WAR", "Cold War"},
+    {HeatEra::ColdWarLate, "HEAT_ERA_COLD_WAR_LATE", "Late Cold War"},
+    {HeatEra::Modern, "HEAT_ERA_MODERN", "Modern"},
 });
 
 constexpr auto GuidanceModes = std::to_array<NameRow<GuidanceMode>>({
-    {GuidanceMode::Manual, "GUIDED_MANUAL"},
-    {GuidanceMode::FireAndForget, "GUIDED_FAF"},
-    {GuidanceMode::TopAttack, "GUIDED_TOP_ATTACK"},
-    {GuidanceMode::OverTheTop, "GUIDED_OVER_THE_TOP"},
+    {GuidanceMode::Manual, "GUIDED_MANUAL", "Guided by hand"},
+    {GuidanceMode::FireAndForget, "GUIDED_FAF", "Fire and forget"},
+    {GuidanceMode::TopAttack, "GUIDED_TOP_ATTACK", "Top attack"},
+    {GuidanceMode::OverTheTop, "GUIDED_OVER_THE_TOP", "Flies over the top"},
 });
 
 constexpr auto ReloadModes = std::to_array<NameRow<ReloadMode>>({
-    {ReloadMode::SemiAutomatic, "RELOAD_SEMI_AUTOMATIC"},
-    {ReloadMode::Automatic, "RELOAD_AUTOMATIC"},
+    {ReloadMode::SemiAutomatic, "RELOAD_SEMI_AUTOMATIC", "Semi-automatic"},
+    {ReloadMode::Automatic, "RELOAD_AUTOMATIC", "Automatic"},
 });
 
 template <std::size_t Skipped, typename Rows>
@@ -135,6 +136,13 @@ std::string_view findName(const Rows& rows, Value value, std::string_view otherw
         }
     }
     return otherwise;
+}
+
+/// The words of a table; `otherwise` for a value that has none.
+template <typename Rows, typename Value>
+std::string_view findWord(const Rows& rows, Value value, std::string_view otherwise) {
+    const auto row = std::find_if(rows.begin(), rows.end(), [&](const auto& r) { return r.value == value; });
+    return row != rows.end() ? row->word : otherwise;
 }
 
 template <typename Value, std::size_t Count>
@@ -224,6 +232,23 @@ std::string_view nameOf(ReloadMode mode) {
 
 std::optional<ReloadMode> reloadModeOf(std::string_view name) {
     return findValue(ReloadModes, name);
+}
+
+std::string_view wordOf(WeaponType type) {
+    return findWord(Types, type, "Weapon of an unknown type");
+}
+
+std::string_view wordOf(HeatEra era) {
+    return findWord(Eras, era, Eras[1].word);
+}
+
+std::string_view wordOf(GuidanceMode mode) {
+    return mode == GuidanceMode::Unguided ? "Unguided"
+                                          : findWord(GuidanceModes, mode, GuidanceModes.front().word);
+}
+
+std::string_view wordOf(ReloadMode mode) {
+    return mode == ReloadMode::None ? "None" : findWord(ReloadModes, mode, ReloadModes.back().word);
 }
 
 std::string valueText(WeaponType value) {

@@ -46,6 +46,13 @@ std::optional<GuidanceMode> guidanceModeOf(std::string_view name);
 std::string_view nameOf(ReloadMode mode);
 std::optional<ReloadMode> reloadModeOf(std::string_view name);
 
+/// What people call a value, such as "Submachine gun". What files cannot name has the word of what would be
+/// written for it.
+std::string_view wordOf(WeaponType type);
+std::string_view wordOf(HeatEra era);
+std::string_view wordOf(GuidanceMode mode);
+std::string_view wordOf(ReloadMode mode);
+
 /// The names of the files; empty for the modes that are never written.
 std::string valueText(WeaponType value);
 std::string valueText(AmmoFlavour value);

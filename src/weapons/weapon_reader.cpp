@@ -1,3 +1,4 @@
+#include "data/element_table.h"
 #include "data/finding_text.h"
 #include "data/format/numbers.h"
 #include "data/tag_rules.h"
@@ -133,7 +134,7 @@ void addAmmoType(Reading& reading, std::string_view) {
 /// An element that sets one field.
 template <const auto& F>
 constexpr Rule rule(Place in, Rule::Action action = set<Reading, F>) {
-    return {in, F.element, Place::Unknown, action};
+    return {in, F.element, Place::Unknown, action, tag_rules::FieldList<F>};
 }
 
 using P = Place;
@@ -202,6 +203,11 @@ WeaponRecord weapon_rules::readTree(const TagTree& tree, std::string_view fileNa
     Reading reading{{.tree = tree, .findings = findings, .trace = trace}, weapon};
     tag_rules::walk(reading, visitNode);
     return weapon;
+}
+
+const ElementTable& weapon_rules::elements() {
+    static const ElementTable table(weaponRules());
+    return table;
 }
 
 bool weapon_rules::isElement(std::string_view name) {

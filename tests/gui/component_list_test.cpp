@@ -197,6 +197,26 @@ TEST_F(ComponentListTest, DeletingAsksAndSparesTheHull) {
     EXPECT_NE(tigerText().find("<fixed_weapon>"), std::string::npos);
 }
 
+TEST_F(ComponentListTest, CopiesAndTwinsCarryWhatTheirComponentDoes) {
+    const Window details = startWith(Tiger);
+    selectLine(details, 0);
+    EXPECT_FALSE(details.control(IDC_COPY_COMPONENT).isEnabled()) << "a vehicle has one hull";
+    EXPECT_FALSE(details.control(IDC_MIRROR_COMPONENT).isEnabled());
+    selectLine(details, 2);
+    details.press(IDC_COPY_COMPONENT);
+    EXPECT_EQ(lines(details).back(), "4. Fixed Weapon (crew 1)");
+    EXPECT_EQ(selectedLine(details), 3);
+    details.press(IDC_MIRROR_COMPONENT);
+    details.startPress(IDC_EDIT_COMPONENT);
+    const Window twin = editor->waitForDialog("Fixed Weapon");
+    const int offset = std::stoi(twin.control(IDC_OFFSET_X).text());
+    finish(twin, IDCANCEL);
+    finish(details);
+    const std::string element = "<offsetX>" + std::to_string(-offset) + "</offsetX>";
+    EXPECT_NE(tigerText().find(element, tigerText().find("<fixed_weapon>")), std::string::npos);
+    EXPECT_NE(tigerText().find("<offsetX>" + std::to_string(offset) + "</offsetX>"), std::string::npos);
+}
+
 TEST_F(ComponentListTest, ChangesAreUndoneAndSavedFromTheMenu) {
     Window details = startWith(Tiger);
     const std::string before = tigerText();

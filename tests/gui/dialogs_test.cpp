@@ -103,8 +103,10 @@ std::vector<DialogCase> driveAndDateCases() {
          refusal("Availability", "\"Month\" must be a whole number from 1 to 12"),
          IDC_MONTH,
          {setText(IDC_MONTH, "9"), press(IDC_ENTRY_ADD), setText(IDC_NUMBER, "7"), press(IDC_ENTRY_SORT)},
-         {{"\t\t<data><month>8</month>", "\t\t<data><month>1</month><year>1940</year><number>7</number></"
-                                         "data>\r\n\t\t<data><month>9</month>"}}},
+         {{"<data><month>8</month>", "<data><month>9</month>"},
+          {"<number>50</number></data>\r\n",
+           "<number>50</number></data>\r\n"
+           "\t\t<data><month>5</month><year>1945</year><number>7</number></data>\r\n"}}},
     };
 }
 
@@ -118,7 +120,7 @@ std::vector<DialogCase> hullCases() {
          {{"<width>371", "<width>372"},
           {"\t\t\t<image_destroyed>German Panzer VI Tiger Ausf E hull destroyed.png</image_destroyed>\r\n",
            ""}}},
-        {{HullStep, {IDC_ARMOUR_BUTTON, "Armour"}},
+        {{HullStep, {IDC_ARMOUR_BUTTON, "Hull 1: armour"}},
          {setText(IDC_PLATES + 1, "91")},
          refusal("Armour", "\"Upper front angle\" must be a whole number from 0 to 90"),
          IDC_PLATES + 1,
@@ -127,7 +129,7 @@ std::vector<DialogCase> hullCases() {
          {{"100@9", "100@10"},
           {"<upper_side>80", "<upper_side>90"},
           {"\t\t\t\t<bottom>25</bottom>\r\n", ""}}},
-        {{HullStep, {IDC_DISCHARGERS_BUTTON, "Smoke Dischargers"}},
+        {{HullStep, {IDC_DISCHARGERS_BUTTON, "Hull 1: smoke dischargers"}},
          {press(IDC_ENTRY_ADD), setText(IDC_ROUNDS, "-1")},
          refusal("Smoke Dischargers", "\"Rounds\" must be a whole number of at least 0"),
          IDC_ROUNDS,
@@ -140,7 +142,7 @@ std::vector<DialogCase> hullCases() {
                                   "\t\t\t<smoke_discharger><offsetX>100</offsetX><offsetY>0</"
                                   "offsetY><angle>30</angle><speed>0</speed>"
                                   "<ammo>5</ammo><reload>0</reload></smoke_discharger>\r\n"}}},
-        {{HullStep, {IDC_CREW_BUTTON, "Crew"}},
+        {{HullStep, {IDC_CREW_BUTTON, "Hull 1: crew"}},
          {},
          {},
          0,
@@ -150,14 +152,16 @@ std::vector<DialogCase> hullCases() {
            "\t\t\t\t<weapon><type>WEAPON_PISTOL_P38</type></weapon>\r\n"
            "\t\t\t\t<ammo><for>WEAPON_PISTOL_P38</for><rounds>16</rounds></ammo>\r\n"
            "\t\t\t</man>\r\n\r\n\t\t\t<man>\r\n\t\t\t\t<job>JOB_DRIVER</job>\r\n"}}},
-        {{HullStep, {IDC_CREW_BUTTON, "Crew"}, {IDC_MAN_WEAPONS_BUTTON, "Personal Weapons"}},
+        {{HullStep,
+          {IDC_CREW_BUTTON, "Hull 1: crew"},
+          {IDC_MAN_WEAPONS_BUTTON, "Hull 1, man 1: personal weapons"}},
          {},
          {},
          0,
          {press(IDC_ENTRY_ADD), choose(IDC_WEAPON_TYPE, "WEAPON_SMG_MP40")},
          {{"P38</type></weapon>\r\n", "P38</type></weapon>\r\n"
                                       "\t\t\t\t<weapon><type>WEAPON_SMG_MP40</type></weapon>\r\n"}}},
-        {{HullStep, {IDC_CREW_BUTTON, "Crew"}, {IDC_MAN_AMMO_BUTTON, "Ammunition"}},
+        {{HullStep, {IDC_CREW_BUTTON, "Hull 1: crew"}, {IDC_MAN_AMMO_BUTTON, "Hull 1, man 1: ammunition"}},
          {setText(IDC_ROUNDS, "some")},
          refusal("Ammunition", "\"Rounds\" must be a whole number of at least 0"),
          IDC_ROUNDS,
@@ -185,13 +189,13 @@ std::vector<DialogCase> turretCases() {
            "<rotate_time>30</rotate_time>\r\n\t\t\t<rotate_left>180</rotate_left>\r\n"
            "\t\t\t<rotate_right>180</rotate_right>\r\n\t\t\t<offset_angle>-180</offset_angle>\r\n"
            "\t\t\t<AA>yes</AA>\r\n\t\t\t<night_vision>yes</night_vision>\r\n"}}},
-        {{TurretStep, {IDC_WEAPONS_BUTTON, "Weapons"}},
+        {{TurretStep, {IDC_WEAPONS_BUTTON, "Turret 3: weapons"}},
          {setText(IDC_OFFSET_ANGLE, "361")},
          refusal("Weapons", "\"Angle\" must be a whole number from -360 to 360"),
          IDC_OFFSET_ANGLE,
          {setText(IDC_OFFSET_ANGLE, "5")},
          {{"<offsetY>145</offsetY>", "<offsetY>145</offsetY><offset_angle>5</offset_angle>"}}},
-        {{TurretStep, {IDC_WEAPONS_BUTTON, "Weapons"}, {IDC_AMMO_BUTTON, "Ammunition"}},
+        {{TurretStep, {IDC_WEAPONS_BUTTON, "Turret 3: weapons"}, {IDC_AMMO_BUTTON, "Turret 3: ammunition"}},
          {setText(IDC_ROUNDS, "-1")},
          refusal("Ammunition", "\"Rounds\" must be a whole number of at least 0"),
          IDC_ROUNDS,
@@ -329,7 +333,7 @@ TEST_F(DialogsTest, ADeletedWeaponAsksForItsAmmunition) {
     start();
     select(Tiger);
     const std::string before = tigerText();
-    std::vector<Window> dialogs = open({TurretStep, {IDC_WEAPONS_BUTTON, "Weapons"}});
+    std::vector<Window> dialogs = open({TurretStep, {IDC_WEAPONS_BUTTON, "Turret 3: weapons"}});
     act(dialogs.back(), {chooseLine(IDC_ENTRY_LIST, 1), press(IDC_ENTRY_DELETE)});
     const Window weapons = dialogs.back();
     weapons.startPress(IDOK);
@@ -347,8 +351,8 @@ TEST_F(DialogsTest, ADeletedWeaponAsksForItsAmmunition) {
     dialogs.pop_back();
     closeAll(dialogs, IDOK);
     std::string expected = withReplaced(before,
-                                        "\t\t\t<weapon><type>WEAPON_HMG_MG34</type><offsetX>30</offsetX>"
-                                        "<offsetY>120</offsetY></weapon>\r\n",
+                                        "\t\t\t<weapon><type>WEAPON_HMG_MG34</type><offsetX>40</offsetX>"
+                                        "<offsetY>118</offsetY></weapon>\r\n",
                                         "");
     expected =
         withReplaced(expected, "\t\t\t<ammo><for>WEAPON_HMG_MG34</for><rounds>3000</rounds></ammo>\r\n", "");
@@ -358,10 +362,12 @@ TEST_F(DialogsTest, ADeletedWeaponAsksForItsAmmunition) {
 TEST_F(DialogsTest, CrewEndsAtThirteen) {
     start();
     select(Tiger);
-    const std::vector<Window> dialogs = open({HullStep, {IDC_CREW_BUTTON, "Crew"}});
+    const std::vector<Window> dialogs = open({HullStep, {IDC_CREW_BUTTON, "Hull 1: crew"}});
     for (int man = 1; man < 13; ++man) {
         dialogs.back().press(IDC_ENTRY_ADD);
     }
+    EXPECT_EQ(editor->focus().handle(), GetWindow(dialogs.back().control(IDC_JOB).handle(), GW_CHILD))
+        << "the new man's first field";
     for (const int button : {IDC_ENTRY_ADD, IDC_ENTRY_COPY}) {
         refuse(dialogs.back(), button,
                {.caption = "Squad full",
@@ -389,7 +395,7 @@ TEST_F(DialogsTest, TheDrawingStaysInSight) {
 TEST_F(DialogsTest, KeysOfTheListChangeIt) {
     start();
     select(Tiger);
-    const std::vector<Window> dialogs = open({HullStep, {IDC_CREW_BUTTON, "Crew"}});
+    const std::vector<Window> dialogs = open({HullStep, {IDC_CREW_BUTTON, "Hull 1: crew"}});
     const Window crew = dialogs.back().control(IDC_ENTRY_LIST);
     constexpr LPARAM withAlt = LPARAM{1} << 29;
     crew.send(WM_KEYDOWN, VK_INSERT);
@@ -406,7 +412,7 @@ TEST_F(DialogsTest, KeysOfTheListChangeIt) {
 TEST_F(DialogsTest, LinesWiderThanTheirListAreScrolled) {
     start();
     select(Tiger);
-    const std::vector<Window> dialogs = open({TurretStep, {IDC_WEAPONS_BUTTON, "Weapons"}});
+    const std::vector<Window> dialogs = open({TurretStep, {IDC_WEAPONS_BUTTON, "Turret 3: weapons"}});
     const Window weapons = dialogs.back().control(IDC_ENTRY_LIST);
     EXPECT_FALSE(weapons.hasStyle(WS_HSCROLL));
     dialogs.back().setText(IDC_WEAPON_TYPE, "WEAPON_CANNON_" + std::string(100, 'X'));
@@ -431,8 +437,8 @@ TEST_F(DialogsTest, UnknownValuesAreNamedAndKept) {
     const std::pair<std::vector<Step>, std::string_view> cases[] = {
         {{}, "Nationality \"NATIONALITY_OLD\""},
         {{{IDC_DRIVE, "Drive"}}, "Reliability \"RELIABILITY_OLD\""},
-        {{HullStep, {IDC_CREW_BUTTON, "Crew"}}, "Job \"JOB_OLD\""},
-        {{TurretStep, {IDC_WEAPONS_BUTTON, "Weapons"}}, "\"WEAPON_CANNON_OLD\""},
+        {{HullStep, {IDC_CREW_BUTTON, "Hull 1: crew"}}, "Job \"JOB_OLD\""},
+        {{TurretStep, {IDC_WEAPONS_BUTTON, "Turret 3: weapons"}}, "\"WEAPON_CANNON_OLD\""},
     };
     for (const auto& [path, part] : cases) {
         const std::vector<Window> dialogs = open(path);
@@ -460,14 +466,108 @@ TEST_F(DialogsTest, TimelineIsEditedByMouse) {
     const int y = area.height / 2;
     timeline.send(WM_LBUTTONDBLCLK, MK_LBUTTON, at(x, y));
     ASSERT_EQ(points.listTexts().size(), 8U);
-    EXPECT_EQ(points.listTexts().back().substr(0, 5), "1939-") << points.listTexts().back();
+    const std::string added = points.listTexts().front();
+    EXPECT_EQ(added.substr(0, 5), "1939-") << "in order: " << added;
+    EXPECT_EQ(added.back(), '0') << "round: " << added;
+    const std::string number = added.substr(added.find(':'));
     timeline.send(WM_LBUTTONDOWN, MK_LBUTTON, at(x, y));
     timeline.send(WM_MOUSEMOVE, MK_LBUTTON, at(3 * x, y));
     timeline.send(WM_LBUTTONUP, 0, at(3 * x, y));
-    EXPECT_EQ(points.listTexts().back().substr(0, 5), "1940-") << points.listTexts().back();
+    EXPECT_EQ(points.listTexts().front().substr(0, 5), "1940-") << points.listTexts().front();
+    EXPECT_EQ(points.listTexts().front().substr(added.find(':')), number) << "moved to the side only";
     timeline.send(WM_RBUTTONUP, 0, at(3 * x, y));
     EXPECT_EQ(points.listTexts().size(), 7U);
     closeAll(dialogs, IDOK);
+}
+
+TEST_F(DialogsTest, TheDrawingShowsWhatIsTypedUntilItIsCancelled) {
+    start();
+    select(Tiger);
+    const Window drawing = window.control(IDC_DRAWING);
+    const auto shows = [&](std::string_view name) {
+        return eventually([&] { return drawing.text().find(name) != std::string::npos; });
+    };
+    // The keys of the drawing select one part after the other.
+    for (int parts = 0; parts < 40 && drawing.text().find("X 58 cm") == std::string::npos; ++parts) {
+        drawing.send(WM_KEYDOWN, VK_NEXT);
+    }
+    const std::string before = drawing.text();
+    ASSERT_TRUE(shows("X 58 cm")) << before;
+    const std::vector<Window> dialogs = open({FixedWeaponStep});
+    dialogs.back().setText(IDC_OFFSET_X, "77");
+    EXPECT_TRUE(shows("X 77 cm")) << drawing.text();
+    dialogs.back().setText(IDC_OFFSET_X, "seven");
+    dialogs.back().startPress(IDC_CREW_BUTTON);
+    const Window crew = editor->waitForDialog("Fixed Weapon 4: crew");
+    crew.press(IDC_ENTRY_ADD);
+    finish(crew);
+    dialogs.back().setText(IDC_OFFSET_X, "78");
+    EXPECT_TRUE(shows("X 78 cm")) << drawing.text();
+    closeAll(dialogs, IDCANCEL);
+    EXPECT_TRUE(shows(before)) << drawing.text();
+    EXPECT_FALSE(menuState(IDM_UNDO) & MF_GRAYED) << "the crew stays";
+    sendCommand(IDM_UNDO);
+    EXPECT_TRUE(menuState(IDM_UNDO) & MF_GRAYED) << "and is all there is";
+    EXPECT_TRUE(menuState(IDM_SAVE) & MF_GRAYED);
+}
+
+/// Holds a key for another thread while it lives.
+class HeldKey {
+public:
+    HeldKey(DWORD thread, int key) : thread_(thread), key_(key) {
+        AttachThreadInput(GetCurrentThreadId(), thread_, TRUE);
+        set(0x80);
+    }
+    HeldKey(const HeldKey&) = delete;
+    HeldKey& operator=(const HeldKey&) = delete;
+    ~HeldKey() {
+        set(0);
+        AttachThreadInput(GetCurrentThreadId(), thread_, FALSE);
+    }
+
+private:
+    void set(BYTE state) const {
+        std::array<BYTE, 256> keys{};
+        GetKeyboardState(keys.data());
+        keys[static_cast<std::size_t>(key_)] = state;
+        SetKeyboardState(keys.data());
+    }
+    DWORD thread_;
+    int key_;
+};
+
+TEST_F(DialogsTest, ControlZTakesBackTyping) {
+    start();
+    select(Tiger);
+    std::vector<Window> dialogs = open({HullStep, {IDC_CREW_BUTTON, "Hull 1: crew"}});
+    dialogs.back().press(IDC_ENTRY_ADD);
+    closeAll(dialogs, IDOK);
+    const auto undoTyping = [](Window edit) {
+        const HeldKey control(GetWindowThreadProcessId(edit.handle(), nullptr), VK_CONTROL);
+        edit.pressKey('Z');
+        EXPECT_TRUE(eventually([&] { return edit.text().empty(); })) << edit.text();
+    };
+    const Window filter = window.control(IDC_FILTER);
+    sendCommand(IDM_FIND);
+    filter.send(WM_CHAR, 't');
+    ASSERT_EQ(filter.text(), "t");
+    undoTyping(filter);
+    EXPECT_FALSE(menuState(IDM_UNDO) & MF_GRAYED) << "the unit's change was not meant";
+
+    dialogs = open({HullStep, {IDC_CREW_BUTTON, "Hull 1: crew"}});
+    const Window job = dialogs.back().control(IDC_JOB);
+    const Window typed(GetWindow(job.handle(), GW_CHILD));
+    const std::string former = job.text();
+    dialogs.back().send(WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(job.handle()), TRUE);
+    for (const char letter : {'g', 'u', 'n'}) {
+        typed.send(WM_CHAR, static_cast<WPARAM>(letter));
+    }
+    EXPECT_NE(job.text(), former);
+    EXPECT_EQ(typed.send(EM_CANUNDO), TRUE);
+    typed.send(WM_CHAR, 0x1A);
+    EXPECT_EQ(job.text(), former);
+    EXPECT_EQ(dialogs.back().control(IDC_UNKNOWN).text(), "") << "the dialog has followed";
+    closeAll(dialogs, IDCANCEL);
 }
 
 } // namespace varrocade::gui

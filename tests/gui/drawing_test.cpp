@@ -12,7 +12,7 @@ namespace varrocade::gui {
 namespace {
 
 constexpr std::string_view Havoc = "American A-20G Havoc";
-constexpr std::string_view TurretGun = "HMG MG34, X 30 cm, Y 120 cm";
+constexpr std::string_view TurretGun = "HMG MG34, X 40 cm, Y 118 cm";
 
 constexpr std::array<UINT, 3> DoubleClick = {WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK};
 
@@ -127,7 +127,7 @@ TEST_F(DrawingTest, DraggedPositionsAreInTheFileThatThePromptSaves) {
     expectQuestion("French Panhard 178", "Save your changes to weapon and exhaust positions?", IDYES);
     EXPECT_TRUE(eventually([&] { return game.read(dataFile(Tiger)) != before; }));
     std::string expected =
-        withReplaced(before, "MG34</type><offsetX>30</offsetX><offsetY>120</offsetY>", "MG34</type>" + gun);
+        withReplaced(before, "MG34</type><offsetX>40</offsetX><offsetY>118</offsetY>", "MG34</type>" + gun);
     expected = withReplaced(expected, "<offsetX>56</offsetX><offsetY>-302</offsetY>", pipe);
     EXPECT_EQ(game.read(dataFile(Tiger)), expected);
 }
@@ -139,11 +139,11 @@ TEST_F(DrawingTest, EscapePutsPositionsBack) {
     for (const int key : {VK_RIGHT, VK_RIGHT, VK_UP}) {
         drawing.pressKey(key);
     }
-    EXPECT_TRUE(shows("HMG MG34, X 32 cm, Y 121 cm"));
+    EXPECT_TRUE(shows("HMG MG34, X 42 cm, Y 119 cm"));
     drawing.pressKey(VK_ESCAPE);
     EXPECT_TRUE(shows(TurretGun));
     sendCommand(IDM_REDO);
-    EXPECT_TRUE(shows("HMG MG34, X 32 cm, Y 121 cm")) << "what Escape took back is not lost";
+    EXPECT_TRUE(shows("HMG MG34, X 42 cm, Y 119 cm")) << "what Escape took back is not lost";
     sendCommand(IDM_UNDO);
     EXPECT_TRUE(shows(TurretGun));
     // While the mouse still holds it.
@@ -172,14 +172,17 @@ TEST_F(DrawingTest, SheetAndDrawingSelectTheSamePartAndOpenItsEditor) {
         return POINT{};
     };
     clickUntil("Armour");
-    sheet.send(WM_VSCROLL, SB_PAGEDOWN);
+    for (int page = 0; page < 2; ++page) {
+        sheet.send(WM_VSCROLL, SB_PAGEDOWN);
+    }
     const POINT row = clickUntil(TurretGun);
     sheet.post(WM_LBUTTONDBLCLK, MK_LBUTTON, at(row));
-    Window weapons = editor->waitForDialog("Weapons");
+    Window weapons = editor->waitForDialog("Turret 2: weapons");
     EXPECT_EQ(weapons.control(IDC_ENTRY_LIST).selectedText(), "2. HMG MG34");
-    weapons.setText(IDC_OFFSET_X, "31");
+    weapons.setText(IDC_OFFSET_X, "41");
+    EXPECT_TRUE(shows("HMG MG34, X 41 cm, Y 118 cm")) << "while the dialog is open";
     finish(weapons);
-    EXPECT_TRUE(shows("HMG MG34, X 31 cm, Y 120 cm"));
+    EXPECT_TRUE(shows("HMG MG34, X 41 cm, Y 118 cm"));
     EXPECT_FALSE(menuState(IDM_SAVE) & MF_GRAYED);
     sendCommand(IDM_UNDO);
     EXPECT_TRUE(shows(TurretGun));
@@ -254,7 +257,7 @@ TEST_F(DrawingTest, ATurretTurnsForLookingOnly) {
     expectAt(TurretGun, gun, "put back while the mouse holds it");
     turnRight();
     release(from(-60, 70));
-    expectAt(TurretGun, from(120, -30), "a quarter to the right");
+    expectAt(TurretGun, from(118, -40), "a quarter to the right");
     EXPECT_NE(menuState(IDM_SAVE) & MF_GRAYED, 0U);
     select("French Panhard 178");
     EXPECT_TRUE(editor->dialogs().empty()) << "nothing is unsaved";
@@ -274,7 +277,7 @@ TEST_F(DrawingTest, ShiftMovesByTenCentimetres) {
     keys[VK_SHIFT] = 0;
     SetKeyboardState(keys.data());
     AttachThreadInput(GetCurrentThreadId(), thread, FALSE);
-    EXPECT_TRUE(shows("HMG MG34, X 40 cm, Y 110 cm")) << drawing.text();
+    EXPECT_TRUE(shows("HMG MG34, X 50 cm, Y 108 cm")) << drawing.text();
     drawing.pressKey(VK_ESCAPE);
     EXPECT_TRUE(shows(TurretGun));
 }
@@ -308,10 +311,11 @@ TEST_F(DrawingTest, TheMouseOpensTheEditorOfWhatItPointsAt) {
     for (const std::function<void()>& open : {std::function<void()>(doubleClick), {chooseFromMenu}}) {
         selectPart("Exhaust pipe 2");
         open();
-        const Window weapons = editor->waitForDialog("Weapons");
+        const Window weapons = editor->waitForDialog("Turret 2: weapons");
         EXPECT_EQ(weapons.control(IDC_ENTRY_LIST).selectedText(), "2. HMG MG34");
+        weapons.setText(IDC_OFFSET_X, "99");
         finish(weapons, IDCANCEL);
-        EXPECT_TRUE(shows(TurretGun));
+        EXPECT_TRUE(shows(TurretGun)) << "as before";
     }
 }
 

@@ -1,5 +1,6 @@
 #include "gui_test.h"
 
+#include <algorithm>
 #include <set>
 
 namespace varrocade::gui {
@@ -35,6 +36,21 @@ TEST_F(FileListTest, FileChangedElsewhereIsReadAgainWhenSelectedAgain) {
     finish(details, IDCANCEL);
 }
 
+TEST_F(FileListTest, WhatChangesElsewhereIsNoticedWhileTheWindowIsInFront) {
+    start();
+    select(Tiger);
+    game.write(dataFile(Tiger), withReplaced(game.read(dataFile(Tiger)), "56900", "12345"));
+    game.write(dataFile("German New"), game.read(dataFile(Tiger)));
+    EXPECT_TRUE(eventually([&] {
+        const std::vector<std::string> names = entries();
+        return std::find(names.begin(), names.end(), "German New") != names.end();
+    }));
+    EXPECT_EQ(selected(), Tiger);
+    const Window details = openDetails();
+    EXPECT_EQ(details.control(IDC_WEIGHT).text(), "12345");
+    finish(details, IDCANCEL);
+}
+
 TEST_F(FileListTest, RemembersTheSelectionOfEachCategory) {
     start();
     select(Tiger);
@@ -49,7 +65,7 @@ TEST_F(FileListTest, RemembersTheSelectionOfEachCategory) {
     chooseCategory(InfantryId);
     EXPECT_EQ(selected(), squad);
     EXPECT_TRUE(isEnabled(RenameId));
-    EXPECT_FALSE(window.control(IDC_EDIT_DETAILS).isVisible()) << "squads have no such dialog";
+    EXPECT_TRUE(window.control(IDC_EDIT_DETAILS).isVisible());
 }
 
 TEST_F(FileListTest, FilterShowsWhatHoldsEveryWord) {
@@ -68,8 +84,25 @@ TEST_F(FileListTest, FilterShowsWhatHoldsEveryWord) {
     window.setText(IDC_FILTER, "no such file");
     EXPECT_TRUE(entries().empty());
     EXPECT_FALSE(isEnabled(DeleteId)) << "nothing is selected";
+    const Window notice = window.control(IDC_LIST_NOTICE);
+    const Window remedy = window.control(IDC_LIST_REMEDY);
+    EXPECT_TRUE(notice.isVisible() && remedy.isVisible());
+    EXPECT_EQ(notice.text(),
+              "Vehicles: the filter \"no such file\" hides all " + std::to_string(all.size()) + ".");
+    EXPECT_EQ(remedy.text(), "Show all");
+    sendCommand(IDC_LIST_REMEDY);
+    EXPECT_EQ(entries(), all);
+    EXPECT_FALSE(notice.isVisible() || remedy.isVisible());
 
+    window.setText(IDC_FILTER, "stug");
+    sendCommand(IDM_FIND);
+    filter.pressKey(VK_RETURN);
+    EXPECT_TRUE(eventually([&] { return selected() == "German StuG III Ausf G"; }))
+        << "the only hit is opened";
+    window.setText(IDC_FILTER, "");
+    select(Tiger);
     window.setText(IDC_FILTER, "tiger");
+    sendCommand(IDM_FIND);
     filter.pressKey(VK_RETURN);
     EXPECT_TRUE(eventually([&] { return editor->focus() == list(); }));
     EXPECT_EQ(entries().size(), 2U);
@@ -79,6 +112,10 @@ TEST_F(FileListTest, FilterShowsWhatHoldsEveryWord) {
     EXPECT_EQ(entries(), all);
     EXPECT_EQ(selected(), Tiger) << "it is open all the time";
     EXPECT_TRUE(isEnabled(DeleteId));
+    window.setText(IDC_FILTER, "tiger");
+    sendCommand(InfantryId);
+    EXPECT_EQ(filter.text(), "") << "it was for the vehicles";
+    EXPECT_FALSE(entries().empty());
 }
 
 TEST_F(FileListTest, KeysMoveAndCommand) {

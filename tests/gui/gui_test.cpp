@@ -57,8 +57,8 @@ void GuiTest::endLateTest(PVOID test, BOOLEAN) {
     static_cast<GuiTest*>(test)->editor->terminate();
 }
 
-void GuiTest::start() {
-    editor = std::make_unique<EditorProcess>(game.path());
+void GuiTest::start(const std::string& folder) {
+    editor = std::make_unique<EditorProcess>(folder.empty() ? game.path() : folder);
     if (timer_ == nullptr) {
         CreateTimerQueueTimer(&timer_, nullptr, endLateTest, this, TimeLimitMilliseconds, 0,
                               WT_EXECUTEONLYONCE);

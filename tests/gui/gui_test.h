@@ -58,8 +58,8 @@ protected:
     void SetUp() override;
     void TearDown() override;
 
-    /// Starts the editor in the game folder; the main window must come.
-    void start();
+    /// Starts the editor in the game folder, or in another; the main window must come.
+    void start(const std::string& folder = {});
     /// Closes the main window; the editor must end with status 0.
     void close();
 

@@ -96,6 +96,35 @@ TEST_F(MainWindowTest, ControlsKeepTheirPlacesAtEverySize) {
     }
 }
 
+TEST_F(MainWindowTest, ShowsTheCategoryAndKeepsRoomForAllOfIt) {
+    start();
+    for (const CategoryParts& chosen : Categories) {
+        sendCommand(chosen.button);
+        for (const CategoryParts& other : Categories) {
+            EXPECT_EQ(window.control(other.button).isChecked(), other.button == chosen.button) << other.name;
+        }
+    }
+    SetWindowPos(window.handle(), nullptr, 0, 0, 200, 100, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    RECT client{};
+    GetClientRect(window.handle(), &client);
+    EXPECT_GE(client.right, 958);
+    EXPECT_GE(client.bottom, 360);
+    EXPECT_GE(window.control(IDC_DRAWING).areaInParent().width, 200);
+    EXPECT_GE(window.control(IDC_SHEET).areaInParent().width, 400);
+}
+
+TEST_F(MainWindowTest, OffersToChooseTheFolderWhereThereIsNoGame) {
+    const TempGame nothing;
+    start(nothing.path());
+    EXPECT_TRUE(entries().empty());
+    const Window notice = window.control(IDC_LIST_NOTICE);
+    EXPECT_TRUE(notice.isVisible());
+    EXPECT_NE(notice.text().find(nothing.path()), std::string::npos) << notice.text();
+    EXPECT_EQ(window.control(IDC_LIST_REMEDY).text(), "Choose folder...");
+    EXPECT_TRUE(window.control(IDC_LIST_REMEDY).isVisible());
+    close();
+}
+
 TEST_F(MainWindowTest, MenuAndAcceleratorsHaveTheirCommands) {
     constexpr std::pair<int, std::string_view> items[] = {
         {105, "&File/E&xit"},

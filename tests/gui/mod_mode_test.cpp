@@ -55,8 +55,13 @@ TEST_F(ModModeTest, NewModStartsEmptyAndKeepsItsOwnFiles) {
     select(Tiger);
     window.post(WM_COMMAND, MAKEWPARAM(ModModeCommand, 0));
     answer(createQuestion(), IDOK);
-    finish(editor->waitForDialog("Edit Mod"));
+    const Window settings = editor->waitForDialog("Edit Mod");
+    settings.setText(IDC_MOD_NAME, "Eastern Front");
+    finish(settings);
     expectMode(userMod.modFolder());
+    const std::string modFile = readFile(userMod.modFolder() + "Mod.txt");
+    EXPECT_NE(modFile.find("<name>Eastern Front</name>"), std::string::npos);
+    EXPECT_NE(modFile.find("<file>Russian T-34 Model 1941</file>"), std::string::npos);
     EXPECT_TRUE(fileExists(userMod.modFolder() + "Mod.txt"));
     EXPECT_TRUE(entries().empty());
     expectNothingOpen();
@@ -128,6 +133,7 @@ TEST_F(ModModeTest, StartFindsTheUsersModBeforeTheProgramFolders) {
 }
 
 TEST_F(ModModeTest, ModCommandsOpenTheirDialogs) {
+    game.copyFromSample("Data\\Weapons");
     userMod.create();
     start();
     constexpr std::pair<int, std::string_view> dialogs[] = {

@@ -183,6 +183,18 @@ TEST_F(PenetrationTest, WeaponsFollowTheFilesAndTheMod) {
     EXPECT_FALSE(isOffered("WEAPON_RIFLE_KAR98K"));
 }
 
+TEST_F(PenetrationTest, BeginsWithTheOpenWeapon) {
+    start();
+    chooseCategory(WeaponsId);
+    select("WEAPON_RIFLE_KAR98K");
+    const Window calculator = openCalculator();
+    EXPECT_EQ(calculator.control(WeaponBox).text(), "WEAPON_RIFLE_KAR98K");
+    finish(calculator, IDCANCEL);
+    const Window dialog = openDialog(IDM_CAN_PENETRATE, "Can It Penetrate?");
+    EXPECT_EQ(dialog.control(IDC_SHOT_WEAPON).text(), "WEAPON_RIFLE_KAR98K");
+    finish(dialog, IDCANCEL);
+}
+
 TEST_F(PenetrationTest, TellsWhatGoesThroughAVehicle) {
     start();
     select(Tiger);
@@ -200,12 +212,11 @@ TEST_F(PenetrationTest, TellsWhatGoesThroughAVehicle) {
             "1. Hull\tUpper left\t80 mm\t0",     "1. Hull\tUpper right\t80 mm\t0",
             "1. Hull\tLower left\t60 mm\t0",     "1. Hull\tLower right\t60 mm\t0",
             "1. Hull\tUpper rear\t80 mm\t9",     "1. Hull\tLower rear\t80 mm\t9",
-            "1. Hull\tTop\t25 mm\t90",           "1. Hull\tBottom\t25 mm\t90",
             "2. Turret\tUpper front\t100 mm\t8", "2. Turret\tLower front\t100 mm\t8",
             "2. Turret\tUpper left\t80 mm\t0",   "2. Turret\tUpper right\t80 mm\t0",
             "2. Turret\tLower left\t80 mm\t0",   "2. Turret\tLower right\t80 mm\t0",
             "2. Turret\tUpper rear\t80 mm\t0",   "2. Turret\tLower rear\t80 mm\t0",
-            "2. Turret\tTop\t25 mm\t90",         "2. Turret\tMantlet\t120 mm\t0"};
+            "2. Turret\tMantlet\t120 mm\t0"};
         std::string text = std::string(Tiger) + "\t" + std::string(Kwk42) +
                            "\tAPCBC - PzGr 39/42\twind resistance " + std::string(drag) +
                            "\r\nComponent\tPlate\tThickness\tAngle\tGoes through\r\n";
@@ -217,22 +228,28 @@ TEST_F(PenetrationTest, TellsWhatGoesThroughAVehicle) {
     const std::string all = "at every range";
     dialog.press(IDC_COPY_TABLE);
     EXPECT_EQ(clipboardText(),
-              table("50", {"up to 542 m",   "up to 438 m", "up to 856 m", "up to 856 m", "up to 1,239 m",
-                           "up to 1,239 m", "up to 839 m", "up to 839 m", "never",       "never",
-                           "up to 545 m",   "up to 545 m", "up to 856 m", "up to 856 m", "up to 856 m",
-                           "up to 856 m",   "up to 856 m", "up to 856 m", "never",       "up to 315 m"}));
+              table("50", {"up to 542 m", "up to 438 m", "up to 856 m", "up to 856 m", "up to 1,239 m",
+                           "up to 1,239 m", "up to 839 m", "up to 839 m", "up to 545 m", "up to 545 m",
+                           "up to 856 m", "up to 856 m", "up to 856 m", "up to 856 m", "up to 856 m",
+                           "up to 856 m", "up to 315 m"}));
     dialog.setText(IDC_SHOT_DRAG, "12");
     dialog.press(IDC_COPY_TABLE);
-    EXPECT_EQ(
-        clipboardText(),
-        table("12",
-              {"up to 2,259 m", "up to 1,825 m", all, all, all, all, all, all, "never", "never",
-               "up to 2,273 m", "up to 2,273 m", all, all, all, all, all, all, "never", "up to 1,314 m"}));
-    // The middle of the drawing is the turret's top.
+    EXPECT_EQ(clipboardText(),
+              table("12", {"up to 2,259 m", "up to 1,825 m", all, all, all, all, all, all, "up to 2,273 m",
+                           "up to 2,273 m", all, all, all, all, all, all, "up to 1,314 m"}));
+    // The middle of the drawing is the turret's top, which no shot meets; the turret's plates lie around it.
     const Window outline = dialog.control(IDC_PLATE_OUTLINE);
     const Area area = outline.areaInParent();
-    outline.send(WM_MOUSEMOVE, 0, MAKELPARAM(area.width / 2, area.height * 2 / 5));
-    EXPECT_EQ(dialog.control(IDC_POINTED_PLATE).text(), "2. Turret, Top, 25 mm at 90 degrees: never");
+    const auto pointAt = [&](int y) {
+        outline.send(WM_MOUSEMOVE, 0, MAKELPARAM(area.width / 2, y));
+        return dialog.control(IDC_POINTED_PLATE).text();
+    };
+    EXPECT_EQ(pointAt(area.height * 2 / 5), "");
+    std::string above;
+    for (int y = area.height * 2 / 5; y > 0 && above.empty(); --y) {
+        above = pointAt(y);
+    }
+    EXPECT_EQ(above, "2. Turret, Upper front, 100 mm at 8 degrees: up to 2,273 m");
     dialog.control(IDC_SHOT_WEAPON).choose("WEAPON_RIFLE_KAR98K");
     dialog.press(IDC_COPY_TABLE);
     EXPECT_EQ(clipboardText().find("up to"), std::string::npos);

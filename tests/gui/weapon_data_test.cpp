@@ -64,7 +64,7 @@ TEST_F(WeaponDataTest, ChangesAreTakenRefusedAndUndone) {
     type(dialog, IDC_WD_SHOOT_SOUND, "shot_mortar");
     EXPECT_TRUE(dialog.control(IDC_WD_PLAY).isEnabled());
     dialog.control(IDC_WD_COMPARE).choose(1);
-    dialog.control(IDC_WD_TYPE).choose("Mlrs (WEAPON_MLRS)");
+    dialog.control(IDC_WD_TYPE).choose("Multiple rocket launcher (WEAPON_MLRS)");
     EXPECT_EQ(dialog.control(IDC_WD_NAME).text(), Kwk36) << "names do not change by themselves";
     EXPECT_EQ(dialog.control(IDC_WD_NAME_NOTE).text(), "Names of this type begin with WEAPON_MLRS_");
     dialog.press(IDC_WD_FIX_PREFIX);
@@ -122,7 +122,14 @@ TEST_F(WeaponDataTest, AmmunitionUpToTheGamesMost) {
     dialog.control(IDC_WD_FLAVOUR).choose("HEAT (FLAVOUR_HEAT)");
     EXPECT_TRUE(dialog.control(IDC_WD_ERA).isEnabled());
     EXPECT_EQ(dialog.control(IDC_ENTRY_LIST).selectedText(), "255. HEAT  1");
-    finish(dialog, IDCANCEL);
+    dialog.setText(IDC_WD_MASS, "2.5");
+    finish(dialog);
+    const std::string saved = file("WEAPON_CANNON_ALL");
+    EXPECT_GT(std::count(saved.begin(), saved.end(), '\n'), mostTypes);
+    EXPECT_NE(
+        saved.find(
+            "<type><flavour>FLAVOUR_HEAT</flavour><speed>0</speed><mass>2.5</mass><name>1</name></type>"),
+        std::string::npos);
 }
 
 TEST_F(WeaponDataTest, UsersAreOpenedAndToldOf) {

@@ -2,12 +2,13 @@
 
 #include "app/workspace/names/file_names.h"
 #include "app/workspace/names/name_filter.h"
+#include "app/workspace/names/unit_start.h"
 #include "app/workspace/options_file.h"
 #include "app/workspace/positions.h"
 #include "app/workspace/record/undo_history.h"
 #include "app/workspace/window_layout.h"
+#include "data/unit/unit_gaps.h"
 #include "data/writing/unit_writers.h"
-#include "mod/mod_settings.h"
 #include "test_support.h"
 
 #include <gtest/gtest.h>
@@ -36,6 +37,12 @@ TEST(WindowLayout, FirstPlaceFollowsTheWorkArea) {
     EXPECT_EQ(fileButtonPlaces(900)[3], (Place{266, 866, 82, 24}));
     EXPECT_EQ(picturePlace(1473, 900, 96).width, 507);
     EXPECT_EQ(sheetPlace(1473, 900, 96).width, 608);
+    // In a narrow window the sheet gives way first.
+    EXPECT_EQ(picturePlace(1024, 640, 96).width, LeastPictureWidth);
+    EXPECT_EQ(sheetPlace(1024, 640, 96).width, 1024 - ListWidth - LeastPictureWidth);
+    EXPECT_EQ(picturePlace(2 * LeastClientWidth, 1000, 192).width, 2 * LeastPictureWidth);
+    EXPECT_EQ(sheetPlace(2 * LeastClientWidth, 1000, 192).width, 2 * LeastSheetWidth);
+    EXPECT_EQ(sheetPlace(300, 300, 96).width, 0);
 }
 
 TEST(FileNames, RefuseWhatFilesCannotBeCalled) {
@@ -55,6 +62,56 @@ TEST(FileNames, NewUnitsCanBeWritten) {
         EXPECT_TRUE(unitFileText(category, newUnit(category, "German X", "NATIONALITY_GERMAN")).has_value());
     }
     EXPECT_EQ(newUnit(Category::Aircraft, "German X", "NATIONALITY_GERMAN").type, "TYPE_PLANE");
+}
+
+TEST(FileNames, FollowTheNationality) {
+    constexpr const char* german = "NATIONALITY_GERMAN";
+    constexpr const char* korean = "NATIONALITY_NORTH_KOREAN";
+    EXPECT_EQ(nameForNationality("", "", german), "German ");
+    EXPECT_EQ(nameForNationality("German ", german, korean), "North Korean ");
+    EXPECT_EQ(nameForNationality("North Korean T-34", korean, german), "German T-34");
+    EXPECT_EQ(nameForNationality("Tiger", german, korean), "Tiger") << "the user's own";
+}
+
+/// What a new unit lacks yet, on one line.
+std::string gapsOf(const SquadRecord& unit) {
+    std::string text;
+    for (const Finding& gap : unitGaps(unit)) {
+        text += (text.empty() ? "" : ", ") + gap.message.substr(gap.message.find(": ") + 2);
+    }
+    return text;
+}
+
+TEST(UnitStart, BringsWhatWasChosenAndNothingElse) {
+    const auto begun = [](Category category, const UnitStart& start) {
+        SquadRecord unit = newUnit(category, "German X", "NATIONALITY_GERMAN");
+        beginWith(unit, category, start, [](std::string_view name) { return name != "Profile-A"; });
+        return unit;
+    };
+    for (const Category category :
+         {Category::Vehicles, Category::AtGuns, Category::Infantry, Category::Aircraft}) {
+        EXPECT_EQ(begun(category, {}), newUnit(category, "German X", "NATIONALITY_GERMAN"));
+    }
+    EXPECT_EQ(gapsOf(begun(Category::Infantry, {})), "the long name, the men, the dates of availability");
+    const SquadRecord squad = begun(Category::Infantry, {.men = 3, .weapon = "WEAPON_A"});
+    ASSERT_EQ(squad.infantrymen.size(), 3U);
+    EXPECT_EQ(squad.infantrymen[0].job, "JOB_SQUAD_LEADER");
+    EXPECT_EQ(squad.infantrymen[2].weapons, std::vector<Text>{"WEAPON_A"});
+    EXPECT_EQ(gapsOf(squad), "the long name, the dates of availability");
+    const SquadRecord gun =
+        begun(Category::AtGuns,
+              {.men = 1, .kind = HeavyWeaponKind::Mortar, .picture = "Image-A gun", .weapon = "WEAPON_A"});
+    EXPECT_EQ(gun.type, "TYPE_MORTAR");
+    EXPECT_EQ(gun.heavyWeapon->baseImage, "Image-A base");
+    EXPECT_TRUE(gun.heavyWeapon->profileImage.empty()) << "there is none";
+    EXPECT_EQ(gun.heavyWeapon->weapons.at(0).type, "WEAPON_A");
+    EXPECT_TRUE(gun.infantrymen.at(0).weapons.empty());
+    EXPECT_EQ(gapsOf(begun(Category::Aircraft, {.picture = "Image-B"})),
+              "the long name, the sound of the aircraft, the speed, the dates of availability");
+    EXPECT_EQ(
+        gapsOf(begun(Category::Vehicles, {})),
+        "the long name, the picture of the hull, the size of the hull, the crew, the weight, the engine's "
+        "horsepower, the dates of availability");
 }
 
 TEST(NameFilter, WantsEveryWord) {
@@ -129,13 +186,6 @@ TEST(UndoHistory, AChangeThatGoesOnIsOneStep) {
     }
     EXPECT_EQ(unitOf(history.undo()).longName, "");
     EXPECT_EQ(unitOf(history.redo()).longName, "three");
-}
-
-TEST(ModSettings, ReadsWhatItWrote) {
-    ModSettings settings{
-        .name = "Desert", .author = "Someone", .comment = "Sand", .firstYear = 1940, .lastYear = 1943};
-    EXPECT_EQ(readModSettings(modSettingsText(settings)), settings);
-    EXPECT_EQ(readModSettings(""), ModSettings{});
 }
 
 } // namespace

@@ -153,8 +153,24 @@ TEST(ArmourForm, NotGivenIsAStateOfItsOwn) {
     port.texts[IDC_SIDE_SPACED] = "6O";
     EXPECT_EQ(readForm(port, armourShape(), component)->control, IDC_SIDE_SPACED) << "no 0 without a word";
     component.kind = ComponentKind::Hull;
-    fillForm(port, armourShape(), component);
-    EXPECT_TRUE(port.disabled.contains(IDC_MANTLET_GIVEN)) << "a turret's";
+    FakeFormPort ofHull;
+    fillForm(ofHull, armourShape(), component);
+    EXPECT_FALSE(ofHull.texts.contains(IDC_MANTLET)) << "a turret's";
+}
+
+TEST(ComponentForm, TakesItsOwnFieldsAndLeavesTheOthers) {
+    ComponentRecord drawn = turret();
+    ComponentRecord own = turret();
+    own.offsetX = 7;
+    own.viewImage = "picture";
+    drawn.crew.resize(2);
+    drawn.weapons.resize(1);
+    drawn.armour.top = 12;
+    ComponentRecord expected = drawn;
+    expected.offsetX = 7;
+    expected.viewImage = "picture";
+    takeOwnFields(drawn, own);
+    EXPECT_EQ(drawn, expected);
 }
 
 // A field stands in the dialogs of some kinds, is shown only in others, and is stored by others still.

@@ -4,6 +4,7 @@
 #include "data/each_field.h"
 #include "data/field_text.h"
 #include "data/writing/unit_writers.h"
+#include "mod/mod_fields.h"
 #include "platform/file_operations.h"
 #include "test_support.h"
 #include "weapons/weapon_fields.h"
@@ -23,9 +24,11 @@ std::map<std::string, std::string> valuesOf(const Record& record) {
     std::map<std::string, std::string> values;
     forEachField(record, [&](const FieldPlace& place, const auto& value) {
         const std::string text = textOfValue(value);
+        EXPECT_TRUE(place.path == place.path.text());
+        EXPECT_FALSE(place.path == place.path.text().substr(1));
         EXPECT_TRUE(
-            values.emplace(place.path, place.isStored() ? text : std::string("(") + text + ")").second)
-            << place.path << " twice";
+            values.emplace(place.path.text(), place.isStored() ? text : std::string("(") + text + ")").second)
+            << place.path.text() << " twice";
     });
     return values;
 }
@@ -114,6 +117,8 @@ std::string_view docWord(FieldKind kind) {
         return "image";
     case FieldKind::Language:
         return "code";
+    case FieldKind::Colour:
+        return "colour";
     case FieldKind::Word:
     case FieldKind::Choice:
     case FieldKind::Nationality:
@@ -195,6 +200,16 @@ TEST(Fields, StandInThePageAboutTheFileFormat) {
     compareWithPage<RotorBladesRecord>(page);
     compareWithPage<WeaponRecord>(page);
     compareWithPage<AmmoTypeRecord>(page);
+    compareWithPage<ModSettings>(page);
+    compareWithPage<ModColours>(page);
+    compareWithPage<ModPeriod>(page);
+    compareWithPage<ModAllegiance>(page);
+    compareWithPage<ModSurname>(page);
+    compareWithPage<ModUniform>(page);
+    compareWithPage<ModRank>(page);
+    compareWithPage<ModEquipment>(page);
+    compareWithPage<ModListedUnit>(page);
+    compareWithPage<ModNationality>(page);
 }
 
 } // namespace

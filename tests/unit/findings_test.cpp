@@ -160,7 +160,7 @@ TEST(Consistency, OfTheVehicleAsAWhole) {
     VehicleRecord vehicle;
     vehicle.revolutionLimit = vehicle.idleRevolutions - 1;
     ASSERT_EQ(vehicleFindings(vehicle).size(), 1U);
-    EXPECT_EQ(vehicleFindings(vehicle)[0].field, "vehicle.drive.engine.rpm_limit");
+    EXPECT_EQ(vehicleFindings(vehicle)[0].field, "vehicle.rpm_limit");
     vehicle.components.resize(12);
     EXPECT_FALSE(componentRoomFinding(vehicle));
     vehicle.components.resize(13);

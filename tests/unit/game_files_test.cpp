@@ -6,7 +6,12 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <fstream>
 #include <system_error>
+
+#ifndef _WIN32
+#include <sys/stat.h>
+#endif
 
 namespace varrocade::tests {
 namespace {
@@ -74,6 +79,22 @@ TEST_F(GameFilesTest, TheModsCountsWhateverTheCaseOfLetters) {
         }
     }
 }
+
+#ifndef _WIN32
+TEST_F(GameFilesTest, ListsRegularFilesOnly) {
+    namespace fs = std::filesystem;
+    write("Game\\Data\\Vehicles\\Tank.txt");
+    const fs::path vehicles = folder.nativePath("Game\\Data\\Vehicles");
+    std::ofstream(vehicles / "..\\Other.txt") << "a name with a separator of paths";
+    ASSERT_EQ(::mkfifo((vehicles / "pipe.txt").c_str(), 0600), 0);
+    fs::create_symlink("/dev/zero", vehicles / "device.txt");
+    fs::create_symlink("Tank.txt", vehicles / "link.txt");
+    for (const FileStamps stamps : {FileStamps::Without, FileStamps::With}) {
+        EXPECT_EQ(described(listGameFiles(folders(), Category::Vehicles, stamps).files),
+                  (Texts{"Game: link", "Game: Tank"}));
+    }
+}
+#endif
 
 TEST_F(GameFilesTest, OnlyTheGamesFolderMustBeThere) {
     write("Game\\Data\\Aircraft\\Plane.txt");

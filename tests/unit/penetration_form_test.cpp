@@ -36,6 +36,18 @@ TEST(PenetrationForm, ShowsAndCopiesTheSameRows) {
     EXPECT_EQ(port.texts[IDC_PENETRATION_ROWS], "-") << "there is no such ammunition";
 }
 
+TEST(PenetrationForm, BeginsWithTheWeaponThatIsChosen) {
+    WeaponCatalogue catalogue;
+    catalogue.load("sample\\");
+    const auto first = [&](std::string_view wanted) {
+        return catalogue.entries().at(firstPenetrationWeapon(catalogue, wanted)).weapon.fileName;
+    };
+    EXPECT_EQ(first("weapon_rifle_kar98k"), "WEAPON_RIFLE_KAR98K");
+    EXPECT_EQ(first(""), FirstPenetrationWeapon);
+    EXPECT_EQ(first("WEAPON_OF_NOBODY"), FirstPenetrationWeapon);
+    EXPECT_EQ(firstPenetrationWeapon(WeaponCatalogue(), "GUN"), 0U);
+}
+
 TEST(PenetrationForm, StepsOfAnAxisAreRoundAndFew) {
     for (const auto& [greatest, expected] : std::map<double, std::pair<double, int>>{{0.5, {0.1, 5}},
                                                                                      {6, {1, 6}},

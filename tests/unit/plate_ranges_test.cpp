@@ -32,6 +32,7 @@ VehicleRecord target() {
     hull.armour.lowerFront = {.thickness = 45, .angle = 60};
     hull.armour.lowerLeft = {.thickness = 40, .angle = 0};
     hull.armour.upperRight = {.thickness = 60, .angle = 0};
+    hull.armour.top = hull.armour.bottom = 10; // which a level shot does not meet
     ComponentRecord& turret = vehicle.components.emplace_back();
     turret.kind = ComponentKind::Turret;
     turret.diameter = 200;

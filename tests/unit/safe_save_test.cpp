@@ -1,6 +1,7 @@
 // Saving: whatever fails, the old file is still there, whole.
 
 #include "data/writing/unit_writers.h"
+#include "faulty_files.h"
 #include "platform/safe_save.h"
 #include "test_support.h"
 #include "weapons/weapon_files.h"
@@ -12,66 +13,6 @@
 namespace varrocade::tests {
 
 namespace {
-
-/// The real files, but for one operation that fails: the one with the number `failing`, from 1; 0 for none.
-class FaultyFiles : public FileOperations {
-public:
-    explicit FaultyFiles(int failing) : failing_(failing) {}
-
-    bool read(const std::string& path, std::string& content) override {
-        return !fails() && systemFiles().read(path, content);
-    }
-    bool exists(const std::string& path) override { return systemFiles().exists(path); }
-    std::unique_ptr<OutputFile> createNew(const std::string& path) override {
-        if (fails()) {
-            return nullptr;
-        }
-        auto file = systemFiles().createNew(path);
-        return file ? std::make_unique<FaultyOutput>(*this, std::move(file)) : nullptr;
-    }
-    bool replace(const std::string& from, const std::string& to) override {
-        return !fails() && systemFiles().replace(from, to);
-    }
-    bool rename(const std::string& from, const std::string& to) override {
-        return !fails() && systemFiles().rename(from, to);
-    }
-    bool remove(const std::string& path) override { return !fails() && systemFiles().remove(path); }
-    bool recycle(const std::string& path) override { return !fails() && systemFiles().recycle(path); }
-    bool createFolder(const std::string& path) override {
-        return !fails() && systemFiles().createFolder(path);
-    }
-    std::string lastError() override { return "the disk is full"; }
-
-    [[nodiscard]] bool hasFailed() const { return failing_ > 0 && operations_ >= failing_; }
-
-private:
-    class FaultyOutput : public OutputFile {
-    public:
-        FaultyOutput(FaultyFiles& files, std::unique_ptr<OutputFile> file)
-            : files_(files), file_(std::move(file)) {}
-        std::size_t write(std::string_view bytes) override {
-            if (files_.fails()) {
-                return 0;
-            }
-            // Never more than half of a longer text at a time, as a slow device would take it.
-            return file_->write(bytes.substr(0, (bytes.size() + 1) / 2));
-        }
-        bool flush() override { return !files_.fails() && file_->flush(); }
-        bool close() override {
-            // The system's file is closed in any case, so that it can be removed.
-            return file_->close() && !files_.fails();
-        }
-
-    private:
-        FaultyFiles& files_;
-        std::unique_ptr<OutputFile> file_;
-    };
-
-    bool fails() { return ++operations_ == failing_; }
-
-    int operations_ = 0;
-    int failing_;
-};
 
 using Names = std::vector<std::string>;
 
@@ -102,7 +43,7 @@ int failEachOperation(Save saveInto) {
     for (int failing = 1; failing < 200; ++failing) {
         SCOPED_TRACE("operation " + std::to_string(failing));
         const TemporaryFolder folder;
-        FaultyFiles files(failing);
+        FailingOnce files(failing);
         BackupKeeper backups;
         saveInto(folder, files, backups);
         if (!files.hasFailed()) {
@@ -117,7 +58,7 @@ int failEachOperation(Save saveInto) {
 
 TEST(Saving, KeepsTheOldFileWhicheverStepFails) {
     const int operations =
-        failEachOperation([](const TemporaryFolder& folder, FaultyFiles& files, BackupKeeper& backups) {
+        failEachOperation([](const TemporaryFolder& folder, FailingOnce& files, BackupKeeper& backups) {
             folder.write(UnitFile, OldText);
             const SaveOutcome outcome = save(files, backups, folder);
             const bool succeeded = !files.hasFailed();
@@ -139,7 +80,7 @@ TEST(Saving, KeepsTheOldFileWhicheverStepFails) {
 }
 
 TEST(Saving, LeavesNothingBehindWhereThereWasNoFile) {
-    failEachOperation([](const TemporaryFolder& folder, FaultyFiles& files, BackupKeeper& backups) {
+    failEachOperation([](const TemporaryFolder& folder, FailingOnce& files, BackupKeeper& backups) {
         const SaveOutcome outcome = saveWeapon(files, backups, folder.path(), "W", WeaponRecord());
         EXPECT_EQ(outcome.result, files.hasFailed() ? SaveResult::Failed : SaveResult::Saved);
         EXPECT_EQ(folder.files(), files.hasFailed() ? Names() : Names({"Data\\Weapons\\W.txt"}));
@@ -149,7 +90,7 @@ TEST(Saving, LeavesNothingBehindWhereThereWasNoFile) {
 TEST(Saving, SaysWhatFailed) {
     const TemporaryFolder folder;
     const std::string path = folder.path() + "file.txt";
-    FaultyFiles files(1);
+    FailingOnce files(1);
     const std::optional<FileFailure> failure = saveFile(files, path, "content");
     ASSERT_TRUE(failure);
     EXPECT_EQ(failure->path, path);
@@ -166,7 +107,7 @@ TEST(Saving, WritesAnySizeAndStepsOverLeftoversOfAnotherRun) {
         large += std::to_string(i) + "\r\n";
     }
     for (const std::string& content : {std::string("content"), large, std::string()}) {
-        FaultyFiles files(0);
+        FailingOnce files(0);
         EXPECT_FALSE(saveFile(files, folder.path() + "file.txt", content));
         EXPECT_EQ(folder.read("file.txt"), content);
     }
@@ -235,7 +176,7 @@ TEST(Backups, OfAFailedSaveServeTheNext) {
     SaveResult result = SaveResult::Failed;
     for (int failing = 1; result == SaveResult::Failed; ++failing) {
         ASSERT_LT(failing, 200);
-        FaultyFiles files(failing);
+        FailingOnce files(failing);
         result = save(files, backups, folder).result;
     }
     const Names names = folder.files();

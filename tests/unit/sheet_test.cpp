@@ -91,8 +91,41 @@ SquadRecord sampleUnit(std::string_view name) {
     return {};
 }
 
+/// The pixels of the longest piece of a text that has no place to be broken at.
+int longestPiece(const std::string& text) {
+    std::size_t longest = 0;
+    std::size_t start = 0;
+    for (std::size_t i = 0; i <= text.size(); ++i) {
+        if (i == text.size() || std::string_view(" _\n").find(text[i]) != std::string_view::npos) {
+            longest = std::max(longest, i - start);
+            start = i + 1;
+        }
+    }
+    return 6 * static_cast<int>(longest);
+}
+
+bool overlap(const PixelRect& a, const PixelRect& b) {
+    return a.left < b.right && b.left < a.right && a.top < b.bottom && b.top < a.bottom;
+}
+
+/// No word is broken or cut, nothing is written over anything else.
+void expectReadable(const std::vector<NotebookDevice::Words>& texts, int width, const std::string& name) {
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        const NotebookDevice::Words& words = texts[i];
+        EXPECT_GE(words.place.right - words.place.left, longestPiece(words.text))
+            << name << ": " << words.text;
+        EXPECT_TRUE(words.text.empty() || (words.place.left >= 0 && words.place.right <= width))
+            << name << ": " << words.text;
+        for (std::size_t j = i + 1; j < texts.size(); ++j) {
+            EXPECT_FALSE(overlap(words.place, texts[j].place) && !words.text.empty() &&
+                         !texts[j].text.empty())
+                << name << ": " << words.text << " and " << texts[j].text << " at " << width;
+        }
+    }
+}
+
 TEST(SheetPainter, KeepsAllFilesWithinTheirAreaAndFindsTheirParts) {
-    for (const int width : {420, 700}) {
+    for (const int width : {383, 591, 700}) {
         for (const SampleFile& file : sampleFiles()) {
             const DataSheet sheet = file.category == Category::Weapons
                                         ? weaponSheet(readWeaponText(file.content), {}, {})
@@ -100,6 +133,7 @@ TEST(SheetPainter, KeepsAllFilesWithinTheirAreaAndFindsTheirParts) {
             NotebookDevice device;
             const SheetLayout layout =
                 paintSheet(device, {0, 0, width, 900}, sheet, {.bases = {"mod\\", "game\\"}});
+            expectReadable(device.texts, width, file.name);
             for (const NotebookDevice::Words& words : device.texts) {
                 EXPECT_LE(words.place.bottom, layout.height) << file.name << ": " << words.text;
             }

@@ -1,5 +1,6 @@
 // The lists inside a unit and what their drop-down lists offer, driven without windows.
 
+#include "editors/unit/availability_edit.h"
 #include "editors/unit/carried_ammo.h"
 #include "editors/unit/unit_lists.h"
 #include "editors/unit/weapon_choices.h"
@@ -9,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <tuple>
 
 namespace varrocade::tests {
 namespace {
@@ -57,7 +59,6 @@ TEST(WeaponChoices, FollowTheUnitsNationAndTime) {
     SquadRecord record;
     record.nationality = "NATIONALITY_GERMAN";
     record.availability = {{1, 1943, 10}};
-    EXPECT_EQ(periodOf(record), "WW2");
     WeaponCatalogue catalogue;
     catalogue.load("sample\\");
     const auto has = [](const std::vector<std::string>& names, const char* name) {
@@ -75,6 +76,63 @@ TEST(WeaponChoices, FollowTheUnitsNationAndTime) {
     const std::vector<std::string> weapons = {"WEAPON_CANNON_75_KWK42_L70"};
     EXPECT_EQ(ammunitionWarning(smoke, weapons, catalogue), "The weapon has no ammunition of this flavour.");
     EXPECT_EQ(ammunitionWarning(smoke, {}, catalogue), "This ammunition is for a weapon that is not there.");
+}
+
+TEST(WeaponChoices, TakeTheErasOfTheWholeAvailability) {
+    using Points = std::vector<AvailabilityPoint>;
+    struct Case {
+        Points points;
+        std::string periods;
+    };
+    for (const Case& row :
+         {Case{{}, ""}, Case{{{1, 1943, 10}}, "WW2;"}, Case{{{1, 1950, 10}, {6, 1944, 5}}, "WW2;Cold War;"},
+          Case{{{1, 1916, 3}, {1, 1946, 0}}, "WW1;WW2;"}, // none are left when it begins
+          Case{{{1, 1916, 3}, {2, 1946, 0}}, "WW1;WW2;Cold War;"},
+          Case{{{1, 1916, 3}, {1, 1920, 0}, {1, 2000, 1}}, "WW1;Modern;"}, Case{{{1, 1943, 0}}, "WW2;"}}) {
+        std::string periods;
+        for (const std::string_view period : periodsOf({.availability = row.points})) {
+            periods += std::string(period) + ";";
+        }
+        EXPECT_EQ(periods, row.periods);
+    }
+    WeaponCatalogue catalogue;
+    catalogue.load("sample\\");
+    SquadRecord record{.nationality = "NATIONALITY_GERMAN", .availability = {{1, 1950, 5}}};
+    const auto offersGun = [&] {
+        const auto offered = weaponChoices(catalogue, record, WeaponBearer::Vehicle, false);
+        return std::find(offered.begin(), offered.end(), "WEAPON_CANNON_75_KWK42_L70") != offered.end();
+    };
+    EXPECT_FALSE(offersGun());
+    record.availability.push_back({1, 1943, 5});
+    EXPECT_TRUE(offersGun()) << "it began in another era than the first line says";
+}
+
+TEST(Availability, NewDatesFollowTheLastOneWithinItsEra) {
+    using Points = std::vector<AvailabilityPoint>;
+    struct Case {
+        Points points;
+        AvailabilityPoint next;
+        std::size_t place;
+    };
+    for (const Case& row : {Case{{}, {1, 1940, 100}, 0}, Case{{{4, 1943, 7}}, {5, 1943, 7}, 1},
+                            Case{{{12, 1944, 7}, {4, 1943, 9}}, {1, 1945, 7}, 2},
+                            Case{{{3, 1943, 5}, {11, 1945, 9}, {12, 1945, 7}}, {10, 1945, 5}, 1},
+                            Case{{{12, 2030, 3}}, {1, 2031, 3}, 1}, Case{{{0, 1919, 1}}, {2, 1919, 1}, 1}}) {
+        const AvailabilityPoint next = nextDate(row.points);
+        EXPECT_EQ(next, row.next) << int{next.month} << "/" << next.year << ": " << next.number;
+        EXPECT_EQ(placeOfDate(row.points, next), row.place) << next.year;
+    }
+}
+
+TEST(Availability, TheMouseFindsRoundNumbers) {
+    constexpr std::tuple<int, int, int> cases[] = {
+        {37, 1, 37},  {37, 50, 37},    {37, 100, 38},         {1331, 1346, 1350},
+        {7, 1346, 0}, {499, 500, 500}, {65535, 65535, 65535}, {61000, 65535, 62000}};
+    for (const auto& [number, greatest, rounded] : cases) {
+        EXPECT_EQ(roundNumber(static_cast<std::uint16_t>(number), static_cast<std::uint16_t>(greatest)),
+                  rounded)
+            << number << " of " << greatest;
+    }
 }
 
 TEST(CarriedAmmo, NewOnesAreForWhatHasNone) {
@@ -135,6 +193,24 @@ TEST(CarriedAmmo, GoesWithItsWeaponOrToTheNextOne) {
         EXPECT_EQ(gone.size(), row.kept) << row.what;
         EXPECT_EQ(left.front().weaponType, row.left.c_str()) << row.what;
     }
+}
+
+TEST(ListModel, PutsNewEntriesWhereTheyBelong) {
+    std::vector<AvailabilityPoint> points = {{1, 1940, 1}, {1, 1945, 2}};
+    VectorListModel<AvailabilityPoint> model(
+        points, availabilityShape(),
+        {.next =
+             [] {
+                 return AvailabilityPoint{1, 1942, 3};
+             },
+         .place = [&](const auto& added) { return placeOfDate(points, added); }});
+    model.add();
+    EXPECT_EQ(model.newest(), 1U);
+    EXPECT_EQ(points[1].year, 1942);
+    model.copy(0);
+    EXPECT_EQ(model.newest(), 1U);
+    model.erase(3);
+    EXPECT_EQ(points.back().year, 1942);
 }
 
 TEST(ListModel, RefusesEmptyEntriesThatItMadeAndKeepsThoseOfTheFile) {

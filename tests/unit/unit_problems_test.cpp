@@ -2,7 +2,9 @@
 
 #include "data/finding_text.h"
 #include "test_support.h"
+#include "tools/checks/sheet_problems.h"
 #include "view/sheet/data_sheet.h"
+#include "view/sheet/missing_files.h"
 
 #include <gtest/gtest.h>
 
@@ -32,9 +34,12 @@ std::vector<SheetProblem> problemsOf(const std::string& content, std::vector<std
     return problems;
 }
 
+const std::vector<std::string> SampleBases = {"sample\\"};
+
 TEST(UnitProblems, SampleUnitsHaveNone) {
     for (const SampleFile& file : sampleFiles()) {
         if (file.category == Category::Weapons) {
+            EXPECT_TRUE(missingFiles(readWeaponText(file.content), SampleBases).empty()) << file.name;
             continue;
         }
         for (const SheetProblem& problem : fileProblems(file.category, file.content)) {
@@ -43,7 +48,7 @@ TEST(UnitProblems, SampleUnitsHaveNone) {
                 << file.name << ": " << sentence(problem.finding);
         }
         for (const SheetProblem& problem :
-             valueProblems(readUnitText(file.content), file.content, {}, theWeapons())) {
+             valueProblems(readUnitText(file.content), file.content, {}, theWeapons(), SampleBases)) {
             ADD_FAILURE() << file.name << ": " << sentence(problem.finding);
         }
     }
@@ -51,8 +56,12 @@ TEST(UnitProblems, SampleUnitsHaveNone) {
 
 TEST(UnitProblems, NameThePlaceAndThePart) {
     const std::string tank =
-        "<squad>\n<description>\n<type>TYPE_TANK</type>\n</description>\n<vehicle>\n<hull>\n"
-        "<image_view>Some.png</image_view>\n<man><job>JOB_DRIVER</job></man>\n</hull>\n"
+        "<squad>\n<description><long_name>A</long_name>\n<type>TYPE_TANK</type>\n</description>"
+        "<availability><data><year>1944</year></data></availability>\n"
+        "<vehicle><attributes><weight>9</weight></attributes>"
+        "<drive><engine><horsepower>9</horsepower></engine></drive>\n<hull>\n"
+        "<image_view>Some.png</image_view><width>9</width><length>9</length>\n<man><job>JOB_DRIVER</job></"
+        "man>\n</hull>\n"
         "<turret>\n<rotate_time>20</rotate_time>\n"
         "<weapon><type>WEAPON_HMG_BESA</type></weapon>\n"
         "<ammo><for>WEAPON_HMG_BESA</for><rounds>9</rounds></ammo>\n"
@@ -65,8 +74,14 @@ TEST(UnitProblems, NameThePlaceAndThePart) {
         UnitPart part;
     };
     const std::vector<Case> cases = {
-        {"TYPE_TANK", "TYPE_TNAK", "Line 3: Type \"TYPE_TNAK\" is not known.", {PartKind::Details}},
-        {"JOB_DRIVER", "JOB_DRIVERR", "Line 8: Job \"JOB_DRIVERR\" is not known.", {PartKind::CrewMan, 0, 0}},
+        {"TYPE_TANK",
+         "TYPE_TNAK",
+         "Line 3: Type \"TYPE_TNAK\" is not known (did you mean \"TYPE_TANK\"?).",
+         {PartKind::Details}},
+        {"JOB_DRIVER",
+         "JOB_DRIVERR",
+         "Line 8: Job \"JOB_DRIVERR\" is not known (did you mean \"JOB_DRIVER\"?).",
+         {PartKind::CrewMan, 0, 0}},
         {"<type>WEAPON_HMG",
          "<type>WEAPON_X",
          "Line 12: there is no weapon file \"WEAPON_X_BESA\".",
@@ -75,19 +90,19 @@ TEST(UnitProblems, NameThePlaceAndThePart) {
          "<for>WEAPON_HMG_BREDA_M38",
          "Line 13: 9 rounds for \"WEAPON_HMG_BREDA_M38\", which is not there.",
          {PartKind::Ammunition, 1, 0}},
-        {"<for>WEAPON_HMG_BESA", "<for>", "9 rounds for no weapon.", {PartKind::Ammunition, 1, 0}},
+        {"<for>WEAPON_HMG_BESA", "<for>", "Line 13: 9 rounds for no weapon.", {PartKind::Ammunition, 1, 0}},
         {"Some", "Gone", "Line 7: the picture \"Gone.png\" is missing.", {PartKind::Component, 0, 0}},
         {"20", "0", "Line 11: The rotate speed must be greater than zero.", {PartKind::Component, 1, 0}},
-        {"</turret>\n<turret>", "<turret>", "Line 14: <turret> in <turret> is in the wrong place.", {}},
+        {"</turret>\n<turret>",
+         "<turret>",
+         "Line 10: <turret> is not closed (add </turret> before line 14, column 1).",
+         {}},
         {"<rotate_time>",
          "<rotate_tim>",
-         "Line 11: <rotate_tim> in <turret> is not closed, and nothing from there on is "
-         "read.",
+         "Line 11: <rotate_tim> is not closed: </rotate_time> has another name (did you mean "
+         "<rotate_time>?).",
          {}},
-        {"</vehicle>",
-         "",
-         "Line 5: <vehicle> in <squad> is not closed, and nothing from there on is read.",
-         {}},
+        {"</vehicle>", "", "Line 5: <vehicle> is not closed (add </vehicle> before line 19, column 1).", {}},
     };
     EXPECT_TRUE(problemsOf(tank, {"Images\\Gone.png"}).empty());
     for (const Case& row : cases) {
@@ -101,6 +116,34 @@ TEST(UnitProblems, NameThePlaceAndThePart) {
         }
         EXPECT_TRUE(isFound) << row.by << ":\n" << all;
     }
+}
+
+TEST(UnitProblems, NameMissingSoundsAndUniforms) {
+    SquadRecord plane;
+    plane.aircraft.emplace().sound = "aircraft_radia";
+    plane.uniformRanks = "not in the file of an aircraft";
+    plane.uniformGame = "Default";
+    SquadRecord squad;
+    squad.namedUniform = true;
+    squad.uniformName = "uniform_gone.png";
+    std::string all;
+    for (const SquadRecord& unit : {plane, squad}) {
+        for (const SheetProblem& problem : valueProblems(unit, {}, {}, theWeapons(), SampleBases)) {
+            const bool isGap = problem.finding.severity == Severity::Note;
+            all += isGap ? "" : sentence(problem.finding) + "\n";
+        }
+    }
+    WeaponRecord weapon;
+    weapon.shootSound = "bang";
+    weapon.reloadSound = "reload_bolt";
+    weapon.ammoTypes.emplace_back().tracerImage = "none";
+    for (const Finding& finding : missingFiles(weapon, SampleBases)) {
+        all += finding.field + ": " + sentence(finding) + "\n";
+    }
+    EXPECT_EQ(all, "The sound \"aircraft_radia.wav\" is missing.\n"
+                   "The picture \"uniform_gone.png\" is missing.\n"
+                   "sound_shoot: The sound \"bang.wav\" is missing.\n"
+                   "ammo[1].tracer_image: The picture \"none.png\" is missing.\n");
 }
 
 TEST(UnitProblems, StandInTheBarAndInFullAtTheEnd) {

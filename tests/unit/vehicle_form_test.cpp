@@ -143,5 +143,37 @@ TEST(ComponentList, NewComponentsAreAllZero) {
     EXPECT_FALSE(canMoveDown(vehicle, 0));
 }
 
+TEST(ComponentList, TwinsStandOnTheOtherSide) {
+    VehicleRecord vehicle;
+    vehicle.components.resize(2);
+    ComponentRecord& turret = vehicle.components[1];
+    turret.kind = ComponentKind::Turret;
+    turret.offsetX = 60;
+    turret.offsetY = 40;
+    turret.offsetAngle = -20;
+    turret.rotateLeft = 10;
+    turret.rotateRight = 90;
+    turret.armour.upperLeft = {30, 5};
+    turret.weapons = {{.type = "GUN", .offsetX = INT32_MIN, .offsetAngle = 3}};
+    turret.smokeDischargers = {{.angle = 45, .offsetX = 50}};
+    turret.crew.resize(2);
+    EXPECT_FALSE(canCopy(vehicle, 0)) << "a second hull";
+    ASSERT_TRUE(canCopy(vehicle, 1));
+    copyComponent(vehicle, 1);
+    EXPECT_EQ(vehicle.components[2], vehicle.components[1]);
+    mirrorComponent(vehicle, 1);
+    ComponentRecord expected = vehicle.components[1];
+    expected.offsetX = -60;
+    expected.offsetAngle = 20;
+    std::swap(expected.rotateLeft, expected.rotateRight);
+    std::swap(expected.armour.upperLeft, expected.armour.upperRight);
+    expected.weapons[0].offsetX = INT32_MAX;
+    expected.weapons[0].offsetAngle = -3;
+    expected.smokeDischargers[0].offsetX = -50;
+    expected.smokeDischargers[0].angle = -45;
+    EXPECT_EQ(vehicle.components[3], expected);
+    EXPECT_FALSE(canCopy(vehicle, 4));
+}
+
 } // namespace
 } // namespace varrocade::tests

@@ -1,7 +1,7 @@
 // The "Weapon Data" dialog's forms, lists and figures, driven without windows.
 
 #include "analysis/usual_spans.h"
-#include "editors/weapon/sound_choices.h"
+#include "editors/unit/sound_choices.h"
 #include "editors/weapon/weapon_figures.h"
 #include "editors/weapon/weapon_form.h"
 #include "editors/weapon/weapon_words.h"
@@ -49,7 +49,7 @@ struct ShownWeapon {
     AmmoTypeModel ammo{weapon};
 };
 
-std::string wordOf(auto value) {
+std::string formWord(auto value) {
     return Codec<decltype(value)>::textOf(value, {});
 }
 
@@ -94,9 +94,9 @@ TEST(WeaponForm, WhatIsTakenIsWhatTheFileGivesBack) {
             for (const auto& [control, text] : typed) {
                 shown.port.texts[control] = text;
             }
-            shown.port.texts[IDC_WD_ERA] = wordOf(HeatEra::Modern);
-            shown.port.texts[IDC_WD_GUIDANCE] = wordOf(GuidanceMode::TopAttack);
-            shown.port.texts[IDC_WD_RELOAD] = wordOf(ReloadMode::Automatic);
+            shown.port.texts[IDC_WD_ERA] = formWord(HeatEra::Modern);
+            shown.port.texts[IDC_WD_GUIDANCE] = formWord(GuidanceMode::TopAttack);
+            shown.port.texts[IDC_WD_RELOAD] = formWord(ReloadMode::Automatic);
             ASSERT_EQ(shown.take(), "");
             const WeaponRecord& weapon = shown.weapon;
             EXPECT_EQ(weapon.type, type.value);
@@ -122,8 +122,8 @@ TEST(WeaponForm, SaysWhatTheFileDoesNotCarry) {
     EXPECT_EQ(weaponNotCarried(shown.port, shown.weapon), "");
     EXPECT_EQ(ammoNotCarried(shown.port, shown.weapon.ammoTypes[0]),
               "Not in the file of this type and flavour: HEAT era.");
-    shown.choose(IDC_WD_TYPE, wordOf(WeaponType::Grenade));
-    shown.choose(IDC_WD_FLAVOUR, wordOf(AmmoFlavour::GrenadeSmoke));
+    shown.choose(IDC_WD_TYPE, formWord(WeaponType::Grenade));
+    shown.choose(IDC_WD_FLAVOUR, formWord(AmmoFlavour::GrenadeSmoke));
     EXPECT_EQ(
         weaponNotCarried(shown.port, shown.weapon),
         "Not in the file of this type: Calibre, Barrel length, Number of barrels, Capacity, Single shot, "
@@ -230,7 +230,7 @@ TEST(UsualSpans, NoteWhatIsOutOfTheOrdinary) {
     rifle.rateOfFire = 3000;
     notes = unusualFigures(rifle, 7, catalogue.entries());
     ASSERT_EQ(notes.size(), 1U);
-    EXPECT_TRUE(notes[0].starts_with("Rate of fire 3000 rounds a minute: usual for Rifle weapons is "))
+    EXPECT_TRUE(notes[0].starts_with("Rate of fire 3000 rounds a minute: usual for the type Rifle is "))
         << notes[0];
 }
 

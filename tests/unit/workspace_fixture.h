@@ -43,8 +43,9 @@ public:
     std::string heard;
 };
 
-inline std::string tankText() {
+inline std::string tankText(std::string_view longName = "") {
     SquadRecord unit = newUnit(Category::Vehicles, "", "NATIONALITY_GERMAN");
+    unit.longName = longName;
     ComponentRecord& turret = unit.vehicle->components.emplace_back();
     turret.kind = ComponentKind::Turret;
     turret.weapons.emplace_back().type = "WEAPON_A";

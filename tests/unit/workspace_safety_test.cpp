@@ -1,8 +1,11 @@
 // Nothing is lost: unsaved records, their journal, files that others change, what a cut-off save leaves.
 
 #include "app/workspace/journal.h"
+#include "app/workspace/record/chosen_records.h"
+#include "app/workspace/record/journal_copies.h"
 #include "workspace_fixture.h"
 
+#include <filesystem>
 #include <tuple>
 
 namespace varrocade::tests {
@@ -80,8 +83,12 @@ TEST_F(WorkspaceTest, WhatAnotherProgramHasChangedIsNeverOverwrittenSilently) {
         discardChanges(workspace);
     }
     const Names backups = files("Game\\Backups\\");
-    ASSERT_EQ(backups.size(), 1U);
-    EXPECT_EQ(folder.read(backups[0]), theirs);
+    // What was given up by reloading and discarding is there, too.
+    EXPECT_TRUE(std::any_of(backups.begin(), backups.end(),
+                            [&](const std::string& name) { return folder.read(name) == theirs; }));
+    EXPECT_TRUE(std::any_of(backups.begin(), backups.end(), [&](const std::string& name) {
+        return folder.read(name).find("Ours") != std::string::npos;
+    }));
     // Back in the window: what is unchanged is read again, what is gone leaves the list and stays open.
     folder.write("Game\\" + Tank, theirs);
     noticeOutsideChanges(workspace);
@@ -175,7 +182,7 @@ TEST_F(WorkspaceTest, AJournalThatCannotBeWrittenIsToldAndKeepsTheProgram) {
     EXPECT_FALSE(mayExit(workspace));
     MessageRecorder::answer({Answer::Yes});
     deleteFile(workspace);
-    EXPECT_EQ(captions(), (Names{"Delete German Tank", "Couldn't delete file"}));
+    EXPECT_EQ(captions(), (Names{"Delete German Tank", "Couldn't keep the unsaved changes"}));
     EXPECT_EQ(openUnit(workspace)->longName, "Tank");
     EXPECT_EQ(renameFile(workspace, "German Other"), "");
     EXPECT_EQ(workspace.list.all.size(), 2U);
@@ -193,15 +200,95 @@ TEST_F(WorkspaceTest, WhatACutOffSaveHasLeftIsOfferedWhereItIsWhole) {
     folder.write(vehicles + "German Tank.txt.saving17", tankText());
     folder.write(vehicles + "German Three.txt.renaming", tankText());
     folder.write(vehicles + "German Tank.txt.saving me", "not ours");
+    folder.write("Game\\Data\\Aircraft\\German Plane.txt.saving", "<aircraft>\r\n</aircraft>\r\n");
+    // Backups, copies of unsaved changes, options: what is whole of the first two stays.
+    const std::string backup = "Game\\Backups\\Data\\Vehicles\\German Tank 2026-01-01 000000.txt";
+    folder.write(backup + ".saving", tankText());
+    folder.write(backup + ".saving1", "<squad>");
+    const std::string copy = "Game\\Backups\\Unsaved\\" + Tank;
+    folder.write(copy, journalHead(tankText()) + whole);
+    folder.write(copy + ".saving", "<squad>");
+    folder.write(copy + ".saving1", journalHead(tankText()) + tankText("Newer"));
+    folder.write("Game\\options.dat.saving", "");
     MessageRecorder::answer({Answer::Yes});
     offerUnsavedChanges(workspace);
     EXPECT_EQ(files(vehicles), (Names{vehicles + "German Tank.txt", vehicles + "German Tank.txt.saving me",
                                       vehicles + "German Three.txt", vehicles + "German Truck.txt"}));
-    ASSERT_EQ(workspace.aside.size(), 1U);
+    for (const std::string& name : folder.files()) {
+        EXPECT_TRUE(name.find(".saving") == std::string::npos || name.ends_with(".saving me")) << name;
+    }
+    EXPECT_EQ(folder.read(backup), tankText());
+    EXPECT_EQ(files("Game\\Backups\\Data\\").size(), 2U) << "and the copy that a newer one has replaced";
+    ASSERT_EQ(workspace.aside.size(), 3U);
+    openEntry(workspace, "German Tank");
+    EXPECT_EQ(openUnit(workspace)->longName, "Newer");
     openEntry(workspace, "German Truck");
     EXPECT_EQ(openUnit(workspace)->longName, "Whole");
     EXPECT_EQ(saveOpenRecord(workspace), SaveResult::Saved);
     EXPECT_EQ(captions(), Names{"Unsaved changes"}) << "its file is the one that was to be replaced";
+}
+
+TEST_F(WorkspaceTest, SomeOfTheChangedFilesAreSavedOrDiscarded) {
+    for (const char* name : {"German Tank", "German Truck"}) {
+        openEntry(workspace, name);
+        change(name);
+    }
+    chooseCategory(workspace, Category::Weapons);
+    openEntry(workspace, "Gun");
+    change("WEAPON_X");
+    using Places = std::vector<std::size_t>;
+    ASSERT_EQ(unsavedRecords(workspace).size(), 3U);
+    EXPECT_TRUE(saveChosen(workspace, Places{1}));
+    EXPECT_NE(folder.read("Game\\" + Tank).find("German Tank"), std::string::npos);
+    ASSERT_EQ(unsavedRecords(workspace).size(), 2U);
+    MessageRecorder::answer({Answer::No, Answer::Yes});
+    discardChosen(workspace, Places{0, 1});
+    EXPECT_EQ(unsavedRecords(workspace).size(), 2U);
+    discardChosen(workspace, Places{0, 1});
+    EXPECT_EQ(captions(), (Names{"Discard changes", "Discard changes"}));
+    EXPECT_TRUE(unsavedRecords(workspace).empty());
+    EXPECT_EQ(folder.read("Game\\Data\\Vehicles\\German Truck.txt"), tankText());
+    const Names backups = files("Game\\Backups\\Data\\");
+    ASSERT_EQ(backups.size(), 3U) << "what was replaced, and what was given up";
+    EXPECT_NE(folder.read(backups[1]).find("German Truck"), std::string::npos);
+    EXPECT_NE(folder.read(backups[2]).find("WEAPON_X"), std::string::npos);
+    undoChange(workspace);
+    EXPECT_TRUE(workspace.open.isUnsaved());
+    for (const std::string& name : files("Game\\Backups\\Data\\Weapons\\")) {
+        ASSERT_TRUE(systemFiles().remove(folder.path() + name));
+    }
+    std::filesystem::remove(folder.nativePath("Game\\Backups\\Data\\Weapons"));
+    // What cannot be kept is not given up, and why a save failed is known to the sheet.
+    folder.write("Game\\Backups\\Data\\Weapons", "no folder");
+    workspace.backups = {};
+    MessageRecorder::answer({});
+    discardChanges(workspace);
+    EXPECT_EQ(captions(), Names{"Couldn't keep the unsaved changes"});
+    EXPECT_TRUE(workspace.open.isUnsaved());
+    EXPECT_EQ(saveOpenRecord(workspace), SaveResult::Failed);
+    EXPECT_NE(workspace.open.saveFailure.find("could not be kept"), std::string::npos);
+}
+
+TEST_F(WorkspaceTest, WhatAHandMadeWeaponLosesIsAskedFor) {
+    const std::string gun = "Game\\Data\\Weapons\\Gun.txt";
+    folder.write(
+        gun,
+        "<weapon>//by hand\n<name>WEAPON_X</name><type>WEAPON_RIFLE</type><colour>red</colour></weapon>");
+    chooseCategory(workspace, Category::Weapons);
+    openEntry(workspace, "Gun");
+    change("WEAPON_Y");
+    MessageRecorder::answer({Answer::Cancel});
+    EXPECT_EQ(duplicateRecord(workspace, "Gun 2"), "") << "asks, too";
+    EXPECT_EQ(captions(), Names{"Hand-made file"});
+    MessageRecorder::answer({Answer::Cancel, Answer::Ok});
+    EXPECT_EQ(saveOpenRecord(workspace), SaveResult::Failed);
+    EXPECT_NE(folder.read(gun).find("by hand"), std::string::npos);
+    EXPECT_EQ(saveOpenRecord(workspace), SaveResult::Saved);
+    EXPECT_EQ(captions(), (Names{"Hand-made file", "Hand-made file"}));
+    EXPECT_NE(MessageRecorder::shown()[0].text.find("colour"), std::string::npos);
+    change("WEAPON_Z");
+    EXPECT_EQ(saveOpenRecord(workspace), SaveResult::Saved);
+    EXPECT_EQ(captions().size(), 2U) << "before the first save only";
 }
 
 TEST_F(WorkspaceTest, NamesThatNoFileCanHaveAreRefusedWithTheReason) {

@@ -1,6 +1,8 @@
 // The workspace without a window: what is open, what is saved of it, what is asked before something is lost.
 
+#include "app/workspace/names/list_notice.h"
 #include "app/workspace/options.h"
+#include "app/workspace/options_file.h"
 #include "workspace_fixture.h"
 
 namespace varrocade::tests {
@@ -183,19 +185,47 @@ TEST_F(WorkspaceTest, RemembersTheSelectionAndDropsAFilterThatHidesAFile) {
     chooseCategory(workspace, Category::Infantry);
     setFilter(workspace, "tank");
     EXPECT_TRUE(workspace.list.shown.empty());
+    EXPECT_FALSE(openFirstShown(workspace));
+    EXPECT_EQ(listNotice(workspace).text, "Infantry: the filter \"tank\" hides the only one.");
+    EXPECT_EQ(listNotice(workspace).remedy, ListRemedy::ShowAll);
     chooseCategory(workspace, Category::Vehicles);
-    EXPECT_EQ(workspace.list.shown, Names{"German Tank"});
-    EXPECT_FALSE(isRecordOpen(workspace)) << "the filter hides what is remembered";
+    EXPECT_NE(listener.heard.find("unfiltered"), std::string::npos);
+    EXPECT_EQ(workspace.list.shown.size(), 2U) << "the filter was for the other category";
+    EXPECT_EQ(openFileName(workspace), "German Truck") << "what is remembered";
+    EXPECT_EQ(listNotice(workspace).text, "");
+    setFilter(workspace, "tank");
+    EXPECT_TRUE(openFirstShown(workspace));
+    EXPECT_EQ(openFileName(workspace), "German Tank");
+    openEntry(workspace, "German Truck");
+    setFilter(workspace, "squad");
     showFile(workspace, Category::Infantry, "German Squad");
     EXPECT_EQ(openFileName(workspace), "German Squad");
     EXPECT_EQ(workspace.list.selected, "German Squad");
-    EXPECT_NE(listener.heard.find("unfiltered"), std::string::npos);
     chooseCategory(workspace, Category::Vehicles);
     EXPECT_EQ(openFileName(workspace), "German Truck");
     setFilter(workspace, "tank");
     EXPECT_EQ(workspace.list.selected, "");
     setFilter(workspace, "");
     EXPECT_EQ(workspace.list.selected, "German Truck") << "shown again, it is selected again";
+}
+
+TEST_F(WorkspaceTest, GoesOnInTheFolderOfAGame) {
+    const std::string game = workspace.programFolder;
+    workspace.programFolder = folder.path() + "Elsewhere\\";
+    refreshAll(workspace);
+    const ListNotice notice = listNotice(workspace);
+    EXPECT_EQ(notice.remedy, ListRemedy::ChooseFolder);
+    EXPECT_NE(notice.text.find(workspace.programFolder), std::string::npos) << notice.text;
+    EXPECT_FALSE(moveToGame(workspace, folder.path() + "Nowhere\\"));
+    EXPECT_EQ(captions(), Names{"Error"});
+    folder.write("Game\\options.dat", encodeOptions("C:\\Installed\\"));
+    EXPECT_TRUE(moveToGame(workspace, game));
+    EXPECT_EQ(workspace.list.all.size(), 2U);
+    EXPECT_EQ(workspace.gameFolder, "C:\\Installed\\");
+    EXPECT_NE(workspace.catalogue.find("Gun"), nullptr);
+    chooseCategory(workspace, Category::Aircraft);
+    EXPECT_EQ(listNotice(workspace).remedy, ListRemedy::None);
+    EXPECT_NE(listNotice(workspace).text, "");
 }
 
 TEST_F(WorkspaceTest, ThatAFileExistsIsToldBeforeItsNationality) {
@@ -243,7 +273,7 @@ TEST_F(WorkspaceTest, FilesAreMadeDuplicatedRenamedAndDeleted) {
     deleteFile(workspace);
     EXPECT_EQ(captions(), (Names{"Delete German Four", "Delete German Four"}));
     EXPECT_EQ(files("Game\\Data\\Vehicles\\").size(), 3U);
-    EXPECT_EQ(files("Game\\Backups\\Data\\Vehicles\\German Four").size(), 1U);
+    EXPECT_EQ(files("Game\\Backups\\Data\\Vehicles\\German Four").size(), 3U) << "and the unsaved changes";
     EXPECT_FALSE(isRecordOpen(workspace));
     chooseCategory(workspace, Category::Infantry);
     undoLast(workspace);
@@ -325,8 +355,10 @@ TEST_F(WorkspaceTest, CreatesAModWhenTheUserWantsOne) {
     EXPECT_FALSE(isRecordOpen(workspace));
     EXPECT_EQ(moved(), "");
     EXPECT_TRUE(workspace.aside.empty()) << "what was moved is dropped";
-    EXPECT_EQ(readModSettings(folder.read("Other\\AppData\\Roaming\\Quorlin Games\\Varrocade\\Mod\\Mod.txt")),
-              ModSettings());
+    const std::string modFile =
+        folder.read("Other\\AppData\\Roaming\\Quorlin Games\\Varrocade\\Mod\\Mod.txt");
+    EXPECT_EQ(readModSettings(modFile), workspace.modSettings);
+    EXPECT_FALSE(workspace.modSettings.value_or(ModSettings()).nationalities.empty());
 }
 
 TEST_F(WorkspaceTest, OptionsKeepTheGamesFolder) {

@@ -16,7 +16,7 @@ int main(int argumentCount, char** arguments) {
     }
     const std::filesystem::path folder = std::filesystem::path(arguments[1]) / "Sounds";
     std::error_code error;
-    std::filesystem::create_directories(folder, error);
+    std::filesystem::create_directories(folder / "Voices", error);
     if (error) {
         std::fprintf(stderr, "cannot create %s: %s\n", folder.string().c_str(), error.message().c_str());
         return 2;
@@ -26,6 +26,7 @@ int main(int argumentCount, char** arguments) {
     soundwork::addShots(sounds);
     soundwork::addEffects(sounds);
     soundwork::addEngines(sounds);
+    soundwork::addVoices(sounds);
     for (const soundwork::NamedSound& sound : sounds) {
         const std::filesystem::path path = folder / (std::string(sound.name) + ".wav");
         if (!soundwork::writeWaveFile(path, sound.sound, soundwork::SamplesPerSecond)) {

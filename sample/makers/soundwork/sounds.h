@@ -19,5 +19,7 @@ void addShots(std::vector<NamedSound>& sounds);
 void addEffects(std::vector<NamedSound>& sounds);
 /// Aircraft and helicopters, each a loop without a seam.
 void addEngines(std::vector<NamedSound>& sounds);
+/// What men call, in the folder Voices.
+void addVoices(std::vector<NamedSound>& sounds);
 
 } // namespace soundwork

@@ -2,12 +2,14 @@
 
 #include "app/windows/application.h"
 #include "app/workspace/category_list.h"
+#include "app/workspace/record/chosen_records.h"
 #include "app/workspace/record/unsaved_records.h"
 #include "app/workspace/record_files.h"
 #include "editors/form/form_port_win32.h"
 #include "resources/resource.h"
 
 #include <optional>
+#include <vector>
 
 namespace varrocade {
 
@@ -16,6 +18,26 @@ namespace {
 struct ChangedFilesDialog {
     std::optional<std::size_t> chosen; ///< the record to show when the dialog has closed
 };
+
+/// The places of the selected records.
+std::vector<std::size_t> selectedRecords(HWND dialog) {
+    HWND list = GetDlgItem(dialog, IDC_CHANGED_LIST);
+    const LRESULT count = SendMessageA(list, LB_GETSELCOUNT, 0, 0);
+    std::vector<int> rows(count > 0 ? static_cast<std::size_t>(count) : 0);
+    if (!rows.empty()) {
+        SendMessageA(list, LB_GETSELITEMS, rows.size(), reinterpret_cast<LPARAM>(rows.data()));
+    }
+    return {rows.begin(), rows.end()};
+}
+
+void updateChangedButtons(HWND dialog) {
+    const std::size_t count = selectedRecords(dialog).size();
+    DialogPort port(dialog);
+    port.setEnabled(IDOK, count == 1);
+    port.setEnabled(IDC_SAVE_CHOSEN, count > 0);
+    port.setEnabled(IDC_DISCARD_CHOSEN, count > 0);
+    port.setEnabled(IDC_SAVE_ALL, canSaveAll(theWorkspace()));
+}
 
 /// Shows what is unsaved; the dialog goes when nothing is.
 void fillChanged(HWND dialog) {
@@ -27,26 +49,28 @@ void fillChanged(HWND dialog) {
         SendMessageA(list, LB_ADDSTRING, 0,
                      reinterpret_cast<LPARAM>(unsavedRecordText(workspace, *record).c_str()));
     }
-    SendMessageA(list, LB_SETCURSEL, 0, 0);
-    DialogPort(dialog).setEnabled(IDC_SAVE_ALL, canSaveAll(workspace));
+    SendMessageA(list, LB_SETSEL, TRUE, 0);
+    // A button that is disabled would keep the keyboard.
+    SetFocus(list);
+    updateChangedButtons(dialog);
     if (records.empty()) {
         EndDialog(dialog, 0);
     }
 }
 
 void choose(HWND dialog, ChangedFilesDialog& context) {
-    const LRESULT row = SendDlgItemMessageA(dialog, IDC_CHANGED_LIST, LB_GETCURSEL, 0, 0);
-    if (row >= 0) {
-        context.chosen = static_cast<std::size_t>(row);
+    const std::vector<std::size_t> selected = selectedRecords(dialog);
+    if (selected.size() == 1) {
+        context.chosen = selected.front();
+        EndDialog(dialog, 0);
     }
-    EndDialog(dialog, 0);
 }
 
 INT_PTR CALLBACK changedProcedure(HWND dialog, UINT message, WPARAM parameter, LPARAM pointer) {
     auto* context = dialogContext<ChangedFilesDialog>(dialog, message, pointer);
     if (message == WM_INITDIALOG) {
         fillChanged(dialog);
-        return TRUE;
+        return FALSE;
     }
     if (message != WM_COMMAND) {
         return FALSE;
@@ -58,7 +82,17 @@ INT_PTR CALLBACK changedProcedure(HWND dialog, UINT message, WPARAM parameter, L
     case IDC_CHANGED_LIST:
         if (HIWORD(parameter) == LBN_DBLCLK) {
             choose(dialog, *context);
+        } else if (HIWORD(parameter) == LBN_SELCHANGE) {
+            updateChangedButtons(dialog);
         }
+        break;
+    case IDC_SAVE_CHOSEN:
+        saveChosen(theWorkspace(), selectedRecords(dialog));
+        fillChanged(dialog);
+        break;
+    case IDC_DISCARD_CHOSEN:
+        discardChosen(theWorkspace(), selectedRecords(dialog));
+        fillChanged(dialog);
         break;
     case IDC_SAVE_ALL:
         saveAll(theWorkspace());

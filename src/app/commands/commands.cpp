@@ -5,18 +5,23 @@
 #include "app/commands/edit_weapon.h"
 #include "app/commands/file_commands.h"
 #include "app/commands/game_folder.h"
+#include "app/commands/mod/edit_mod.h"
+#include "app/commands/mod/mod_commands.h"
+#include "app/commands/report_commands.h"
 #include "app/commands/stubs.h"
 #include "app/commands/vehicle_performance_commands.h"
 #include "app/commands/weapon_problems.h"
 #include "app/windows/application.h"
 #include "app/windows/display/redraw.h"
 #include "app/windows/drawing_window.h"
+#include "app/windows/file_list.h"
 #include "app/windows/part_selection.h"
 #include "app/workspace/category_list.h"
 #include "app/workspace/edits.h"
 #include "app/workspace/file_actions.h"
 #include "app/workspace/file_steps.h"
 #include "app/workspace/mod_mode.h"
+#include "app/workspace/names/list_notice.h"
 #include "app/workspace/record/unsaved_records.h"
 #include "app/workspace/record_files.h"
 #include "editors/form/form_port_win32.h"
@@ -57,7 +62,8 @@ bool canDuplicate() {
 /// The open record's file is the one that is selected in the list.
 bool isSelectionOpen() {
     const std::string& selected = theWorkspace().list.selected;
-    return !selected.empty() && selected == listedOpenName(theWorkspace());
+    return !selected.empty() && selected == listedOpenName(theWorkspace()) &&
+           !isOfGame(theWorkspace().list, selected);
 }
 
 bool canUndoStep() {
@@ -135,6 +141,19 @@ void refreshFiles() {
     refreshAll(theWorkspace());
 }
 
+void mendEmptyList() {
+    switch (listNotice(theWorkspace()).remedy) {
+    case ListRemedy::None:
+        break;
+    case ListRemedy::ShowAll:
+        leaveFilter();
+        break;
+    case ListRemedy::ChooseFolder:
+        chooseProgramFolder();
+        break;
+    }
+}
+
 INT_PTR CALLBACK aboutProcedure(HWND dialog, UINT message, WPARAM parameter, LPARAM) {
     if (message == WM_COMMAND && (LOWORD(parameter) == IDOK || LOWORD(parameter) == IDCANCEL)) {
         EndDialog(dialog, 0);
@@ -143,12 +162,22 @@ INT_PTR CALLBACK aboutProcedure(HWND dialog, UINT message, WPARAM parameter, LPA
     return message == WM_INITDIALOG ? TRUE : FALSE;
 }
 
+/// The name of the weapon that is open, or else selected in the open unit, or empty.
+std::string chosenWeapon() {
+    if (const WeaponRecord* weapon = openWeapon(theWorkspace())) {
+        return weapon->fileName;
+    }
+    const SquadRecord* unit = openUnit(theWorkspace());
+    return unit != nullptr ? weaponOf(*unit, application().display.selected) : std::string();
+}
+
 PenetrationTools penetrationTools() {
     const Workspace& workspace = theWorkspace();
     return {.catalogue = workspace.catalogue,
             .drawing = application().drawing,
             .folders = gameFolders(workspace),
-            .openUnit = isVehicleOpen() ? openUnit(workspace) : nullptr};
+            .openUnit = isVehicleOpen() ? openUnit(workspace) : nullptr,
+            .weapon = chosenWeapon()};
 }
 
 /// Figures that were tuned in another program count at once.
@@ -159,8 +188,9 @@ void penetrationCalculations() {
 
 void canItPenetrate() {
     loadCatalogue(theWorkspace());
-    askWhatPenetrates(application().window, penetrationTools(),
-                      {.weapon = firstPenetrationWeapon(theWorkspace().catalogue)});
+    const PenetrationTools tools = penetrationTools();
+    askWhatPenetrates(application().window, tools,
+                      {.weapon = firstPenetrationWeapon(tools.catalogue, tools.weapon)});
 }
 
 void showAbout() {
@@ -203,13 +233,19 @@ constexpr auto Commands = std::to_array<Command>({
     {IDC_RENAME, renameOpenFile, isSelectionOpen},
     {IDC_DELETE, deleteSelectedFile, isSelectionOpen},
     {IDC_EDIT_DETAILS, editOpenRecord, canEditOpenRecord},
+    {IDC_LIST_REMEDY, mendEmptyList, always},
     {IDM_EXIT, exitProgram, always},
     {IDM_MOD_MODE, modMode, always},
     {IDM_EDIT_MOD, editModSettings, inModMode},
+    {IDM_MOD_GAME_UNITS, toggleGameUnits, inModMode},
+    {IDM_MOD_COPY, copySelectedIntoMod, isGameUnitSelected},
+    {IDM_MOD_REMOVE, removeSelectedFromMod, isModUnitSelected},
+    {IDM_MOD_OPEN, browseForMod, always},
+    {IDM_MOD_CHANGES, showModChanges, inModMode},
     {IDM_PENETRATION, penetrationCalculations, always},
     {IDM_CAN_PENETRATE, canItPenetrate, always},
     {IDM_WEAPON_PROBLEMS, showWeaponProblems, hasWeaponProblems},
-    {IDM_PERFORMANCE, showOpenPerformance, canEditOpenRecord},
+    {IDM_PERFORMANCE, showOpenPerformance, canShowPerformance},
     {IDM_COMPARE_VEHICLES, compareAllVehicles, always},
     {IDM_REDUCE_IMAGES, reduceImageSizes, isVehicleOpen},
     {IDM_GENERATE_THUMBNAILS, generateThumbnails, always},
@@ -263,6 +299,8 @@ void updateMenu(HMENU menu) {
     CheckMenuRadioItem(menu, IDC_VEHICLES, IDC_WEAPONS,
                        static_cast<UINT>(IDC_VEHICLES + static_cast<int>(theWorkspace().category)),
                        MF_BYCOMMAND);
+    CheckMenuItem(menu, IDM_MOD_GAME_UNITS,
+                  MF_BYCOMMAND | (theWorkspace().showsGameUnits ? MF_CHECKED : MF_UNCHECKED));
     CheckMenuItem(menu, IDM_SHOW_MARKS, MF_BYCOMMAND | (application().showMarks ? MF_CHECKED : MF_UNCHECKED));
     for (const Command& command : Commands) {
         EnableMenuItem(menu, static_cast<UINT>(command.id),
@@ -276,6 +314,10 @@ void updateButtons() {
         const int id = GetDlgCtrlID(child);
         if (const Command* command = commandOf(id)) {
             EnableWindow(child, command->isEnabled() ? TRUE : FALSE);
+        }
+        if (id >= IDC_VEHICLES && id <= IDC_WEAPONS) {
+            const bool isChosen = id - IDC_VEHICLES == static_cast<int>(theWorkspace().category);
+            SendMessageA(child, BM_SETCHECK, isChosen ? BST_CHECKED : BST_UNCHECKED, 0);
         }
         if (id == IDC_EDIT_DETAILS) {
             ShowWindow(child, canEditOpenRecord() ? SW_SHOWNA : SW_HIDE);

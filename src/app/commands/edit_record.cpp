@@ -4,6 +4,7 @@
 #include "app/windows/application.h"
 #include "app/workspace/edits.h"
 #include "app/workspace/record_files.h"
+#include "editors/squad/squad_dialogs.h"
 #include "editors/vehicle/details_dialog.h"
 
 namespace varrocade {
@@ -13,7 +14,22 @@ bool canEditOpenRecord() {
         return true;
     }
     const SquadRecord* unit = openUnit(theWorkspace());
-    return unit != nullptr && unit->vehicle && theWorkspace().category == Category::Vehicles;
+    if (unit == nullptr) {
+        return false;
+    }
+    // A file in the wrong folder has nothing that the writer of its category could write.
+    switch (theWorkspace().category) {
+    case Category::Vehicles:
+        return unit->vehicle.has_value();
+    case Category::AtGuns:
+    case Category::Infantry:
+        return !unit->vehicle && !unit->aircraft;
+    case Category::Aircraft:
+        return unit->aircraft.has_value();
+    case Category::Weapons:
+        break;
+    }
+    return false;
 }
 
 void withEditContext(const std::function<bool(EditContext&)>& work) {
@@ -26,7 +42,8 @@ void withEditContext(const std::function<bool(EditContext&)>& work) {
         .rearranged =
             [](const FormerPlaces& places) { theWorkspace().listener->componentsRearranged(places); },
         .redraw = [] { theWorkspace().listener->recordChanged(); },
-        .changed = [](std::string_view change) { recordChanged(theWorkspace(), change); }};
+        .changed = [](std::string_view change) { recordChanged(theWorkspace(), change); },
+        .pictures = &application().pictures};
     if (work(edit)) {
         saveOpenRecord(workspace);
     }
@@ -37,8 +54,13 @@ void editOpenRecord() {
     if (isWeaponOpen()) {
         editOpenWeapon();
     } else if (canEditOpenRecord()) {
-        withEditContext(
-            [](EditContext& edit) { return editVehicle(application().window, edit, application().drawing); });
+        withEditContext([](EditContext& edit) {
+            if (edit.record.vehicle) {
+                return editVehicle(application().window, edit, application().drawing);
+            }
+            return edit.record.aircraft ? editAircraft(application().window, edit)
+                                        : editSquad(application().window, edit);
+        });
     }
 }
 

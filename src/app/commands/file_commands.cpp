@@ -1,7 +1,8 @@
 #include "app/commands/file_commands.h"
 
 #include "app/commands/edit_weapon.h"
-#include "app/commands/name_dialogs.h"
+#include "app/commands/names/name_dialogs.h"
+#include "app/commands/names/new_squad_dialog.h"
 #include "app/windows/application.h"
 #include "app/workspace/file_actions.h"
 #include "app/workspace/positions.h"
@@ -9,10 +10,6 @@
 namespace varrocade {
 
 namespace {
-
-NameCheck takeNewSquad(const NewFileChoice& choice) {
-    return createUnit(theWorkspace(), choice.name, choice.nationality);
-}
 
 NameCheck takeNewWeapon(const NewFileChoice& choice) {
     return createWeapon(theWorkspace(), choice.name, choice.weaponType);
@@ -33,15 +30,17 @@ void newFile() {
     if (!mayLeavePositions(workspace)) {
         return;
     }
-    const bool isWeapon = workspace.category == Category::Weapons;
-    NameDialog dialog{.owner = application().window,
-                      .kind = isWeapon ? NameDialogKind::NewWeapon : NameDialogKind::NewSquad,
-                      .take = isWeapon ? takeNewWeapon : takeNewSquad};
+    if (workspace.category != Category::Weapons) {
+        if (const std::string name = askForNewSquad(); !name.empty()) {
+            openNewFile(workspace, name);
+        }
+        return;
+    }
+    NameDialog dialog{
+        .owner = application().window, .kind = NameDialogKind::NewWeapon, .take = takeNewWeapon};
     if (askForName(dialog)) {
         openNewFile(workspace, dialog.choice.name);
-        if (isWeapon) {
-            editOpenWeapon();
-        }
+        editOpenWeapon();
     }
 }
 

@@ -6,4 +6,8 @@ namespace varrocade {
 /// "options.dat". A folder without "Varrocade.exe" is refused with a message.
 void browseForGameFolder();
 
+/// Lets the user choose another folder for the program to go on in, as if it had been started there: one that
+/// holds "Data".
+void chooseProgramFolder();
+
 } // namespace varrocade

@@ -1,15 +1,9 @@
 #pragma once
-// Commands whose tools are still to come. Each shows its confirmation or dialog and says so.
+// Commands whose windows are still to come. Each asks its question and says so.
 
 namespace varrocade {
 
-void editModSettings();
 void reduceImageSizes();
 void generateThumbnails();
-void generatePngUsage();
-void generateSpreadsheets();
-void checkDuplicateFiles();
-void checkUnusedFiles();
-void checkVoiceFiles();
 
 } // namespace varrocade

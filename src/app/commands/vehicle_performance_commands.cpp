@@ -20,6 +20,11 @@ void showChosen(const std::string& vehicle) {
 
 } // namespace
 
+bool canShowPerformance() {
+    const SquadRecord* unit = openUnit(theWorkspace());
+    return unit != nullptr && unit->vehicle && canEditOpenRecord();
+}
+
 void showOpenPerformance() {
     std::string chosen;
     const GameFolders folders = gameFolders(theWorkspace());
@@ -37,7 +42,7 @@ void compareAllVehicles() {
                                {.catalogue = workspace.catalogue,
                                 .drawing = application().drawing,
                                 .folders = gameFolders(workspace),
-                                .openUnit = canEditOpenRecord() ? openUnit(workspace) : nullptr}));
+                                .openUnit = canShowPerformance() ? openUnit(workspace) : nullptr}));
 }
 
 } // namespace varrocade

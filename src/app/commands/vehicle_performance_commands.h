@@ -7,6 +7,9 @@ namespace varrocade {
 /// yet.
 void showOpenPerformance();
 
+/// Whether a vehicle is open that has weight and speed.
+bool canShowPerformance();
+
 /// "Compare vehicles...": opens the one that is chosen there.
 void compareAllVehicles();
 

@@ -3,6 +3,7 @@
 // record. It stands here and nowhere else.
 
 #include "app/windows/display/display_state.h"
+#include "app/windows/folder_watch.h"
 #include "app/workspace/workspace.h"
 #include "tools/weapon_users.h"
 #include "view/painting/drawing_objects_win32.h"
@@ -21,6 +22,8 @@ struct Application {
 
     Workspace workspace;
     WeaponUsers weaponUsers;
+    FolderWatch watch;
+    bool isLookDue = false; ///< other programs may have changed files, which could not be looked at yet
 
     std::string typedAhead; ///< what was typed into the list lately, and when
     DWORD typedAheadTime = 0;

@@ -2,6 +2,7 @@
 
 #include "app/windows/application.h"
 #include "app/workspace/category_list.h"
+#include "app/workspace/names/list_notice.h"
 #include "app/workspace/names/name_filter.h"
 #include "app/workspace/record/unsaved_records.h"
 #include "resources/resource.h"
@@ -130,6 +131,29 @@ LRESULT CALLBACK filterProcedure(HWND filter, UINT message, WPARAM parameter, LP
     return formerProcedure(filter, message, parameter, detail);
 }
 
+/// The words and the button that lie over the list while it is empty.
+void createNotice(HWND parent, HWND list) {
+    const auto child = [&](const char* className, DWORD style, int id) {
+        HWND control = CreateWindowExA(0, className, "", WS_CHILD | WS_CLIPSIBLINGS | style, 0, 0, 0, 0,
+                                       parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
+                                       application().instance, nullptr);
+        SetWindowPos(list, control, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    };
+    child("STATIC", SS_CENTER | SS_NOPREFIX, IDC_LIST_NOTICE);
+    child("BUTTON", WS_TABSTOP | BS_PUSHBUTTON, IDC_LIST_REMEDY);
+}
+
+void showNotice() {
+    HWND parent = application().window;
+    const ListNotice notice = listNotice(theWorkspace());
+    HWND words = GetDlgItem(parent, IDC_LIST_NOTICE);
+    HWND remedy = GetDlgItem(parent, IDC_LIST_REMEDY);
+    SetWindowTextA(words, notice.text.c_str());
+    SetWindowTextA(remedy, notice.remedy == ListRemedy::ChooseFolder ? "Choose folder..." : "Show all");
+    ShowWindow(words, notice.text.empty() ? SW_HIDE : SW_SHOWNA);
+    ShowWindow(remedy, notice.remedy == ListRemedy::None ? SW_HIDE : SW_SHOWNA);
+}
+
 } // namespace
 
 void createFileList(HWND parent) {
@@ -140,11 +164,12 @@ void createFileList(HWND parent) {
     };
     HWND filter = child(WS_EX_CLIENTEDGE, "EDIT", ES_AUTOHSCROLL, IDC_FILTER);
     HWND list = child(WS_EX_CLIENTEDGE, "LISTBOX",
-                      LBS_OWNERDRAWFIXED | LBS_HASSTRINGS | LBS_NOTIFY | LBS_DISABLENOSCROLL |
-                          LBS_NOINTEGRALHEIGHT | WS_VSCROLL,
+                      WS_CLIPSIBLINGS | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS | LBS_NOTIFY |
+                          LBS_DISABLENOSCROLL | LBS_NOINTEGRALHEIGHT | WS_VSCROLL,
                       IDC_FILE_LIST);
     replaceProcedure(list, listProcedure);
     replaceProcedure(filter, filterProcedure);
+    createNotice(parent, list);
     SendMessageW(filter, EM_SETCUEBANNER, TRUE, reinterpret_cast<LPARAM>(L"Filter (Ctrl+F)"));
 }
 
@@ -161,6 +186,7 @@ void showNames() {
     showSelectedName();
     SendMessageA(list, WM_SETREDRAW, TRUE, 0);
     InvalidateRect(list, nullptr, TRUE);
+    showNotice();
 }
 
 void showSelectedName() {
@@ -207,7 +233,8 @@ void drawListEntry(const DRAWITEMSTRUCT& item) {
     }
     const Selection font(item.hDC, objects.normalFont.get());
     SetBkMode(item.hDC, TRANSPARENT);
-    SetTextColor(item.hDC, GetSysColor(isSelected ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT));
+    const int ordinary = isOfGame(app.workspace.list, name) ? COLOR_GRAYTEXT : COLOR_WINDOWTEXT;
+    SetTextColor(item.hDC, GetSysColor(isSelected ? COLOR_HIGHLIGHTTEXT : ordinary));
     const std::string text = name + std::string(markText(markOf(app.workspace, name)));
     constexpr UINT format = DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS;
     DrawTextA(item.hDC, text.c_str(), static_cast<int>(text.size()), &place, format);

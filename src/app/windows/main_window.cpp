@@ -16,6 +16,7 @@
 
 #include <windowsx.h>
 
+#include <algorithm>
 #include <array>
 
 namespace varrocade {
@@ -58,10 +59,10 @@ std::string stringResource(UINT id, int capacity) {
     return text;
 }
 
-void createButton(HWND parent, const ButtonRow& row) {
-    CreateWindowExA(0, "BUTTON", row.text,
-                    WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | WS_TABSTOP | BS_PUSHBUTTON, 0, 0, 0, 0, parent,
-                    reinterpret_cast<HMENU>(static_cast<INT_PTR>(row.id)), application().instance, nullptr);
+void createButton(HWND parent, const ButtonRow& row, DWORD style = BS_PUSHBUTTON) {
+    CreateWindowExA(0, "BUTTON", row.text, WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | WS_TABSTOP | style, 0, 0,
+                    0, 0, parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(row.id)),
+                    application().instance, nullptr);
 }
 
 void move(HWND window, int id, const Place& place) {
@@ -93,6 +94,8 @@ void layOut(HWND window) {
     }
     move(window, IDC_FILTER, filterPlace());
     move(window, IDC_FILE_LIST, fileListPlace(height));
+    move(window, IDC_LIST_NOTICE, listNoticePlace());
+    move(window, IDC_LIST_REMEDY, listRemedyPlace());
     const int right = MulDiv(client.right, USER_DEFAULT_SCREEN_DPI, dpi);
     Place details = DetailsButton;
     const int barWidth = GetSystemMetrics(SM_CXVSCROLL);
@@ -109,7 +112,8 @@ void layOut(HWND window) {
 LRESULT create(HWND window) {
     application().window = window;
     for (const ButtonRow& row : CategoryButtons) {
-        createButton(window, row);
+        // The chosen one stays pressed.
+        createButton(window, row, BS_CHECKBOX | BS_PUSHLIKE);
     }
     createFileList(window);
     for (const ButtonRow& row : FileButtons) {
@@ -153,11 +157,27 @@ void moveToOtherScreen(HWND window, int dpi, const RECT& suggested) {
     redrawNow();
 }
 
+/// The window never gets smaller than what all of it needs, unless the screen is.
+void limitSize(HWND window, MINMAXINFO& limits) {
+    const int dpi = application().drawing.dpi;
+    RECT least{0, 0, MulDiv(LeastClientWidth, dpi, USER_DEFAULT_SCREEN_DPI),
+               MulDiv(LeastClientHeight, dpi, USER_DEFAULT_SCREEN_DPI)};
+    AdjustWindowRectEx(&least, WS_OVERLAPPEDWINDOW, TRUE, 0);
+    MONITORINFO monitor{};
+    monitor.cbSize = sizeof(monitor);
+    GetMonitorInfoA(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST), &monitor);
+    const RECT& work = monitor.rcWork;
+    limits.ptMinTrackSize = {std::min(least.right - least.left, work.right - work.left),
+                             std::min(least.bottom - least.top, work.bottom - work.top)};
+}
+
 void handleEnter() {
     const HWND focus = GetFocus();
     HWND list = GetDlgItem(application().window, IDC_FILE_LIST);
     if (focus == GetDlgItem(application().window, IDC_FILTER)) {
-        SetFocus(list);
+        if (openFirstShown(theWorkspace())) {
+            SetFocus(list);
+        }
     } else if (focus == list) {
         editOpenRecord();
     } else if (focus != nullptr && GetParent(focus) == application().window) {
@@ -190,7 +210,7 @@ LRESULT command(HWND window, WPARAM parameter) {
     default:
         // A button that is clicked takes the keyboard with it; the list is where it is wanted.
         if (runCommand(id) && notification == BN_CLICKED && IsChild(window, GetFocus()) &&
-            id <= IDC_WEAPONS && id >= IDC_VEHICLES) {
+            ((id <= IDC_WEAPONS && id >= IDC_VEHICLES) || id == IDC_LIST_REMEDY)) {
             SetFocus(GetDlgItem(window, IDC_FILE_LIST));
         }
         return 0;
@@ -208,6 +228,15 @@ void passToPart(HWND window, UINT message, WPARAM parameter, LPARAM detail) {
     }
 }
 
+/// Looks for what other programs have changed. A dialog may be at work on the open record, or the mouse: then
+/// it is done later, and so again where a file is still being written.
+void lookOutside(HWND window) {
+    bool& isDue = application().isLookDue;
+    if (isDue && IsWindowEnabled(window) != FALSE && GetCapture() == nullptr) {
+        isDue = !noticeOutsideChanges(theWorkspace());
+    }
+}
+
 LRESULT CALLBACK mainWindowProcedure(HWND window, UINT message, WPARAM parameter, LPARAM detail) {
     switch (message) {
     case WM_CREATE:
@@ -215,6 +244,11 @@ LRESULT CALLBACK mainWindowProcedure(HWND window, UINT message, WPARAM parameter
     case WM_SIZE:
         layOut(window);
         return 0;
+    case WM_GETMINMAXINFO:
+        limitSize(window, *reinterpret_cast<MINMAXINFO*>(detail));
+        return 0;
+    case WM_CTLCOLORSTATIC:
+        return reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_WINDOW));
     case WM_SETFOCUS:
         SetFocus(GetDlgItem(window, IDC_FILE_LIST));
         return 0;
@@ -252,6 +286,8 @@ LRESULT CALLBACK mainWindowProcedure(HWND window, UINT message, WPARAM parameter
         return 0;
     case WM_TIMER:
         keepJournal(theWorkspace());
+        application().isLookDue |= application().watch.hasChanged(baseFolder(theWorkspace()));
+        lookOutside(window);
         return 0;
     case WM_ACTIVATEAPP:
         if (parameter != 0) {
@@ -259,10 +295,8 @@ LRESULT CALLBACK mainWindowProcedure(HWND window, UINT message, WPARAM parameter
         }
         return 0;
     case ReturnMessage:
-        // A dialog may be at work on the open record.
-        if (IsWindowEnabled(window) != FALSE) {
-            noticeOutsideChanges(theWorkspace());
-        }
+        application().isLookDue = true;
+        lookOutside(window);
         return 0;
     case WM_CLOSE:
         if (mayExit(theWorkspace())) {

@@ -2,11 +2,13 @@
 
 #include "app/commands/edit_record.h"
 #include "app/commands/edit_weapon.h"
+#include "app/commands/vehicle_performance_commands.h"
 #include "app/windows/application.h"
 #include "app/windows/display/redraw.h"
 #include "app/windows/display/unit_display.h"
 #include "app/workspace/edits.h"
 #include "app/workspace/positions.h"
+#include "editors/squad/squad_parts_win32.h"
 #include "editors/vehicle/part_editor_win32.h"
 #include "resources/resource.h"
 
@@ -57,7 +59,9 @@ bool canEditSelectedPart() {
         return true;
     }
     const SquadRecord* unit = openUnit(theWorkspace());
-    return unit != nullptr && hasEditor(*unit, application().display.selected);
+    const UnitPart& part = application().display.selected;
+    return unit != nullptr &&
+           (hasEditor(*unit, part) || (canEditOpenRecord() && hasSquadEditor(*unit, part)));
 }
 
 void editSelectedPart() {
@@ -66,7 +70,8 @@ void editSelectedPart() {
     } else if (canEditSelectedPart()) {
         const UnitPart part = application().display.selected;
         withEditContext([part](EditContext& edit) {
-            return editPart(application().window, edit, application().drawing, part);
+            return edit.record.vehicle ? editPart(application().window, edit, application().drawing, part)
+                                       : editSquadPart(application().window, edit, part);
         });
     }
 }
@@ -114,7 +119,7 @@ void showPartMenu(POINT screenPixel) {
     menu.addSeparator();
     menu.add(IDM_WHOLE_UNIT, "&Whole unit in view\tCtrl+0", app.display.hasDrawing);
     menu.add(IDC_EDIT_DETAILS, "&Details...", canEditOpenRecord());
-    menu.add(IDM_PERFORMANCE, "Weight and &top speed...", canEditOpenRecord());
+    menu.add(IDM_PERFORMANCE, "Weight and &top speed...", canShowPerformance());
     const int command = TrackPopupMenu(menu.get(), TPM_RETURNCMD | TPM_RIGHTBUTTON, screenPixel.x,
                                        screenPixel.y, 0, app.window, nullptr);
     if (command != 0) {

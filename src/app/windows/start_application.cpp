@@ -15,7 +15,9 @@
 #include <commctrl.h>
 #include <shlobj.h>
 
+#include <algorithm>
 #include <array>
+#include <string>
 
 namespace varrocade {
 
@@ -31,6 +33,41 @@ std::string currentFolder() {
     return folder;
 }
 
+/// Whether the system's code page has all letters of a text.
+bool isInCodePage(const std::wstring& text) {
+    if (GetACP() == CP_UTF8) {
+        return true;
+    }
+    BOOL isReplaced = FALSE;
+    WideCharToMultiByte(CP_ACP, WC_NO_BEST_FIT_CHARS, text.c_str(), -1, nullptr, 0, nullptr, &isReplaced);
+    return isReplaced == FALSE;
+}
+
+/// Says at once when files below the program's folder cannot be opened by their paths, which are 8-bit texts
+/// of a limited length for the game, too. Without it each file would fail for itself later.
+void tellOfUnusableFolder() {
+    std::wstring folder(GetCurrentDirectoryW(0, nullptr), L'\0');
+    folder.resize(GetCurrentDirectoryW(static_cast<DWORD>(folder.size()), folder.data()));
+    std::string reason;
+    constexpr std::size_t shortestRoom = 40;
+    const std::size_t spent = dataFilePath("\\", Category::Vehicles, "").size() + folder.size();
+    const std::size_t room = MaxDataPathLength - std::min(MaxDataPathLength, spent);
+    if (!isInCodePage(folder)) {
+        reason =
+            "This folder's path has letters that the system's code page lacks. The game's files in it cannot "
+            "be opened by their names. Move the game to a folder with plain letters.";
+    } else if (room < shortestRoom) {
+        reason = "This folder's path has " + std::to_string(folder.size()) + " characters, which leaves " +
+                 std::to_string(room) + " for a file's name: the game opens paths of at most " +
+                 std::to_string(MaxDataPathLength) + ". Move the game to a folder with a shorter path.";
+    }
+    if (!reason.empty()) {
+        showMessage({.text = theWorkspace().programFolder + "\n\n" + reason,
+                     .caption = "The game's folder",
+                     .icon = MessageIcon::Warning});
+    }
+}
+
 std::string profileFolder() {
     std::array<char, MAX_PATH> path{};
     SHGetFolderPathA(nullptr, CSIDL_PROFILE, nullptr, SHGFP_TYPE_CURRENT, path.data());
@@ -44,12 +81,23 @@ LONG WINAPI endOnCrash(EXCEPTION_POINTERS* exception) {
     return EXCEPTION_EXECUTE_HANDLER;
 }
 
+/// Ctrl+Z in an edit takes back what was typed there, not the unit's last change.
+bool isUndoOfTyping(const MSG& message) {
+    if (message.message != WM_KEYDOWN || message.wParam != 'Z') {
+        return false;
+    }
+    std::array<char, 8> name{};
+    GetClassNameA(message.hwnd, name.data(), static_cast<int>(name.size()));
+    return lstrcmpiA(name.data(), "Edit") == 0;
+}
+
 int runMessageLoop() {
     const HACCEL accelerators = LoadAcceleratorsA(application().instance, MAKEINTRESOURCEA(IDR_ACCELERATORS));
     MSG message{};
     while (GetMessageA(&message, nullptr, 0, 0) > 0) {
-        if (TranslateAcceleratorA(application().window, accelerators, &message) == 0 &&
-            !isWindowNavigation(message)) {
+        const bool isCommand = !isUndoOfTyping(message) &&
+                               TranslateAcceleratorA(application().window, accelerators, &message) != 0;
+        if (!isCommand && !isWindowNavigation(message)) {
             TranslateMessage(&message);
             DispatchMessageA(&message);
         }
@@ -118,6 +166,7 @@ int startApplication(HINSTANCE instance, int showCommand) {
     detectModMode(workspace);
     ShowWindow(app.window, showCommand);
     UpdateWindow(app.window);
+    tellOfUnusableFolder();
     offerUnsavedChanges(workspace);
     const int status = runMessageLoop();
     writeOptions(workspace);

@@ -14,12 +14,18 @@ bool select(Workspace& workspace, const std::string& name) {
     return isShown;
 }
 
+void dropFilter(Workspace& workspace) {
+    if (!workspace.list.filter.empty()) {
+        workspace.list.filter.clear();
+        workspace.listener->filterDropped();
+    }
+}
+
 /// Selects an entry, and drops the filter when that hides it.
 void selectUnfiltered(Workspace& workspace, const std::string& name) {
     if (!selectName(workspace.list, name)) {
-        workspace.list.filter.clear();
+        dropFilter(workspace);
         filterNames(workspace.list, {});
-        workspace.listener->filterDropped();
     }
     select(workspace, name);
 }
@@ -49,6 +55,19 @@ void openEntry(Workspace& workspace, const std::string& name) {
     openFile(workspace, name);
 }
 
+bool openFirstShown(Workspace& workspace) {
+    const NameList& list = workspace.list;
+    if (list.shown.empty()) {
+        return false;
+    }
+    if (list.selected.empty()) {
+        const std::string name = list.shown.front();
+        select(workspace, name);
+        openEntry(workspace, name);
+    }
+    return true;
+}
+
 void chooseCategory(Workspace& workspace, Category category) {
     if (category == workspace.category) {
         workspace.listener->listOutdated(workspace);
@@ -58,6 +77,7 @@ void chooseCategory(Workspace& workspace, Category category) {
         return;
     }
     closeRecord(workspace);
+    dropFilter(workspace);
     workspace.category = category;
     workspace.listener->listOutdated(workspace);
     const std::string remembered = rememberedSelection(workspace);

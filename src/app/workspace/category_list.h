@@ -15,7 +15,11 @@ void setFilter(Workspace& workspace, const std::string& filter);
 /// is open, only what another program has changed.
 void openEntry(Workspace& workspace, const std::string& name);
 
-/// Shows another category, with the file that was selected in it last.
+/// Opens the first of the names that the filter lets through, unless one of them is selected already; false
+/// where there is none.
+bool openFirstShown(Workspace& workspace);
+
+/// Shows another category, unfiltered, with the file that was selected in it last.
 void chooseCategory(Workspace& workspace, Category category);
 
 /// Shows a file of any category, whatever the filter holds back.

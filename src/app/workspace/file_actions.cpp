@@ -3,10 +3,13 @@
 #include "app/workspace/category_list.h"
 #include "app/workspace/names/file_names.h"
 #include "app/workspace/positions.h"
+#include "app/workspace/record/kept_changes.h"
 #include "app/workspace/record/unsaved_moves.h"
 #include "app/workspace/record/unsaved_records.h"
 #include "app/workspace/record_files.h"
 #include "data/format/texts.h"
+#include "data/unit/image_folders.h"
+#include "data/unit/image_names.h"
 #include "platform/messages.h"
 #include "weapons/weapon_files.h"
 
@@ -86,6 +89,18 @@ std::string renameOnDisk(FileOperations& files, const std::string& from, const s
     return reason.empty() ? "The system does not change the case of its letters." : reason;
 }
 
+/// Takes a file away, whose content goes to the backups; the reason where that fails.
+std::string removeKept(Workspace& workspace, const std::string& path, std::string& content) {
+    FileOperations& files = *workspace.files;
+    if (!files.read(path, content)) {
+        return files.lastError();
+    }
+    if (const auto failure = workspace.backups.keepContent(files, baseFolder(workspace), path, content)) {
+        return "Its content could not be kept as " + failure->path + ": " + failure->reason;
+    }
+    return files.recycle(path) && !files.exists(path) ? std::string() : files.lastError();
+}
+
 SaveOutcome saveNew(Workspace& workspace, const Record& record) {
     const std::string& base = baseFolder(workspace);
     if (const auto* weapon = std::get_if<WeaponRecord>(&record)) {
@@ -97,7 +112,8 @@ SaveOutcome saveNew(Workspace& workspace, const Record& record) {
 
 } // namespace
 
-NameCheck createUnit(Workspace& workspace, const std::string& name, const std::string& nationality) {
+NameCheck createUnit(Workspace& workspace, const std::string& name, const std::string& nationality,
+                     const UnitStart& start) {
     if (auto refusal = refusalOfFile(workspace, name)) {
         return refusal;
     }
@@ -107,7 +123,15 @@ NameCheck createUnit(Workspace& workspace, const std::string& name, const std::s
     if (isTaken(workspace, name)) {
         return "Squad name already exists";
     }
-    return checkOf(saveNew(workspace, newUnit(workspace.category, name, nationality)));
+    SquadRecord unit = newUnit(workspace.category, name, nationality);
+    beginWith(unit, workspace.category, start, [&](std::string_view picture) {
+        const std::vector<std::string> bases = imageBases(workspace);
+        return std::any_of(bases.begin(), bases.end(), [&](const std::string& base) {
+            return workspace.files->exists(base + std::string(image_folder::Units) + std::string(picture) +
+                                           std::string(ImageEnding));
+        });
+    });
+    return checkOf(saveNew(workspace, unit));
 }
 
 NameCheck createWeapon(Workspace& workspace, const std::string& name, WeaponType type) {
@@ -129,6 +153,9 @@ NameCheck duplicateRecord(Workspace& workspace, const std::string& name) {
     }
     if (auto refusal = refusalOfOtherNationality(workspace, name)) {
         return refusal;
+    }
+    if (!mayCopyHandMade(workspace.open)) {
+        return "";
     }
     Record copy = workspace.open.present.record;
     setFileName(copy, name);
@@ -190,7 +217,8 @@ void showRenamed(Workspace& workspace) {
 
 void deleteFile(Workspace& workspace) {
     const std::string name = workspace.list.selected;
-    if (name.empty() || name != listedOpenName(workspace) || !mayLeavePositions(workspace)) {
+    if (name.empty() || name != listedOpenName(workspace) || isOfGame(workspace.list, name) ||
+        !mayLeavePositions(workspace)) {
         return;
     }
     const Answer answer = showMessage({.text = workspace.category == Category::Weapons
@@ -204,13 +232,14 @@ void deleteFile(Workspace& workspace) {
     }
     FileStep step{.record = workspace.open, .content = {}, .renamedTo = {}};
     step.record.present = withoutMoves(step.record);
-    FileOperations& files = *workspace.files;
     const std::string path = pathOf(workspace, name);
-    const bool isGone = files.read(path, step.content) &&
-                        !workspace.backups.keepContent(files, baseFolder(workspace), path, step.content) &&
-                        files.recycle(path) && !files.exists(path);
-    if (!isGone) {
-        showMessage({.text = path, .caption = "Couldn't delete file", .icon = MessageIcon::Warning});
+    if (!keepChanges(workspace, step.record)) {
+        return;
+    }
+    if (const std::string reason = removeKept(workspace, path, step.content); !reason.empty()) {
+        showMessage({.text = path + "\n\n" + reason,
+                     .caption = "Couldn't delete file",
+                     .icon = MessageIcon::Warning});
         return;
     }
     noteFileStep(workspace, std::move(step));

@@ -2,6 +2,7 @@
 // New, Duplicate, Rename, Delete: what becomes of the files. The dialogs that ask for names come between the
 // halves of the first three.
 
+#include "app/workspace/names/unit_start.h"
 #include "app/workspace/workspace.h"
 
 #include <optional>
@@ -16,8 +17,10 @@ inline constexpr std::string_view RenamingEnding = ".renaming";
 /// Why a name is refused; an empty text when the reason has been shown already. Nothing: it is taken.
 using NameCheck = std::optional<std::string>;
 
-/// Writes the file of a new unit of the present category. `nationality` is "NATIONALITY_...".
-NameCheck createUnit(Workspace& workspace, const std::string& name, const std::string& nationality);
+/// Writes the file of a new unit of the present category, with what it begins with. `nationality` is
+/// "NATIONALITY_...".
+NameCheck createUnit(Workspace& workspace, const std::string& name, const std::string& nationality,
+                     const UnitStart& start = {});
 
 /// Writes the file of a new weapon, with the figures that weapons of its type begin with.
 NameCheck createWeapon(Workspace& workspace, const std::string& name, WeaponType type = WeaponType::Rifle);

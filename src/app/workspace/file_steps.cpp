@@ -4,6 +4,7 @@
 #include "app/workspace/edits.h"
 #include "app/workspace/file_actions.h"
 #include "app/workspace/positions.h"
+#include "app/workspace/record/unsaved_records.h"
 #include "app/workspace/record_files.h"
 #include "platform/messages.h"
 #include "platform/safe_save.h"
@@ -36,7 +37,8 @@ bool goToCategory(Workspace& workspace, const FileStep& step) {
 bool bringBack(Workspace& workspace, const FileStep& step) {
     const std::string name = formerName(step);
     const std::string path = dataFilePath(step.record.base, step.record.category, name);
-    if (workspace.files->exists(path)) {
+    if (workspace.files->exists(path) ||
+        isInMemory(workspace, step.record.base, step.record.category, name)) {
         tellInTheWay(path);
         return false;
     }
@@ -61,6 +63,10 @@ bool renameBack(Workspace& workspace, const FileStep& step) {
         showFile(workspace, step.record.category, step.renamedTo);
     }
     if (listedOpenName(workspace) != step.renamedTo) {
+        return false;
+    }
+    if (isAside(workspace, name)) {
+        tellInTheWay(pathOf(workspace, name));
         return false;
     }
     if (!giveName(workspace, name)) {

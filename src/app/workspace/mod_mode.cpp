@@ -1,7 +1,10 @@
 #include "app/workspace/mod_mode.h"
 
+#include "app/workspace/options.h"
 #include "app/workspace/positions.h"
 #include "app/workspace/record_files.h"
+#include "mod/equipment_lists.h"
+#include "mod/starting_points.h"
 #include "platform/messages.h"
 
 #include <array>
@@ -24,11 +27,6 @@ std::string userModFolder(const Workspace& workspace) {
     return folder;
 }
 
-bool hasModFile(const std::string& folder) {
-    std::string content;
-    return readFileBeginning(folder + std::string(ModFileName), 1, content);
-}
-
 /// Reads the weapons of the present mode and has it shown with the list of its files.
 void enterMode(Workspace& workspace) {
     loadCatalogue(workspace);
@@ -36,6 +34,14 @@ void enterMode(Workspace& workspace) {
     workspace.list.selected.clear();
     workspace.listener->modeChanged();
     workspace.listener->listOutdated(workspace);
+}
+
+/// A new mod is about the Second World War, with the units that the game has.
+ModSettings newModSettings(const Workspace& workspace) {
+    ModSettings settings = startingSettings(StartingPoint::SecondWorldWar);
+    // A unit that cannot be read is in no list, which is no reason to have no mod.
+    listEquipment(settings, readEquipmentSources({.program = workspace.programFolder}));
+    return settings;
 }
 
 void turnOn(Workspace& workspace, ModSettings settings) {
@@ -59,6 +65,16 @@ bool wantsNewMod(const std::string& folder) {
 
 } // namespace
 
+bool hasModFile(const std::string& folder) {
+    std::string content;
+    return readFileBeginning(folder + std::string(ModFileName), 1, content);
+}
+
+void enterMod(Workspace& workspace, std::string folder) {
+    workspace.modFolder = std::move(folder);
+    turnOn(workspace, loadModSettings(workspace.modFolder).value_or(ModSettings{}));
+}
+
 bool detectModMode(Workspace& workspace) {
     workspace.modMode = false;
     workspace.modFolder = userModFolder(workspace);
@@ -66,7 +82,7 @@ bool detectModMode(Workspace& workspace) {
         workspace.modFolder = workspace.programFolder + std::string(ProgramModFolder);
     }
     if (hasModFile(workspace.modFolder)) {
-        turnOn(workspace, loadModSettings(workspace.modFolder));
+        enterMod(workspace, workspace.modFolder);
         return true;
     }
     workspace.modFolder = userModFolder(workspace);
@@ -85,8 +101,9 @@ bool createModFolder(Workspace& workspace) {
         }
     }
     workspace.modFolder = folder;
-    const ModSettings settings = loadModSettings(folder);
-    if (saveModSettings(*workspace.files, folder, settings)) {
+    std::optional<ModSettings> present = loadModSettings(folder);
+    const ModSettings settings = present ? std::move(*present) : newModSettings(workspace);
+    if (saveModSettings(*workspace.files, workspace.backups, folder, settings)) {
         showCouldNotSave(folder + std::string(ModFileName));
         return false;
     }
@@ -98,6 +115,25 @@ void leaveModMode(Workspace& workspace) {
     workspace.modMode = false;
     workspace.modSettings.reset();
     enterMode(workspace);
+}
+
+bool moveToGame(Workspace& workspace, const std::string& folder) {
+    if (!isFolder(folder + std::string(DataFolder))) {
+        showMessage({.text = folder + "\n\nThere is no folder \"Data\" in this folder",
+                     .caption = "Error",
+                     .icon = MessageIcon::Information});
+        return false;
+    }
+    if (!mayLeavePositions(workspace)) {
+        return false;
+    }
+    closeRecord(workspace);
+    workspace.programFolder = folder;
+    readOptions(workspace);
+    workspace.rememberedSelections.fill({});
+    detectModMode(workspace);
+    workspace.listener->recordOpened();
+    return true;
 }
 
 bool switchModMode(Workspace& workspace) {

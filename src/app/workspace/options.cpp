@@ -2,6 +2,7 @@
 
 #include "app/workspace/options_file.h"
 #include "platform/messages.h"
+#include "platform/safe_save.h"
 
 #include <utility>
 

@@ -9,10 +9,17 @@ namespace varrocade {
 namespace {
 
 std::string_view moveName(const UnitPart& part) {
+    if (part.kind == PartKind::Rotor) {
+        return "Move rotor blades";
+    }
     return part.kind == PartKind::Exhaust ? "Move exhaust pipe" : "Move weapon";
 }
 
+/// What the user is asked for before it is lost. Rotors are kept like any other change.
 void markMoved(OpenRecord& open, const UnitPart& part) {
+    if (part.kind == PartKind::Rotor) {
+        return;
+    }
     RecordState& state = open.present;
     (part.kind == PartKind::Exhaust ? state.exhaustMove : state.weaponMove) = ++open.lastMove;
 }

@@ -1,5 +1,6 @@
 #include "app/workspace/record_files.h"
 
+#include "app/workspace/record/kept_changes.h"
 #include "app/workspace/record/unsaved_moves.h"
 #include "app/workspace/record/unsaved_records.h"
 #include "data/finding_text.h"
@@ -57,14 +58,14 @@ void take(OpenRecord& open, Loaded& loaded, const Diagnostics& diagnostics) {
 
 OpenRecord loadRecord(const Workspace& workspace, const std::string& name) {
     OpenRecord open;
-    open.base = baseFolder(workspace);
+    open.base = baseOfEntry(workspace, name);
     open.category = workspace.category;
     if (workspace.category != Category::Weapons) {
-        LoadedUnit unit = loadUnit(*workspace.files, baseFolder(workspace), workspace.category, name);
+        LoadedUnit unit = loadUnit(*workspace.files, open.base, workspace.category, name);
         take(open, unit, unit.diagnostics);
         return open;
     }
-    LoadedWeapon weapon = loadWeapon(*workspace.files, baseFolder(workspace), name);
+    LoadedWeapon weapon = loadWeapon(*workspace.files, open.base, name);
     take(open, weapon, weapon.diagnostics);
     tellUnknownTypes(weapon.diagnostics);
     return open;
@@ -83,10 +84,16 @@ std::string lossSummary(const std::vector<Finding>& losses) {
     return text;
 }
 
-/// Before a file that was written by hand is replaced, tells what the game's layout has no place for. What is
-/// only spelt otherwise is no reason to ask.
-bool mayReplaceHandMade(const OpenRecord& record, const std::string& content) {
-    if (content == fileTextOf(record.category, record.saved.record)) {
+/// What the box about a hand-made file says around the list of what is lost.
+struct HandMadeWords {
+    std::string_view before;
+    std::string_view after;
+};
+
+/// Tells what the game's layout has no place for of a file that was written by hand; false where the user
+/// would rather not. What is only spelt otherwise is no reason to ask.
+bool mayLoseHandMade(const OpenRecord& record, const std::string& content, const HandMadeWords& words) {
+    if (content.empty() || content == fileTextOf(record.category, record.saved.record)) {
         return true;
     }
     auto losses = record.category == Category::Weapons ? std::optional(weaponSaveLosses(content))
@@ -99,12 +106,18 @@ bool mayReplaceHandMade(const OpenRecord& record, const std::string& content) {
         return true;
     }
     const Answer answer =
-        showMessage({.text = "This file was written by hand. Saving it in the game's layout loses:\n\n" +
-                             lossSummary(*losses) + "\nThe file as it is now is kept in the folder Backups.",
+        showMessage({.text = "This file was written by hand. " + std::string(words.before) + ":\n\n" +
+                             lossSummary(*losses) + "\n" + std::string(words.after),
                      .caption = "Hand-made file",
                      .buttons = MessageButtons::OkCancel,
                      .icon = MessageIcon::Warning});
     return answer == Answer::Ok;
+}
+
+bool mayReplaceHandMade(const OpenRecord& record, const std::string& content) {
+    return mayLoseHandMade(
+        record, content,
+        {"Saving it in the game's layout loses", "The file as it is now is kept in the folder Backups."});
 }
 
 Answer askAboutOutsideChange(const std::string& path) {
@@ -193,21 +206,36 @@ void reopenIfChanged(Workspace& workspace) {
     }
 }
 
-void noticeOutsideChanges(Workspace& workspace) {
-    if (namesOfFiles(categoryFolder(baseFolder(workspace), workspace.category)) != workspace.list.all) {
+bool noticeOutsideChanges(Workspace& workspace) {
+    std::vector<std::string> ofGame;
+    if (namesToList(workspace, ofGame) != workspace.list.all) {
         workspace.listener->listOutdated(workspace);
     }
+    const auto isLocked = [&workspace](const OpenRecord& record) {
+        const std::string path = pathOf(record, record.base);
+        std::string content;
+        return workspace.files->exists(path) && !workspace.files->read(path, content);
+    };
+    bool isAnyLocked = false;
     bool isMarkChanged = false;
     for (OpenRecord& record : workspace.aside) {
-        isMarkChanged = markIfChangedOutside(workspace, record) || isMarkChanged;
+        if (isLocked(record)) {
+            isAnyLocked = true;
+        } else {
+            isMarkChanged = markIfChangedOutside(workspace, record) || isMarkChanged;
+        }
     }
     if (isMarkChanged) {
         workspace.listener->marksChanged();
     }
     const OpenRecord& open = workspace.open;
     if (open.isOpen() && workspace.files->exists(pathOf(open, open.base))) {
+        if (isLocked(open)) {
+            return false;
+        }
         reopenIfChanged(workspace);
     }
+    return !isAnyLocked;
 }
 
 bool tellFailure(const SaveOutcome& outcome) {
@@ -219,22 +247,55 @@ bool tellFailure(const SaveOutcome& outcome) {
     return true;
 }
 
+namespace {
+
+/// Whether a record that is to be saved below another base folder finds one with unsaved changes of that
+/// file.
+bool hasRival(const Workspace& workspace, const OpenRecord& record, const std::string& base) {
+    return record.base != base && findAside(workspace, base, record.category,
+                                            fileNameOf(record.present.record)) != workspace.aside.end();
+}
+
+/// Asks before a file is replaced: yes to reload what it holds, no to replace it.
+Answer mayReplace(const Workspace& workspace, const OpenRecord& record, const std::string& base,
+                  const std::string& content) {
+    const Answer answer = content == record.content && !hasRival(workspace, record, base)
+                              ? Answer::No
+                              : askAboutOutsideChange(pathOf(record, base));
+    return answer == Answer::No && !mayReplaceHandMade(record, content) ? Answer::Cancel : answer;
+}
+
+} // namespace
+
 SaveResult saveRecord(Workspace& workspace, OpenRecord& record, const std::string& base) {
+    const std::string path = pathOf(record, base);
     std::string content;
-    if (workspace.files->read(pathOf(record, base), content)) {
-        const Answer answer =
-            content == record.content ? Answer::No : askAboutOutsideChange(pathOf(record, base));
+    if (workspace.files->read(path, content)) {
+        const Answer answer = mayReplace(workspace, record, base, content);
+        if (answer != Answer::Yes && answer != Answer::No) {
+            return SaveResult::Failed;
+        }
+        if (answer == Answer::Yes && !keepChanges(workspace, record)) {
+            return SaveResult::Failed;
+        }
+        if (hasRival(workspace, record, base) &&
+            !dropAside(workspace, base, record.category, fileNameOf(record.present.record))) {
+            return SaveResult::Failed;
+        }
         if (answer == Answer::Yes) {
             reload(record, std::move(content));
             record.base = base;
             return SaveResult::NothingToSave;
         }
-        if (answer != Answer::No || !mayReplaceHandMade(record, content)) {
-            return SaveResult::Failed;
-        }
+    } else if (workspace.files->exists(path)) {
+        // What cannot be compared is not replaced.
+        record.saveFailure = workspace.files->lastError();
+        tellFailure({.result = SaveResult::Failed, .failure = {path, record.saveFailure}, .content = {}});
+        return SaveResult::Failed;
     }
     SaveOutcome outcome = write(workspace, record, base);
     tellFailure(outcome);
+    record.saveFailure = outcome.failure.reason;
     if (outcome.result == SaveResult::Saved) {
         // The file holds moved positions too.
         record.saved = record.present;
@@ -245,6 +306,11 @@ SaveResult saveRecord(Workspace& workspace, OpenRecord& record, const std::strin
     return outcome.result;
 }
 
+bool mayCopyHandMade(const OpenRecord& record) {
+    return mayLoseHandMade(record, record.content,
+                           {"A copy in the game's layout does not have", "The file itself stays as it is."});
+}
+
 SaveResult saveOpenRecord(Workspace& workspace) {
     OpenRecord& open = workspace.open;
     if (!open.isOpen()) {
@@ -253,6 +319,9 @@ SaveResult saveOpenRecord(Workspace& workspace) {
     const std::string former = open.base;
     const SaveResult result = saveRecord(workspace, open, baseFolder(workspace));
     if (result == SaveResult::Failed) {
+        if (!open.saveFailure.empty()) {
+            workspace.listener->recordChanged();
+        }
         return result;
     }
     if (open.base != former || !isListed(workspace.list, openFileName(workspace))) {
@@ -282,6 +351,9 @@ bool saveAll(Workspace& workspace) {
 void discardChanges(Workspace& workspace) {
     OpenRecord& open = workspace.open;
     if (!open.isUnsaved()) {
+        return;
+    }
+    if (!keepChanges(workspace, open)) {
         return;
     }
     if (std::holds_alternative<std::monostate>(open.saved.record)) {

@@ -18,8 +18,9 @@ bool openFile(Workspace& workspace, const std::string& name);
 void reopenIfChanged(Workspace& workspace);
 
 /// Looks for what other programs have done to the files of the list and of the records in memory: a record
-/// without changes is read again, one with changes is marked. One whose file is gone stays open.
-void noticeOutsideChanges(Workspace& workspace);
+/// without changes is read again, one with changes is marked. One whose file is gone stays open. False when a
+/// file cannot be read at the moment, which leaves its record as it is.
+bool noticeOutsideChanges(Workspace& workspace);
 
 /// Writes the open record to its file, after the questions about what another program has changed there and
 /// about what a file that was written by hand loses by that. A failure, or a refusal of the user's, changes
@@ -28,6 +29,10 @@ SaveResult saveOpenRecord(Workspace& workspace);
 
 /// Does the same with a record in memory and its file below a base folder; shows nothing but boxes.
 SaveResult saveRecord(Workspace& workspace, OpenRecord& record, const std::string& base);
+
+/// Before a record is written under another name: tells what the copy of a file that was written by hand has
+/// no place for, and asks.
+bool mayCopyHandMade(const OpenRecord& record);
 
 /// Saves all records of the base folder in use, asking as for each of them alone; false when one is still
 /// unsaved.

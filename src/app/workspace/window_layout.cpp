@@ -31,6 +31,14 @@ Place filterPlace() {
     return {4, 43, 350, 22};
 }
 
+Place listNoticePlace() {
+    return {14, 96, 314, 130};
+}
+
+Place listRemedyPlace() {
+    return {106, 234, 130, 28};
+}
+
 std::array<Place, FileButtonCount> fileButtonPlaces(int height) {
     const int y = height - 34;
     return {{{8, y, 82, 24}, {94, y, 82, 24}, {180, y, 82, 24}, {266, y, 82, 24}}};
@@ -38,7 +46,10 @@ std::array<Place, FileButtonCount> fileButtonPlaces(int height) {
 
 Place picturePlace(int width, int height, int dpi) {
     const int left = scaled(ListWidth, dpi);
-    return {left, 0, std::max(0, width - scaled(BandWidth, dpi)), height};
+    const int besideSheet = width - scaled(BandWidth, dpi);
+    const int besideLeastSheet = width - left - scaled(LeastSheetWidth, dpi);
+    const int narrow = std::min(scaled(LeastPictureWidth, dpi), besideLeastSheet);
+    return {left, 0, std::max({0, besideSheet, narrow}), height};
 }
 
 Place sheetPlace(int width, int height, int dpi) {

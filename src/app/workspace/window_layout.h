@@ -37,6 +37,9 @@ Place firstWindowPlace(int workWidth, int workHeight, const FrameMetrics& metric
 /// The list box and the filter above it, for a client area of `height`.
 Place fileListPlace(int height);
 Place filterPlace();
+/// What stands over the list while it is empty: words and the button below them.
+Place listNoticePlace();
+Place listRemedyPlace();
 
 inline constexpr std::size_t FileButtonCount = 4;
 /// The four file buttons below the list, in the order New, Duplicate, Rename, Delete.
@@ -51,7 +54,17 @@ inline constexpr std::array<Place, CategoryButtonCount> CategoryButtonPlaces = {
     {284, 4, 66, 36},
 }};
 
-/// The picture and the data sheet, in the pixels of the screen, for a client area of such pixels.
+/// The picture area is given no less than this, for which the data sheet gives way down to its own least
+/// width.
+inline constexpr int LeastPictureWidth = 200;
+inline constexpr int LeastSheetWidth = 400;
+/// The smallest client area in which all controls are whole, the list has some entries and the drawing can be
+/// worked in.
+inline constexpr int LeastClientWidth = ListWidth + LeastPictureWidth + LeastSheetWidth;
+inline constexpr int LeastClientHeight = 360;
+
+/// The picture and the data sheet, in the pixels of the screen, for a client area of such pixels. The sheet
+/// is as wide as the band leaves, the picture has the rest; in a narrow window they share what is there.
 Place picturePlace(int width, int height, int dpi);
 Place sheetPlace(int width, int height, int dpi);
 

@@ -1,5 +1,10 @@
 #include "app/workspace/workspace.h"
 
+#include "data/format/texts.h"
+
+#include <algorithm>
+#include <set>
+
 namespace varrocade {
 
 void WorkspaceListener::listOutdated(Workspace& workspace) {
@@ -13,6 +18,10 @@ WorkspaceListener& deafListener() {
 
 const std::string& baseFolder(const Workspace& workspace) {
     return workspace.modMode ? workspace.modFolder : workspace.programFolder;
+}
+
+const std::string& baseOfEntry(const Workspace& workspace, const std::string& name) {
+    return isOfGame(workspace.list, name) ? workspace.programFolder : baseFolder(workspace);
 }
 
 GameFolders gameFolders(const Workspace& workspace) {
@@ -41,16 +50,36 @@ void loadCatalogue(Workspace& workspace) {
 
 std::vector<std::string> namesOfFiles(const std::string& folder) {
     std::vector<std::string> names;
-    listFiles(folder, DataFileEnding, names);
+    listRegularFiles(folder, DataFileEnding, names);
     for (std::string& name : names) {
         name.resize(name.size() - DataFileEnding.size());
     }
     return names;
 }
 
+std::vector<std::string> namesToList(const Workspace& workspace, std::vector<std::string>& ofGame) {
+    std::vector<std::string> names = namesOfFiles(categoryFolder(baseFolder(workspace), workspace.category));
+    ofGame.clear();
+    if (!workspace.modMode || !workspace.showsGameUnits) {
+        return names;
+    }
+    std::set<std::string> ofMod;
+    for (const std::string& name : names) {
+        ofMod.insert(loweredText(name));
+    }
+    for (std::string& name : namesOfFiles(categoryFolder(workspace.programFolder, workspace.category))) {
+        if (!ofMod.contains(loweredText(name))) {
+            names.push_back(name);
+            ofGame.push_back(std::move(name));
+        }
+    }
+    std::sort(ofGame.begin(), ofGame.end());
+    return names;
+}
+
 void refillNames(Workspace& workspace) {
     NameList& list = workspace.list;
-    list.all = namesOfFiles(categoryFolder(baseFolder(workspace), workspace.category));
+    list.all = namesToList(workspace, list.ofGame);
     filterNames(list, listedOpenName(workspace));
     workspace.listener->namesChanged();
 }
@@ -77,8 +106,9 @@ std::string openFileName(const Workspace& workspace) {
 
 std::string listedOpenName(const Workspace& workspace) {
     const OpenRecord& open = workspace.open;
-    const bool isListed = open.category == workspace.category && open.base == baseFolder(workspace);
-    return isListed ? openFileName(workspace) : std::string();
+    std::string name = openFileName(workspace);
+    const bool isListed = open.category == workspace.category && open.base == baseOfEntry(workspace, name);
+    return isListed ? name : std::string();
 }
 
 } // namespace varrocade

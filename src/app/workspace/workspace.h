@@ -5,6 +5,7 @@
 #include "app/workspace/names/name_list.h"
 #include "app/workspace/record/open_record.h"
 #include "data/category.h"
+#include "data/format/texts.h"
 #include "data/game_files.h"
 #include "mod/mod_settings.h"
 #include "platform/backups.h"
@@ -62,10 +63,17 @@ struct FileStep {
     std::string renamedTo; ///< empty of a deleted one
 };
 
+/// Puts two spellings of a path that differ in the case of letters only in one place: they lead to one file.
+struct PathOrder {
+    bool operator()(const std::string& a, const std::string& b) const {
+        return compareIgnoringCase(a, b) < 0;
+    }
+};
+
 /// The copies of unsaved changes on the disk.
 struct Journal {
-    std::map<std::string, std::string> written; ///< the content of each file by its path
-    bool hasFailed = false;                     ///< which was told, and is not told again before it succeeds
+    std::map<std::string, std::string, PathOrder> written; ///< the content of each file by its path
+    bool hasFailed = false; ///< which was told, and is not told again before it succeeds
 };
 
 struct Workspace {
@@ -78,6 +86,8 @@ struct Workspace {
     bool modMode = false;
     std::string modFolder; ///< keeps the last folder probed while mod mode is off
     std::optional<ModSettings> modSettings;
+    bool showsGameUnits = false;        ///< behind the mod's
+    std::vector<std::string> otherMods; ///< folders of mods that were opened, the last one first
 
     Category category = Category::Vehicles;
     std::array<std::string, CategoryCount> rememberedSelections;
@@ -93,6 +103,9 @@ struct Workspace {
 
 /// The folder that data files are read from and written to: the mod's in mod mode, otherwise the program's.
 const std::string& baseFolder(const Workspace& workspace);
+
+/// The same for an entry of the list: of the game's units that stand behind the mod's, the program's.
+const std::string& baseOfEntry(const Workspace& workspace, const std::string& name);
 
 /// Where pictures are looked for: the mod's folder before the program's.
 std::vector<std::string> imageBases(const Workspace& workspace);
@@ -111,6 +124,10 @@ void loadCatalogue(Workspace& workspace);
 
 /// The names of the data files of a folder, without their ending.
 std::vector<std::string> namesOfFiles(const std::string& folder);
+
+/// The names that the list is filled with: in mod mode the mod's, and the game's others behind them where
+/// these are shown. `ofGame` becomes those.
+std::vector<std::string> namesToList(const Workspace& workspace, std::vector<std::string>& ofGame);
 
 /// Reads the names of the category's files and filters them.
 void refillNames(Workspace& workspace);

@@ -14,10 +14,6 @@ std::string grouped(std::int32_t value) {
     return digits;
 }
 
-std::string centimetres(std::int32_t value) {
-    return value > 0 ? std::to_string(value) + " cm" : "-";
-}
-
 std::string yesNo(bool value) {
     return value ? "yes" : "no";
 }

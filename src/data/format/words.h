@@ -8,8 +8,6 @@ namespace varrocade {
 
 /// With commas between the thousands: "56,900".
 std::string grouped(std::int32_t value);
-/// "632 cm", or "-" when there is none.
-std::string centimetres(std::int32_t value);
 std::string yesNo(bool value);
 /// Horsepower a metric ton with one decimal, "-" without a weight.
 std::string powerToWeight(std::int32_t horsepower, std::int32_t kilograms);

@@ -33,11 +33,16 @@ using Action = Rule::Action;
 /// An element that sets one field, by the field's own name or by another.
 template <const auto& F>
 constexpr Rule rule(P in, std::string_view element, Action action = set<Reading, F>) {
-    return {in, element, P::Unknown, action};
+    return {in, element, P::Unknown, action, tag_rules::FieldList<F>, F.element};
 }
 template <const auto& F>
 constexpr Rule rule(P in, Action action = set<Reading, F>) {
-    return {in, F.element, P::Unknown, action};
+    return {in, F.element, P::Unknown, action, tag_rules::FieldList<F>};
+}
+/// An element that sets several fields at once.
+template <const auto&... Fields>
+constexpr Rule setAll(P in, std::string_view element, std::string_view today = {}) {
+    return {in, element, P::Unknown, set<Reading, Fields...>, tag_rules::FieldList<Fields...>, today};
 }
 
 constexpr auto DescriptionRules = [](P in) {
@@ -141,7 +146,7 @@ constexpr auto PlainRules = std::to_array<Rule>({
     rule<field::CanMountInfantry>(P::Attributes),
     rule<field::Amphibious>(P::Attributes),
 
-    {P::Drive, e::Engine, P::Engine, setFlatEngine},
+    {P::Drive, e::Engine, P::Engine, setFlatEngine, tag_rules::FieldList<field::EngineName>},
     {P::Drive, e::Gears, P::Gears, nullptr},
     rule<field::Steering>(P::Drive),
     rule<field::SmokeScreen>(P::Drive),
@@ -214,22 +219,21 @@ constexpr auto PlainRules = std::to_array<Rule>({
     rule<field::FrontSpaced>(P::Armour),
     rule<field::SideSpaced>(P::Armour),
     rule<field::RearSpaced>(P::Armour),
-    {P::Armour, e::Front, P::Unknown, set<Reading, field::UpperFront, field::LowerFront>},
+    setAll<field::UpperFront, field::LowerFront>(P::Armour, e::Front),
     rule<field::UpperFront>(P::Armour),
     rule<field::UpperFront>(P::Armour, older::FrontUpper),
     rule<field::LowerFront>(P::Armour),
     rule<field::LowerFront>(P::Armour, older::FrontLower),
-    {P::Armour, e::Rear, P::Unknown, set<Reading, field::UpperRear, field::LowerRear>},
+    setAll<field::UpperRear, field::LowerRear>(P::Armour, e::Rear),
     rule<field::UpperRear>(P::Armour),
     rule<field::UpperRear>(P::Armour, older::RearUpper),
     rule<field::LowerRear>(P::Armour),
     rule<field::LowerRear>(P::Armour, older::RearLower),
-    {P::Armour, e::Side, P::Unknown,
-     set<Reading, field::UpperLeft, field::UpperRight, field::LowerLeft, field::LowerRight>},
-    {P::Armour, e::UpperSide, P::Unknown, set<Reading, field::UpperLeft, field::UpperRight>},
-    {P::Armour, older::SideUpper, P::Unknown, set<Reading, field::UpperLeft, field::UpperRight>},
-    {P::Armour, e::LowerSide, P::Unknown, set<Reading, field::LowerLeft, field::LowerRight>},
-    {P::Armour, older::SideLower, P::Unknown, set<Reading, field::LowerLeft, field::LowerRight>},
+    setAll<field::UpperLeft, field::UpperRight, field::LowerLeft, field::LowerRight>(P::Armour, e::Side),
+    setAll<field::UpperLeft, field::UpperRight>(P::Armour, e::UpperSide),
+    setAll<field::UpperLeft, field::UpperRight>(P::Armour, older::SideUpper, e::UpperSide),
+    setAll<field::LowerLeft, field::LowerRight>(P::Armour, e::LowerSide),
+    setAll<field::LowerLeft, field::LowerRight>(P::Armour, older::SideLower, e::LowerSide),
     rule<field::UpperLeft>(P::Armour),
     rule<field::UpperLeft>(P::Armour, older::LeftUpper),
     rule<field::LowerLeft>(P::Armour),
@@ -298,6 +302,11 @@ tag_rules::RuleTable<Reading> makeTable() {
 
 const tag_rules::RuleTable<Reading>& ruleTable() {
     static const tag_rules::RuleTable<Reading> table = makeTable();
+    return table;
+}
+
+const ElementTable& elements() {
+    static const ElementTable table(ruleTable());
     return table;
 }
 

@@ -13,6 +13,10 @@ std::string componentTitle(std::size_t place, ComponentKind kind) {
     return std::to_string(place) + ". " + std::string(componentKindWord(kind));
 }
 
+std::string componentName(std::size_t place, ComponentKind kind) {
+    return std::string(componentKindWord(kind)) + " " + std::to_string(place);
+}
+
 std::string componentLine(std::size_t place, const ComponentRecord& component) {
     std::string line = componentTitle(place, component.kind);
     if (!component.crew.empty()) {

@@ -71,6 +71,7 @@ constexpr auto Jobs = std::to_array<std::string_view>({
     "JOB_SQUAD_ASSISTANT_LEADER",
     "JOB_SQUAD_MG_ASSISTANT",
 });
+constexpr std::size_t SquadJobCount = 3; ///< at the end of the list
 
 constexpr auto Nationalities = std::to_array<std::string_view>({
     "NATIONALITY_AMERICAN",    "NATIONALITY_ARMENIA",      "NATIONALITY_ARMENIAN",
@@ -164,6 +165,10 @@ std::span<const std::string_view> jobNames() {
     return Jobs;
 }
 
+std::span<const std::string_view> squadJobNames() {
+    return std::span<const std::string_view>(Jobs).last<SquadJobCount>();
+}
+
 std::span<const std::string_view> nationalityNames() {
     return Nationalities;
 }
@@ -214,7 +219,11 @@ std::string weaponWord(std::string_view weaponType) {
     if (weaponType.starts_with(WeaponPrefix)) {
         weaponType.remove_prefix(WeaponPrefix.size());
     }
-    // The kind of weapon reads as a word, its designation stays in capitals.
+    // The kind of weapon reads as a word where it is one and no abbreviation (SMG, MLRS), its designation
+    // stays in capitals.
+    constexpr std::size_t shortestWord = 4;
+    const std::string_view kind = weaponType.substr(0, weaponType.find('_'));
+    const bool isWord = kind.size() >= shortestWord && kind.find_first_of("AEIOU") != std::string_view::npos;
     std::string words;
     bool isKind = true;
     for (const char c : weaponType) {
@@ -222,7 +231,7 @@ std::string weaponWord(std::string_view weaponType) {
             isKind = false;
             words += ' ';
         } else {
-            const bool lower = isKind && !words.empty() && c >= 'A' && c <= 'Z' && weaponType.find('_') > 3;
+            const bool lower = isWord && isKind && !words.empty() && c >= 'A' && c <= 'Z';
             words += lower ? static_cast<char>(c - 'A' + 'a') : c;
         }
     }

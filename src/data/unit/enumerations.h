@@ -15,6 +15,8 @@ std::span<const std::string_view> qualityNames();
 std::span<const std::string_view> reliabilityNames();
 std::span<const std::string_view> steeringNames();
 std::span<const std::string_view> jobNames();
+/// The jobs that the files of squads on foot have; any other man of theirs is an ordinary one without a job.
+std::span<const std::string_view> squadJobNames();
 std::span<const std::string_view> mountNames();
 /// With the duplicate and misspelt ones that old files use.
 std::span<const std::string_view> nationalityNames();

@@ -1,5 +1,5 @@
 #pragma once
-// Where the game keeps its pictures, by what they show.
+// Where the game keeps its pictures, by what they show, and its sounds.
 
 #include <string_view>
 
@@ -14,10 +14,15 @@ inline constexpr std::string_view Profiles = "Images\\Units\\Vehicles\\Profiles\
 inline constexpr std::string_view Uniforms = "Images\\Uniforms\\";
 inline constexpr std::string_view Tracers = "Images\\Tracers\\";
 inline constexpr std::string_view StaticFlags = "Images\\Flags\\Static\\";
+inline constexpr std::string_view AnimatedFlags = "Images\\Flags\\Animated\\";
 
 } // namespace varrocade::image_folder
 
 namespace varrocade {
+
+inline constexpr std::string_view SoundFolder = "Sounds\\";
+/// Files name sounds without it.
+inline constexpr std::string_view SoundEnding = ".wav";
 
 /// A folder of pictures and what the names begin with that belong to a field.
 struct ImageSource {

@@ -161,8 +161,7 @@ std::vector<Finding> vehicleFindings(const VehicleRecord& vehicle) {
         }
     };
     const std::string vehiclePath = std::string(e::Vehicle) + ".";
-    add(revolutionsFinding(vehicle),
-        vehiclePath + std::string(e::Drive) + "." + std::string(e::Engine) + ".");
+    add(revolutionsFinding(vehicle), vehiclePath);
     forEachComponent(vehicle, [&](const ComponentRecord& component, const std::string& path) {
         for (const auto& rule : ComponentRules) {
             add(rule(component), path);

@@ -42,8 +42,7 @@ void writeSquadDescription(FileText& out, const SquadRecord& record) {
 
 /// An ordinary rifleman has no job line.
 bool hasJobLine(std::string_view job) {
-    constexpr std::array<std::string_view, 3> jobs = {"JOB_SQUAD_LEADER", "JOB_SQUAD_ASSISTANT_LEADER",
-                                                      "JOB_SQUAD_MG_ASSISTANT"};
+    const auto jobs = squadJobNames();
     return std::find(jobs.begin(), jobs.end(), job) != jobs.end();
 }
 

@@ -21,4 +21,19 @@ void copyToClipboard(HWND owner, const std::string& text) {
     CloseClipboard();
 }
 
+std::string clipboardText(HWND owner) {
+    std::string text;
+    if (OpenClipboard(owner) == FALSE) {
+        return text;
+    }
+    HANDLE memory = GetClipboardData(CF_TEXT);
+    if (const void* bytes = memory != nullptr ? GlobalLock(memory) : nullptr) {
+        const auto* begin = static_cast<const char*>(bytes);
+        text.assign(begin, strnlen(begin, GlobalSize(memory)));
+        GlobalUnlock(memory);
+    }
+    CloseClipboard();
+    return text;
+}
+
 } // namespace varrocade

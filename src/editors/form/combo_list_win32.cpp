@@ -3,12 +3,17 @@
 #include <commctrl.h>
 
 #include <array>
+#include <memory>
+#include <utility>
 
 namespace varrocade {
 
 namespace {
 
 constexpr UINT_PTR GuardId = 1;
+constexpr UINT_PTR TypingId = 2;
+/// The window property of an edit part that has both.
+constexpr const char* GuardedProperty = "Varrocade.Guarded";
 
 std::string windowText(HWND window) {
     std::string text(static_cast<std::size_t>(GetWindowTextLengthA(window)) + 1, '\0');
@@ -28,6 +33,75 @@ bool selectOwnEntry(HWND combo) {
         SendMessageA(combo, CB_SETCURSEL, static_cast<WPARAM>(own), 0);
     }
     return true;
+}
+
+/// What an edit part held before it was typed into, and what the typing has made of it. The edit's own memory
+/// is emptied with each new filling of the list.
+struct Typing {
+    std::string before;
+    std::string after;
+
+    [[nodiscard]] bool canUndo(HWND edit) const { return before != after && windowText(edit) == after; }
+};
+
+constexpr WPARAM ControlZ = 0x1A;
+
+bool mayType(UINT message, WPARAM parameter) {
+    return message == WM_CHAR || message == WM_PASTE || message == WM_CUT || message == WM_CLEAR ||
+           message == EM_REPLACESEL || (message == WM_KEYDOWN && parameter == VK_DELETE);
+}
+
+/// Typing that follows typing is taken back with it.
+void remember(Typing& typing, std::string before, std::string now) {
+    if (now == before || now == typing.after) {
+        return;
+    }
+    if (typing.after != before) {
+        typing.before = std::move(before);
+    }
+    typing.after = std::move(now);
+}
+
+/// As an edit does it: once more brings the typing back.
+void undoTyping(HWND edit, Typing& typing) {
+    if (!typing.canUndo(edit)) {
+        return;
+    }
+    std::swap(typing.before, typing.after);
+    HWND combo = GetParent(edit);
+    SetWindowTextA(combo, typing.after.c_str());
+    SendMessageA(edit, EM_SETSEL, typing.after.size(), static_cast<LPARAM>(typing.after.size()));
+    SendMessageA(GetParent(combo), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(combo), CBN_EDITCHANGE),
+                 reinterpret_cast<LPARAM>(combo));
+}
+
+LRESULT CALLBACK typingProcedure(HWND edit, UINT message, WPARAM parameter, LPARAM detail, UINT_PTR id,
+                                 DWORD_PTR data) {
+    // The system keeps an integer for it.
+    auto* typing = reinterpret_cast<Typing*>(data);
+    if (message == WM_NCDESTROY) {
+        const std::unique_ptr<Typing> last(typing);
+        RemovePropA(edit, GuardedProperty);
+        RemoveWindowSubclass(edit, typingProcedure, id);
+        return DefSubclassProc(edit, message, parameter, detail);
+    }
+    if (message == EM_CANUNDO) {
+        return typing->canUndo(edit) ? TRUE : FALSE;
+    }
+    if (message == EM_UNDO || message == WM_UNDO || (message == WM_CHAR && parameter == ControlZ)) {
+        undoTyping(edit, *typing);
+        return TRUE;
+    }
+    if (message == WM_SETFOCUS) {
+        *typing = {};
+    }
+    if (!mayType(message, parameter)) {
+        return DefSubclassProc(edit, message, parameter, detail);
+    }
+    std::string before = windowText(edit);
+    const LRESULT result = DefSubclassProc(edit, message, parameter, detail);
+    remember(*typing, std::move(before), windowText(edit));
+    return result;
 }
 
 LRESULT CALLBACK guardProcedure(HWND edit, UINT message, WPARAM parameter, LPARAM detail, UINT_PTR,
@@ -76,7 +150,13 @@ void replaceEntries(HWND combo, std::span<const std::string> entries) {
 }
 
 void guardText(HWND combo) {
-    SetWindowSubclass(GetWindow(combo, GW_CHILD), guardProcedure, GuardId, 0);
+    HWND edit = GetWindow(combo, GW_CHILD);
+    if (GetPropA(edit, GuardedProperty) == nullptr) {
+        SetPropA(edit, GuardedProperty, edit);
+        SetWindowSubclass(edit, guardProcedure, GuardId, 0);
+        SetWindowSubclass(edit, typingProcedure, TypingId,
+                          reinterpret_cast<DWORD_PTR>(std::make_unique<Typing>().release()));
+    }
 }
 
 } // namespace varrocade

@@ -19,7 +19,8 @@ bool isTypedInto(HWND control);
 void replaceEntries(HWND combo, std::span<const std::string> entries);
 
 /// From here on the arrow keys open a list that holds nothing like its text, instead of taking the list's
-/// first entry; the wheel leaves it alone.
+/// first entry; the wheel leaves it alone; Ctrl+Z takes back what was typed, though the list is filled anew
+/// meanwhile.
 void guardText(HWND combo);
 
 } // namespace varrocade

@@ -45,6 +45,9 @@ INT_PTR CALLBACK DialogFrame::frameProcedure(HWND dialog, UINT message, WPARAM p
 INT_PTR DialogFrame::handleMessage(UINT message, WPARAM parameter, LPARAM pointer) {
     switch (message) {
     case WM_INITDIALOG:
+        if (!title_.empty()) {
+            SetWindowTextA(dialog_, title_.c_str());
+        }
         placeBesideDrawing(dialog_);
         init();
         return TRUE;

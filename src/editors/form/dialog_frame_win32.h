@@ -9,6 +9,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace varrocade {
@@ -24,9 +25,9 @@ public:
     bool run(HWND owner);
 
 protected:
-    /// `caption` is of the boxes with refusals.
-    DialogFrame(int dialogTemplate, std::string_view caption)
-        : template_(dialogTemplate), caption_(caption) {}
+    /// `caption` is of the boxes with refusals, `title` of the window where it is not the template's.
+    DialogFrame(int dialogTemplate, std::string_view caption, std::string title = {})
+        : template_(dialogTemplate), caption_(caption), title_(std::move(title)) {}
 
     [[nodiscard]] HWND handle() const { return dialog_; }
     [[nodiscard]] DialogPort& port() { return *port_; }
@@ -66,6 +67,7 @@ private:
 
     int template_;
     std::string caption_;
+    std::string title_;
     std::vector<Button> buttons_;
     HWND dialog_ = nullptr;
     std::optional<DialogPort> port_;

@@ -6,6 +6,18 @@
 
 namespace varrocade {
 
+std::string onOneLine(std::string_view text) {
+    std::string line;
+    for (const char c : text) {
+        if (c == '\n') {
+            line += ' ';
+        } else if (c != '\r') {
+            line += c;
+        }
+    }
+    return line;
+}
+
 std::string notStoredText(std::span<const std::string> labels) {
     if (labels.empty()) {
         return {};

@@ -174,6 +174,18 @@ std::string unknownChoices(FormPort& port, const FormShape<Record>& shape, const
     return names;
 }
 
+/// Names the controls whose values a file does not store of what this holds, or empty.
+template <typename Record>
+std::string notStoredText(const FormShape<Record>& shape, Holder holder) {
+    std::vector<std::string> labels;
+    for (const FormRow<Record>& row : shape.rows) {
+        if (row.terms.kinds.has(holder) && !row.field->isStoredBy(holder)) {
+            labels.push_back(row.label());
+        }
+    }
+    return notStoredText(labels);
+}
+
 /// Names the controls whose values the record's file does not store, or empty.
 template <typename Record>
 std::string notStoredText(const FormShape<Record>& shape, const Record& record) {

@@ -7,7 +7,7 @@
 namespace varrocade {
 
 FormDialog::FormDialog(FormDialogTerms terms, FormModel& form)
-    : DialogFrame(terms.dialogTemplate, terms.caption), terms_(std::move(terms)), form_(form) {}
+    : DialogFrame(terms.dialogTemplate, terms.caption, terms.title), terms_(std::move(terms)), form_(form) {}
 
 void FormDialog::init() {
     isFilling_ = true;
@@ -59,6 +59,7 @@ bool FormDialog::notice(int control, int notification) {
     keepKeyboard(handle(), former, IDOK);
     form_.mark(port(), control);
     followForm();
+    preview();
     return true;
 }
 

@@ -17,6 +17,7 @@ struct FormDialogTerms {
     /// Tells the undo history of what OK took over, and under which name; none where the caller does.
     void (*changed)(std::string_view what) = nullptr;
     std::string undoName = {};
+    std::string title = {}; ///< of the window, where it is not the template's
 };
 
 /// A dialog that shows one record in a form: a template, a table of rows, and the dialog's own rules. OK
@@ -32,6 +33,8 @@ protected:
     virtual void prepare() {}
     /// Follows the form after it was filled or changed by the user.
     virtual void follow() {}
+    /// Shows the present state elsewhere, after every change of the user's.
+    virtual void preview() {}
 
     /// Shows the record anew.
     void show();

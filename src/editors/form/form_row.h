@@ -3,7 +3,7 @@
 // serves both directions: what fills the control, enables it and offers its choices reads it back and refuses
 // it.
 
-#include "editors/form/codec.h"
+#include "data/codec.h"
 #include "editors/form/form_port.h"
 
 #include <string>

@@ -37,8 +37,12 @@ void measureLines(HWND box, const ListModel& model) {
 } // namespace
 
 ListDialog::ListDialog(const ListDialogTerms& terms, ListModel& model)
-    : DialogFrame(terms.dialogTemplate, terms.caption), terms_(terms), model_(model) {
-    onButton(IDC_ENTRY_ADD, [this] { addEntry(nullptr); });
+    : DialogFrame(terms.dialogTemplate, terms.caption, terms.title), terms_(terms), model_(model) {
+    onButton(IDC_ENTRY_ADD, [this] {
+        if (addEntry(nullptr)) {
+            focusFirstField();
+        }
+    });
     onButton(IDC_ENTRY_COPY, [this] { addEntry(&ListModel::copy); });
     onButton(IDC_ENTRY_MIRROR, [this] { addEntry(&ListModel::mirror); });
     onButton(IDC_ENTRY_DELETE, [this] { deleteEntry(); });
@@ -110,17 +114,26 @@ void ListDialog::followTyping(int control) {
     preview();
 }
 
-void ListDialog::addEntry(void (ListModel::*how)(std::size_t)) {
+bool ListDialog::addEntry(void (ListModel::*how)(std::size_t)) {
     if (!takeShown() || !hasRoom()) {
-        return;
+        return false;
     }
     if (how == nullptr) {
         model_.add();
     } else {
         (model_.*how)(shownIndex());
     }
-    refresh(lastIndex());
+    refresh(static_cast<int>(model_.newest()));
     preview();
+    return true;
+}
+
+/// What is added waits to be filled in.
+void ListDialog::focusFirstField() {
+    HWND first = GetDlgItem(handle(), model_.firstControl());
+    if (first != nullptr && IsWindowEnabled(first) != FALSE) {
+        port().focus(model_.firstControl());
+    }
 }
 
 void ListDialog::deleteEntry() {

@@ -18,6 +18,7 @@ struct ListDialogTerms {
     std::string_view fullCaption = {};
     std::size_t first = 0;                        ///< the entry to begin with
     std::span<const std::string> imageBases = {}; ///< the folders that pictures are offered from
+    std::string title = {};                       ///< of the window, where it is not the template's
 };
 
 /// A dialog with a list, the buttons that change it, and a form for the chosen entry. The controls have the
@@ -61,7 +62,8 @@ private:
     void followForm();
     void updateButtons();
     void followTyping(int control);
-    void addEntry(void (ListModel::*how)(std::size_t));
+    bool addEntry(void (ListModel::*how)(std::size_t));
+    void focusFirstField();
     void deleteEntry();
     void moveEntry(int step);
     void chooseEntry();

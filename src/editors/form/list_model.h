@@ -31,6 +31,10 @@ public:
     virtual void add() = 0;
     virtual void copy(std::size_t index) = 0;
     virtual void mirror(std::size_t index) = 0;
+    /// Where the entry stands that was made last.
+    [[nodiscard]] virtual std::size_t newest() const { return count() - 1; }
+    /// The form's first control, or 0.
+    [[nodiscard]] virtual int firstControl() const { return 0; }
     virtual void erase(std::size_t index) = 0;
     virtual void swap(std::size_t index, std::size_t other) = 0;
     /// Disables the form as a whole, while there is no entry to show.
@@ -62,7 +66,8 @@ struct ListShape {
 template <typename Entry>
 struct ListSurroundings {
     std::function<Entry()> next; ///< a new entry, where it is not the shape's blank
-    std::function<std::string(const Entry& entry)> warn = {}; ///< what is wrong with an entry, or empty
+    std::function<std::string(const Entry& entry)> warn = {};  ///< what is wrong with an entry, or empty
+    std::function<std::size_t(const Entry& entry)> place = {}; ///< of a new entry, where it is not the end
 };
 
 /// The entries of a vector.
@@ -98,12 +103,16 @@ public:
         entries_[index] = std::move(read);
         return std::nullopt;
     }
-    void add() override { append(surroundings_.next != nullptr ? surroundings_.next() : shape_.blank); }
-    void copy(std::size_t index) override { append(entries_[index]); }
+    void add() override { insert(surroundings_.next != nullptr ? surroundings_.next() : shape_.blank); }
+    void copy(std::size_t index) override { insert(entries_[index]); }
     void mirror(std::size_t index) override {
         Entry twin = entries_[index];
         shape_.mirror(twin);
-        append(std::move(twin));
+        insert(std::move(twin));
+    }
+    [[nodiscard]] std::size_t newest() const override { return newest_; }
+    [[nodiscard]] int firstControl() const override {
+        return shape_.form.rows.empty() ? 0 : shape_.form.rows.front().control;
     }
     void erase(std::size_t index) override {
         const auto place = static_cast<std::ptrdiff_t>(index);
@@ -133,16 +142,20 @@ public:
         return unknownChoices(port, shape_.form, entries_[index]);
     }
 
-private:
-    void append(Entry entry) {
-        entries_.push_back(std::move(entry));
-        isNew_.push_back(1);
+    /// Puts in a new entry where it belongs.
+    void insert(Entry entry) {
+        newest_ = surroundings_.place != nullptr ? surroundings_.place(entry) : entries_.size();
+        const auto place = static_cast<std::ptrdiff_t>(newest_);
+        entries_.insert(entries_.begin() + place, std::move(entry));
+        isNew_.insert(isNew_.begin() + place, 1);
     }
 
+private:
     std::vector<Entry>& entries_;
     const ListShape<Entry>& shape_;
     ListSurroundings<Entry> surroundings_;
     std::vector<char> isNew_; ///< whether the dialog made the entry
+    std::size_t newest_ = 0;
 };
 
 } // namespace varrocade

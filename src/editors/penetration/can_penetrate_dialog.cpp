@@ -23,11 +23,11 @@ namespace varrocade {
 namespace {
 
 constexpr std::array<TableColumn, PlateRangeHeads.size()> PlateRangeColumns = {{
-    {PlateRangeHeads[0], 86},
+    {PlateRangeHeads[0], 108},
     {PlateRangeHeads[1], 74},
     {PlateRangeHeads[2], 70, true},
     {PlateRangeHeads[3], 44, true},
-    {PlateRangeHeads[4], 92},
+    {PlateRangeHeads[4], 96},
 }};
 
 struct CanPenetrateDialog {
@@ -121,7 +121,8 @@ void showDrag(HWND dialog, CanPenetrateDialog& context) {
     } else {
         const auto place = static_cast<std::size_t>(dragClassOf(ammo->flavour));
         port.setText(IDC_SHOT_DRAG, context.shot.drags[place]);
-        port.setText(IDC_SHOT_DRAG_CLASS, "for " + std::string(dragClasses()[place].name));
+        port.setText(IDC_SHOT_DRAG_CLASS,
+                     "% of the velocity over 1,000 m, for " + std::string(dragClasses()[place].name));
     }
     context.isFilling = false;
 }
@@ -221,7 +222,7 @@ void paintLegend(HDC device, const RECT& area, const DrawingObjects& drawing) {
         const GdiObject<HBRUSH> brush(CreateSolidBrush(isBand ? BandColours[i] : NoPlateColour));
         const Selection selected(device, brush.get());
         Rectangle(device, x, y, x + row, y + row - drawing.scaled(3));
-        const std::string words(isBand ? bands[i].name : "no plate");
+        const std::string words(isBand ? bands[i].name : "top, or no plate");
         TextOutA(device, x + row + drawing.scaled(4), y - 1, words.data(), static_cast<int>(words.size()));
     }
 }

@@ -8,6 +8,7 @@
 #include <windows.h>
 
 #include <cstddef>
+#include <string>
 
 namespace varrocade {
 
@@ -19,6 +20,7 @@ struct PenetrationTools {
     const DrawingObjects& drawing;
     GameFolders folders;                   ///< of the vehicles
     const SquadRecord* openUnit = nullptr; ///< counts as it is in the window, saved or not
+    std::string weapon = {};               ///< the name of the one that is open or selected, or empty
 };
 
 /// What is shot.

@@ -68,7 +68,9 @@ ChartPlaces placesOf(const RECT& area, const PenetrationChart& chart, const Draw
     const int legendHeight = (places.rows + 1) * drawing.scaled(LegendRowHeight);
     places.legend = {area.left + margin, area.bottom - legendHeight - margin / 2, area.right - margin,
                      area.bottom - margin / 2};
-    places.plot = {area.left + drawing.scaled(LeftMargin), area.top + 2 * margin, area.right - 2 * margin,
+    // The axis has its unit above it.
+    const int unitHeight = drawing.scaled(AxisText) * 3 / 2;
+    places.plot = {area.left + drawing.scaled(LeftMargin), area.top + unitHeight + 2, area.right - 2 * margin,
                    places.legend.top - drawing.scaled(AxisText) - margin / 2};
     places.axis = chartAxis(greatestValue(chart), MostSteps);
     return places;

@@ -110,8 +110,8 @@ void fillDialog(HWND dialog, PenetrationDialog& context) {
     port.setChoices(IDC_PEN_WEAPON, penetrationWeapons(context.tools.catalogue));
     fillPenetrationDefaults(port);
     context.isFilling = false;
-    SendDlgItemMessageA(dialog, IDC_PEN_WEAPON, CB_SETCURSEL, firstPenetrationWeapon(context.tools.catalogue),
-                        0);
+    SendDlgItemMessageA(dialog, IDC_PEN_WEAPON, CB_SETCURSEL,
+                        firstPenetrationWeapon(context.tools.catalogue, context.tools.weapon), 0);
     SetWindowSubclass(GetDlgItem(dialog, IDC_CURVES), curvesProcedure, 0,
                       reinterpret_cast<DWORD_PTR>(&context));
     chooseWeapon(dialog, context);

@@ -51,10 +51,14 @@ std::vector<std::string> penetrationWeapons(const WeaponCatalogue& catalogue) {
     return names;
 }
 
-std::size_t firstPenetrationWeapon(const WeaponCatalogue& catalogue) {
+std::size_t firstPenetrationWeapon(const WeaponCatalogue& catalogue, std::string_view name) {
     const auto& entries = catalogue.entries();
-    const auto first = std::find_if(entries.begin(), entries.end(), [](const CatalogueEntry& entry) {
-        return equalsIgnoringCase(entry.weapon.fileName, FirstPenetrationWeapon);
+    const WeaponRecord* wanted = catalogue.find(name);
+    if (wanted == nullptr) {
+        wanted = catalogue.find(FirstPenetrationWeapon);
+    }
+    const auto first = std::find_if(entries.begin(), entries.end(), [wanted](const CatalogueEntry& entry) {
+        return &entry.weapon == wanted;
     });
     return first == entries.end() ? 0 : static_cast<std::size_t>(first - entries.begin());
 }

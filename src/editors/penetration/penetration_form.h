@@ -13,14 +13,14 @@
 
 namespace varrocade {
 
-/// The weapon that the dialog begins with, where there is one of this name.
+/// The weapon that the dialog begins with where none is open or selected.
 inline constexpr std::string_view FirstPenetrationWeapon = "WEAPON_CANNON_75_KWK42_L70";
 
 /// The file names of the weapons in the catalogue's order.
 std::vector<std::string> penetrationWeapons(const WeaponCatalogue& catalogue);
 
-/// The place of `FirstPenetrationWeapon`, or 0.
-std::size_t firstPenetrationWeapon(const WeaponCatalogue& catalogue);
+/// The place of the weapon of a name; where there is none, that of `FirstPenetrationWeapon`, or 0.
+std::size_t firstPenetrationWeapon(const WeaponCatalogue& catalogue, std::string_view name = {});
 
 /// The ammunition types of a weapon as the list shows them, in file order.
 std::vector<std::string> shellTypes(const WeaponRecord& weapon);

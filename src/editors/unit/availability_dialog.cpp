@@ -1,6 +1,7 @@
 #include "editors/unit/availability_dialog.h"
 
 #include "editors/form/list_dialog_win32.h"
+#include "editors/unit/availability_edit.h"
 #include "editors/unit/unit_lists.h"
 #include "resources/resource.h"
 #include "view/painting/timeline_painter_win32.h"
@@ -9,13 +10,15 @@
 #include <windowsx.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <optional>
 
 namespace varrocade {
 
 namespace {
 
-constexpr int Reach = 8;
+constexpr int Reach = 8;  // pixels at 96 dpi, as the other
+constexpr int Jitter = 3; // of a hand that moves to the side
 
 class AvailabilityDialog final : public ListDialog {
 public:
@@ -26,7 +29,10 @@ public:
                       .fullText = "There are already 255 dates, the most that the game counts",
                       .fullCaption = "Availability"},
                      model_),
-          points_(points), drawing_(drawing), model_(points, availabilityShape()) {
+          points_(points), drawing_(drawing),
+          model_(points, availabilityShape(),
+                 {.next = [this] { return nextDate(points_); },
+                  .place = [this](const AvailabilityPoint& added) { return placeOfDate(points_, added); }}) {
         onButton(IDC_ENTRY_SORT, [this] { sort(); });
     }
 
@@ -43,6 +49,10 @@ private:
     [[nodiscard]] HWND timeline() const { return GetDlgItem(handle(), IDC_TIMELINE); }
     [[nodiscard]] TimelineScale scale() const;
     [[nodiscard]] std::optional<std::size_t> pointNear(int x, int y) const;
+    /// A number that the mouse has found: a round one, unless Shift is held.
+    [[nodiscard]] std::uint16_t chosenNumber(std::uint16_t number) const {
+        return GetKeyState(VK_SHIFT) < 0 ? number : roundNumber(number, dragScale_.greatest);
+    }
     void repaintTimeline() const { InvalidateRect(timeline(), nullptr, FALSE); }
 
     void sort();
@@ -58,13 +68,20 @@ private:
     const DrawingObjects& drawing_;
     VectorListModel<AvailabilityPoint> model_;
     std::optional<std::size_t> dragged_;
-    TimelineScale dragScale_ = {}; ///< stays as it was when the dragging began
+    TimelineScale dragScale_ = {};   ///< stays as it was when the dragging began
+    AvailabilityPoint grabbed_ = {}; ///< the dragged point as it was then
+    POINT grip_{};                   ///< where the mouse took hold of it
 };
 
 TimelineScale AvailabilityDialog::scale() const {
     RECT area{};
     GetClientRect(timeline(), &area);
-    return timelineScaleIn(area, points_, drawing_);
+    TimelineScale scale = timelineScaleIn(area, points_, drawing_);
+    const bool isEmpty = std::all_of(points_.begin(), points_.end(),
+                                     [](const AvailabilityPoint& point) { return point.number == 0; });
+    // Numbers that would be 0 or 1 wherever the mouse is.
+    scale.greatest = isEmpty ? FirstNumberOfUnits : scale.greatest;
+    return scale;
 }
 
 std::optional<std::size_t> AvailabilityDialog::pointNear(int x, int y) const {
@@ -88,14 +105,26 @@ void AvailabilityDialog::beginDragging(int x, int y) {
     dragScale_ = scale();
     dragged_ = pointNear(x, y);
     if (dragged_) {
+        grabbed_ = points_[*dragged_];
+        grip_ = {x, y};
         SetCapture(timeline());
         refresh(static_cast<int>(*dragged_));
     }
 }
 
+/// The corner moves as far as the mouse does. A number that is not meant stays, another one is round unless
+/// Shift is held.
 void AvailabilityDialog::drag(int x, int y) {
     if (dragged_) {
-        points_[*dragged_] = dragScale_.pointAt(x, y);
+        AvailabilityPoint to =
+            dragScale_.pointAt(dragScale_.xOf(grabbed_.year, std::max<int>(1, grabbed_.month)) + x - grip_.x,
+                               dragScale_.yOf(grabbed_.number) + y - grip_.y);
+        if (std::abs(y - grip_.y) <= drawing_.scaled(Jitter)) {
+            to.number = grabbed_.number;
+        } else {
+            to.number = chosenNumber(to.number);
+        }
+        points_[*dragged_] = to;
         refresh(static_cast<int>(*dragged_));
         repaintTimeline();
     }
@@ -110,8 +139,11 @@ void AvailabilityDialog::endDragging() {
 void AvailabilityDialog::addPointAt(int x, int y) {
     const TimelineScale former = scale();
     if (!pointNear(x, y) && takeShown() && hasRoom()) {
-        points_.push_back(former.pointAt(x, y));
-        refresh(static_cast<int>(points_.size()) - 1);
+        dragScale_ = former;
+        AvailabilityPoint added = former.pointAt(x, y);
+        added.number = chosenNumber(added.number);
+        model_.insert(added);
+        refresh(static_cast<int>(model_.newest()));
     }
 }
 
@@ -122,7 +154,7 @@ void AvailabilityDialog::deletePointAt(int x, int y) {
     if (!point || (!isShownPoint && !takeShown())) {
         return;
     }
-    points_.erase(points_.begin() + static_cast<std::ptrdiff_t>(*point));
+    model_.erase(*point);
     refresh(std::min(static_cast<int>(*point), static_cast<int>(points_.size()) - 1));
 }
 

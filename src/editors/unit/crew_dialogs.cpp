@@ -18,7 +18,8 @@ public:
                       .caption = "Crew",
                       .fullText = TooManyComponentsText,
                       .fullCaption = SquadFullCaption,
-                      .first = edit.firstShown},
+                      .first = edit.firstShown,
+                      .title = captionOf(edit, "crew")},
                      model_),
           edit_(edit), kind_(kind), crew_(crew), model_(crew, crewShape()) {
         onButton(IDC_MAN_WEAPONS_BUTTON, [this] { editMan(editPersonalWeapons); });
@@ -37,7 +38,11 @@ private:
     }
     void editMan(bool (*edit)(HWND, EditContext&, CrewManRecord&)) {
         if (isShown() && takeShown()) {
-            edit(handle(), edit_, crew_[shownIndex()]);
+            EditContext ofMan = edit_;
+            if (!ofMan.subject.empty()) {
+                ofMan.subject += ", man " + std::to_string(shownIndex() + 1);
+            }
+            edit(handle(), ofMan, crew_[shownIndex()]);
             refreshShown();
         }
     }
@@ -51,7 +56,10 @@ private:
 class PersonalWeaponsDialog final : public ListDialog {
 public:
     PersonalWeaponsDialog(EditContext& edit, ListModel& model)
-        : ListDialog({.dialogTemplate = IDD_PERSONAL_WEAPONS, .caption = "Personal Weapons"}, model),
+        : ListDialog({.dialogTemplate = IDD_PERSONAL_WEAPONS,
+                      .caption = "Personal Weapons",
+                      .title = captionOf(edit, "personal weapons")},
+                     model),
           edit_(edit) {
         onButton(IDC_SHOW_ALL, [this] { prepare(); });
     }

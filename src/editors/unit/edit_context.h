@@ -12,6 +12,7 @@
 namespace varrocade {
 
 struct DrawingObjects;
+class PictureCache;
 
 /// What every editor of the open unit works with.
 struct EditContext {
@@ -28,6 +29,16 @@ struct EditContext {
     void (*changed)(std::string_view what);
     /// Which entry a dialog that is a list begins with.
     std::size_t firstShown = 0;
+    /// What the dialog's entries belong to, for its caption: "Turret 2". Empty where the dialog's own says
+    /// it.
+    std::string subject = {};
+    /// The pictures of the drawing, for dialogs that show some themselves.
+    PictureCache* pictures = nullptr;
 };
+
+/// The caption of a dialog that edits something of the subject: "Turret 2: crew". Empty without one.
+inline std::string captionOf(const EditContext& edit, std::string_view what) {
+    return edit.subject.empty() ? std::string() : edit.subject + ": " + std::string(what);
+}
 
 } // namespace varrocade

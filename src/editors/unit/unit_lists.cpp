@@ -38,8 +38,8 @@ std::string exhaustLine(std::size_t place, const ExhaustPipeRecord& pipe) {
 
 void mirrorExhaust(ExhaustPipeRecord& pipe) {
     constexpr std::int32_t fullCircle = 360;
-    pipe.offsetX = -pipe.offsetX;
-    pipe.angle = (fullCircle - pipe.angle) % fullCircle;
+    pipe.offsetX = mirrored(pipe.offsetX);
+    pipe.angle = (fullCircle - pipe.angle % fullCircle) % fullCircle;
 }
 
 // ---- smoke dischargers
@@ -85,8 +85,8 @@ std::string dischargerLine(std::size_t place, const Discharger& discharger) {
 }
 
 void mirrorDischarger(Discharger& discharger) {
-    discharger.offsetX = -discharger.offsetX;
-    discharger.angle = -discharger.angle;
+    discharger.offsetX = mirrored(discharger.offsetX);
+    discharger.angle = mirrored(discharger.angle);
 }
 
 /// What the check boxes switch off is not kept.
@@ -137,6 +137,12 @@ constexpr auto WeaponRows = std::to_array<FormRow<WeaponMountRecord>>({
 
 std::string weaponLine(std::size_t place, const WeaponMountRecord& weapon) {
     return numbered(place, weapon.type.empty() ? "(no weapon)" : weaponWord(weapon.type));
+}
+
+/// To the other wing, or the other side of a turret.
+void mirrorWeapon(WeaponMountRecord& weapon) {
+    weapon.offsetX = -weapon.offsetX;
+    weapon.offsetAngle = -weapon.offsetAngle;
 }
 
 constexpr auto PersonalWeaponType =
@@ -214,8 +220,10 @@ const ListShape<CrewManRecord>& crewShape() {
 }
 
 const ListShape<WeaponMountRecord>& weaponShape() {
-    static const ListShape<WeaponMountRecord> shape{
-        .form = {.rows = WeaponRows}, .line = weaponLine, .incomplete = withoutWeapon};
+    static const ListShape<WeaponMountRecord> shape{.form = {.rows = WeaponRows},
+                                                    .line = weaponLine,
+                                                    .mirror = mirrorWeapon,
+                                                    .incomplete = withoutWeapon};
     return shape;
 }
 
@@ -233,11 +241,14 @@ const ListShape<AmmoLoadRecord>& ammunitionShape() {
 }
 
 const ListShape<AvailabilityPoint>& availabilityShape() {
-    static const ListShape<AvailabilityPoint> shape{.form = {.rows = AvailabilityRows},
-                                                    .line = availabilityLine,
-                                                    .most = MaxAvailabilityPoints,
-                                                    .blank = {.month = 1, .year = 1940, .number = 100}};
+    static const ListShape<AvailabilityPoint> shape{
+        .form = {.rows = AvailabilityRows}, .line = availabilityLine, .most = MaxAvailabilityPoints};
     return shape;
+}
+
+std::int32_t mirrored(std::int32_t value) {
+    // The least number of a file has no counterpart.
+    return value == INT32_MIN ? INT32_MAX : -value;
 }
 
 void sortByDate(std::vector<AvailabilityPoint>& points) {

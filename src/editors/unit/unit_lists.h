@@ -6,6 +6,8 @@
 
 #include "data/unit/unit_record.h"
 
+#include <cstdint>
+
 namespace varrocade {
 
 /// A personal weapon as a list entry.
@@ -21,6 +23,9 @@ const ListShape<WeaponMountRecord>& weaponShape();
 const ListShape<PersonalWeapon>& personalWeaponShape();
 const ListShape<AmmoLoadRecord>& ammunitionShape();
 const ListShape<AvailabilityPoint>& availabilityShape();
+
+/// An offset to the right or an angle, seen in a mirror that stands along the vehicle.
+std::int32_t mirrored(std::int32_t value);
 
 /// Brings points into the order of their dates; equal dates keep theirs.
 void sortByDate(std::vector<AvailabilityPoint>& points);

@@ -12,17 +12,23 @@
 
 namespace varrocade {
 
-/// The eras that the catalogue's period texts name, which a unit belongs to by its first availability date:
-/// up to 1919 "WW1", up to 1945 "WW2", up to 1991 "Cold War", then "Modern". Empty for a unit without dates.
-std::string_view periodOf(const SquadRecord& record);
+/// The eras that the catalogue's period texts name and in which there are such units, by their availability:
+/// up to 1919 "WW1", up to 1945 "WW2", up to 1991 "Cold War", then "Modern". The last date counts for its own
+/// month, whatever comes after. Empty for a unit without dates.
+std::vector<std::string_view> periodsOf(const SquadRecord& record);
+
+/// The last year of the era that a year belongs to; of the present one there is no last.
+int lastYearOfEra(int year);
 
 /// All of them, in the order of time.
 std::vector<std::string> knownPeriods();
 
-/// What carries a weapon, which decides the weapon types that its list offers.
-enum class WeaponBearer : std::uint8_t { Man, Vehicle };
+/// What carries a weapon, which decides the weapon types that its list offers. A thrower is whoever throws
+/// grenades.
+enum class WeaponBearer : std::uint8_t { Man, Vehicle, HeavyWeapon, Aircraft, Thrower };
 
-/// The names of the weapons that a bearer in a unit of this nationality and period uses, or of all weapons.
+/// The names of the weapons that a bearer in a unit of this nationality and its periods uses, or of all
+/// weapons.
 std::vector<std::string> weaponChoices(const WeaponCatalogue& catalogue, const SquadRecord& record,
                                        WeaponBearer bearer, bool all);
 

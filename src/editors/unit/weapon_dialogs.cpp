@@ -8,9 +8,14 @@
 #include "platform/messages.h"
 #include "resources/resource.h"
 
+#include <utility>
+
 namespace varrocade {
 
 namespace {
+
+bool editAmmunition(HWND owner, EditContext& edit, std::vector<std::string> weaponTypes, bool hasFlavour,
+                    std::vector<AmmoLoadRecord>& ammo);
 
 /// What the files cannot hold of the weapons of this kind of component.
 std::string_view notStoredOf(ComponentKind kind) {
@@ -26,29 +31,42 @@ std::string_view notStoredOf(ComponentKind kind) {
     return "The weapons of this component are not stored in the file.";
 }
 
+/// What the dialog of weapons goes by besides the weapons.
+struct WeaponsTerms {
+    WeaponBearer bearer = WeaponBearer::Vehicle;
+    std::string notStored = {};
+    /// The weapons that the drawing shows, where they are not those that the dialog changes.
+    std::vector<WeaponMountRecord>* drawn = nullptr;
+};
+
 class WeaponsDialog final : public ListDialog {
 public:
-    /// `component` is the copy that the dialog works on.
-    WeaponsDialog(EditContext& edit, ComponentRecord& component)
-        : ListDialog({.dialogTemplate = IDD_WEAPONS, .caption = "Weapons", .first = edit.firstShown}, model_),
-          edit_(edit), component_(component), former_(component.weapons),
-          model_(component.weapons, weaponShape()) {
+    /// `weapons` and `ammo` are changed at once; the caller puts them back where the dialog is cancelled.
+    WeaponsDialog(EditContext& edit, std::vector<WeaponMountRecord>& weapons,
+                  std::vector<AmmoLoadRecord>& ammo, WeaponsTerms terms)
+        : ListDialog({.dialogTemplate = IDD_WEAPONS,
+                      .caption = "Weapons",
+                      .first = edit.firstShown,
+                      .title = captionOf(edit, "weapons")},
+                     model_),
+          edit_(edit), weapons_(weapons), ammo_(ammo), terms_(std::move(terms)), former_(weapons),
+          model_(weapons, weaponShape()) {
         onButton(IDC_SHOW_ALL, [this] { offerWeapons(); });
         onButton(IDC_AMMO_BUTTON, [this] {
             if (takeShown()) {
-                editComponentAmmunition(handle(), edit_, component_);
+                editAmmunition(handle(), edit_, weaponTypesOf(weapons_), true, ammo_);
             }
         });
     }
 
 private:
     void offerWeapons() {
-        port().setChoices(IDC_WEAPON_TYPE, weaponChoices(edit_.catalogue, edit_.record, WeaponBearer::Vehicle,
+        port().setChoices(IDC_WEAPON_TYPE, weaponChoices(edit_.catalogue, edit_.record, terms_.bearer,
                                                          port().isChecked(IDC_SHOW_ALL)));
     }
     void prepare() override {
         offerWeapons();
-        port().setText(IDC_NOT_STORED, notStoredOf(component_.kind));
+        port().setText(IDC_NOT_STORED, terms_.notStored);
     }
     std::string unknownText() override {
         std::string unknown = unknownWeapon(port().text(IDC_WEAPON_TYPE), edit_.catalogue);
@@ -56,14 +74,20 @@ private:
         unknown += (unknown.empty() || unknownMount.empty() ? "" : "; ") + unknownMount;
         return unknown;
     }
+    void preview() override {
+        if (terms_.drawn != nullptr) {
+            *terms_.drawn = weapons_;
+        }
+        edit_.redraw();
+    }
 
     /// Ammunition does not stay behind unasked.
     bool accept() override {
         if (!ListDialog::accept()) {
             return false;
         }
-        std::vector<AmmoLoadRecord> ammo = component_.ammo;
-        for (const OrphanedAmmo& orphan : orphanedAmmo(former_, component_.weapons, ammo)) {
+        std::vector<AmmoLoadRecord> ammo = ammo_;
+        for (const OrphanedAmmo& orphan : orphanedAmmo(former_, weapons_, ammo)) {
             const Answer answer = showMessage({.text = orphanQuestion(orphan),
                                                .caption = caption(),
                                                .buttons = MessageButtons::YesNoCancel,
@@ -73,12 +97,14 @@ private:
             }
             settleOrphan(orphan, answer == Answer::Yes, ammo);
         }
-        component_.ammo = std::move(ammo);
+        ammo_ = std::move(ammo);
         return true;
     }
 
     EditContext& edit_;
-    ComponentRecord& component_;
+    std::vector<WeaponMountRecord>& weapons_;
+    std::vector<AmmoLoadRecord>& ammo_;
+    WeaponsTerms terms_;
     std::vector<WeaponMountRecord> former_;
     VectorListModel<WeaponMountRecord> model_;
 };
@@ -89,8 +115,11 @@ public:
     /// on.
     AmmunitionDialog(EditContext& edit, std::vector<std::string> weaponTypes, bool hasFlavour,
                      std::vector<AmmoLoadRecord>& ammo)
-        : ListDialog({.dialogTemplate = IDD_AMMUNITION, .caption = "Ammunition"}, model_), edit_(edit),
-          weaponTypes_(std::move(weaponTypes)), hasFlavour_(hasFlavour), ammo_(ammo),
+        : ListDialog({.dialogTemplate = IDD_AMMUNITION,
+                      .caption = "Ammunition",
+                      .title = captionOf(edit, "ammunition")},
+                     model_),
+          edit_(edit), weaponTypes_(std::move(weaponTypes)), hasFlavour_(hasFlavour), ammo_(ammo),
           model_(
               ammo, ammunitionShape(),
               {.next = [this] { return nextAmmunition(weaponTypes_, ammo_, hasFlavour_, edit_.catalogue); },
@@ -146,12 +175,44 @@ bool editAmmunition(HWND owner, EditContext& edit, std::vector<std::string> weap
 } // namespace
 
 bool editWeapons(HWND owner, EditContext& edit, ComponentRecord& component) {
+    const ComponentRecord former = component;
     ComponentRecord copy = component;
-    if (!WeaponsDialog(edit, copy).run(owner) || copy == component) {
+    WeaponsDialog dialog(
+        edit, copy.weapons, copy.ammo,
+        {.notStored = std::string(notStoredOf(component.kind)), .drawn = &component.weapons});
+    if (!dialog.run(owner)) {
+        component = former;
+        edit.redraw();
         return false;
     }
     component = std::move(copy);
-    return true;
+    return component != former;
+}
+
+bool editArmament(HWND owner, EditContext& edit, const Armament& armament) {
+    const std::vector<WeaponMountRecord> weapons = armament.weapons;
+    const std::vector<AmmoLoadRecord> ammo = armament.ammo;
+    WeaponsDialog dialog(
+        edit, armament.weapons, armament.ammo,
+        {.bearer = armament.bearer, .notStored = notStoredText(weaponShape().form, armament.holder)});
+    if (dialog.run(owner)) {
+        return weapons != armament.weapons || ammo != armament.ammo;
+    }
+    armament.weapons = weapons;
+    armament.ammo = ammo;
+    edit.redraw();
+    return false;
+}
+
+bool editArmamentAmmunition(HWND owner, EditContext& edit, const Armament& armament) {
+    const std::vector<AmmoLoadRecord> former = armament.ammo;
+    return editAmmunition(owner, edit, weaponTypesOf(armament.weapons), true, armament.ammo) &&
+           former != armament.ammo;
+}
+
+bool editSoldierAmmunition(HWND owner, EditContext& edit, CrewManRecord& man,
+                           std::vector<std::string> weaponTypes) {
+    return editAmmunition(owner, edit, std::move(weaponTypes), true, man.ammo);
 }
 
 bool editComponentAmmunition(HWND owner, EditContext& edit, ComponentRecord& component) {

@@ -40,12 +40,17 @@ constexpr auto ButtonTips = std::to_array<Tip>({
     {IDC_SIDES_ALIKE, "Makes all four side plates, upper and lower, as the upper left one"},
 });
 
+/// Shown for turrets alone.
+constexpr std::array<int, 4> MantletControls = {IDC_MANTLET_LABEL, IDC_MANTLET, IDC_MANTLET_UNIT,
+                                                IDC_MANTLET_GIVEN};
+
 class ArmourDialog final : public FormDialog {
 public:
     /// `component` is the copy that the dialog works on: what the fields hold, as far as it can be taken.
-    ArmourDialog(const DrawingObjects& drawing, ComponentRecord& component)
-        : FormDialog({.dialogTemplate = IDD_ARMOUR, .caption = "Armour"}, form_), drawing_(drawing),
-          component_(component), form_(component, armourShape()) {
+    ArmourDialog(const EditContext& edit, ComponentRecord& component)
+        : FormDialog({.dialogTemplate = IDD_ARMOUR, .caption = "Armour", .title = captionOf(edit, "armour")},
+                     form_),
+          drawing_(edit.drawing), component_(component), form_(component, armourShape()) {
         onButton(IDC_MIRROR_ARMOUR, [this] { rearrange(mirrorLeftToRight); });
         onButton(IDC_SIDES_ALIKE, [this] { rearrange(makeSidesAlike); });
     }
@@ -53,6 +58,10 @@ public:
 private:
     void prepare() override {
         addTips(handle(), ButtonTips);
+        for (const int control : MantletControls) {
+            ShowWindow(GetDlgItem(handle(), control),
+                       component_.kind == ComponentKind::Turret ? SW_SHOWNA : SW_HIDE);
+        }
         if (component_.kind == ComponentKind::FixedWeapon) {
             port().setText(IDC_NOT_STORED, "The armour of a fixed weapon is not stored in the file.");
         }
@@ -79,7 +88,7 @@ private:
 
 bool editArmour(HWND owner, EditContext& edit, ComponentRecord& component) {
     ComponentRecord copy = component;
-    if (!ArmourDialog(edit.drawing, copy).run(owner) || copy.armour == component.armour) {
+    if (!ArmourDialog(edit, copy).run(owner) || copy.armour == component.armour) {
         return false;
     }
     component.armour = copy.armour;

@@ -67,7 +67,7 @@ constexpr auto ArmourRows = std::to_array<FormRow<Component>>({
     {IDC_MANTLET,
      OfArmour(),
      field::Mantlet,
-     {.changedBy = Holders::of(Holder::Turret), .givenBy = IDC_MANTLET_GIVEN}},
+     {.kinds = Holders::of(Holder::Turret), .givenBy = IDC_MANTLET_GIVEN}},
 });
 
 constexpr FormShape<Component> ArmourShape = {

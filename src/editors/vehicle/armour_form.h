@@ -9,7 +9,7 @@
 
 namespace varrocade {
 
-/// The armour's form; the component tells whether it can have a mantlet.
+/// The armour's form; the component tells whether it has a mantlet.
 const FormShape<ComponentRecord>& armourShape();
 
 /// As the dialog and the drawing show it: "58 mm", or "-" for a horizontal plate.

@@ -8,6 +8,7 @@
 #include "resources/resource.h"
 
 #include <array>
+#include <utility>
 
 namespace varrocade {
 
@@ -30,17 +31,17 @@ constexpr auto SubDialogs = std::to_array<SubDialog>({
 /// In the order of `ComponentKind`.
 constexpr std::array<int, 4> KindTemplates = {IDD_HULL, IDD_SUPERSTRUCTURE, IDD_TURRET, IDD_FIXED_WEAPON};
 
+/// The drawing shows the component, so what is typed stands in it at once; Cancel puts back what the dialog
+/// itself has changed.
 class ComponentDialog final : public FormDialog {
 public:
-    /// `title` names the component in captions and in the list of changes.
+    /// `title` names the component in the caption line and in the list of changes.
     ComponentDialog(EditContext& edit, ComponentRecord& component, const std::string& title)
         : FormDialog({.dialogTemplate = KindTemplates[static_cast<std::size_t>(component.kind)],
                       .caption = ComponentRefusalCaption,
-                      .imageBases = edit.imageBases,
-                      .changed = edit.changed,
-                      .undoName = "Edit " + title},
+                      .imageBases = edit.imageBases},
                      form_),
-          edit_(edit), component_(component), title_(title), form_(component, componentShape()) {
+          edit_(edit), component_(component), own_(component), title_(title), form_(own_, componentShape()) {
         for (const SubDialog& sub : SubDialogs) {
             onButton(sub.control, [this, &sub] { open(sub); });
         }
@@ -53,16 +54,32 @@ private:
             port().setText(IDC_NOT_STORED, form_.notStored());
         }
     }
+    void preview() override {
+        ComponentRecord typed = own_;
+        readPossible(port(), componentShape(), typed);
+        takeOwnFields(component_, std::move(typed));
+        edit_.redraw();
+    }
+    bool accept() override {
+        if (!take()) {
+            return false;
+        }
+        takeOwnFields(component_, own_);
+        edit_.changed("Edit " + title_);
+        return true;
+    }
+    /// A step of the history holds what the button has opened, not what is only typed so far.
     void open(const SubDialog& sub) {
         if (sub.open(handle(), edit_, component_)) {
+            takeOwnFields(component_, own_);
             edit_.changed(sub.change + title_);
-        } else {
-            edit_.redraw();
         }
+        preview();
     }
 
     EditContext& edit_;
     ComponentRecord& component_;
+    ComponentRecord own_; ///< the fields of this dialog as they are without what is typed
     std::string title_;
     RecordForm<ComponentRecord> form_;
 };
@@ -71,7 +88,14 @@ private:
 
 bool editComponent(HWND owner, EditContext& edit, std::size_t index) {
     ComponentRecord& component = edit.record.vehicle->components[index];
-    return ComponentDialog(edit, component, componentTitle(index + 1, component.kind)).run(owner);
+    edit.subject = componentName(index + 1, component.kind);
+    const ComponentRecord former = component;
+    if (ComponentDialog(edit, component, componentTitle(index + 1, component.kind)).run(owner)) {
+        return true;
+    }
+    takeOwnFields(component, former);
+    edit.redraw();
+    return false;
 }
 
 } // namespace varrocade

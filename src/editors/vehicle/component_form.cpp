@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <utility>
 
 namespace varrocade {
 
@@ -112,6 +113,15 @@ constexpr FormShape<Component> Shape = {
 
 const FormShape<ComponentRecord>& componentShape() {
     return Shape;
+}
+
+void takeOwnFields(ComponentRecord& component, ComponentRecord own) {
+    own.armour = component.armour;
+    own.smokeDischargers = std::move(component.smokeDischargers);
+    own.crew = std::move(component.crew);
+    own.weapons = std::move(component.weapons);
+    own.ammo = std::move(component.ammo);
+    component = std::move(own);
 }
 
 std::string rotateSpeedText(std::int32_t rotateTime) {

@@ -14,6 +14,9 @@ namespace varrocade {
 /// The form of the four dialogs; the component's kind tells which rows are of its own.
 const FormShape<ComponentRecord>& componentShape();
 
+/// Gives a component all that its own dialog edits of `own`; what the dialogs behind its buttons edit stays.
+void takeOwnFields(ComponentRecord& component, ComponentRecord own);
+
 /// The caption of the boxes with refusals that have none of their own.
 inline constexpr std::string_view ComponentRefusalCaption = "Error";
 

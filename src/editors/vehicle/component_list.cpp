@@ -1,8 +1,10 @@
 #include "editors/vehicle/component_list.h"
 
+#include "editors/unit/unit_lists.h"
 #include "resources/resource.h"
 
 #include <array>
+#include <utility>
 
 namespace varrocade {
 
@@ -37,6 +39,32 @@ void addComponent(VehicleRecord& vehicle, ComponentKind kind) {
     component.kind = kind;
     component.armour.bottom = 0;
     component.armour.mantlet = 0;
+}
+
+bool canCopy(const VehicleRecord& vehicle, std::size_t index) {
+    return index < vehicle.components.size() && vehicle.components[index].kind != ComponentKind::Hull;
+}
+
+void copyComponent(VehicleRecord& vehicle, std::size_t index) {
+    ComponentRecord copy = vehicle.components[index];
+    vehicle.components.push_back(std::move(copy));
+}
+
+void mirrorComponent(VehicleRecord& vehicle, std::size_t index) {
+    ComponentRecord twin = vehicle.components[index];
+    twin.offsetX = mirrored(twin.offsetX);
+    twin.offsetAngle = mirrored(twin.offsetAngle);
+    std::swap(twin.rotateLeft, twin.rotateRight);
+    std::swap(twin.armour.upperLeft, twin.armour.upperRight);
+    std::swap(twin.armour.lowerLeft, twin.armour.lowerRight);
+    for (WeaponMountRecord& weapon : twin.weapons) {
+        weapon.offsetX = mirrored(weapon.offsetX);
+        weapon.offsetAngle = mirrored(weapon.offsetAngle);
+    }
+    for (SmokeDischargerRecord& discharger : twin.smokeDischargers) {
+        smokeDischargerShape().mirror(discharger);
+    }
+    vehicle.components.push_back(std::move(twin));
 }
 
 bool canMoveUp(const VehicleRecord& vehicle, std::size_t index) {

@@ -27,6 +27,15 @@ std::string newComponentName(const NewComponent& component);
 /// Appends a new component of a kind, all of whose numbers and counts are zero.
 void addComponent(VehicleRecord& vehicle, ComponentKind kind);
 
+/// Whether the component at `index` can be copied and mirrored: a vehicle has one hull.
+bool canCopy(const VehicleRecord& vehicle, std::size_t index);
+
+/// Appends a copy of the component at `index`, with all that it carries.
+void copyComponent(VehicleRecord& vehicle, std::size_t index);
+
+/// The same, on the other side of the vehicle: what lies or points to the left is then on the right.
+void mirrorComponent(VehicleRecord& vehicle, std::size_t index);
+
 /// Whether "Up" or "Down" can move the component at `index`.
 bool canMoveUp(const VehicleRecord& vehicle, std::size_t index);
 bool canMoveDown(const VehicleRecord& vehicle, std::size_t index);

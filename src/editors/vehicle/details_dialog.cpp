@@ -17,6 +17,7 @@
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <string_view>
 
 namespace varrocade {
 
@@ -44,6 +45,12 @@ constexpr auto ComponentKeys = std::to_array<ListKey>({
     {VK_DOWN, true, IDC_DOWN, "In the list: Alt+Down"},
 });
 
+constexpr auto ComponentTips = std::to_array<Tip>({
+    {IDC_COPY_COMPONENT, "Adds a copy of the component, with all that it carries"},
+    {IDC_MIRROR_COMPONENT, "Adds a copy on the other side of the vehicle"},
+    {IDC_EDIT_COMPONENT, "Opens the component, as a double-click or Enter on its line does"},
+});
+
 class DetailsDialog final : public FormDialog {
 public:
     DetailsDialog(EditContext& edit, const DrawingObjects& drawing)
@@ -56,6 +63,9 @@ public:
           edit_(edit), form_(edit.record, vehicleShape()) {
         onButton(IDC_ADD, [this] { addToList(); });
         onButton(IDC_REMOVE, [this] { deleteFromList(); });
+        onButton(IDC_COPY_COMPONENT, [this] { addTwin(copyComponent, "Copy component"); });
+        onButton(IDC_MIRROR_COMPONENT, [this] { addTwin(mirrorComponent, "Mirror component"); });
+        onButton(IDC_EDIT_COMPONENT, [this] { openComponent(); });
         onButton(IDC_UP, [this] { moveInList(true); });
         onButton(IDC_DOWN, [this] { moveInList(false); });
         onButton(IDC_DRIVE, [this] {
@@ -76,6 +86,7 @@ public:
 private:
     void prepare() override {
         bindListKeys(handle(), IDC_COMPONENTS, ComponentKeys);
+        addTips(handle(), ComponentTips);
         refreshList();
     }
     /// Enter on a component opens it, as a double-click does.
@@ -94,7 +105,9 @@ private:
     void select(std::size_t index);
     void refreshList();
     void updateMoveButtons();
+    [[nodiscard]] bool hasRoom();
     void addToList();
+    void addTwin(void (*add)(VehicleRecord&, std::size_t), std::string_view change);
     void deleteFromList();
     void moveInList(bool upwards);
     void openComponent();
@@ -158,13 +171,35 @@ void DetailsDialog::updateMoveButtons() {
     port().setEnabled(IDC_UP, index && canMoveUp(vehicle(), *index));
     port().setEnabled(IDC_DOWN, index && canMoveDown(vehicle(), *index));
     port().setEnabled(IDC_REMOVE, index.has_value());
+    port().setEnabled(IDC_COPY_COMPONENT, index && canCopy(vehicle(), *index));
+    port().setEnabled(IDC_MIRROR_COMPONENT, index && canCopy(vehicle(), *index));
+    port().setEnabled(IDC_EDIT_COMPONENT, index.has_value());
     keepKeyboard(handle(), former, IDC_COMPONENTS);
 }
 
-void DetailsDialog::addToList() {
-    if (const auto full = componentRoomFinding(vehicle())) {
+/// False after telling that the vehicle is full.
+bool DetailsDialog::hasRoom() {
+    const auto full = componentRoomFinding(vehicle());
+    if (full) {
         showMessage(
             {.text = full->message, .caption = std::string(SquadFullCaption), .icon = MessageIcon::Error});
+    }
+    return !full;
+}
+
+void DetailsDialog::addTwin(void (*add)(VehicleRecord&, std::size_t), std::string_view change) {
+    const auto index = selected();
+    if (!index || !canCopy(vehicle(), *index) || !hasRoom()) {
+        return;
+    }
+    add(vehicle(), *index);
+    edit_.changed(change);
+    SendMessageA(handle(), RefreshComponents, 0, 0);
+    select(vehicle().components.size() - 1);
+}
+
+void DetailsDialog::addToList() {
+    if (!hasRoom()) {
         return;
     }
     NewComponent added;

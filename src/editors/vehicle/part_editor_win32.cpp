@@ -1,5 +1,6 @@
 #include "editors/vehicle/part_editor_win32.h"
 
+#include "data/unit/component_words.h"
 #include "editors/unit/availability_dialog.h"
 #include "editors/unit/list_dialogs.h"
 #include "editors/vehicle/armour_dialog.h"
@@ -33,11 +34,7 @@ constexpr auto SubEditors = std::to_array<SubEditor>({
 } // namespace
 
 bool hasEditor(const SquadRecord& unit, const UnitPart& part) {
-    if (!hasPart(unit, part)) {
-        return false;
-    }
-    // The other kinds of unit have no editor of their own yet; their availability is like everyone's.
-    return unit.vehicle.has_value() || part.kind == PartKind::Availability;
+    return unit.vehicle.has_value() && hasPart(unit, part);
 }
 
 bool editPart(HWND owner, EditContext& edit, const DrawingObjects& drawing, const UnitPart& part) {
@@ -49,6 +46,7 @@ bool editPart(HWND owner, EditContext& edit, const DrawingObjects& drawing, cons
                                   [&](const SubEditor& row) { return row.kind == part.kind; });
     if (sub != SubEditors.end()) {
         ComponentRecord& component = edit.record.vehicle->components[part.component];
+        edit.subject = componentName(part.component + 1, component.kind);
         if (sub->edit(owner, edit, component)) {
             edit.changed(sub->change);
         }

@@ -44,9 +44,11 @@ bool editExhaustPipes(HWND owner, EditContext& edit) {
 }
 
 bool editSmokeDischargers(HWND owner, EditContext& edit, ComponentRecord& component) {
-    return editInPlace(
-        owner, edit, component.smokeDischargers, smokeDischargerShape(),
-        {.dialogTemplate = IDD_SMOKE_DISCHARGERS, .caption = "Smoke Dischargers", .first = edit.firstShown});
+    return editInPlace(owner, edit, component.smokeDischargers, smokeDischargerShape(),
+                       {.dialogTemplate = IDD_SMOKE_DISCHARGERS,
+                        .caption = "Smoke Dischargers",
+                        .first = edit.firstShown,
+                        .title = captionOf(edit, "smoke dischargers")});
 }
 
 } // namespace varrocade

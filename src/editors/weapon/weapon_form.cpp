@@ -125,7 +125,7 @@ const ListShape<AmmoTypeRecord>& ammoTypeShape() {
 }
 
 void AmmoTypeModel::add() {
-    weapon_.ammoTypes.push_back(startingAmmo(weapon_.type));
+    insert(startingAmmo(weapon_.type));
 }
 
 std::string namePrefixNote(std::string_view name, WeaponType type) {

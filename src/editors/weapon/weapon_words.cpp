@@ -1,6 +1,5 @@
 #include "editors/weapon/weapon_words.h"
 
-#include "data/unit/enumerations.h"
 #include "weapons/ammo_words.h"
 #include "weapons/weapon_names.h"
 
@@ -38,26 +37,26 @@ private:
 
 /// A table of the names that files have, in their order, behind those that `table` has already.
 template <typename Enum, typename ValueOf>
-WordTable<Enum> wordsFor(std::span<const std::string_view> names, std::string_view prefix, ValueOf valueOf,
+WordTable<Enum> wordsFor(std::span<const std::string_view> names, ValueOf valueOf,
                          WordTable<Enum> table = {}) {
     for (const std::string_view name : names) {
-        table.add(valueOf(name), displayName(name, prefix), name);
+        table.add(valueOf(name), std::string(wordOf(valueOf(name))), name);
     }
     return table;
 }
 
 /// A mode that files do not name.
 template <typename Enum>
-WordTable<Enum> beginningWith(Enum none, std::string word) {
+WordTable<Enum> beginningWith(Enum none) {
     WordTable<Enum> table;
-    table.add(none, std::move(word));
+    table.add(none, std::string(wordOf(none)));
     return table;
 }
 
 } // namespace
 
 std::span<const FormWord<WeaponType>> FormWords<WeaponType>::words() {
-    static const auto table = wordsFor<WeaponType>(weaponTypeNames(), WeaponPrefix, weaponTypeOf);
+    static const auto table = wordsFor<WeaponType>(weaponTypeNames(), weaponTypeOf);
     return table.words();
 }
 
@@ -73,25 +72,23 @@ std::span<const FormWord<AmmoFlavour>> FormWords<AmmoFlavour>::words() {
 }
 
 std::span<const FormWord<HeatEra>> FormWords<HeatEra>::words() {
-    static const auto table = wordsFor<HeatEra>(heatEraNames(), "HEAT_ERA_", [](std::string_view name) {
-        return heatEraOf(name).value_or(HeatEra());
-    });
+    static const auto table = wordsFor<HeatEra>(
+        heatEraNames(), [](std::string_view name) { return heatEraOf(name).value_or(HeatEra()); });
     return table.words();
 }
 
 std::span<const FormWord<GuidanceMode>> FormWords<GuidanceMode>::words() {
     static const auto table = wordsFor<GuidanceMode>(
-        guidanceModeNames(), "GUIDED_",
+        guidanceModeNames(),
         [](std::string_view name) { return guidanceModeOf(name).value_or(GuidanceMode()); },
-        beginningWith(GuidanceMode::Unguided, "Unguided"));
+        beginningWith(GuidanceMode::Unguided));
     return table.words();
 }
 
 std::span<const FormWord<ReloadMode>> FormWords<ReloadMode>::words() {
     static const auto table = wordsFor<ReloadMode>(
-        reloadModeNames(), "RELOAD_",
-        [](std::string_view name) { return reloadModeOf(name).value_or(ReloadMode()); },
-        beginningWith(ReloadMode::None, "None"));
+        reloadModeNames(), [](std::string_view name) { return reloadModeOf(name).value_or(ReloadMode()); },
+        beginningWith(ReloadMode::None));
     return table.words();
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 // The words of the weapon enumerations in forms: what people call them, and in brackets what files do.
 
-#include "editors/form/codec.h"
+#include "data/codec.h"
 #include "weapons/weapon_record.h"
 
 #include <span>

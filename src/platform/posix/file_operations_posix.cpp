@@ -146,7 +146,18 @@ bool readFileBeginning(const std::string& path, std::size_t length, std::string&
     return got >= 0;
 }
 
-bool listFiles(const std::string& folder, std::string_view ending, std::vector<std::string>& names) {
+namespace {
+
+/// Whether a path leads to a regular file, or nowhere, which is told when it is opened.
+bool isRegular(const std::string& path) {
+    struct stat status {};
+    return ::stat(nativePath(path).c_str(), &status) != 0 || S_ISREG(status.st_mode);
+}
+
+/// The entries of a folder that end so and are regular files, or of which `isListed` says so.
+template <typename IsListed>
+bool listEntries(const std::string& folder, std::string_view ending, std::vector<std::string>& names,
+                 IsListed isListed) {
     names.clear();
     const std::unique_ptr<DIR, int (*)(DIR*)> directory(::opendir(nativePath(folder).c_str()), ::closedir);
     if (!directory) {
@@ -157,17 +168,31 @@ bool listFiles(const std::string& folder, std::string_view ending, std::vector<s
         const std::string_view name = entry->d_name;
         if (name.size() >= ending.size() &&
             ::strcasecmp(entry->d_name + (name.size() - ending.size()), endingText.c_str()) == 0 &&
-            (entry->d_type == DT_REG || !isFolder(folder + std::string(name)))) {
+            isListed(name, entry->d_type == DT_REG)) {
             names.emplace_back(name);
         }
     }
     return true;
 }
 
+} // namespace
+
+bool listFiles(const std::string& folder, std::string_view ending, std::vector<std::string>& names) {
+    return listEntries(folder, ending, names, [&](std::string_view name, bool isFile) {
+        return isFile || !isFolder(folder + std::string(name));
+    });
+}
+
+bool listRegularFiles(const std::string& folder, std::string_view ending, std::vector<std::string>& names) {
+    return listEntries(folder, ending, names, [&](std::string_view name, bool isFile) {
+        return isPlainName(name) && (isFile || isRegular(folder + std::string(name)));
+    });
+}
+
 bool listStampedFiles(const std::string& folder, std::string_view ending, std::vector<StampedFile>& files) {
     files.clear();
     std::vector<std::string> names;
-    if (!listFiles(folder, ending, names)) {
+    if (!listRegularFiles(folder, ending, names)) {
         return false;
     }
     for (std::string& name : names) {

@@ -213,6 +213,11 @@ bool listFiles(const std::string& folder, std::string_view ending, std::vector<s
                        [&](const WIN32_FIND_DATAA& found) { names.emplace_back(found.cFileName); });
 }
 
+/// Folders hold nothing else here: pipes and devices have a place of their own.
+bool listRegularFiles(const std::string& folder, std::string_view ending, std::vector<std::string>& names) {
+    return listFiles(folder, ending, names);
+}
+
 bool listStampedFiles(const std::string& folder, std::string_view ending, std::vector<StampedFile>& files) {
     files.clear();
     return forEachFile(folder, ending, [&](const WIN32_FIND_DATAA& found) {

@@ -51,6 +51,7 @@ public:
     }
 
     void mark(MarkItem item) { list_.items.push_back(std::move(item)); }
+    void line(const LineItem& item) { list_.items.push_back(item); }
 
     DrawList take() { return std::move(list_); }
 
@@ -68,6 +69,16 @@ private:
     PictureSizes& sizes_;
     DrawList list_;
 };
+
+/// An arrow head at the right of a rotor, where its blades go: to the rear when it turns clockwise.
+void addTurning(PictureStack& stack, const RotorBladesRecord& rotor, UnitPart part) {
+    constexpr double out = 0.35; ///< of the diameter
+    constexpr double size = 25;  ///< of the arrow head
+    const Point tip{rotor.offsetX + rotor.diameter * out, static_cast<double>(rotor.offsetY)};
+    const double behind = rotor.clockwise ? size : -size;
+    stack.line({{tip.x - size, tip.y + behind}, tip, Ink::Yellow, part});
+    stack.line({{tip.x + size, tip.y + behind}, tip, Ink::Yellow, part});
+}
 
 } // namespace
 
@@ -89,6 +100,9 @@ DrawList drawAircraft(const AircraftRecord& aircraft, const DrawOptions& options
         const RotorBladesRecord& rotor = aircraft.rotorBlades[i];
         stack.add(rotor.image, {static_cast<double>(rotor.offsetX), static_cast<double>(rotor.offsetY)},
                   AirScale, {PartKind::Rotor, 0, i}, rotor.diameter);
+        if (options.showMarks) {
+            addTurning(stack, rotor, {PartKind::Rotor, 0, i});
+        }
     }
     for (std::size_t i = 0; options.showMarks && i < aircraft.weapons.size(); ++i) {
         const WeaponMountRecord& weapon = aircraft.weapons[i];

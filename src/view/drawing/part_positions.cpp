@@ -31,6 +31,10 @@ auto find(Unit& unit, const UnitPart& part, std::span<const double> turns) {
         auto& pipe = unit.vehicle->exhaustPipes[part.index];
         return std::optional(Found{&pipe.offsetX, &pipe.offsetY});
     }
+    if (part.kind == PartKind::Rotor) {
+        auto& rotor = unit.aircraft->rotorBlades[part.index];
+        return std::optional(Found{&rotor.offsetX, &rotor.offsetY});
+    }
     if (!unit.vehicle) {
         auto& weapon = unit.aircraft->weapons[part.index];
         return std::optional(Found{&weapon.offsetX, &weapon.offsetY});
@@ -64,7 +68,7 @@ bool isMovable(const SquadRecord& unit, const UnitPart& part) {
     if (!hasPart(unit, part)) {
         return false;
     }
-    if (part.kind == PartKind::Exhaust) {
+    if (part.kind == PartKind::Exhaust || part.kind == PartKind::Rotor) {
         return true;
     }
     if (part.kind != PartKind::Weapon) {

@@ -1,7 +1,7 @@
 #pragma once
 // Where the parts that can be moved in the drawing stand, and moving them: weapons and exhaust pipes of
-// vehicles, weapons of aircraft. Points are those of the drawing: centimetres from the centre of the hull, x
-// to the right, y towards the front. Files keep whole centimetres.
+// vehicles, weapons and rotors of aircraft. Points are those of the drawing: centimetres from the centre of
+// the hull, x to the right, y towards the front. Files keep whole centimetres.
 
 #include "view/drawing/draw_list.h"
 #include "view/drawing/unit_part.h"

@@ -115,7 +115,7 @@ private:
             addStrip(rims[1][side], rims[2][side], plateNamed(Sides[side].upper));
             top.insert(top.end(), rims[2][side].begin(), rims[2][side].end() - 1);
         }
-        addPatch(std::move(top), plateNamed(field::Top.element));
+        addPatch(std::move(top), std::nullopt);
     }
 
     void addStrip(const std::vector<Point>& outer, const std::vector<Point>& inner,

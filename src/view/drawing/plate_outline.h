@@ -11,7 +11,7 @@
 
 namespace varrocade {
 
-/// An area of one plate, or of a side that has none.
+/// An area of one plate, or of a top or a side that has none.
 struct OutlinePatch {
     std::vector<Point> corners;       ///< one after the other around it
     std::optional<std::size_t> plate; ///< its place among the ranges
@@ -25,8 +25,8 @@ struct PlateOutline {
 };
 
 /// Hull and superstructures as rectangles, turrets round: the lower plates along the rim, the upper ones
-/// within, the top in the middle, the mantlet before the turret. Parts without a size, and bottom plates, are
-/// not to be seen.
+/// within, the top, which no range is told of, in the middle, the mantlet before the turret. Parts without a
+/// size are not to be seen.
 PlateOutline plateOutline(const VehicleRecord& vehicle, std::span<const PlateRange> ranges);
 
 /// The plate of the topmost patch at a point, if it is one of a plate.

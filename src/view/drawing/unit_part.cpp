@@ -78,6 +78,12 @@ bool hasPart(const SquadRecord& unit, const UnitPart& part) {
     }
 }
 
+std::string weaponOf(const SquadRecord& unit, const UnitPart& part) {
+    return part.kind == PartKind::Weapon && hasPart(unit, part)
+               ? (*weaponsAround(unit, part))[part.index].type.str()
+               : std::string();
+}
+
 std::string partName(const SquadRecord& unit, const UnitPart& part) {
     if (!hasPart(unit, part)) {
         return {};

@@ -46,6 +46,9 @@ bool hasPart(const SquadRecord& unit, const UnitPart& part);
 /// are none.
 const std::vector<WeaponMountRecord>* weaponsAround(const SquadRecord& unit, const UnitPart& part);
 
+/// The type of the weapon that a part is; empty for other parts.
+std::string weaponOf(const SquadRecord& unit, const UnitPart& part);
+
 /// A part for people: "2. Turret", "Cannon 88 KWK36 L56", "Exhaust pipe 1".
 std::string partName(const SquadRecord& unit, const UnitPart& part);
 

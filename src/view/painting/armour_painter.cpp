@@ -8,16 +8,56 @@ namespace varrocade {
 namespace {
 
 constexpr int SketchHeight = 92;
+constexpr int PlateLabelGap = 12;
 constexpr int WidestLine = 12;
 constexpr int ThickestOnSheet = 16 * WidestLine; ///< the same for all components, so that they compare
 constexpr Colour PlateSteel = {70, 74, 80};
+
+int rounded(double value) {
+    return static_cast<int>(std::lround(value));
+}
+
+int sketchWidth(int height) {
+    return rounded(height * ArmourSketch::Width);
+}
+
+/// What the labels take on both sides of a sketch, in pixels.
+struct LabelRoom {
+    int left = 0;
+    int right = 0;
+};
+
+LabelRoom labelRoom(PaintDevice& device, const ArmourSketch& sketch) {
+    LabelRoom room;
+    for (const SketchPlate& plate : sketch.plates) {
+        const int width =
+            device.scaled(PlateLabelGap) + std::max(device.sizeOf(plate.label, TextFont::Small).width,
+                                                    device.sizeOf(plate.effective, TextFont::Small).width);
+        if (plate.side != 0) {
+            int& side = plate.side < 0 ? room.left : room.right;
+            side = std::max(side, width);
+        }
+    }
+    return room;
+}
+
+/// Whether a sketch with its labels is no wider than this.
+bool fitsInto(PaintDevice& device, const ArmourSketch& sketch, int width) {
+    const LabelRoom room = labelRoom(device, sketch);
+    return room.left + sketchWidth(device.scaled(SketchHeight)) + room.right <= width;
+}
 
 class SketchPainter {
 public:
     SketchPainter(PaintDevice& device, const PixelRect& area, int thickest = ThickestOnSheet)
         : device_(device), area_(area), thickest_(thickest), height_(area.bottom - area.top),
-          left_((area.left + area.right) / 2 - rounded(height_ * ArmourSketch::Width / 2)),
-          lineHeight_(device.scaled(14)) {}
+          left_((area.left + area.right - sketchWidth(height_)) / 2), lineHeight_(device.scaled(14)) {}
+
+    /// Moves the sketch aside where the labels of one side would leave the area.
+    void makeRoomFor(const LabelRoom& room) {
+        const int furthest = area_.right - room.right - sketchWidth(height_);
+        left_ = std::max(std::min(left_, furthest), area_.left + room.left);
+    }
 
     void paintPlates(const ArmourSketch& sketch) {
         for (const SketchPlate& plate : sketch.plates) {
@@ -33,8 +73,6 @@ public:
     }
 
 private:
-    static int rounded(double value) { return static_cast<int>(std::lround(value)); }
-
     [[nodiscard]] PixelPoint pixel(Point point) const {
         return {left_ + rounded(point.x * height_), area_.top + rounded(point.y * height_)};
     }
@@ -73,10 +111,10 @@ private:
                  TextSide::Centre, TextInk);
             return;
         }
-        const int gap = device_.scaled(12);
+        const int gap = device_.scaled(PlateLabelGap);
         const bool isLeft = plate.side < 0;
         const TextSide side = isLeft ? TextSide::Right : TextSide::Left;
-        const int x = isLeft ? left_ - gap : left_ + rounded(height_ * ArmourSketch::Width) + gap;
+        const int x = isLeft ? left_ - gap : left_ + sketchWidth(height_) + gap;
         const int lines = plate.effective.empty() ? 1 : 2;
         const int y =
             std::clamp(middle.y - lines * lineHeight_ / 2, area_.top, area_.bottom - lines * lineHeight_);
@@ -94,11 +132,6 @@ private:
 
 } // namespace
 
-int armourHeight(const PaintDevice& device) {
-    constexpr int captionHeight = 18;
-    return device.scaled(SketchHeight + captionHeight);
-}
-
 void paintPlates(PaintDevice& device, const PixelRect& area, const ArmourSketch& sketch,
                  std::string_view caption, int thickest) {
     const int top = area.top + device.lineHeight(TextFont::Small);
@@ -107,18 +140,28 @@ void paintPlates(PaintDevice& device, const PixelRect& area, const ArmourSketch&
     SketchPainter(device, place, thickest).paintPlates(sketch);
 }
 
-void paintArmour(PaintDevice& device, const PixelRect& area, const SheetArmour& armour) {
-    const int middle = (area.left + area.right) / 2;
-    const int top = area.bottom - device.scaled(SketchHeight);
-    const auto half = [&](int left, int right, const ArmourSketch& sketch, const std::string& caption) {
-        const PixelRect place{left, top, right, area.bottom};
+int paintArmour(PaintDevice& device, int left, int right, int top, const SheetArmour& armour) {
+    const int line = device.lineHeight(TextFont::Small);
+    const int height = device.scaled(SketchHeight);
+    device.text(armour.caption + " (= what a level shot meets)", {left, top}, TextFont::Small, TextInk);
+    int y = top + line;
+    const auto paint = [&](int from, int to, const ArmourSketch& sketch, std::string_view caption) {
+        device.text(caption, {from, y}, TextFont::Small, FaintInk);
+        const PixelRect place{from, y + line, to, y + line + height};
         SketchPainter painter(device, place);
+        painter.makeRoomFor(labelRoom(device, sketch));
         painter.paintPlates(sketch);
         painter.paintLabels(sketch);
-        device.text(caption, {left, area.top}, TextFont::Small, FaintInk);
     };
-    half(area.left, middle, armour.side, armour.caption + ": front and rear (= what a level shot meets)");
-    half(middle + device.scaled(24), area.right, armour.cross, "Left and right");
+    const int gap = device.scaled(24);
+    const int half = (right - left - gap) / 2;
+    const bool isSideBySide = fitsInto(device, armour.side, half) && fitsInto(device, armour.cross, half);
+    paint(left, isSideBySide ? left + half : right, armour.side, "Front and rear");
+    if (!isSideBySide) {
+        y += line + height;
+    }
+    paint(isSideBySide ? right - half : left, right, armour.cross, "Left and right");
+    return y + line + height - top;
 }
 
 } // namespace varrocade

@@ -8,11 +8,9 @@
 
 namespace varrocade {
 
-/// The pixels that one component takes on the sheet.
-int armourHeight(const PaintDevice& device);
-
-/// A component's armour from the side and across, side by side.
-void paintArmour(PaintDevice& device, const PixelRect& area, const SheetArmour& armour);
+/// A component's armour from the side and across: side by side, or one below the other where that is too
+/// wide for the labels. Returns the height that it takes.
+int paintArmour(PaintDevice& device, int left, int right, int top, const SheetArmour& armour);
 
 /// One sketch in the middle of its area, below a caption, without figures. A plate of `thickest` millimetres
 /// is drawn as thick as plates get.

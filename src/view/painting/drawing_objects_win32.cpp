@@ -88,13 +88,18 @@ DrawingObjects createDrawingObjects(HINSTANCE instance, const std::string& gridP
     objects.weaponMark = mark(instance, IDB_WEAPON_MARK);
     objects.dischargeMark = mark(instance, IDB_DISCHARGER_MARK);
     objects.exhaustMark = mark(instance, IDB_EXHAUST_MARK);
+    loadGrid(objects, gridPath);
+    return objects;
+}
+
+void loadGrid(DrawingObjects& objects, const std::string& gridPath) {
+    objects.gridPixels = {};
     objects.grid = std::make_unique<Gdiplus::Bitmap>(widened(gridPath).c_str());
     if (objects.grid->GetLastStatus() != Gdiplus::Ok) {
         objects.grid.reset();
     } else {
         objects.gridPixels = pixelsOf(*objects.grid);
     }
-    return objects;
 }
 
 std::wstring widened(const std::string& text) {

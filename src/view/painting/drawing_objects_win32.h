@@ -51,6 +51,9 @@ struct DrawingObjects {
 /// picture.
 DrawingObjects createDrawingObjects(HINSTANCE instance, const std::string& gridPath, int dpi);
 
+/// The ground's picture again, from another folder.
+void loadGrid(DrawingObjects& objects, const std::string& gridPath);
+
 /// The fonts again for another screen.
 void createFonts(DrawingObjects& objects, int dpi);
 

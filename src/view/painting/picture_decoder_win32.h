@@ -13,10 +13,6 @@
 
 namespace varrocade {
 
-/// Larger pictures are not decoded: a file of a few bytes can say that it is larger than the memory. Some
-/// sixteen million pixels take 64 MB; the game's own pictures have less than one million.
-inline constexpr std::uint64_t MostPicturePixels = std::uint64_t{1} << 24U;
-
 struct ReleaseInterface {
     void operator()(IUnknown* object) const { object->Release(); }
 };

@@ -141,10 +141,10 @@ PixelBox boxOf(const PixmapPlacement& placement) {
     const double halfWidth = std::min(width / 2 - slack, furthest);
     const double halfHeight = std::min(height / 2 - slack, furthest);
     PixelBox box;
-    box.left = static_cast<int>(std::floor(-halfWidth));
-    box.top = static_cast<int>(std::floor(-halfHeight));
-    box.width = static_cast<int>(std::ceil(halfWidth)) - box.left;
-    box.height = static_cast<int>(std::ceil(halfHeight)) - box.top;
+    box.left = static_cast<int>(std::floor(placement.shiftX - halfWidth));
+    box.top = static_cast<int>(std::floor(placement.shiftY - halfHeight));
+    box.width = static_cast<int>(std::ceil(placement.shiftX + halfWidth)) - box.left;
+    box.height = static_cast<int>(std::ceil(placement.shiftY + halfHeight)) - box.top;
     return box;
 }
 
@@ -179,8 +179,8 @@ void placePixmap(const Pixmap& source, const PixmapPlacement& placement, const P
     const Place step{fixedPoint(stepXx), fixedPoint(stepXy)};
     std::uint32_t* out = pixels.data();
     for (int row = 0; row < box.height; ++row) {
-        const double x = box.left + 0.5;
-        const double y = box.top + row + 0.5;
+        const double x = box.left + 0.5 - placement.shiftX;
+        const double y = box.top + row + 0.5 - placement.shiftY;
         Place place{fixedPoint(used->width / 2.0 + x * stepXx + y * stepYx - 0.5),
                     fixedPoint(used->height / 2.0 + x * stepXy + y * stepYy - 0.5)};
         const Steps columns = stepsInside(place.x, step.x, used->width, box.width);

@@ -27,6 +27,9 @@ struct PixmapPlacement {
     double height = 0;
     double angle = 0;
     bool isTile = false; ///< goes on with its edge outside, where others are transparent
+    /// Where the centre lies within its pixel, from the pixel's upper left corner.
+    double shiftX = 0;
+    double shiftY = 0;
 };
 
 /// A rectangle of whole pixels around the centre of a placed picture: its corner is negative as a rule.

@@ -3,9 +3,9 @@
 #include "data/unit/enumerations.h"
 #include "view/painting/armour_painter.h"
 #include "view/painting/flag_painter.h"
+#include "view/sheet/table_layout.h"
 
 #include <algorithm>
-#include <numeric>
 #include <span>
 #include <string>
 #include <string_view>
@@ -52,6 +52,7 @@ private:
     static constexpr int FlagHeight = 32;
     static constexpr int SectionGap = 10;
     static constexpr int TimelineHeight = 96;
+    static constexpr int TableGap = 10;
 
     [[nodiscard]] int widthOf(std::string_view words, TextFont font) const {
         return device_.sizeOf(words, font).width;
@@ -183,9 +184,7 @@ private:
         }
         for (const SheetArmour& armour : section.armour) {
             const int top = y_;
-            const int height = armourHeight(device_);
-            paintArmour(device_, {left_, y_, right_, y_ + height}, armour);
-            y_ += height + device_.scaled(4);
+            y_ += paintArmour(device_, left_, right_, y_, armour) + device_.scaled(4);
             note(armour.part, top);
         }
         paintPictures(section.pictures);
@@ -229,17 +228,25 @@ private:
         y_ += height;
     }
 
-    /// Two columns of label and value; a value too long for its column takes more lines.
+    /// Two columns of label and value, or one where the sheet is narrow; a value too long for its column
+    /// takes more lines.
     void paintPairs(const std::vector<SheetPair>& pairs) {
-        const int columnWidth = (right_ - left_) / 2;
-        const int labelWidth = device_.scaled(120);
-        for (std::size_t i = 0; i < pairs.size(); i += 2) {
+        const int gap = device_.scaled(8);
+        const int leastValue = device_.scaled(110);
+        int labelWidth = device_.scaled(120);
+        for (const SheetPair& pair : pairs) {
+            labelWidth = std::max(labelWidth, widthOf(pair.label, TextFont::Normal) + gap);
+        }
+        const bool isWide = (right_ - left_) / 2 - gap >= labelWidth + leastValue;
+        const std::size_t columns = isWide ? 2 : 1;
+        const int columnWidth = (right_ - left_) / static_cast<int>(columns);
+        for (std::size_t i = 0; i < pairs.size(); i += columns) {
             int height = device_.lineHeight(TextFont::Normal);
-            for (std::size_t column = 0; column < 2 && i + column < pairs.size(); ++column) {
+            for (std::size_t column = 0; column < columns && i + column < pairs.size(); ++column) {
                 const SheetPair& pair = pairs[i + column];
                 const int x = left_ + static_cast<int>(column) * columnWidth;
                 device_.text(pair.label, {x, y_}, TextFont::Normal, FaintInk);
-                const int right = x + columnWidth - device_.scaled(8);
+                const int right = x + columnWidth - gap;
                 height = std::max(height, brokenText(pair.value.empty() ? "-" : pair.value, x + labelWidth,
                                                      right, y_, TextFont::Normal, TextInk));
             }
@@ -247,86 +254,43 @@ private:
         }
     }
 
-    [[nodiscard]] int wordWidth(std::string_view words, TextFont font) const {
-        int widest = 0;
-        while (!words.empty()) {
-            const std::size_t end = std::min(words.find(' '), words.size());
-            widest = std::max(widest, widthOf(std::string(words.substr(0, end)), font));
-            words.remove_prefix(std::min(words.size(), end + 1));
-        }
-        return widest;
-    }
-
-    /// Column widths by their longest cells. Where they do not fit, first the heads break between their
-    /// words, then the widest columns shrink and break their texts.
-    [[nodiscard]] std::vector<int> columnWidths(const SheetTable& table) const {
-        const TextFont font = TextFont::Small;
-        const std::vector<std::string>& heads = table.rows.front().cells;
-        std::vector<int> widths(heads.size(), 0);
-        for (const SheetRow& row : std::span(table.rows).subspan(1)) {
-            for (std::size_t column = 0; column < row.cells.size() && column < widths.size(); ++column) {
-                widths[column] = std::max(widths[column], widthOf(row.cells[column], font));
-            }
-        }
-        const int gap = device_.scaled(10);
-        const int free = right_ - left_ - gap * static_cast<int>(widths.size() - 1);
-        const auto withHeads = [&](auto headWidth) {
-            std::vector<int> wider = widths;
-            for (std::size_t column = 0; column < wider.size(); ++column) {
-                wider[column] = std::max(wider[column], headWidth(heads[column]));
-            }
-            return wider;
-        };
-        const auto totalOf = [](const std::vector<int>& all) {
-            return std::accumulate(all.begin(), all.end(), 0);
-        };
-        std::vector<int> whole = withHeads([&](const std::string& head) { return widthOf(head, font); });
-        if (totalOf(whole) <= free) {
-            return whole;
-        }
-        widths = withHeads([&](const std::string& head) { return wordWidth(head, font); });
-        int total = totalOf(widths);
-        // Only the wide columns give way: narrow ones hold numbers.
-        while (total > free) {
-            const auto widest = std::max_element(widths.begin(), widths.end());
-            const int less = std::min(total - free, std::max(1, *widest / 8));
-            *widest -= less;
-            total -= less;
-        }
-        return widths;
-    }
-
     void paintTable(const SheetTable& table) {
-        const std::vector<int> widths = columnWidths(table);
-        for (std::size_t i = 0; i < table.rows.size(); ++i) {
-            const SheetRow& row = table.rows[i];
-            const int top = y_;
-            if (row.part && isSameShown(row.part, options_.selected)) {
-                const PixelRect ground{left_ - device_.scaled(4), y_, right_ + device_.scaled(4),
-                                       y_ + paintRow(row, widths, i == 0)};
-                device_.fill(ground, SelectedGround);
+        const auto width = [this](std::string_view words) { return widthOf(words, TextFont::Small); };
+        for (const TableBand& band : tableBands(width, table, right_ - left_, device_.scaled(TableGap))) {
+            for (std::size_t i = 0; i < table.rows.size(); ++i) {
+                const SheetRow& row = table.rows[i];
+                const int top = y_;
+                if (row.part && isSameShown(row.part, options_.selected)) {
+                    const PixelRect ground{left_ - device_.scaled(4), y_, right_ + device_.scaled(4),
+                                           y_ + paintRow(row, band, i == 0)};
+                    device_.fill(ground, SelectedGround);
+                }
+                y_ += paintRow(row, band, i == 0);
+                note(row.part, top);
             }
-            y_ += paintRow(row, widths, i == 0);
-            note(row.part, top);
+            y_ += device_.scaled(4);
         }
-        y_ += device_.scaled(4);
     }
 
-    /// Paints a row where the layout has come to; returns its height.
-    [[nodiscard]] int paintRow(const SheetRow& row, const std::vector<int>& widths, bool isHead) {
-        const int gap = device_.scaled(10);
+    /// Paints the cells that a band has of a row where the layout has come to; returns their height.
+    [[nodiscard]] int paintRow(const SheetRow& row, const TableBand& band, bool isHead) {
+        const int gap = device_.scaled(TableGap);
         const TextFont font = TextFont::Small;
         int x = left_;
         int height = device_.lineHeight(font);
-        for (std::size_t column = 0; column < row.cells.size() && column < widths.size(); ++column) {
-            height = std::max(height, brokenText(row.cells[column], x, x + widths[column] + device_.scaled(2),
-                                                 y_, font, isHead ? FaintInk : TextInk));
-            x += widths[column] + gap;
+        for (const BandColumn& column : band.columns) {
+            if (column.place < row.cells.size()) {
+                const std::string& cell = row.cells[column.place];
+                height =
+                    std::max(height, brokenText(column.isGlued ? gluedPlates(cell) : cell, x,
+                                                x + column.width, y_, font, isHead ? FaintInk : TextInk));
+            }
+            x += column.width + gap;
         }
-        if (!row.detail.empty()) {
+        if (!row.detail.empty() && band.isLast) {
             // Below the weapon's name, which is in the first column or in the one behind the place.
-            const bool hasPlace = widths.size() > 1 && row.cells.size() > 3;
-            const int indent = hasPlace ? widths.front() + gap : device_.scaled(12);
+            const bool hasPlace = band.columns.size() > 1 && row.cells.size() > 3;
+            const int indent = hasPlace ? band.columns.front().width + gap : device_.scaled(12);
             height += brokenText(row.detail, left_ + indent, right_, y_ + height, font, FaintInk);
         }
         return height;

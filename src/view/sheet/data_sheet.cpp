@@ -10,6 +10,7 @@
 #include "data/unit_fields.h"
 #include "view/sheet/field_pair.h"
 #include "weapons/ammo_words.h"
+#include "weapons/weapon_fields.h"
 
 #include <algorithm>
 #include <array>
@@ -25,6 +26,8 @@ std::string degrees(std::int32_t value) {
     return std::to_string(value) + "\xB0";
 }
 
+constexpr std::string_view DefaultWord = "Default";
+
 std::string optionalThickness(std::int32_t value) {
     return value < 0 ? "-" : std::to_string(value);
 }
@@ -36,9 +39,10 @@ SheetSection figuresSection(const SquadRecord& record) {
     section.pairs.push_back(pairOf(field::Weight, vehicle));
     for (const ComponentRecord& component : vehicle.components) {
         if (component.kind == ComponentKind::Hull) {
-            section.pairs.push_back({"Length", centimetres(component.length)});
-            section.pairs.push_back({"Width", centimetres(component.width)});
-            section.pairs.push_back({"Hull height", centimetres(component.height)});
+            section.pairs.push_back(pairOf(field::Length, component, {.zeroIsNothing = true}));
+            section.pairs.push_back(pairOf(field::Width, component, {.zeroIsNothing = true}));
+            section.pairs.push_back(
+                pairOf(field::Height, component, {.label = "Hull height", .zeroIsNothing = true}));
             break;
         }
     }
@@ -47,27 +51,26 @@ SheetSection figuresSection(const SquadRecord& record) {
         crew += component.crew.size();
     }
     section.pairs.push_back({"Crew", std::to_string(crew)});
-    section.pairs.push_back(pairOf(field::CanMountInfantry, vehicle, "Carries infantry"));
-    section.pairs.push_back(pairOf(field::Amphibious, vehicle, "Amphibious"));
+    section.pairs.push_back(pairOf(field::CanMountInfantry, vehicle, {.label = "Carries infantry"}));
+    section.pairs.push_back(pairOf(field::Amphibious, vehicle, {.label = "Amphibious"}));
     return section;
 }
 
 SheetSection driveSection(const SquadRecord& record, const WeaponCatalogue& catalogue) {
     const VehicleRecord& vehicle = *record.vehicle;
-    constexpr std::array<std::string_view, 3> mounts = {"rear", "middle", "front"};
     SheetSection section{.heading = {"Drive"}, .part = {PartKind::Drive}};
     section.pairs.push_back(pairOf(field::EngineName, vehicle));
-    section.pairs.push_back(pairOf(field::Horsepower, vehicle, "Power"));
+    section.pairs.push_back(pairOf(field::Horsepower, vehicle, {.label = "Power"}));
     section.pairs.push_back({"Power to weight", powerToWeight(vehicle.horsepower, vehicle.weight)});
-    section.pairs.push_back({"Mounted", std::string(mounts[static_cast<std::size_t>(vehicle.engineMount)])});
+    section.pairs.push_back(pairOf(field::MountOfEngine, vehicle));
     section.pairs.push_back(pairOf(field::Reliability, vehicle));
-    section.pairs.push_back({"Revolutions", std::to_string(vehicle.idleRevolutions) + " to " +
-                                                std::to_string(vehicle.revolutionLimit) + " rpm"});
+    section.pairs.push_back({"Revolutions", grouped(vehicle.idleRevolutions) + " to " +
+                                                shownValue(field::RevolutionLimit, vehicle)});
     section.pairs.push_back({"Gears", std::to_string(vehicle.forwardGears) + " forward, " +
                                           std::to_string(vehicle.reverseGears) + " reverse"});
     section.pairs.push_back(pairOf(field::Steering, vehicle));
     section.pairs.push_back({"Exhaust pipes", std::to_string(vehicle.exhaustPipes.size())});
-    section.pairs.push_back(pairOf(field::SmokeScreen, vehicle, "Smoke screen"));
+    section.pairs.push_back(pairOf(field::SmokeScreen, vehicle, {.label = "Smoke screen"}));
     const WeaponMasses weapons(catalogue, vehicle);
     section.notes.push_back({performanceLine(vehiclePerformance(record, weapons))});
     return section;
@@ -141,7 +144,7 @@ SheetSection weaponsSection(const VehicleRecord& vehicle, const WeaponCatalogue&
                 known.insert(type).second ? weaponFigures(catalogue, type) : std::string();
             table.rows.push_back(
                 {{place, weaponWord(type), ammoFor(component.ammo, type), traverseText(component),
-                  component.rotateTime > 0 ? std::to_string(component.rotateTime) + " s" : "-"},
+                  shownValue(field::RotateTime, component, {.zeroIsNothing = true})},
                  {PartKind::Weapon, i, j},
                  figures});
             place.clear();
@@ -163,23 +166,12 @@ SheetSection weaponsSection(const VehicleRecord& vehicle, const WeaponCatalogue&
 
 SheetSection crewSection(const VehicleRecord& vehicle) {
     SheetSection section{.heading = {"Crew"}};
-    SheetTable table;
-    table.rows.push_back({{"", "Job", "Arms", "Ammunition"}});
+    SheetTable table = tableOfMen();
     for (std::size_t i = 0; i < vehicle.components.size(); ++i) {
         const ComponentRecord& component = vehicle.components[i];
         std::string place = componentTitle(i + 1, component.kind);
         for (std::size_t j = 0; j < component.crew.size(); ++j) {
-            const CrewManRecord& man = component.crew[j];
-            std::string arms;
-            for (const Text& weapon : man.weapons) {
-                arms += (arms.empty() ? "" : ", ") + weaponWord(weapon);
-            }
-            std::string rounds;
-            for (const AmmoLoadRecord& ammo : man.ammo) {
-                rounds += (rounds.empty() ? "" : ", ") + ammoText(ammo);
-            }
-            table.rows.push_back({{place, shownWord(man.job, JobPrefix, jobNames()), arms, rounds},
-                                  {PartKind::CrewMan, i, j}});
+            table.rows.push_back(rowOfMan(component.crew[j], std::move(place), {PartKind::CrewMan, i, j}));
             place.clear();
         }
     }
@@ -193,26 +185,31 @@ SheetSection uniformSection(const SquadRecord& record) {
     SheetSection section{.heading = {record.vehicle ? "Crew uniforms" : "Uniforms"},
                          .part = {PartKind::Details}};
     const NationalUniform* national = findNationalUniform(record.nationality);
-    const auto add = [&](std::string_view label, const Text& name, std::string_view usual) {
+    const auto add = [&](const Field<SquadRecord, Text>& field, std::string_view usual) {
+        const Text& name = field.of(record);
         const bool isDefault = name.empty() || isDefaultImage(name);
-        section.pairs.push_back({std::string(label), isDefault ? "Default" : name.str()});
+        SheetPair pair = pairOf(field, record);
+        if (isDefault) {
+            pair.value = DefaultWord;
+        }
         const std::string shown = isDefault ? std::string(usual) : name.str();
         if (!shown.empty()) {
             section.pictures.push_back(
-                {std::string(image_folder::Uniforms) + shown + std::string(ImageEnding), std::string(label)});
+                {std::string(image_folder::Uniforms) + shown + std::string(ImageEnding), pair.label});
         }
+        section.pairs.push_back(std::move(pair));
     };
     const auto usual = [&](std::string_view NationalUniform::*image) {
         return national != nullptr && record.vehicle ? national->*image : std::string_view();
     };
     if (record.namedUniform) {
-        add("Uniform", record.uniformName, {});
+        add(field::UniformName, {});
     } else {
-        add("Profile", record.uniformProfile, usual(&NationalUniform::profile));
-        add("Game", record.uniformGame, usual(&NationalUniform::game));
+        add(field::UniformProfile, usual(&NationalUniform::profile));
+        add(field::UniformGame, usual(&NationalUniform::game));
     }
-    add("Ranks", record.uniformRanks, usual(&NationalUniform::ranks));
-    section.pairs.push_back({"Voice language", record.language.empty() ? "Default" : record.language.str()});
+    add(field::UniformRanks, usual(&NationalUniform::ranks));
+    section.pairs.push_back(pairOf(field::VoiceLanguage, record, {.nothing = DefaultWord}));
     return section;
 }
 
@@ -225,7 +222,8 @@ SheetSection availabilitySection(const SquadRecord& record) {
         const std::string month = point.month >= 1 && point.month <= months.size()
                                       ? std::string(months[point.month - 1U])
                                       : "month " + std::to_string(point.month);
-        section.pairs.push_back({month + " " + std::to_string(point.year), grouped(point.number)});
+        const std::string date = month + " " + std::to_string(point.year);
+        section.pairs.push_back(pairOf(field::NumberOfUnits, point, {.label = date}));
     }
     section.timeline = record.availability;
     if (record.availability.empty()) {
@@ -247,9 +245,7 @@ std::string weaponFigures(const WeaponCatalogue& catalogue, std::string_view wea
     std::string text;
     const auto add = [&](const std::string& part) { text += (text.empty() ? "" : ", ") + part; };
     if (weapon->calibre > 0) {
-        std::string calibre;
-        appendShortest(calibre, weapon->calibre);
-        add(calibre + " mm");
+        add(shownValue(weapon_field::Calibre, *weapon));
     }
     if (weapon->barrelLength > 0) {
         constexpr double millimetres = 1000;
@@ -268,7 +264,7 @@ std::string weaponFigures(const WeaponCatalogue& catalogue, std::string_view wea
         add((slowest == fastest ? whole(fastest) : whole(slowest) + " to " + whole(fastest)) + " m/s");
     }
     if (weapon->range > 0) {
-        add("range " + grouped(weapon->range) + " m");
+        add("range " + shownValue(weapon_field::Range, *weapon));
     }
     if (weapon->rateOfFire > 0) {
         add(grouped(weapon->rateOfFire) + " rounds/min");
@@ -280,7 +276,7 @@ DataSheet unitSheet(const SquadRecord& record, std::span<const std::string> miss
                     const WeaponCatalogue& catalogue) {
     DataSheet sheet;
     sheet.title.text = record.longName.empty() ? record.fileName.str() : record.longName.str();
-    sheet.title.subtitle = shownWord(record.nationality, NationalityPrefix, nationalityNames()) +
+    sheet.title.subtitle = shownValue(field::Nationality, record, {.nothing = {}}) +
                            (record.shortName.empty() ? "" : ", " + record.shortName.str());
     sheet.title.nationality = record.nationality.str();
     sheet.comment = record.comment.str();

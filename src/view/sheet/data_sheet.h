@@ -102,6 +102,11 @@ DataSheet weaponSheet(const WeaponRecord& weapon, std::span<const Finding> probl
 void addSquadSections(DataSheet& sheet, const SquadRecord& record, const WeaponCatalogue& catalogue);
 void addAircraftSections(DataSheet& sheet, const AircraftRecord& aircraft, const WeaponCatalogue& catalogue);
 
+/// The men of a squad or of a crew, a row each below the heads; `place` tells them apart or says where they
+/// sit. Ammunition is told with what it is for: some of it is for nothing that the man carries, as grenades.
+SheetTable tableOfMen();
+SheetRow rowOfMan(const CrewManRecord& man, std::string place, const UnitPart& part);
+
 /// A weapon's own figures in one line: "88 mm, barrel 4.93 m, 600 to 930 m/s, 3,500 m, 8 rounds/min"; empty
 /// when the catalogue does not have it.
 std::string weaponFigures(const WeaponCatalogue& catalogue, std::string_view weaponType);

@@ -3,31 +3,23 @@
 #include "view/sheet/data_sheet.h"
 
 #include "data/finding_text.h"
-#include "data/format/numbers.h"
 #include "data/format/words.h"
 #include "data/unit/enumerations.h"
 #include "data/unit_fields.h"
 #include "view/sheet/field_pair.h"
 #include "weapons/ammo_words.h"
+#include "weapons/weapon_fields.h"
 #include "weapons/weapon_names.h"
 
 #include <algorithm>
 #include <array>
 #include <set>
 #include <span>
+#include <utility>
 
 namespace varrocade {
 
 namespace {
-
-std::string realText(float value, std::string_view unit) {
-    if (value == 0) {
-        return "-";
-    }
-    std::string text;
-    appendShortest(text, value);
-    return text + " " + std::string(unit);
-}
 
 /// The weapons with what is carried for each.
 SheetTable armamentTable(std::span<const WeaponMountRecord> weapons, std::span<const AmmoLoadRecord> ammo,
@@ -51,47 +43,42 @@ SheetTable armamentTable(std::span<const WeaponMountRecord> weapons, std::span<c
 
 SheetSection menSection(const SquadRecord& record) {
     SheetSection section{.heading = {"Men"}};
-    SheetTable table;
-    table.rows.push_back({{"", "Job", "Arms", "Ammunition"}});
+    SheetTable table = tableOfMen();
     for (std::size_t i = 0; i < record.infantrymen.size(); ++i) {
-        const CrewManRecord& man = record.infantrymen[i];
-        std::string arms;
-        for (const Text& weapon : man.weapons) {
-            arms += (arms.empty() ? "" : ", ") + weaponWord(weapon);
-        }
-        std::string rounds;
-        for (const AmmoLoadRecord& ammo : man.ammo) {
-            rounds += (rounds.empty() ? "" : ", ") + ammoText(ammo) + " for " + weaponWord(ammo.weaponType);
-        }
-        table.rows.push_back(
-            {{std::to_string(i + 1), shownWord(man.job, JobPrefix, jobNames()), arms, rounds},
-             {PartKind::Man, 0, i}});
+        table.rows.push_back(rowOfMan(record.infantrymen[i], std::to_string(i + 1), {PartKind::Man, 0, i}));
     }
     section.tables.push_back(std::move(table));
     return section;
 }
 
-SheetSection heavyWeaponSection(const HeavyWeaponRecord& heavy, const WeaponCatalogue& catalogue) {
+/// Files keep guns of all kinds as anti-tank guns.
+std::string_view heavyWeaponWord(const SquadRecord& record) {
     constexpr std::array<std::string_view, 4> kinds = {"Mortar", "Heavy machine gun", "Anti-tank gun",
                                                        "Recoilless rifle"};
-    SheetSection section{.heading = {std::string(kinds[static_cast<std::size_t>(heavy.kind)])},
-                         .part = {PartKind::HeavyWeapon}};
+    constexpr std::string_view howitzer = "TYPE_HOWITZER";
+    const HeavyWeaponRecord& heavy = *record.heavyWeapon;
+    if (heavy.kind == HeavyWeaponKind::AtGun && record.type == howitzer) {
+        return "Howitzer";
+    }
+    if (heavy.kind == HeavyWeaponKind::AtGun && heavy.antiAircraft) {
+        return "Anti-aircraft gun";
+    }
+    return kinds[static_cast<std::size_t>(heavy.kind)];
+}
+
+SheetSection heavyWeaponSection(const SquadRecord& record, const WeaponCatalogue& catalogue) {
+    const HeavyWeaponRecord& heavy = *record.heavyWeapon;
+    SheetSection section{.heading = {std::string(heavyWeaponWord(record))}, .part = {PartKind::HeavyWeapon}};
     const std::string traverse = heavy.limitedTraverse ? std::to_string(heavy.rotateLeft) + "\xB0 left, " +
                                                              std::to_string(heavy.rotateRight) + "\xB0 right"
                                                        : "all round";
     section.pairs = {{"Traverse", traverse},
-                     {"Moveable", yesNo(heavy.moveable)},
-                     {"Shoots aircraft", yesNo(heavy.antiAircraft)},
-                     {"Night vision", yesNo(heavy.nightVision)}};
+                     pairOf(field::Moveable, heavy),
+                     pairOf(field::HeavyAntiAircraft, heavy),
+                     pairOf(field::HeavyNightVision, heavy)};
     if (heavy.kind == HeavyWeaponKind::AtGun) {
-        std::string trail = "-";
-        if (heavy.trailLength > 0) {
-            trail.clear();
-            appendFixed(trail, heavy.trailLength, 2);
-            trail += " m";
-        }
         section.pairs.push_back(pairOf(field::Mass, heavy));
-        section.pairs.push_back({"Trail length", trail});
+        section.pairs.push_back(pairOf(field::TrailLength, heavy, {.zeroIsNothing = true}));
     }
     section.tables.push_back(armamentTable(heavy.weapons, heavy.ammo, catalogue));
     return section;
@@ -107,24 +94,42 @@ SheetSection notesSection(std::string heading, std::span<const std::string> line
 
 } // namespace
 
+SheetTable tableOfMen() {
+    SheetTable table;
+    table.rows.push_back({{"", std::string(field::Job.label), "Arms", "Ammunition"}});
+    return table;
+}
+
+SheetRow rowOfMan(const CrewManRecord& man, std::string place, const UnitPart& part) {
+    std::string arms;
+    for (const Text& weapon : man.weapons) {
+        arms += (arms.empty() ? "" : ", ") + weaponWord(weapon);
+    }
+    std::string rounds;
+    for (const AmmoLoadRecord& ammo : man.ammo) {
+        rounds += (rounds.empty() ? "" : ", ") + ammoText(ammo);
+        rounds += ammo.weaponType.empty() ? "" : " for " + weaponWord(ammo.weaponType);
+    }
+    return {{std::move(place), shownValue(field::Job, man, {.nothing = {}}), arms, rounds}, part};
+}
+
 void addSquadSections(DataSheet& sheet, const SquadRecord& record, const WeaponCatalogue& catalogue) {
     if (record.heavyWeapon) {
-        sheet.sections.push_back(heavyWeaponSection(*record.heavyWeapon, catalogue));
+        sheet.sections.push_back(heavyWeaponSection(record, catalogue));
     }
     if (!record.infantrymen.empty()) {
         sheet.sections.push_back(menSection(record));
     }
     if (record.heavyWeapon || !record.infantrymen.empty()) {
         sheet.sections.front().pairs.insert(sheet.sections.front().pairs.begin(),
-                                            {"Quality", displayName(record.quality, "QUALITY_")});
+                                            pairOf(field::Quality, record));
     }
 }
 
 void addAircraftSections(DataSheet& sheet, const AircraftRecord& aircraft, const WeaponCatalogue& catalogue) {
     SheetSection section{.heading = {"Aircraft"}, .part = {PartKind::Aircraft}};
-    section.pairs = {{"Speed", std::to_string(aircraft.speed)},
-                     {"Ejects flares", yesNo(aircraft.ejectsFlares)},
-                     {"Sound", aircraft.sound.empty() ? "-" : aircraft.sound.str()}};
+    section.pairs = {pairOf(field::AircraftSpeed, aircraft), pairOf(field::EjectsFlares, aircraft),
+                     pairOf(field::AircraftSound, aircraft)};
     if (!aircraft.rotorBlades.empty()) {
         section.pairs.push_back({"Rotors", std::to_string(aircraft.rotorBlades.size())});
     }
@@ -154,7 +159,7 @@ DataSheet weaponSheet(const WeaponRecord& weapon, std::span<const Finding> probl
                       const std::optional<std::vector<std::string>>& users) {
     DataSheet sheet;
     sheet.title.text = weaponWord(weapon.name.empty() ? weapon.fileName : weapon.name);
-    sheet.title.subtitle = displayName(nameOf(weapon.type), WeaponPrefix);
+    sheet.title.subtitle = shownValue(weapon_field::Type, weapon, {.nothing = {}});
     sheet.comment = weapon.comments;
     if (!problems.empty()) {
         std::vector<std::string> lines(problems.size());
@@ -166,28 +171,27 @@ DataSheet weaponSheet(const WeaponRecord& weapon, std::span<const Finding> probl
         }
     }
     SheetSection figures{.heading = {"Figures"}};
-    const auto whole = [](std::int32_t value, std::string_view unit) {
-        return value == 0 ? std::string("-") : grouped(value) + " " + std::string(unit);
-    };
-    figures.pairs = {
-        {"Calibre", realText(weapon.calibre, "mm")},
-        {"Barrel length", whole(weapon.barrelLength, "mm")},
-        {"Barrels", std::to_string(weapon.numberOfBarrels)},
-        {"Range", whole(weapon.range, "m")},
-        {"Rate of fire", whole(weapon.rateOfFire, "rounds/min")},
-        {"Magazine", grouped(weapon.magazineCapacity)},
-        {"Reload", weapon.reload == ReloadMode::None ? "-" : displayName(nameOf(weapon.reload), "RELOAD_")},
-        {"Single shot", yesNo(weapon.singleShot)},
-        {"Period", weapon.period.empty() ? "-" : weapon.period},
-        {"Countries", weapon.countries.empty() ? "-" : weapon.countries}};
+    constexpr PairTerms figure = {.zeroIsNothing = true};
+    figures.pairs = {pairOf(weapon_field::Calibre, weapon, figure),
+                     pairOf(weapon_field::BarrelLength, weapon, figure),
+                     pairOf(weapon_field::NumberOfBarrels, weapon, {.label = "Barrels"}),
+                     pairOf(weapon_field::Range, weapon, figure),
+                     pairOf(weapon_field::RateOfFire, weapon, figure),
+                     pairOf(weapon_field::Capacity, weapon, {.label = "Magazine", .withoutUnit = true}),
+                     pairOf(weapon_field::Reload, weapon),
+                     pairOf(weapon_field::SingleShot, weapon),
+                     pairOf(weapon_field::Period, weapon),
+                     pairOf(weapon_field::Countries, weapon)};
     sheet.sections.push_back(std::move(figures));
     SheetSection ammunition{.heading = {"Ammunition"}};
     SheetTable table;
     table.rows.push_back({{"Type", "Name", "Velocity", "Mass", "HE", "HEAT era"}});
     for (const AmmoTypeRecord& ammo : weapon.ammoTypes) {
-        table.rows.push_back({{flavourWord(nameOf(ammo.flavour)), ammo.name, realText(ammo.speed, "m/s"),
-                               realText(ammo.mass, "kg"), realText(ammo.highExplosive, "kg"),
-                               isHeat(ammo.flavour) ? displayName(nameOf(ammo.era), "HEAT_ERA_") : "-"}});
+        table.rows.push_back(
+            {{flavourWord(nameOf(ammo.flavour)), ammo.name, shownValue(weapon_field::Speed, ammo, figure),
+              shownValue(weapon_field::Mass, ammo, figure),
+              shownValue(weapon_field::HighExplosive, ammo, figure),
+              isHeat(ammo.flavour) ? shownValue(weapon_field::Era, ammo) : "-"}});
     }
     if (weapon.ammoTypes.empty()) {
         ammunition.notes.push_back({"None."});

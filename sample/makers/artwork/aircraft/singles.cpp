@@ -130,7 +130,8 @@ void il2(Relief& r) {
               flat(84.0).rounded(24.0, 24.0));
         const auto gun = r.place({.x = side * 240, .z = 74});
         barrel(r, {{180.0, 4.5}, {220.0, 3.6}, {262.0, 3.0}}, 0.0, paints::DarkSteel);
-        r.add(Shape::capsule({60, 150}, {60, 196}, 4.0), flat(2.0), paints::DarkSteel);
+        // the machine gun inboard of the cannon
+        r.add(Shape::capsule({side * -30, 150}, {side * -30, 196}, 4.0), flat(2.0), paints::DarkSteel);
     }
     fuselage(r,
              {{-574, 14},

@@ -69,6 +69,10 @@ void pe2(Relief& r) {
     }
     fuselage(r, {{-630, 10}, {-560, 24}, {-380, 38}, {-180, 50}, {40, 58}, {260, 60}, {440, 56}, {540, 48}},
              92.0);
+    // the two guns beside the glass of the nose
+    for (const double side : {-1.0, 1.0}) {
+        r.add(Shape::capsule({side * 18, 590}, {side * 18, 640}, 4.0), flat(80.0), paints::DarkSteel);
+    }
     glazedNose(r, 540, 626, 46.0, 92.0);
     bodyFrames(r, {-480, -400, -320, -240, 330, 400}, 60.0);
     canopy(r, 150, 330, 40.0, 126.0, 4);
@@ -85,8 +89,9 @@ void pe2(Relief& r) {
 
 void a20Armament(Relief& r) {
     // guns in the solid nose
-    for (const auto& [x, y] : {std::array{-22.0, 700.0}, std::array{22.0, 700.0}, std::array{-12.0, 716.0},
-                               std::array{12.0, 716.0}}) {
+    for (const auto& [x, y] :
+         {std::array{-22.0, 700.0}, std::array{22.0, 700.0}, std::array{-12.0, 716.0}, std::array{12.0, 716.0},
+          std::array{-34.0, 678.0}, std::array{34.0, 678.0}}) {
         r.add(Shape::capsule({x, y - 20}, {x, y + 14}, 6.0), tube({x, y - 20}, {x, y + 14}, 3.0, 3.0, 110.0),
               paints::DarkSteel);
     }

@@ -149,6 +149,10 @@ void drawHull(Relief& r) {
     upperHull(r);
     engineDeck(r);
     stowage(r);
+    // the machine gun in the front plate, to the right of the gun
+    const auto placed = r.place({.x = 60.0, .y = 178.0, .z = 110.0});
+    r.add(Shape::circle({}, 7.0), flat(4.0).rounded(6.0, 4.0));
+    machineGunBarrel(r, 2.0, 34.0, 2.4, 2.0, false);
 }
 
 void drawTurret(Relief& r) {

@@ -2,8 +2,10 @@
 
 #include "app/windows/application.h"
 #include "app/windows/display/redraw.h"
+#include "tools/checks/sheet_problems.h"
 #include "view/drawing/part_positions.h"
 #include "view/painting/gdi_device_win32.h"
+#include "view/sheet/missing_files.h"
 
 #include <algorithm>
 #include <array>
@@ -74,13 +76,25 @@ std::optional<std::vector<std::string>> usersOf(const WeaponRecord& weapon) {
 
 std::vector<Finding> problemsOf(const WeaponRecord& weapon) {
     const Workspace& workspace = theWorkspace();
-    return workspace.catalogue.problemsOf(
+    std::vector<Finding> problems = workspace.catalogue.problemsOf(
         dataFilePath(baseFolder(workspace), Category::Weapons, weapon.fileName));
+    std::vector<Finding> missing = missingFiles(weapon, imageBases(workspace));
+    std::move(missing.begin(), missing.end(), std::back_inserter(problems));
+    return problems;
+}
+
+/// The box that a failed save shows has no room for the reason.
+void addSaveFailure(DataSheet& sheet) {
+    const std::string& reason = theWorkspace().open.saveFailure;
+    if (!reason.empty()) {
+        sheet.warnings.insert(sheet.warnings.begin(), {"The file could not be saved: " + reason});
+    }
 }
 
 void composeWeaponSheet(UnitDisplay& display, const WeaponRecord& weapon) {
     display.weaponUsers = usersOf(weapon);
     display.sheet = weaponSheet(weapon, problemsOf(weapon), display.weaponUsers);
+    addSaveFailure(display.sheet);
 }
 
 /// The file is looked through once; the values with every change.
@@ -92,11 +106,12 @@ void composeUnitSheet(UnitDisplay& display, const SquadRecord& unit) {
         display.fileProblems = fileProblems(workspace.open.category, content);
     }
     std::vector<SheetProblem> problems = display.fileProblems;
-    std::vector<SheetProblem> values =
-        valueProblems(unit, content, display.drawing.missingPictures, workspace.catalogue);
+    std::vector<SheetProblem> values = valueProblems(unit, content, display.drawing.missingPictures,
+                                                     workspace.catalogue, imageBases(workspace));
     std::move(values.begin(), values.end(), std::back_inserter(problems));
     display.sheet = unitSheet(unit, display.drawing.missingPictures, workspace.catalogue);
     addProblems(display.sheet, problems);
+    addSaveFailure(display.sheet);
 }
 
 /// Makes anew what the record or the view has changed.

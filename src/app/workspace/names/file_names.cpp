@@ -7,9 +7,6 @@
 #include <algorithm>
 #include <array>
 
-#include <algorithm>
-#include <array>
-
 namespace varrocade {
 
 namespace {
@@ -53,6 +50,15 @@ std::optional<std::string> refusalOfNationality(std::string_view name, std::stri
         return std::nullopt;
     }
     return "The filename must begin with the squad's nationality name:\n\n        " + word;
+}
+
+std::string nameForNationality(const std::string& name, std::string_view former, std::string_view next) {
+    const std::string word = displayName(next, NationalityPrefix);
+    const std::string formerWord = displayName(former, NationalityPrefix);
+    if (name.empty()) {
+        return word + " ";
+    }
+    return !formerWord.empty() && name.starts_with(formerWord) ? word + name.substr(formerWord.size()) : name;
 }
 
 SquadRecord newUnit(Category category, std::string_view name, std::string_view nationality) {

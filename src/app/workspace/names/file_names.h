@@ -19,6 +19,9 @@ std::optional<std::string> refusalOfName(std::string_view name);
 /// The message that refuses a unit's name which does not begin with its nationality ("German").
 std::optional<std::string> refusalOfNationality(std::string_view name, std::string_view nationality);
 
+/// A name that begins with one nationality's word, with another's in its place; an empty one begins with it.
+std::string nameForNationality(const std::string& name, std::string_view former, std::string_view next);
+
 /// A new unit of a category as its first file holds it.
 SquadRecord newUnit(Category category, std::string_view name, std::string_view nationality);
 

@@ -29,6 +29,10 @@ bool isListed(const NameList& list, const std::string& name) {
                        [&](const std::string& listed) { return equalsIgnoringCase(listed, name); });
 }
 
+bool isOfGame(const NameList& list, const std::string& name) {
+    return std::binary_search(list.ofGame.begin(), list.ofGame.end(), name);
+}
+
 bool selectName(NameList& list, const std::string& name) {
     const auto place = std::find_if(list.shown.begin(), list.shown.end(), [&](const std::string& shown) {
         return equalsIgnoringCase(shown, name);

@@ -7,7 +7,8 @@
 namespace varrocade {
 
 struct NameList {
-    std::vector<std::string> all; ///< as the folder lists them
+    std::vector<std::string> all;    ///< as the folder lists them, those of the game alone behind the mod's
+    std::vector<std::string> ofGame; ///< the game's in mod mode that the mod has none of, sorted
     std::string filter;
     std::vector<std::string> shown; ///< that hold every word of the filter, letter case ignored
     std::string selected;           ///< among those that are shown, or empty
@@ -19,6 +20,9 @@ void filterNames(NameList& list, const std::string& otherwise);
 
 /// Whether a name is in the list, letter case ignored, shown or not.
 bool isListed(const NameList& list, const std::string& name);
+
+/// Whether it is one of the game's that stand behind the mod's.
+bool isOfGame(const NameList& list, const std::string& name);
 
 /// Selects a shown name, letter case ignored; false when it is not shown, which leaves nothing selected.
 bool selectName(NameList& list, const std::string& name);

@@ -17,7 +17,8 @@ struct OpenRecord {
     std::string content; ///< the file's bytes, as they were last read or written
     /// Another program has changed or removed the file since; what is unsaved here differs from both.
     bool isChangedOutside = false;
-    unsigned lastMove = 0; ///< how many moves in the drawing there were
+    std::string saveFailure; ///< why the last save failed, in the system's words; empty where it did not
+    unsigned lastMove = 0;   ///< how many moves in the drawing there were
 
     [[nodiscard]] bool isOpen() const { return !std::holds_alternative<std::monostate>(present.record); }
 

@@ -14,23 +14,31 @@ bool isOf(const OpenRecord& record, const std::string& base, Category category, 
            equalsIgnoringCase(fileNameOf(record.present.record), name);
 }
 
-/// The place of the present list's record among those that are not shown.
-std::size_t placeAside(const Workspace& workspace, const std::string& name) {
-    const auto& aside = workspace.aside;
-    const auto found = std::find_if(aside.begin(), aside.end(), [&](const OpenRecord& record) {
-        return isOf(record, baseFolder(workspace), workspace.category, name);
-    });
-    return static_cast<std::size_t>(found - aside.begin());
+/// The same of a name of the present list.
+std::vector<OpenRecord>::const_iterator listedAside(const Workspace& workspace, const std::string& name) {
+    return findAside(workspace, baseOfEntry(workspace, name), workspace.category, name);
 }
 
 } // namespace
 
+std::vector<OpenRecord>::const_iterator findAside(const Workspace& workspace, const std::string& base,
+                                                  Category category, const std::string& name) {
+    return std::find_if(workspace.aside.begin(), workspace.aside.end(),
+                        [&](const OpenRecord& record) { return isOf(record, base, category, name); });
+}
+
+bool isInMemory(const Workspace& workspace, const std::string& base, Category category,
+                const std::string& name) {
+    return isOf(workspace.open, base, category, name) ||
+           findAside(workspace, base, category, name) != workspace.aside.end();
+}
+
 EntryMark markOf(const Workspace& workspace, const std::string& name) {
     const OpenRecord* record = nullptr;
-    if (isOf(workspace.open, baseFolder(workspace), workspace.category, name)) {
+    if (isOf(workspace.open, baseOfEntry(workspace, name), workspace.category, name)) {
         record = &workspace.open;
-    } else if (const std::size_t place = placeAside(workspace, name); place < workspace.aside.size()) {
-        record = &workspace.aside[place];
+    } else if (const auto found = listedAside(workspace, name); found != workspace.aside.end()) {
+        record = &*found;
     }
     if (record == nullptr || !record->isUnsaved()) {
         return EntryMark::None;
@@ -58,16 +66,16 @@ std::string unsavedRecordText(const Workspace& workspace, const OpenRecord& reco
 }
 
 bool isAside(const Workspace& workspace, const std::string& name) {
-    return placeAside(workspace, name) < workspace.aside.size();
+    return listedAside(workspace, name) != workspace.aside.end();
 }
 
 std::optional<OpenRecord> takeFromAside(Workspace& workspace, const std::string& name) {
-    const std::size_t place = placeAside(workspace, name);
-    if (place >= workspace.aside.size()) {
+    const auto found = listedAside(workspace, name);
+    if (found == workspace.aside.end()) {
         return std::nullopt;
     }
-    OpenRecord record = std::move(workspace.aside[place]);
-    workspace.aside.erase(workspace.aside.begin() + static_cast<std::ptrdiff_t>(place));
+    OpenRecord record = *found;
+    workspace.aside.erase(found);
     return record;
 }
 

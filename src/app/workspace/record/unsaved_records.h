@@ -22,6 +22,14 @@ std::vector<const OpenRecord*> unsavedRecords(const Workspace& workspace);
 /// "Vehicles: German Tiger", with the base folder of one that is not of the present list's.
 std::string unsavedRecordText(const Workspace& workspace, const OpenRecord& record);
 
+/// The record of a file in a workspace's `aside`, or its end.
+std::vector<OpenRecord>::const_iterator findAside(const Workspace& workspace, const std::string& base,
+                                                  Category category, const std::string& name);
+
+/// Whether the record of a file is in memory, shown or with unsaved changes.
+bool isInMemory(const Workspace& workspace, const std::string& base, Category category,
+                const std::string& name);
+
 /// Whether the record in memory of a name of the list is one that is not shown.
 bool isAside(const Workspace& workspace, const std::string& name);
 

@@ -1,0 +1,228 @@
+#include "app/commands/names/new_squad_dialog.h"
+
+#include "app/windows/application.h"
+#include "app/workspace/file_actions.h"
+#include "app/workspace/names/file_names.h"
+#include "data/unit/enumerations.h"
+#include "data/unit_fields.h"
+#include "editors/form/form_dialog_win32.h"
+#include "editors/squad/heavy_weapon_form.h"
+#include "editors/unit/weapon_choices.h"
+#include "platform/messages.h"
+#include "resources/resource.h"
+
+#include <algorithm>
+#include <array>
+#include <vector>
+
+namespace varrocade {
+
+namespace {
+
+/// The name gets the keyboard once the system has given it to the first control.
+constexpr UINT FocusName = WM_APP + 1;
+
+struct NewSquadChoice {
+    Holder holder = Holder::VehicleFile; ///< stands for the category
+    UnitStart start;
+};
+
+struct OfStart {
+    static auto& in(auto& choice) { return choice.start; }
+};
+
+constexpr auto StartMen =
+    field_row::number(&UnitStart::men, "man", "Men",
+                      {.range = {.least = 0, .greatest = static_cast<std::int32_t>(MaxSquadMembers)}});
+constexpr auto StartKind = field_row::reference(FieldKind::Choice, &UnitStart::kind, "kind", "Kind");
+constexpr auto StartPicture =
+    field_row::image(&UnitStart::picture, "image", "Picture", image_sources::UnitPicture);
+constexpr auto StartWeapon = field_row::reference(FieldKind::Weapon, &UnitStart::weapon, "type", "Weapon");
+
+constexpr auto StartRows = std::to_array<FormRow<NewSquadChoice>>({
+    {IDC_START_MEN, OfStart(), StartMen, {.kinds = Holders::of(Holder::SquadFile, Holder::AtGun)}},
+    {IDC_START_KIND, OfStart(), StartKind, {.kinds = Holders::of(Holder::AtGun)}},
+    {IDC_START_PICTURE, OfStart(), StartPicture, {.kinds = Holders::of(Holder::AtGun, Holder::AircraftFile)}},
+    {IDC_START_WEAPON, OfStart(), StartWeapon, {.kinds = Holders::allBut(Holder::VehicleFile)}},
+});
+
+constexpr FormShape<NewSquadChoice> StartShape = {
+    .rows = StartRows, .holder = [](const NewSquadChoice& choice) { return choice.holder; }};
+
+Holder holderOfCategory(Category category) {
+    switch (category) {
+    case Category::AtGuns:
+        return Holder::AtGun;
+    case Category::Infantry:
+        return Holder::SquadFile;
+    case Category::Aircraft:
+        return Holder::AircraftFile;
+    default:
+        return Holder::VehicleFile;
+    }
+}
+
+WeaponBearer bearerOf(Holder holder) {
+    if (holder == Holder::AtGun) {
+        return WeaponBearer::HeavyWeapon;
+    }
+    return holder == Holder::AircraftFile ? WeaponBearer::Aircraft : WeaponBearer::Man;
+}
+
+class NewSquadDialog final : public FormDialog {
+public:
+    NewSquadDialog(const std::vector<std::string>& bases, NewSquadChoice& choice)
+        : FormDialog({.dialogTemplate = IDD_NEW_SQUAD, .caption = "Error", .imageBases = bases}, form_),
+          choice_(choice), form_(choice, StartShape) {}
+
+    [[nodiscard]] const std::string& name() const { return name_; }
+
+private:
+    void prepare() override;
+    bool accept() override;
+    bool notice(int control, int notification) override;
+    bool receive(UINT message, WPARAM, LPARAM) override {
+        if (message != FocusName) {
+            return false;
+        }
+        port().focus(IDC_NEW_NAME);
+        const std::size_t end = port().text(IDC_NEW_NAME).size();
+        SendDlgItemMessageA(handle(), IDC_NEW_NAME, EM_SETSEL, end, static_cast<LPARAM>(end));
+        return true;
+    }
+
+    void chooseNationality();
+    void offerPictures();
+    void offerWeapons();
+    void closeGaps();
+
+    NewSquadChoice& choice_;
+    std::string nationality_; ///< "NATIONALITY_..."
+    std::string name_;
+    RecordForm<NewSquadChoice> form_;
+};
+
+void NewSquadDialog::prepare() {
+    const auto nationalities = nationalityNames();
+    std::vector<std::string> words;
+    for (const std::string_view nationality : nationalities) {
+        words.push_back(displayName(nationality, NationalityPrefix));
+    }
+    port().setChoices(IDC_NEW_NATIONALITY, words);
+    const SquadRecord* open = openUnit(theWorkspace());
+    const auto own = open == nullptr
+                         ? nationalities.end()
+                         : std::find(nationalities.begin(), nationalities.end(), open->nationality.view());
+    const auto first = own == nationalities.end() ? 0 : own - nationalities.begin();
+    SendDlgItemMessageA(handle(), IDC_NEW_NATIONALITY, CB_SETCURSEL, static_cast<WPARAM>(first), 0);
+    constexpr std::size_t longestName = 255;
+    port().setLimit(IDC_NEW_NAME, longestName);
+    chooseNationality();
+    if (choice_.holder == Holder::AtGun) {
+        port().setText(IDC_START_LABELS, "Cre&w:");
+        port().setText(IDC_START_LABELS + 2, "&Gun image:");
+        port().setText(IDC_START_LABELS + 3, "W&eapon:");
+    }
+    offerPictures();
+    closeGaps();
+    PostMessageA(handle(), FocusName, 0, 0);
+}
+
+/// A gun's picture is one of those that are called so.
+void NewSquadDialog::offerPictures() {
+    std::vector<std::string> pictures = imageChoices(imageBases(theWorkspace()), StartPicture.images);
+    if (choice_.holder == Holder::AtGun) {
+        std::erase_if(pictures, [](const std::string& name) { return !name.ends_with(" gun"); });
+    }
+    port().setChoices(IDC_START_PICTURE, pictures);
+}
+
+void NewSquadDialog::offerWeapons() {
+    SquadRecord unit;
+    unit.nationality = std::string_view(nationality_);
+    port().setChoices(IDC_START_WEAPON,
+                      weaponChoices(theWorkspace().catalogue, unit, bearerOf(choice_.holder), false));
+}
+
+/// The rows of other categories go, and what is below them moves up.
+void NewSquadDialog::closeGaps() {
+    const auto topOf = [this](int control) {
+        RECT place{};
+        GetWindowRect(GetDlgItem(handle(), control), &place);
+        MapWindowPoints(nullptr, handle(), reinterpret_cast<POINT*>(&place), 2);
+        return place;
+    };
+    const auto lift = [&](int control, LONG by) {
+        const RECT place = topOf(control);
+        SetWindowPos(GetDlgItem(handle(), control), nullptr, place.left, place.top - by, 0, 0,
+                     SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    };
+    const LONG pitch = topOf(IDC_START_KIND).top - topOf(IDC_START_MEN).top;
+    LONG gap = 0;
+    for (std::size_t i = 0; i < StartRows.size(); ++i) {
+        const int label = IDC_START_LABELS + static_cast<int>(i);
+        if (StartRows[i].terms.kinds.has(choice_.holder)) {
+            lift(label, gap);
+            lift(StartRows[i].control, gap);
+        } else {
+            ShowWindow(GetDlgItem(handle(), label), SW_HIDE);
+            ShowWindow(GetDlgItem(handle(), StartRows[i].control), SW_HIDE);
+            gap += pitch;
+        }
+    }
+    lift(IDOK, gap);
+    lift(IDCANCEL, gap);
+    RECT window{};
+    GetWindowRect(handle(), &window);
+    SetWindowPos(handle(), nullptr, 0, 0, window.right - window.left, window.bottom - window.top - gap,
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+/// The name begins with what is chosen.
+void NewSquadDialog::chooseNationality() {
+    const LRESULT chosen = SendDlgItemMessageA(handle(), IDC_NEW_NATIONALITY, CB_GETCURSEL, 0, 0);
+    const auto names = nationalityNames();
+    const std::string former = nationality_;
+    nationality_ = chosen >= 0 && static_cast<std::size_t>(chosen) < names.size()
+                       ? std::string(names[static_cast<std::size_t>(chosen)])
+                       : std::string();
+    port().setText(IDC_NEW_NAME, nameForNationality(port().text(IDC_NEW_NAME), former, nationality_));
+    offerWeapons();
+}
+
+bool NewSquadDialog::notice(int control, int notification) {
+    if (control == IDC_NEW_NATIONALITY) {
+        if (notification == CBN_SELCHANGE) {
+            chooseNationality();
+        }
+        return true;
+    }
+    return control == IDC_NEW_NAME || FormDialog::notice(control, notification);
+}
+
+bool NewSquadDialog::accept() {
+    name_ = port().text(IDC_NEW_NAME);
+    if (!take()) {
+        return false;
+    }
+    const NameCheck refusal = createUnit(theWorkspace(), name_, nationality_, choice_.start);
+    if (!refusal) {
+        return true;
+    }
+    if (!refusal->empty()) {
+        showMessage({.text = *refusal, .caption = caption(), .icon = MessageIcon::Information});
+    }
+    port().focus(IDC_NEW_NAME);
+    return false;
+}
+
+} // namespace
+
+std::string askForNewSquad() {
+    NewSquadChoice choice{.holder = holderOfCategory(theWorkspace().category), .start = {}};
+    const std::vector<std::string> bases = imageBases(theWorkspace());
+    NewSquadDialog dialog(bases, choice);
+    return dialog.run(application().window) ? dialog.name() : std::string();
+}
+
+} // namespace varrocade

@@ -1,0 +1,127 @@
+#include "app/commands/report_commands.h"
+
+#include "app/windows/application.h"
+#include "app/workspace/category_list.h"
+#include "editors/reports/mod_check_dialog.h"
+#include "editors/reports/progress_dialog.h"
+#include "platform/messages.h"
+#include "resources/resource.h"
+#include "tools/reports/duplicate_files.h"
+#include "tools/reports/missing_voices.h"
+#include "tools/reports/png_usage.h"
+#include "tools/reports/unit_sheets.h"
+#include "tools/reports/unused_files.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace varrocade {
+
+namespace {
+
+void tellFailures(const std::string& caption, std::string text, const std::vector<FileFailure>& failures) {
+    constexpr std::size_t most = 15;
+    for (std::size_t i = 0; i < std::min(most, failures.size()); ++i) {
+        text += "\n    " + failures[i].path + ": " + failures[i].reason;
+    }
+    if (failures.size() > most) {
+        text += "\n    and " + std::to_string(failures.size() - most) + " more";
+    }
+    showMessage({.text = std::move(text), .caption = caption, .icon = MessageIcon::Warning});
+}
+
+/// Asks, makes a report, and writes its files into the base folder.
+void confirmThenReport(const std::string& caption, std::string question, FileReport& report) {
+    if (showMessage({.text = std::move(question),
+                     .caption = caption,
+                     .buttons = MessageButtons::YesNo,
+                     .icon = MessageIcon::Question}) != Answer::Yes ||
+        !runJobInWindow(application().window, caption, report)) {
+        return;
+    }
+    Workspace& workspace = theWorkspace();
+    const std::vector<ReportFile> files = report.files();
+    const std::vector<FileFailure> unwritten = writeReport(*workspace.files, baseFolder(workspace), files);
+    for (const FileFailure& failure : unwritten) {
+        showCouldNotSave(failure.path);
+    }
+    if (const std::vector<FileFailure> unread = report.failures(); !unread.empty()) {
+        tellFailures(caption, "These files could not be read and are left out:\n", unread);
+    }
+    if (unwritten.empty()) {
+        std::string text = "Created in " + baseFolder(workspace) + ":\n";
+        for (const ReportFile& file : files) {
+            text += "\n    " + file.name;
+        }
+        showMessage({.text = std::move(text), .caption = caption, .icon = MessageIcon::Information});
+    }
+}
+
+/// The mod in use beside the installed game; without its folder the program's own is taken for it.
+GameFolders foldersToCompare(const Workspace& workspace) {
+    GameFolders folders = gameFolders(workspace);
+    if (!workspace.gameFolder.empty()) {
+        folders.program = workspace.gameFolder;
+        if (folders.program.back() != '\\') {
+            folders.program += '\\';
+        }
+    }
+    return folders;
+}
+
+void checkMod(const std::string& caption, int dialogTemplate, ModCheck& check) {
+    HWND window = application().window;
+    if (!runJobInWindow(window, caption, check)) {
+        return;
+    }
+    if (const std::vector<FileFailure> unread = check.failures(); !unread.empty()) {
+        tellFailures(caption, "These files could not be looked at:\n", unread);
+    }
+    Workspace& workspace = theWorkspace();
+    const ModCheckOutcome outcome =
+        showModCheck(window, dialogTemplate, {*workspace.files, workspace.modFolder}, check.rows());
+    if (outcome.hasMoved) {
+        application().pictures.clear();
+        refreshAll(workspace);
+    }
+    if (outcome.shown) {
+        showFile(workspace, outcome.shown->category, outcome.shown->name);
+    }
+}
+
+} // namespace
+
+void generateSpreadsheets() {
+    UnitSheets sheets(gameFolders(theWorkspace()));
+    confirmThenReport(
+        "Generate unit spreadsheets",
+        "This will create the tab separated .csv files:\n\n    Vehicles.csv\n    Infantry.csv\n    AT "
+        "Guns.csv\n\ncontaining the unit data",
+        sheets);
+}
+
+void generatePngUsage() {
+    PngUsage usage(gameFolders(theWorkspace()));
+    confirmThenReport(
+        "Create PNG usage files",
+        "This will create a .txt file showing which vehicle PNGs are not being used, and which PNGs are "
+        "used by which vehicles",
+        usage);
+}
+
+void checkDuplicateFiles() {
+    DuplicateFiles check(foldersToCompare(theWorkspace()));
+    checkMod("Check mod for unneeded duplicate files", IDD_CHECK_DUPLICATES, check);
+}
+
+void checkUnusedFiles() {
+    UnusedFiles check(foldersToCompare(theWorkspace()));
+    checkMod("Check mod for unused files", IDD_CHECK_UNUSED, check);
+}
+
+void checkVoiceFiles() {
+    MissingVoices check(foldersToCompare(theWorkspace()));
+    checkMod("Check mod for missing voice files", IDD_CHECK_VOICES, check);
+}
+
+} // namespace varrocade

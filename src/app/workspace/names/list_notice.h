@@ -1,0 +1,23 @@
+#pragma once
+// What the list of names says in their place when it has none to show.
+
+#include "app/workspace/workspace.h"
+
+#include <cstdint>
+#include <string>
+
+namespace varrocade {
+
+/// What the user can do about an empty list.
+enum class ListRemedy : std::uint8_t { None, ShowAll, ChooseFolder };
+
+struct ListNotice {
+    std::string text; ///< empty while names are shown
+    ListRemedy remedy = ListRemedy::None;
+};
+
+/// Why no name is shown: the filter hides them all, the program runs where there is no game, or the folder
+/// is empty.
+ListNotice listNotice(const Workspace& workspace);
+
+} // namespace varrocade

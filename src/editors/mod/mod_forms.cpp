@@ -1,0 +1,304 @@
+#include "editors/mod/mod_forms.h"
+
+#include "data/format/clean_text.h"
+#include "data/format/numbers.h"
+#include "data/format/texts.h"
+#include "data/unit/enumerations.h"
+#include "mod/mod_fields.h"
+#include "mod/starting_points.h"
+#include "resources/resource.h"
+
+#include <algorithm>
+#include <array>
+
+namespace varrocade {
+
+namespace {
+
+namespace mf = mod_field;
+
+constexpr int MonthsOfAYear = 12;
+constexpr std::string_view BackToFront = "The end is before the beginning";
+
+// ---- the mod
+
+constexpr auto ModRows = std::to_array<FormRow<ModSettings>>({
+    {IDC_MOD_NAME, mf::Name},
+    {IDC_MOD_AUTHOR, mf::Author},
+    {IDC_MOD_VERSION, mf::Version},
+    {IDC_MOD_COMMENT, mf::Comment},
+    {IDC_MOD_FIRST, mf::FirstYear},
+    {IDC_MOD_FIRST_MONTH, mf::FirstMonth},
+    {IDC_MOD_LAST, mf::LastYear},
+    {IDC_MOD_LAST_MONTH, mf::LastMonth},
+});
+
+std::optional<FormError> checkWar(const ModSettings&, ModSettings& read) {
+    if (read.name.empty()) {
+        return FormError{refusedInput(mf::Name, "A name must be entered"), IDC_MOD_NAME};
+    }
+    if (read.lastYear * MonthsOfAYear + read.lastMonth < read.firstYear * MonthsOfAYear + read.firstMonth) {
+        return FormError{refusedInput(mf::LastYear, std::string(BackToFront)), IDC_MOD_LAST};
+    }
+    return std::nullopt;
+}
+
+constexpr FormShape<ModSettings> ModShape = {.rows = ModRows, .check = checkWar};
+
+// ---- what has a period
+
+struct PeriodOf {
+    static auto& in(auto& entry) { return entry.period; }
+};
+
+template <typename Entry>
+std::optional<FormError> checkPeriod(const Entry&, Entry& read) {
+    const ModPeriod& period = read.period;
+    const bool isClosed = period.firstYear != 0 && period.lastYear != 0;
+    if (isClosed && period.lastYear * MonthsOfAYear + period.lastMonth <
+                        period.firstYear * MonthsOfAYear + period.firstMonth) {
+        return FormError{refusedInput(mf::PeriodLastYear, std::string(BackToFront)), IDC_MOD_LAST};
+    }
+    return std::nullopt;
+}
+
+std::string dateText(int year, int month) {
+    return year == 0 ? "" : std::to_string(month) + "/" + std::to_string(year);
+}
+
+std::string periodText(const ModPeriod& period) {
+    const std::string first = dateText(period.firstYear, period.firstMonth);
+    const std::string last = dateText(period.lastYear, period.lastMonth);
+    return first.empty() && last.empty() ? "always" : first + " - " + last;
+}
+
+/// The rows of an entry with a period: its own, then the dates.
+template <typename Entry, typename... Own>
+constexpr std::array<FormRow<Entry>, sizeof...(Own) + 4> withPeriod(const Own&... own) {
+    return {own..., FormRow<Entry>(IDC_MOD_FIRST, PeriodOf(), mf::PeriodFirstYear),
+            FormRow<Entry>(IDC_MOD_FIRST_MONTH, PeriodOf(), mf::PeriodFirstMonth),
+            FormRow<Entry>(IDC_MOD_LAST, PeriodOf(), mf::PeriodLastYear),
+            FormRow<Entry>(IDC_MOD_LAST_MONTH, PeriodOf(), mf::PeriodLastMonth)};
+}
+
+constexpr auto AllegianceRows = withPeriod<ModAllegiance>(FormRow<ModAllegiance>(IDC_MOD_SIDE, mf::Side));
+
+std::string allegianceLine(std::size_t, const ModAllegiance& allegiance) {
+    return periodText(allegiance.period) + ": " + displayName(allegiance.side, SidePrefix);
+}
+
+constexpr auto UniformRows =
+    withPeriod<ModUniform>(FormRow<ModUniform>(IDC_MOD_PROFILE, mf::UniformProfile),
+                           FormRow<ModUniform>(IDC_MOD_GAME_IMAGE, mf::UniformGame),
+                           FormRow<ModUniform>(IDC_MOD_RANKS_IMAGE, mf::UniformRanks));
+
+std::string uniformLine(std::size_t, const ModUniform& uniform) {
+    return periodText(uniform.period) + ": " + uniform.profileImage;
+}
+
+constexpr auto EquipmentRows =
+    withPeriod<ModEquipment>(FormRow<ModEquipment>(IDC_MOD_NAME, mf::EquipmentName));
+
+std::string equipmentLine(std::size_t, const ModEquipment& list) {
+    return list.name + " (" + periodText(list.period) + "), " + std::to_string(list.units.size()) + " units";
+}
+
+// ---- other entries
+
+constexpr auto NationalityRows = std::to_array<FormRow<ModNationality>>({
+    {IDC_MOD_NATIONALITY, mf::Id},
+    {IDC_MOD_NAME, mf::ShownName},
+    {IDC_MOD_ADJECTIVE, mf::Adjective},
+    {IDC_MOD_FLAG, mf::Flag},
+    {IDC_MOD_ANIMATED_FLAG, mf::AnimatedFlag},
+});
+
+std::string nationalityLine(std::size_t place, const ModNationality& nation) {
+    const std::string known = displayName(nation.id, NationalityPrefix);
+    return std::to_string(place) + ". " + (nation.name.empty() ? known : nation.name + " (" + known + ")");
+}
+
+constexpr auto SurnameRows = std::to_array<FormRow<ModSurname>>({
+    {IDC_MOD_NAME, mf::SurnameText},
+    {IDC_MOD_SHARE, mf::Commonness},
+});
+
+std::string surnameLine(std::size_t, const ModSurname& surname) {
+    return surname.name + "  " + std::to_string(surname.commonness);
+}
+
+std::optional<FormError> namelessSurname(const ModSurname& surname) {
+    return surname.name.empty() ? std::optional(FormError{
+                                      refusedInput(mf::SurnameText, "A name must be entered"), IDC_MOD_NAME})
+                                : std::nullopt;
+}
+
+constexpr auto RankRows = std::to_array<FormRow<ModRank>>({
+    {IDC_MOD_NAME, mf::RankName},
+    {IDC_MOD_RANKS_IMAGE, mf::RankImage},
+});
+
+std::string rankLine(std::size_t place, const ModRank& rank) {
+    return std::to_string(place) + ". " + rank.name;
+}
+
+std::optional<FormError> namelessRank(const ModRank& rank) {
+    return rank.name.empty()
+               ? std::optional(FormError{refusedInput(mf::RankName, "A name must be entered"), IDC_MOD_NAME})
+               : std::nullopt;
+}
+
+constexpr auto UnitRows = std::to_array<FormRow<ModListedUnit>>({
+    {IDC_MOD_UNIT_FILE, mf::UnitFile},
+    {IDC_MOD_UNIT_KIND, mf::UnitCategory},
+    {IDC_MOD_SHARE, mf::UnitShare},
+    {IDC_MOD_COST, mf::UnitCost},
+});
+
+std::string unitLine(std::size_t, const ModListedUnit& unit) {
+    return unit.fileName + "  " + std::to_string(unit.share) +
+           (unit.cost > 0 ? ", " + std::to_string(unit.cost) + " points" : "");
+}
+
+std::optional<FormError> namelessUnit(const ModListedUnit& unit) {
+    return unit.fileName.empty()
+               ? std::optional(
+                     FormError{refusedInput(mf::UnitFile, "A file must be chosen"), IDC_MOD_UNIT_FILE})
+               : std::nullopt;
+}
+
+} // namespace
+
+const FormShape<ModSettings>& modShape() {
+    return ModShape;
+}
+
+const ListShape<ModNationality>& nationalityShape() {
+    static const ListShape<ModNationality> shape{.form = {.rows = NationalityRows}, .line = nationalityLine};
+    return shape;
+}
+
+const ListShape<ModAllegiance>& allegianceShape() {
+    static const ListShape<ModAllegiance> shape{
+        .form = {.rows = AllegianceRows, .check = checkPeriod<ModAllegiance>}, .line = allegianceLine};
+    return shape;
+}
+
+const ListShape<ModSurname>& surnameShape() {
+    static const ListShape<ModSurname> shape{
+        .form = {.rows = SurnameRows}, .line = surnameLine, .incomplete = namelessSurname};
+    return shape;
+}
+
+const ListShape<ModUniform>& modUniformShape() {
+    static const ListShape<ModUniform> shape{.form = {.rows = UniformRows, .check = checkPeriod<ModUniform>},
+                                             .line = uniformLine};
+    return shape;
+}
+
+const ListShape<ModRank>& rankShape() {
+    static const ListShape<ModRank> shape{
+        .form = {.rows = RankRows}, .line = rankLine, .incomplete = namelessRank};
+    return shape;
+}
+
+const ListShape<ModEquipment>& equipmentShape() {
+    static const ListShape<ModEquipment> shape{
+        .form = {.rows = EquipmentRows, .check = checkPeriod<ModEquipment>}, .line = equipmentLine};
+    return shape;
+}
+
+const ListShape<ModListedUnit>& listedUnitShape() {
+    static const ListShape<ModListedUnit> shape{
+        .form = {.rows = UnitRows}, .line = unitLine, .incomplete = namelessUnit};
+    return shape;
+}
+
+ModNationality nextNationality(const std::vector<ModNationality>& nations) {
+    ModNationality next;
+    for (const std::string_view id : nationalityNames()) {
+        const bool isTaken = std::any_of(nations.begin(), nations.end(),
+                                         [&](const ModNationality& nation) { return nation.id == id; });
+        if (!isTaken) {
+            next.id = id;
+            break;
+        }
+    }
+    completeNationality(next);
+    return next;
+}
+
+std::string creditsText(const std::vector<std::string>& lines) {
+    std::string text;
+    for (const std::string& line : lines) {
+        text += (text.empty() && &line == &lines.front() ? "" : "\r\n") + line;
+    }
+    return text;
+}
+
+std::vector<std::string> creditLines(std::string_view text) {
+    std::vector<std::string> lines;
+    while (!text.empty()) {
+        const std::size_t end = std::min(text.find('\n'), text.size());
+        std::string_view line = text.substr(0, end);
+        if (line.ends_with('\r')) {
+            line.remove_suffix(1);
+        }
+        lines.emplace_back(line);
+        text.remove_prefix(std::min(end + 1, text.size()));
+    }
+    while (!lines.empty() && lines.back().empty()) {
+        lines.pop_back();
+    }
+    return lines;
+}
+
+std::optional<FormError> refusalOfCredits(const std::vector<std::string>& lines) {
+    const auto bad = std::find_if_not(lines.begin(), lines.end(),
+                                      [](const std::string& line) { return canBeValue(line); });
+    if (bad == lines.end()) {
+        return std::nullopt;
+    }
+    return FormError{
+        {.key = finding_key::BadInput,
+         .severity = Severity::Error,
+         .message = "A line of the credits cannot begin with \"<\", nor hold \"//\" or \"</\":\n\n" + *bad,
+         .value = *bad},
+        IDC_MOD_CREDITS};
+}
+
+std::vector<ModSurname> surnamesOfText(std::string_view text) {
+    constexpr std::string_view blanks = " \t";
+    std::vector<ModSurname> surnames;
+    for (const std::string& line : creditLines(text)) {
+        const std::size_t tab = line.find('\t');
+        std::string_view name = std::string_view(line).substr(0, tab);
+        name.remove_prefix(std::min(name.find_first_not_of(blanks), name.size()));
+        name = name.substr(0, name.find_last_not_of(blanks) + 1);
+        const std::int32_t commonness =
+            tab == std::string::npos ? 1 : toInteger(std::string_view(line).substr(tab + 1));
+        if (!name.empty() && canBeValue(name)) {
+            surnames.push_back(
+                {std::string(name), std::clamp(commonness, mf::Share.range.least, mf::Share.range.greatest)});
+        }
+    }
+    return surnames;
+}
+
+void sortSurnames(std::vector<ModSurname>& surnames) {
+    std::stable_sort(surnames.begin(), surnames.end(), [](const ModSurname& a, const ModSurname& b) {
+        return a.commonness != b.commonness ? a.commonness > b.commonness
+                                            : compareIgnoringCase(a.name, b.name) < 0;
+    });
+}
+
+const std::vector<NamedColour>& namedColours() {
+    static const std::vector<NamedColour> colours = std::apply(
+        [](const auto&... fields) {
+            return std::vector<NamedColour>{{fields.label, fields.member}...};
+        },
+        fieldsOf<ModColours>);
+    return colours;
+}
+
+} // namespace varrocade

@@ -1,0 +1,159 @@
+// One man of a squad, several of them at once, and how many more are wanted.
+
+#include "data/format/words.h"
+#include "data/unit/enumerations.h"
+#include "data/unit_fields.h"
+#include "editors/form/form_dialog_win32.h"
+#include "editors/squad/man_form.h"
+#include "editors/squad/members.h"
+#include "editors/squad/squad_dialogs.h"
+#include "editors/squad/squad_notes.h"
+#include "resources/resource.h"
+#include "weapons/ammo_words.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace varrocade {
+
+namespace {
+
+/// What a man carries, a line each.
+std::string carriedLines(const CrewManRecord& man) {
+    std::string lines;
+    const auto add = [&lines](const std::string& line) { lines += (lines.empty() ? "" : "\r\n") + line; };
+    for (const Text& weapon : man.weapons) {
+        add(weaponWord(weapon));
+    }
+    for (const AmmoLoadRecord& load : man.ammo) {
+        add(grouped(load.rounds) + " rounds for " + weaponWord(load.weaponType) +
+            (load.flavour.empty() ? "" : ", " + flavourWord(load.flavour)));
+    }
+    return lines.empty() ? "nothing" : lines;
+}
+
+class ManDialog final : public FormDialog {
+public:
+    ManDialog(EditContext& edit, CrewManRecord& work)
+        : FormDialog({.dialogTemplate = IDD_MAN, .caption = "Man"}, form_), edit_(edit), work_(work),
+          form_(work, manShape()) {
+        onButton(IDC_MAN_WEAPONS_BUTTON, [this] {
+            editPersonalWeapons(handle(), edit_, work_);
+            follow();
+        });
+        onButton(IDC_MAN_AMMO_BUTTON, [this] {
+            editSoldierAmmunition(handle(), edit_, work_,
+                                  ammoWeaponsOf(edit_.record, work_, edit_.catalogue));
+            follow();
+        });
+    }
+
+private:
+    void follow() override {
+        port().setText(IDC_CARRIED, carriedLines(work_));
+        CrewManRecord shown = work_;
+        readPossible(port(), manShape(), shown);
+        const auto jobs = squadJobNames();
+        const bool isStored = shown.job == field::Job.standard() ||
+                              std::find(jobs.begin(), jobs.end(), shown.job.view()) != jobs.end();
+        const std::array<std::string, 1> job = {field::Job.label.data()};
+        port().setText(IDC_NOT_STORED, isStored ? std::string() : notStoredText(job));
+    }
+
+    EditContext& edit_;
+    CrewManRecord& work_;
+    RecordForm<CrewManRecord> form_;
+};
+
+class SeveralMenDialog final : public FormDialog {
+public:
+    SeveralMenDialog(EditContext& edit, std::span<const CrewManRecord> men, MenChange& change)
+        : FormDialog({.dialogTemplate = IDD_SEVERAL_MEN, .caption = "Change Several Men"}, form_),
+          edit_(edit), men_(men), form_(change, menChangeShape()) {
+        onButton(IDC_SHOW_ALL, [this] { offerWeapons(); });
+    }
+
+private:
+    void prepare() override {
+        port().setText(IDC_CAPTION_LINE, "For all of the " + std::to_string(men_.size()) + " men chosen:");
+        offerWeapons();
+        port().setChoices(IDC_FORMER_ARMS, weaponTypesOf(men_));
+        port().setChoices(IDC_AMMO_FOR, ammoWeaponsOf(edit_.record, men_.front(), edit_.catalogue));
+    }
+    void offerWeapons() {
+        port().setChoices(IDC_WEAPON_TYPE, weaponChoices(edit_.catalogue, edit_.record, WeaponBearer::Man,
+                                                         port().isChecked(IDC_SHOW_ALL)));
+    }
+    void follow() override {
+        if (GetFocus() == nullptr || GetParent(GetFocus()) != GetDlgItem(handle(), IDC_FLAVOUR)) {
+            port().setChoices(IDC_FLAVOUR, flavourChoices(edit_.catalogue, port().text(IDC_AMMO_FOR)));
+        }
+    }
+
+    EditContext& edit_;
+    std::span<const CrewManRecord> men_;
+    RecordForm<MenChange> form_;
+};
+
+struct MenCount {
+    std::int32_t men = 5;
+};
+
+constexpr auto CountOfMen =
+    field_row::number(&MenCount::men, "men", "Men like this one",
+                      {.range = {.least = 1, .greatest = static_cast<std::int32_t>(MaxSquadMembers)}});
+constexpr auto MenCountRows = std::to_array<FormRow<MenCount>>({{IDC_MEN_COUNT, CountOfMen}});
+constexpr FormShape<MenCount> MenCountShape = {.rows = MenCountRows};
+
+class AddMenDialog final : public FormDialog {
+public:
+    AddMenDialog(MenCount& count, std::size_t room)
+        : FormDialog({.dialogTemplate = IDD_ADD_MEN, .caption = "Add Several Men"}, form_), room_(room),
+          form_(count, MenCountShape) {}
+
+private:
+    void prepare() override { port().setText(IDC_CAPTION_LINE, "(room for " + std::to_string(room_) + ")"); }
+
+    std::size_t room_;
+    RecordForm<MenCount> form_;
+};
+
+} // namespace
+
+bool askForMan(HWND owner, EditContext& edit, CrewManRecord& man) {
+    return ManDialog(edit, man).run(owner);
+}
+
+bool editMan(HWND owner, EditContext& edit, CrewManRecord& man) {
+    CrewManRecord work = man;
+    if (!askForMan(owner, edit, work) || work == man) {
+        return false;
+    }
+    man = std::move(work);
+    return true;
+}
+
+bool editSeveralMen(HWND owner, EditContext& edit, std::span<const std::size_t> men) {
+    std::vector<CrewManRecord> chosen;
+    for (const std::size_t man : men) {
+        chosen.push_back(edit.record.infantrymen[man]);
+    }
+    MenChange change;
+    const std::vector<CrewManRecord> former = edit.record.infantrymen;
+    if (chosen.empty() || !SeveralMenDialog(edit, chosen, change).run(owner)) {
+        return false;
+    }
+    for (const std::size_t man : men) {
+        changeMan(edit.record.infantrymen[man], change);
+    }
+    return edit.record.infantrymen != former;
+}
+
+std::size_t askForMenCount(HWND owner, std::size_t room) {
+    MenCount count;
+    count.men = std::min(count.men, static_cast<std::int32_t>(room));
+    return AddMenDialog(count, room).run(owner) ? std::min(static_cast<std::size_t>(count.men), room) : 0;
+}
+
+} // namespace varrocade

@@ -1,0 +1,36 @@
+#pragma once
+// Equipment lists from the units that there are.
+
+#include "data/category.h"
+#include "data/finding.h"
+#include "data/game_files.h"
+#include "data/unit/unit_record.h"
+#include "mod/mod_record.h"
+
+#include <string>
+#include <vector>
+
+namespace varrocade {
+
+/// How many units of a kind there were at most in a time, months counted from January of year 0, both ends
+/// with it. A unit's number holds from the date of its point on.
+int mostAvailable(const std::vector<AvailabilityPoint>& points, int firstMonth, int lastMonth);
+
+/// A unit that may be listed.
+struct EquipmentSource {
+    Category category = Category::Vehicles;
+    std::string fileName;
+    std::string nationality;
+    std::vector<AvailabilityPoint> availability;
+};
+
+/// Gives every nationality of the settings new lists of what it had in the mod's war: one for each year, or
+/// for each five years of a war of more than twelve; neighbours that are alike become one. A unit's share is
+/// the greatest number of it in that time.
+void listEquipment(ModSettings& settings, const std::vector<EquipmentSource>& units);
+
+/// The units of a game; `failures`, where it is given, takes the files that could not be read.
+std::vector<EquipmentSource> readEquipmentSources(const GameFolders& folders,
+                                                  std::vector<FileFailure>* failures = nullptr);
+
+} // namespace varrocade

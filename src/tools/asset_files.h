@@ -1,0 +1,69 @@
+#pragma once
+// Which file of a game and its mod answers a name, as the game's system finds it: the mod's before the
+// game's, letter case aside.
+
+#include "data/game_files.h"
+#include "tools/references.h"
+
+#include <map>
+#include <span>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+namespace varrocade {
+
+/// A file of the game or the mod, below one of its folders.
+struct AssetFile {
+    std::string folder; ///< below the base, such as "Images\Uniforms\"
+    std::string name;   ///< with its ending, in the letter case that it has on the disk
+    std::string path;
+    bool isOfMod = false;
+    [[nodiscard]] std::string below() const { return folder + name; }
+};
+
+/// The files below the bases. A folder is listed once, when it is asked for first; pointers to files stay
+/// good as long as the object lives.
+class AssetFiles {
+public:
+    AssetFiles() = default;
+    explicit AssetFiles(GameFolders folders) : bases_(std::move(folders)) {}
+
+    /// The files of a folder whose names end in `ending`: those that count first, sorted by name, then the
+    /// game's that the mod hides.
+    const std::vector<AssetFile>& list(std::string_view folder, std::string_view ending);
+
+    /// The file of that name, or null; `name` is without its ending, with folders below `folder` where it
+    /// names some.
+    const AssetFile* find(std::string_view folder, std::string_view name, std::string_view ending);
+
+    /// The file that answers a reference, or null where nothing does. A weapon is known by the name of its
+    /// file, then by the one that it has in it.
+    const AssetFile* find(const Reference& reference);
+
+    /// Tells the name that a weapon's file has in it. The first file of a name counts.
+    void nameWeapon(std::string_view name, std::string_view fileName);
+
+    [[nodiscard]] const GameFolders& bases() const { return bases_; }
+
+private:
+    struct Listing {
+        std::vector<AssetFile> files;
+        std::unordered_map<std::string, std::size_t> places; ///< by name in small letters
+    };
+
+    const Listing& listing(std::string_view folder, std::string_view ending);
+
+    GameFolders bases_;
+    std::map<std::string, Listing, std::less<>> listings_;     ///< by folder and ending, in small letters
+    std::unordered_map<std::string, std::string> weaponFiles_; ///< by the name in the file, in small letters
+};
+
+/// The data files of all categories that count, and the folders that could not be listed.
+std::vector<GameFile> listAllFiles(const GameFolders& folders, std::vector<FileFailure>& failures);
+
+/// Those among them that belong to the mod where one is in use: what reports are about.
+std::vector<GameFile> listOwnFiles(const GameFolders& folders, std::vector<FileFailure>& failures);
+
+} // namespace varrocade

@@ -1,0 +1,72 @@
+#pragma once
+// Checking all files of a game or mod: first what is usual among them, then each.
+
+#include "data/finding.h"
+#include "data/game_files.h"
+#include "tools/checks/engine/check_file.h"
+#include "tools/checks/engine/knowledge.h"
+#include "tools/checks/engine/suppressions.h"
+
+#include <cstddef>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace varrocade {
+
+/// Checks a game, or a mod's files within their game, in steps between which a window can answer.
+class FolderCheck {
+public:
+    /// Lists the files and loads what the rules know. With a mod, only its files are checked; the game's are
+    /// what they name and are compared with.
+    explicit FolderCheck(const GameFolders& folders);
+    FolderCheck(const FolderCheck&) = delete;
+    FolderCheck& operator=(const FolderCheck&) = delete;
+
+    /// Looks at one file. False when there is nothing more to do.
+    bool step();
+    /// Does all that is left, in so many threads; 0: in as many as the machine has cores.
+    void run(std::size_t threads = 0);
+
+    [[nodiscard]] WalkProgress progress() const;
+    [[nodiscard]] bool isDone() const { return checked_ == files_.size(); }
+
+    /// What was found so far, in the order of the files and their lines.
+    [[nodiscard]] std::vector<Finding> findings() const;
+    /// Why the folders could not be listed; nothing where there are data files at all.
+    [[nodiscard]] const std::optional<FileFailure>& failure() const { return failure_; }
+    [[nodiscard]] const CheckKnowledge& knowledge() const { return knowledge_; }
+    /// The bytes of a file by what findings call it, for excerpts; empty for others.
+    [[nodiscard]] std::string_view contentOf(std::string_view shown) const;
+
+private:
+    struct CheckedFile {
+        GameFile file;
+        std::string shown;
+        std::string content = {};
+        bool isChecked = true;                   ///< otherwise it is only compared with
+        std::unique_ptr<ReadUnitFile> read = {}; ///< between its survey and its check
+        std::vector<Finding> found = {};
+
+        [[nodiscard]] FileToCheck toCheck() const { return {file.category, file.name, shown, content}; }
+    };
+
+    void list(const GameFolders& folders);
+    void survey(CheckedFile& file, UnitSurvey& survey) const;
+    void check(CheckedFile& file) const;
+    void finishSurvey();
+    template <typename Work>
+    void inThreads(std::size_t threads, Work work);
+
+    CheckKnowledge knowledge_;
+    SuppressionList suppressions_;
+    std::vector<CheckedFile> files_;
+    std::vector<Finding> ofFolder_; ///< of the list of suppressions
+    UnitSurvey survey_{knowledge_};
+    std::size_t surveyed_ = 0;
+    std::size_t checked_ = 0;
+    std::optional<FileFailure> failure_;
+};
+
+} // namespace varrocade

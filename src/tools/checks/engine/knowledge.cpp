@@ -1,0 +1,139 @@
+#include "tools/checks/engine/knowledge.h"
+
+#include "analysis/performance/vehicle_figures.h"
+#include "data/format/texts.h"
+#include "data/unit/image_names.h"
+#include "data/unit_fields.h"
+#include "mod/mod_settings.h"
+#include "platform/file_operations.h"
+#include "tools/checks/engine/picture_folders.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+namespace varrocade {
+
+bool FileIndex::add(const GameFolders& folders, std::string_view folder, std::string_view ending) {
+    bool isListed = false;
+    for (const std::string& base : {folders.mod, folders.program}) {
+        const std::string path = base + std::string(folder);
+        std::vector<std::string> names;
+        if (base.empty() || !listFiles(path, ending, names)) {
+            continue;
+        }
+        isListed = true;
+        Folder& files = folders_[std::string(folder)];
+        for (std::string& name : names) {
+            Entry entry{name.substr(0, name.size() - ending.size()), path + name};
+            files.try_emplace(loweredText(entry.name), std::move(entry));
+        }
+    }
+    return isListed;
+}
+
+const FileIndex::Entry* FileIndex::find(std::string_view folder, std::string_view name) const {
+    const auto files = folders_.find(folder);
+    if (files == folders_.end()) {
+        return nullptr;
+    }
+    const auto found = files->second.find(loweredText(name));
+    return found == files->second.end() ? nullptr : &found->second;
+}
+
+std::vector<std::string_view> FileIndex::namesIn(std::string_view folder) const {
+    std::vector<std::string_view> names;
+    if (const auto files = folders_.find(folder); files != folders_.end()) {
+        for (const auto& [lowered, entry] : files->second) {
+            names.emplace_back(entry.name);
+        }
+    }
+    // The order of the table is the machine's.
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+const WeaponRecord* CheckKnowledge::findWeapon(std::string_view name) const {
+    const auto found = weapons.find(loweredText(name));
+    return found == weapons.end() ? nullptr : found->second;
+}
+
+std::optional<PictureSize> CheckKnowledge::sizeOf(const std::string& path) const {
+    {
+        const std::scoped_lock guard(sizesGuard_);
+        if (const auto known = sizes_.find(path); known != sizes_.end()) {
+            return known->second;
+        }
+    }
+    // Nobody waits while a file is read; at worst two read the same one.
+    const std::optional<PictureSize> size = readPngSize(path);
+    const std::scoped_lock guard(sizesGuard_);
+    return sizes_.try_emplace(path, size).first->second;
+}
+
+void learnWeapons(CheckKnowledge& knowledge, const WeaponCatalogue& catalogue) {
+    knowledge.catalogue = &catalogue;
+    knowledge.weapons.clear();
+    const auto& entries = catalogue.entries();
+    for (const CatalogueEntry& entry : entries) {
+        if (entry.holdsWeapon) {
+            knowledge.weapons.try_emplace(loweredText(entry.weapon.fileName), &entry.weapon);
+        }
+    }
+    for (const CatalogueEntry& entry : entries) {
+        if (entry.holdsWeapon) {
+            knowledge.weapons.try_emplace(loweredText(entry.weapon.name), &entry.weapon);
+        }
+    }
+    knowledge.knowsWeapons = !knowledge.weapons.empty();
+}
+
+void learnFolders(CheckKnowledge& knowledge, const GameFolders& folders) {
+    knowledge.folders = folders;
+    knowledge.ownCatalogue.load(folders.program, folders.mod);
+    learnWeapons(knowledge, knowledge.ownCatalogue);
+    knowledge.masses.emplace(knowledge.ownCatalogue);
+    for (const std::string_view folder : picture_folders::All) {
+        knowledge.pictures.add(folders, folder, ImageEnding);
+    }
+    knowledge.sounds.add(folders, SoundFolder, SoundEnding);
+    const std::string& modFolder = folders.mod.empty() ? folders.program : folders.mod;
+    if (systemFiles().exists(modFolder + std::string(ModFileName))) {
+        knowledge.mod = loadModSettings(modFolder);
+    }
+}
+
+void UnitSurvey::add(Category category, std::string_view file, const SquadRecord& unit) {
+    addSamples(samples_, unit);
+    if (unit.vehicle && knowledge_.masses) {
+        vehicles_.push_back(vehicleFigures(unit, *knowledge_.masses));
+    }
+    if (!unit.longName.empty()) {
+        units_.push_back({category, std::string(file), unit.longName.str(), unit.nationality.str()});
+    }
+}
+
+void UnitSurvey::join(UnitSurvey other) {
+    for (auto& [key, values] : other.samples_) {
+        std::vector<float>& ours = samples_[key];
+        ours.insert(ours.end(), values.begin(), values.end());
+    }
+    std::move(other.vehicles_.begin(), other.vehicles_.end(), std::back_inserter(vehicles_));
+    std::move(other.units_.begin(), other.units_.end(), std::back_inserter(units_));
+}
+
+void UnitSurvey::finish(CheckKnowledge& knowledge) {
+    for (const CatalogueEntry& entry : knowledge.catalogue->entries()) {
+        if (entry.holdsWeapon) {
+            addSamples(samples_, entry.weapon);
+        }
+    }
+    knowledge.usual = UsualValues(samples_);
+    knowledge.weights = calibrateWeight(vehicles_);
+    knowledge.unitsByName.clear();
+    for (KnownUnit& unit : units_) {
+        knowledge.unitsByName[loweredText(unit.longName)].push_back(std::move(unit));
+    }
+}
+
+} // namespace varrocade

@@ -1,0 +1,117 @@
+#include "data/finding_text.h"
+#include "data/unit/unit_consistency.h"
+#include "data/unit_fields.h"
+#include "tools/checks/engine/check_rules.h"
+#include "tools/checks/engine/nearest_name.h"
+#include "tools/checks/rules/unit_rules.h"
+#include "weapons/weapon_kinds.h"
+
+#include <algorithm>
+#include <set>
+
+namespace varrocade {
+
+namespace {
+
+namespace ck = check_key;
+
+void checkRounds(const CheckedUnit& checked, const std::vector<AmmoLoadRecord>& loads,
+                 const std::string& path) {
+    for (std::size_t i = 0; i < loads.size(); ++i) {
+        if (loads[i].rounds == 0) {
+            checked.out.atValue(path + numbered(element::Ammo, i) + "." + std::string(field::Rounds.element),
+                                {.key = ck::NoRounds,
+                                 .message = "no rounds for " + quoted(loads[i].weaponType),
+                                 .value = "0",
+                                 .expected = "at least 1"});
+        }
+    }
+}
+
+bool isLoaded(std::string_view weapon, const std::vector<AmmoLoadRecord>& loads) {
+    return std::any_of(loads.begin(), loads.end(),
+                       [&](const AmmoLoadRecord& load) { return load.weaponType == weapon; });
+}
+
+void tellUnloaded(const CheckedUnit& checked, std::string_view weapon, const std::string& path) {
+    if (!weapon.empty()) {
+        checked.out.atValue(path, {.key = ck::WeaponWithoutAmmo,
+                                   .message = quoted(weapon) + " has no ammunition",
+                                   .value = std::string(weapon),
+                                   .expected = "<ammo> for it"});
+    }
+}
+
+/// What the men of a squad carry for each other: an assistant the gunner's belts.
+void checkMen(const CheckedUnit& checked, const std::vector<CrewManRecord>& men, const std::string& path,
+              bool sharesAmmo) {
+    std::set<std::string_view> carried;
+    std::vector<AmmoLoadRecord> pool;
+    const auto add = [&](const CrewManRecord& man) {
+        carried.insert(man.weapons.begin(), man.weapons.end());
+        pool.insert(pool.end(), man.ammo.begin(), man.ammo.end());
+    };
+    if (sharesAmmo) {
+        std::for_each(men.begin(), men.end(), add);
+        if (checked.unit.heavyWeapon) {
+            for (const WeaponMountRecord& weapon : checked.unit.heavyWeapon->weapons) {
+                carried.insert(weapon.type);
+            }
+        }
+    }
+    for (std::size_t i = 0; i < men.size(); ++i) {
+        const std::string ofMan = path + numbered(element::Man, i) + ".";
+        if (!sharesAmmo) {
+            carried.clear();
+            pool.clear();
+            add(men[i]);
+        }
+        for (std::size_t k = 0; k < men[i].weapons.size(); ++k) {
+            if (!isLoaded(men[i].weapons[k], pool)) {
+                tellUnloaded(checked, men[i].weapons[k], ofMan + numbered(element::Weapon, k));
+            }
+        }
+        for (std::size_t k = 0; k < men[i].ammo.size(); ++k) {
+            const AmmoLoadRecord& load = men[i].ammo[k];
+            // Grenades are thrown: they are ammunition without a weapon.
+            const bool isThrown = typeOfWeaponName(load.weaponType) == WeaponType::Grenade;
+            if (!isThrown && !load.weaponType.empty() && !carried.contains(load.weaponType.view())) {
+                checked.out.atValue(ofMan + numbered(element::Ammo, k) + "." +
+                                        std::string(field::AmmoFor.element),
+                                    {.key = finding_key::AmmoWithoutWeapon,
+                                     .message = std::to_string(load.rounds) + " rounds for " +
+                                                quoted(load.weaponType) + ", which nobody carries",
+                                     .value = load.weaponType.str(),
+                                     .hint = NearestName(load.weaponType).offerAll(carried).hint()});
+            }
+        }
+        checkRounds(checked, men[i].ammo, ofMan);
+    }
+}
+
+} // namespace
+
+void checkArmament(const CheckedUnit& checked) {
+    for (Finding& finding : ammunitionFindings(checked.unit)) {
+        checked.out.atValue(std::move(finding));
+    }
+    forEachArmed(checked.unit, [&](const auto& armed, const std::string& path) {
+        for (std::size_t i = 0; i < armed.weapons.size(); ++i) {
+            if (!isLoaded(armed.weapons[i].type, armed.ammo)) {
+                tellUnloaded(checked, armed.weapons[i].type,
+                             path + numbered(element::Weapon, i) + "." +
+                                 std::string(field::MountedType.element));
+            }
+        }
+        checkRounds(checked, armed.ammo, path);
+    });
+    checkMen(checked, checked.unit.infantrymen, {}, true);
+    if (checked.unit.vehicle) {
+        forEachComponentPath(*checked.unit.vehicle,
+                             [&](const ComponentRecord& part, const std::string& path) {
+                                 checkMen(checked, part.crew, path, false);
+                             });
+    }
+}
+
+} // namespace varrocade

@@ -1,0 +1,66 @@
+#include "data/unit_fields.h"
+#include "tools/checks/engine/check_rules.h"
+#include "tools/checks/rules/unit_rules.h"
+
+#include <algorithm>
+#include <string>
+
+namespace varrocade {
+
+namespace {
+
+namespace ck = check_key;
+
+/// The years of the game's battles, with some room at both ends.
+constexpr std::int32_t FirstYear = 1860;
+constexpr std::int32_t LastYear = 2050;
+
+std::int32_t monthsOf(const AvailabilityPoint& point) {
+    return point.year * 12 + point.month;
+}
+
+std::string dateText(const AvailabilityPoint& point) {
+    return std::to_string(point.month) + "/" + std::to_string(point.year);
+}
+
+} // namespace
+
+void checkAvailability(const CheckedUnit& checked) {
+    const auto& points = checked.unit.availability;
+    const auto isThere = [](const AvailabilityPoint& point) { return point.number > 0; };
+    if (std::none_of(points.begin(), points.end(), isThere)) {
+        checked.out.atFile({.key = ck::NoAvailability,
+                            .message = points.empty() ? "the unit has no dates of availability"
+                                                      : "the unit never has a number above 0"});
+        return;
+    }
+    const std::int32_t first = checked.knowledge.mod ? checked.knowledge.mod->firstYear : FirstYear;
+    const std::int32_t last = checked.knowledge.mod ? checked.knowledge.mod->lastYear : LastYear;
+    // What is there before a mod begins is there in it, too.
+    const bool isOver = std::all_of(points.begin(), points.end(),
+                                    [&](const AvailabilityPoint& point) { return point.year < first; }) &&
+                        points.back().number == 0;
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        const std::string path = numbered(element::Availability, i) + ".";
+        if (i > 0 && monthsOf(points[i]) <= monthsOf(points[i - 1])) {
+            const bool isYear = points[i].year < points[i - 1].year;
+            checked.out.atValue(path + std::string(isYear ? field::Year.element : field::Month.element),
+                                {.key = ck::AvailabilityOrder,
+                                 .message = dateText(points[i]) + " stands behind " + dateText(points[i - 1]),
+                                 .value = std::to_string(isYear ? points[i].year : points[i].month),
+                                 .expected = "a date after " + dateText(points[i - 1])});
+        }
+        const bool isEarly = points[i].year < FirstYear || (isOver && i + 1 == points.size());
+        if (isEarly || points[i].year > std::min(last, LastYear)) {
+            checked.out.atValue(path + std::string(field::Year.element),
+                                {.key = ck::AvailabilityYears,
+                                 .message = std::to_string(points[i].year) +
+                                            " lies outside of the years of the " +
+                                            (checked.knowledge.mod ? "mod" : "game"),
+                                 .value = std::to_string(points[i].year),
+                                 .expected = std::to_string(first) + " to " + std::to_string(last)});
+        }
+    }
+}
+
+} // namespace varrocade

@@ -1,0 +1,193 @@
+#include "data/finding_text.h"
+#include "data/format/texts.h"
+#include "data/unit/enumerations.h"
+#include "data/unit_fields.h"
+#include "tools/checks/engine/check_rules.h"
+#include "tools/checks/engine/nearest_name.h"
+#include "tools/checks/rules/name_lookup.h"
+#include "tools/checks/rules/unit_rules.h"
+#include "view/sheet/missing_files.h"
+#include "weapons/weapon_names.h"
+
+#include <algorithm>
+
+namespace varrocade {
+
+namespace {
+
+namespace ck = check_key;
+
+constexpr auto FlagFolder = std::to_array<ImageSource>({{image_folder::StaticFlags}});
+
+std::vector<std::string_view> weaponNames(const CheckKnowledge& knowledge) {
+    std::vector<std::string_view> names;
+    for (const CatalogueEntry& entry : knowledge.catalogue->entries()) {
+        names.emplace_back(entry.weapon.fileName);
+    }
+    return names;
+}
+
+void lookUpWeapon(const CheckedUnit& checked, const FieldPath& path, std::string_view name) {
+    if (name.empty() || !checked.knowledge.knowsWeapons) {
+        return;
+    }
+    const WeaponRecord* weapon = checked.knowledge.findWeapon(name);
+    if (weapon == nullptr) {
+        checked.out.atValue(path.text(),
+                            {.key = finding_key::UnknownWeapon,
+                             .message = "there is no weapon file " + quoted(name),
+                             .value = std::string(name),
+                             .expected = "a file in Data/Weapons/",
+                             .hint = NearestName(name).offerAll(weaponNames(checked.knowledge)).hint()});
+    } else if (weapon->fileName != name && weapon->name != name) {
+        checked.out.atValue(path.text(), {.key = ck::WeaponCase,
+                                          .message = quoted(name) + " is called " + quoted(weapon->fileName),
+                                          .value = std::string(name),
+                                          .expected = weapon->fileName,
+                                          .hint = "write " + quoted(weapon->fileName)});
+    }
+}
+
+/// A flavour must be one that the weapon has.
+void lookUpFlavour(const CheckedUnit& checked, const AmmoLoadRecord& load, const std::string& path,
+                   std::size_t index) {
+    const AmmoFlavour flavour = flavourOf(load.flavour);
+    const WeaponRecord* weapon =
+        flavour == AmmoFlavour::None ? nullptr : checked.knowledge.findWeapon(load.weaponType);
+    if (weapon == nullptr || weapon->ammoTypes.empty()) {
+        return;
+    }
+    if (std::any_of(weapon->ammoTypes.begin(), weapon->ammoTypes.end(),
+                    [flavour](const AmmoTypeRecord& ammo) { return ammo.flavour == flavour; })) {
+        return;
+    }
+    std::string had;
+    for (const AmmoTypeRecord& ammo : weapon->ammoTypes) {
+        had += (had.empty() ? "" : ", ") + std::string(nameOf(ammo.flavour));
+    }
+    checked.out.atValue(path + numbered(element::Ammo, index) + "." + std::string(field::Flavour.element),
+                        {.key = ck::MissingFlavour,
+                         .message = load.weaponType.str() + " has no " + load.flavour.str(),
+                         .value = load.flavour.str(),
+                         .expected = had,
+                         .hint = "it has " + had});
+}
+
+/// A uniform is a picture, or one that a mod names. A name like that of a picture means the picture.
+void lookUpUniform(const CheckedUnit& checked, const FieldPlace& place, std::string_view name) {
+    const FileIndex& pictures = checked.knowledge.pictures;
+    const std::string_view picture = imageNameOf(name);
+    if (findPicture(checked.knowledge, place.field.images, picture) != nullptr || picture != name) {
+        lookUpPicture(checked.knowledge, place.field.images, place.path, picture, checked.out);
+        return;
+    }
+    constexpr std::size_t slip = 2;
+    for (const std::string_view known : pictures.namesIn(image_folder::Uniforms)) {
+        if (editDistance(name, known, slip) <= slip) {
+            lookUpPicture(checked.knowledge, place.field.images, place.path, picture, checked.out);
+            return;
+        }
+    }
+}
+
+/// A record's word may be newer than its file's.
+void lookUpWord(const CheckedUnit& checked, const FieldPlace& place, std::string_view name,
+                std::span<const std::string_view> words) {
+    if (!name.empty() && std::find(words.begin(), words.end(), name) == words.end()) {
+        checked.out.atValue(place.path.text(),
+                            {.key = finding_key::UnknownWord,
+                             .message = std::string(place.field.label) + " " + quoted(name) + " is not known",
+                             .value = std::string(name),
+                             .expected = "one of " + std::to_string(words.size()) + " words",
+                             .hint = NearestName(name).offerAll(words).hint()});
+    }
+}
+
+/// Without lists of all files: whether this value's is there.
+void lookUpFile(const CheckedUnit& checked, const FieldPlace& place, std::string_view name) {
+    if (auto missing = missingFile(place, name, checked.knowledge.bases)) {
+        checked.out.atValue(std::move(*missing));
+    }
+}
+
+void lookUp(const CheckedUnit& checked, const FieldPlace& place, std::string_view name) {
+    if (!checked.knowledge.bases.empty()) {
+        lookUpFile(checked, place, name);
+    }
+    const bool isDefault = isDefaultImage(name);
+    switch (place.field.kind) {
+    case FieldKind::Word:
+    case FieldKind::Nationality:
+        lookUpWord(checked, place, name, place.field.words());
+        break;
+    case FieldKind::Flavour:
+        if (flavourOf(name) == AmmoFlavour::None) {
+            lookUpWord(checked, place, name, flavourNames());
+        }
+        break;
+    case FieldKind::Weapon:
+        lookUpWeapon(checked, place.path, name);
+        break;
+    case FieldKind::Image:
+        if (!isDefault && &place.field == &field::ViewImage) {
+            const bool isHull = place.holder == Holder::Hull;
+            lookUpPicture(checked.knowledge, isHull ? image_sources::Hull : image_sources::Turret, place.path,
+                          name, checked.out);
+        } else if (!isDefault) {
+            lookUpPicture(checked.knowledge, place.field.images, place.path, name, checked.out);
+        }
+        break;
+    case FieldKind::Uniform:
+        if (!name.empty() && !isDefault) {
+            lookUpUniform(checked, place, name);
+        }
+        break;
+    case FieldKind::Sound:
+        lookUpSound(checked.knowledge, place.path, name, checked.out);
+        break;
+    default:
+        break;
+    }
+}
+
+void lookUpFlag(const CheckedUnit& checked) {
+    const std::string_view nationality = checked.unit.nationality;
+    const auto names = nationalityNames();
+    if (!checked.knowledge.pictures.knows(image_folder::StaticFlags) ||
+        std::find(names.begin(), names.end(), nationality) == names.end()) {
+        return;
+    }
+    const std::string flag = loweredText(nationality.substr(NationalityPrefix.size()));
+    if (findPicture(checked.knowledge, FlagFolder, flag) == nullptr) {
+        checked.out.atValue(field::Nationality.element,
+                            {.key = ck::MissingFlag,
+                             .message = displayName(nationality, NationalityPrefix) + " units have no flag",
+                             .value = std::string(nationality),
+                             .expected = "Images/Flags/Static/" + flag + ".png"});
+    }
+}
+
+} // namespace
+
+void checkReferences(const CheckedUnit& checked) {
+    forEachField(checked.unit, [&](const FieldPlace& place, const auto& value) {
+        if constexpr (std::is_convertible_v<decltype(value), std::string_view>) {
+            if (place.isStored() && place.field.kind != FieldKind::Prose) {
+                lookUp(checked, place, value);
+            }
+        }
+    });
+    const auto checkLoads = [&](const std::vector<AmmoLoadRecord>& loads, const std::string& path) {
+        for (std::size_t i = 0; i < loads.size(); ++i) {
+            lookUpFlavour(checked, loads[i], path, i);
+        }
+    };
+    forEachArmed(checked.unit,
+                 [&](const auto& armed, const std::string& path) { checkLoads(armed.ammo, path); });
+    for (std::size_t i = 0; i < checked.unit.infantrymen.size(); ++i) {
+        checkLoads(checked.unit.infantrymen[i].ammo, numbered(element::Man, i) + ".");
+    }
+    lookUpFlag(checked);
+}
+
+} // namespace varrocade

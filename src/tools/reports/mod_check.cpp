@@ -1,0 +1,53 @@
+#include "tools/reports/mod_check.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace varrocade {
+
+namespace {
+
+bool isWithin(std::string_view folder, std::string_view path) {
+    return !folder.empty() && path.starts_with(folder) && path.size() > folder.size() &&
+           path.find("..") == std::string_view::npos;
+}
+
+} // namespace
+
+ReferenceUser userOfFile(Category category, const AssetFile& file) {
+    GameFile data{.category = category, .isOfMod = file.isOfMod, .name = file.name, .path = file.path};
+    data.name.resize(data.name.size() - DataFileEnding.size());
+    std::string name = std::string(categoryName(category)) + ": " + data.name;
+    return {std::move(name), std::move(data)};
+}
+
+std::string recycleQuestion(const std::vector<ModCheckRow>& rows) {
+    constexpr std::size_t most = 15;
+    std::string text = rows.size() == 1 ? "This file would be moved to the recycle bin:\n"
+                                        : "These " + std::to_string(rows.size()) +
+                                              " files would be moved to the recycle bin:\n";
+    for (std::size_t i = 0; i < std::min(most, rows.size()); ++i) {
+        text += "\n    " + rows[i].below;
+    }
+    if (rows.size() > most) {
+        text += "\n    and " + std::to_string(rows.size() - most) + " more";
+    }
+    return text + (rows.size() == 1 ? "\n\nMove it?" : "\n\nMove them?");
+}
+
+std::vector<FileFailure> recycleModFiles(FileOperations& files, const std::string& modFolder,
+                                         const std::vector<std::string>& paths) {
+    std::vector<FileFailure> failures;
+    for (const std::string& path : paths) {
+        if (!isWithin(modFolder, path)) {
+            failures.push_back({path, "it is not in the mod's folder"});
+        } else if (statusOf(path).kind != PathKind::File) {
+            failures.push_back({path, "it is no plain file"});
+        } else if (!files.recycle(path)) {
+            failures.push_back({path, files.lastError()});
+        }
+    }
+    return failures;
+}
+
+} // namespace varrocade

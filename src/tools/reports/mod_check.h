@@ -1,0 +1,38 @@
+#pragma once
+// What the three checks of a mod come to: rows of files that it does not need, or lacks.
+
+#include "platform/file_operations.h"
+#include "tools/job.h"
+#include "tools/reports/reference_scan.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace varrocade {
+
+struct ModCheckRow {
+    std::string below;     ///< the file below the mod's folder
+    std::string reason;    ///< such as "byte for byte the game's own"
+    std::string path = {}; ///< of a file of the mod that is not needed; empty for one that it lacks
+    std::vector<ReferenceUser> users = {}; ///< the unit or weapon that it holds, and who names it
+};
+
+class ModCheck : public Job {
+public:
+    /// Once `step` has returned false.
+    [[nodiscard]] virtual std::vector<ModCheckRow> rows() = 0;
+};
+
+/// A data file as somebody to look at.
+ReferenceUser userOfFile(Category category, const AssetFile& file);
+
+/// What is asked before files go: how many, and which, as far as a box has room.
+std::string recycleQuestion(const std::vector<ModCheckRow>& rows);
+
+/// Moves files to the recycle bin. What is not below the mod's folder, or leaves it again by its path, is
+/// refused. The files that could not be moved.
+std::vector<FileFailure> recycleModFiles(FileOperations& files, const std::string& modFolder,
+                                         const std::vector<std::string>& paths);
+
+} // namespace varrocade

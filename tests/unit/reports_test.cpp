@@ -1,0 +1,148 @@
+// The reports over a game or a mod.
+
+#include "data/unit/enumerations.h"
+#include "pictures/png_codec.h"
+#include "test_support.h"
+#include "tools/reports/duplicate_files.h"
+#include "tools/reports/missing_voices.h"
+#include "tools/reports/png_usage.h"
+#include "tools/reports/unused_files.h"
+#include "tools/voices.h"
+
+#include <algorithm>
+
+#include <gtest/gtest.h>
+
+namespace varrocade::tests {
+namespace {
+
+constexpr std::string_view ReportTank =
+    "<squad><description><nationality>NATIONALITY_DUTCH</nationality></"
+    "description><vehicle><hull><image_view>"
+    "Tiger.png</image_view><image_destroyed>gone.png</image_destroyed><man><job>JOB_LOADER</job></man></hull>"
+    "<turret><weapon><type>WEAPON_KWK</type></weapon></turret></vehicle></squad>";
+constexpr std::string_view Gun =
+    "<weapon><name>WEAPON_KWK</name><shoot><sound_shoot>boom</sound_shoot></shoot></weapon>";
+
+/// A game, and a mod with what each check looks for.
+class ModFolder : public TemporaryFolder {
+public:
+    ModFolder() {
+        const Picture clear = emptyPicture({20, 20});
+        write("Game\\Images\\Units\\Vehicles\\Hulls\\tiger.png", "same");
+        write("Game\\Images\\Units\\Vehicles\\Turrets\\pixels.png", writePng(clear));
+        write("Game\\Data\\Vehicles\\Dutch Old.txt", ReportTank);
+        write("Game\\Data\\Weapons\\Kwk.txt", Gun);
+        write("Game\\Sounds\\Voices\\nl_loaded.wav", "");
+        write("Mod\\Mod.txt", "");
+        write("Mod\\Data\\Vehicles\\Dutch Tank.txt", ReportTank);
+        write("Mod\\Data\\Vehicles\\dutch old.txt", "// the same\n" + std::string(ReportTank));
+        write("Mod\\Data\\Weapons\\Unused.txt", "<weapon><name>WEAPON_X</name></weapon>");
+        write("Mod\\Images\\Units\\Vehicles\\Hulls\\TIGER.png", "same");
+        write("Mod\\Images\\Units\\Vehicles\\Turrets\\Pixels.png", writeSmallestPng(clear));
+        write("Mod\\Images\\Flags\\Static\\dutch.png", "");
+        write("Mod\\Sounds\\Boom.wav", "");
+        write("Mod\\Sounds\\silence.wav", "");
+        write("Mod\\Sounds\\Voices\\nl_dutch_wounded.wav", "");
+    }
+    [[nodiscard]] GameFolders folders() const { return {path() + "Game\\", path() + "Mod\\"}; }
+};
+
+/// "below: reason" a row, with the users of those that have some.
+std::string rowsOf(ModCheck& check) {
+    runJob(check);
+    EXPECT_EQ(check.progress().done, check.progress().total);
+    std::string text;
+    for (const ModCheckRow& row : check.rows()) {
+        text += row.below + ": " + row.reason.substr(0, row.reason.find(" the game's own"));
+        for (const ReferenceUser& user : row.users) {
+            text += ", " + user.name;
+        }
+        text += '\n';
+    }
+    return text;
+}
+
+TEST(Reports, FindWhatAModDoesNotNeed) {
+    const ModFolder folder;
+    DuplicateFiles duplicates(folder.folders());
+    EXPECT_EQ(rowsOf(duplicates),
+              "Images\\Units\\Vehicles\\Hulls\\TIGER.png: byte for byte, Vehicles: dutch old, Vehicles: "
+              "Dutch Tank\nImages\\Units\\Vehicles\\Turrets\\Pixels.png: pixel for "
+              "pixel\nData\\Vehicles\\dutch old.txt: value for value, Vehicles: dutch old\n");
+    UnusedFiles unused(folder.folders());
+    const std::string reason = rowsOf(unused);
+    EXPECT_EQ(reason,
+              "Images\\Units\\Vehicles\\Turrets\\Pixels.png: no unit, no weapon and no nation shows this "
+              "picture\nSounds\\silence.wav: no weapon and no aircraft makes this sound\n"
+              "Data\\Weapons\\Unused.txt: no unit carries this weapon, Weapons: Unused\n");
+
+    EXPECT_EQ(recycleQuestion({unused.rows().front()}),
+              "This file would be moved to the recycle bin:\n\n    Images\\Units\\"
+              "Vehicles\\Turrets\\Pixels.png\n\nMove it?");
+
+    const std::vector<std::string> before = folder.files();
+    const std::vector<std::string> paths = {unused.rows().front().path, folder.folders().program + "Data\\x",
+                                            folder.folders().mod + "..\\Game\\Data\\Weapons\\Kwk.txt",
+                                            folder.folders().mod + "none.png"};
+    const std::vector<FileFailure> failures = recycleModFiles(systemFiles(), folder.folders().mod, paths);
+    ASSERT_EQ(failures.size(), 3U) << "nothing outside the mod's folder is touched";
+    EXPECT_EQ(failures[1].reason, "it is not in the mod's folder");
+    EXPECT_EQ(folder.files().size(), before.size() - 1);
+}
+
+TEST(Reports, FindTheVoicesThatAModLacks) {
+    const ModFolder folder;
+    MissingVoices voices(folder.folders());
+    EXPECT_EQ(
+        rowsOf(voices),
+        "Sounds\\Voices\\nl_last_round.wav: Dutch men say it, in \"nl\"; nl_dutch_last_round.wav would do, "
+        "too, Vehicles: dutch old, Vehicles: Dutch Tank\n"
+        "Sounds\\Voices\\nl_under_fire.wav: Dutch men say it, in \"nl\"; nl_dutch_under_fire.wav would do, "
+        "too, Vehicles: dutch old, Vehicles: Dutch Tank\n");
+    MissingVoices sample({.program = SampleBase});
+    runJob(sample);
+    for (const ModCheckRow& row : sample.rows()) {
+        const std::string name = row.below.substr(VoiceFolder.size());
+        EXPECT_FALSE(name.starts_with("de_") || name.starts_with("en_")) << "the sample has these: " << name;
+    }
+    for (const std::string_view nationality : nationalityNames()) {
+        EXPECT_EQ(languageOf(nationality).size(), 2U) << nationality;
+    }
+    for (const std::string_view job : jobNames()) {
+        EXPECT_EQ(callsOf(job).empty(), job == "JOB_NONE") << job;
+    }
+}
+
+TEST(Reports, ListWhichPicturesAreUsedAndWhichAreNot) {
+    const ModFolder folder;
+    PngUsage usage(folder.folders());
+    runJob(usage);
+    const std::vector<ReportFile> files = usage.files();
+    EXPECT_EQ(files[0].name, "List Of Unused PNGs.txt");
+    EXPECT_EQ(files[0].content, "Images\\Units\\Vehicles\\Turrets\\Pixels.png\r\n");
+    EXPECT_EQ(
+        files[1].content,
+        "Images\\Units\\Vehicles\\Hulls\\TIGER.png\r\n\tVehicles: dutch old\r\n\tVehicles: Dutch Tank\r\n"
+        "Images\\Flags\\Static\\dutch.png\r\n\tthe game\r\n\tVehicles: dutch old\r\n\tVehicles: Dutch "
+        "Tank\r\n"
+        "\r\nNamed, but not there:\r\nImages\\Units\\Vehicles\\Destroyed\\gone.png\r\n\tVehicles: dutch "
+        "old\r\n"
+        "\tVehicles: Dutch Tank\r\n");
+    PngUsage sample({.program = SampleBase});
+    runJob(sample);
+    EXPECT_TRUE(sample.failures().empty());
+    EXPECT_EQ(sample.files()[1].content.find("Named, but not there"), std::string::npos);
+}
+
+TEST(Reports, SayHowLongTheyTake) {
+    using std::chrono::milliseconds;
+    EXPECT_EQ(timeToGoText({0, 100}, milliseconds{9000}), "") << "nothing is known yet";
+    EXPECT_EQ(timeToGoText({50, 100}, milliseconds{400}), "");
+    EXPECT_EQ(timeToGoText({50, 100}, milliseconds{1000}), "about 1 second to go");
+    EXPECT_EQ(timeToGoText({10, 100}, milliseconds{60000}), "about 9 minutes to go");
+    EXPECT_EQ(timeToGoText({100, 100}, milliseconds{60000}), "");
+}
+
+} // namespace
+} // namespace varrocade::tests
