@@ -17,7 +17,7 @@ namespace {
 struct CheckOptions {
     std::string folder;
     std::string mod;
-    ReportFormat format = ReportFormat::Text;
+    ReportFormat format = ReportFormat::Plain;
     Severity least = Severity::Note;
     std::vector<std::string> only;
     std::string baseline;
@@ -25,7 +25,7 @@ struct CheckOptions {
 };
 
 constexpr auto FormatWords = std::to_array<std::pair<std::string_view, ReportFormat>>({
-    {"text", ReportFormat::Text},
+    {"text", ReportFormat::Plain},
     {"json", ReportFormat::Json},
     {"sarif", ReportFormat::Sarif},
     {"github", ReportFormat::GitHub},
@@ -139,7 +139,7 @@ std::string reportOf(const CheckOptions& options, const std::vector<Finding>& fi
         return checkReportSarif(findings);
     case ReportFormat::GitHub:
         return checkReportGitHub(findings);
-    case ReportFormat::Text:
+    case ReportFormat::Plain:
         break;
     }
     return checkReportText(findings, [&](std::string_view file) { return check.contentOf(file); });

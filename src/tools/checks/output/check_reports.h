@@ -11,7 +11,7 @@
 
 namespace varrocade {
 
-enum class ReportFormat : std::uint8_t { Text, Json, Sarif, GitHub };
+enum class ReportFormat : std::uint8_t { Plain, Json, Sarif, GitHub };
 
 /// The content of a file by what findings call it; empty where it is not at hand.
 using ContentOf = std::function<std::string_view(std::string_view file)>;
