@@ -453,5 +453,6 @@
 #define IDC_START_KIND 2071
 #define IDC_START_PICTURE 2072
 #define IDC_START_WEAPON 2073
+#define IDC_START_ARMS 2300
 
 // NOLINTEND(cppcoreguidelines-macro-usage)

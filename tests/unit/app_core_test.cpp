@@ -9,6 +9,8 @@
 #include "app/workspace/window_layout.h"
 #include "data/unit/unit_gaps.h"
 #include "data/writing/unit_writers.h"
+#include "editors/squad/squad_notes.h"
+#include "editors/unit/carried_ammo.h"
 #include "test_support.h"
 
 #include <gtest/gtest.h>
@@ -83,9 +85,12 @@ std::string gapsOf(const SquadRecord& unit) {
 }
 
 TEST(UnitStart, BringsWhatWasChosenAndNothingElse) {
-    const auto begun = [](Category category, const UnitStart& start) {
+    WeaponCatalogue catalogue;
+    catalogue.load(SampleBase);
+    const auto begun = [&](Category category, const UnitStart& start) {
         SquadRecord unit = newUnit(category, "German X", "NATIONALITY_GERMAN");
-        beginWith(unit, category, start, [](std::string_view name) { return name != "Profile-A"; });
+        beginWith(unit, category, start, catalogue,
+                  [](std::string_view name) { return name != "Profile-A"; });
         return unit;
     };
     for (const Category category :
@@ -93,11 +98,14 @@ TEST(UnitStart, BringsWhatWasChosenAndNothingElse) {
         EXPECT_EQ(begun(category, {}), newUnit(category, "German X", "NATIONALITY_GERMAN"));
     }
     EXPECT_EQ(gapsOf(begun(Category::Infantry, {})), "the long name, the men, the dates of availability");
-    const SquadRecord squad = begun(Category::Infantry, {.men = 3, .weapon = "WEAPON_A"});
+    const SquadRecord squad = begun(Category::Infantry, {.men = 3, .arms = "WEAPON_RIFLE_KAR98K"});
     ASSERT_EQ(squad.infantrymen.size(), 3U);
     EXPECT_EQ(squad.infantrymen[0].job, "JOB_SQUAD_LEADER");
-    EXPECT_EQ(squad.infantrymen[2].weapons, std::vector<Text>{"WEAPON_A"});
+    EXPECT_EQ(squad.infantrymen[2].weapons, std::vector<Text>{"WEAPON_RIFLE_KAR98K"});
+    EXPECT_EQ(squad.infantrymen[2].ammo, (std::vector<AmmoLoadRecord>{{"WEAPON_RIFLE_KAR98K", "", 60}}));
     EXPECT_EQ(gapsOf(squad), "the long name, the dates of availability");
+    EXPECT_EQ(gapsOf(begun(Category::Infantry, {.men = 3})),
+              "the long name, the weapons of the men, the dates of availability");
     const SquadRecord gun =
         begun(Category::AtGuns,
               {.men = 1, .kind = HeavyWeaponKind::Mortar, .picture = "Image-A gun", .weapon = "WEAPON_A"});
@@ -106,12 +114,44 @@ TEST(UnitStart, BringsWhatWasChosenAndNothingElse) {
     EXPECT_TRUE(gun.heavyWeapon->profileImage.empty()) << "there is none";
     EXPECT_EQ(gun.heavyWeapon->weapons.at(0).type, "WEAPON_A");
     EXPECT_TRUE(gun.infantrymen.at(0).weapons.empty());
+    EXPECT_EQ(gapsOf(gun), "the long name, the ammunition of the gun, the dates of availability")
+        << "nobody knows what WEAPON_A fires";
     EXPECT_EQ(gapsOf(begun(Category::Aircraft, {.picture = "Image-B"})),
               "the long name, the sound of the aircraft, the speed, the dates of availability");
     EXPECT_EQ(
         gapsOf(begun(Category::Vehicles, {})),
         "the long name, the picture of the hull, the size of the hull, the crew, the weight, the engine's "
         "horsepower, the dates of availability");
+}
+
+TEST(UnitStart, SuggestsWhatCanBeUsedAtOnce) {
+    WeaponCatalogue catalogue;
+    catalogue.load(SampleBase);
+    const std::vector<std::string> pictures = {"Image-Flak36 gun", "Image-GrW34 gun", "Image-Pak40 gun"};
+    EXPECT_EQ(pictureOfWeapon("WEAPON_CANNON_75_PAK40_L46", pictures), "Image-Pak40 gun");
+    EXPECT_EQ(pictureOfWeapon("WEAPON_CANNON_37_M3", pictures), "");
+    for (const std::string_view nationality :
+         {"NATIONALITY_GERMAN", "NATIONALITY_RUSSIAN", "NATIONALITY_AMERICAN"}) {
+        for (const Category category : {Category::Infantry, Category::AtGuns, Category::Aircraft}) {
+            const UnitStart start =
+                suggestedStart(category, nationality, HeavyWeaponKind::AtGun, catalogue, pictures);
+            SquadRecord unit = newUnit(category, "X", std::string(nationality));
+            beginWith(unit, category, start, catalogue, [](std::string_view) { return true; });
+            const std::vector<std::string> bases = {SampleBase};
+            EXPECT_EQ(noteLines(unit.aircraft ? aircraftNotes(unit, catalogue, bases)
+                                              : squadNotes(unit, catalogue, bases)),
+                      "")
+                << nationality;
+            EXPECT_EQ(unit.infantrymen.empty(), category == Category::Aircraft);
+        }
+    }
+    const UnitStart mortar =
+        suggestedStart(Category::AtGuns, "NATIONALITY_GERMAN", HeavyWeaponKind::Mortar, catalogue, pictures);
+    EXPECT_TRUE(mortar.weapon.view().starts_with("WEAPON_MORTAR_"));
+    EXPECT_EQ(mortar.picture, "Image-GrW34 gun");
+    const auto loads = usualLoads(catalogue, "WEAPON_CANNON_75_PAK40_L46", WeaponBearer::HeavyWeapon);
+    ASSERT_EQ(loads.size(), 2U);
+    EXPECT_EQ(loads[1].flavour, "FLAVOUR_HE");
 }
 
 TEST(NameFilter, WantsEveryWord) {

@@ -245,7 +245,7 @@ TEST(SquadNotes, TellWhatIsOddAndNothingOfASquadThatIsNot) {
     squad.uniformGame = "uniform_nobody";
     EXPECT_EQ(noteLines(squadNotes(squad, catalogue, bases)),
               "2. man: no ammunition for Pistol P38\r\n"
-              "2. man: 1 rounds for Cannon 75 KWK42 L70, which nobody carries\r\n"
+              "2. man: 1 round for Cannon 75 KWK42 L70, which nobody carries\r\n"
               "3. man: no weapon\r\n"
               "Game image \"uniform_nobody\" is not there");
     const auto ammo = ammoWeaponsOf(squad, squad.infantrymen[1], catalogue);
@@ -285,8 +285,10 @@ TEST(Rotors, AreMovedInTheDrawingAndShowWhereTheyTurn) {
     FakePictures pictures;
     const auto arrow = [&] { return allOf<LineItem>(drawAircraft(*unit.aircraft, {}, pictures)).at(0); };
     EXPECT_GT(arrow().from.y, arrow().to.y) << "to the rear";
+    EXPECT_GT(arrow().to.x, -30) << "at the right";
     rotor.clockwise = false;
-    EXPECT_LT(arrow().from.y, arrow().to.y);
+    EXPECT_GT(arrow().from.y, arrow().to.y);
+    EXPECT_LT(arrow().to.x, -30) << "at the left";
 }
 
 TEST(UniformPictures, ShowWhatIsMeant) {

@@ -124,7 +124,7 @@ NameCheck createUnit(Workspace& workspace, const std::string& name, const std::s
         return "Squad name already exists";
     }
     SquadRecord unit = newUnit(workspace.category, name, nationality);
-    beginWith(unit, workspace.category, start, [&](std::string_view picture) {
+    beginWith(unit, workspace.category, start, workspace.catalogue, [&](std::string_view picture) {
         const std::vector<std::string> bases = imageBases(workspace);
         return std::any_of(bases.begin(), bases.end(), [&](const std::string& base) {
             return workspace.files->exists(base + std::string(image_folder::Units) + std::string(picture) +

@@ -143,6 +143,9 @@ constexpr auto DefaultFlavours = std::to_array<DefaultFlavour>({
     {BombPrefix, FlavourBombHe},
 });
 
+/// Words of names that are said letter by letter.
+constexpr auto Abbreviations = std::to_array<std::string_view>({"AT", "HMG", "MG"});
+
 } // namespace
 
 std::span<const std::string_view> unitTypeNames() {
@@ -201,12 +204,25 @@ std::string displayName(std::string_view name, std::string_view prefix) {
         name.remove_prefix(prefix.size());
     }
     std::string words;
-    for (const char c : name) {
-        const bool startsWord = words.empty() || words.back() == ' ';
-        const bool isUpper = c >= 'A' && c <= 'Z';
-        words += c == '_' ? ' ' : (isUpper && !startsWord ? static_cast<char>(c - 'A' + 'a') : c);
+    while (!name.empty()) {
+        const std::string_view word = name.substr(0, name.find('_'));
+        const bool isSpelt =
+            std::find(Abbreviations.begin(), Abbreviations.end(), word) != Abbreviations.end();
+        for (std::size_t i = 0; i < word.size(); ++i) {
+            const bool isLower = i > 0 && !isSpelt && word[i] >= 'A' && word[i] <= 'Z';
+            words += isLower ? static_cast<char>(word[i] - 'A' + 'a') : word[i];
+        }
+        name.remove_prefix(word.size());
+        if (!name.empty()) {
+            words += ' ';
+            name.remove_prefix(1);
+        }
     }
     return words;
+}
+
+std::string squadJobWord(std::string_view job) {
+    return job == NewManJob ? "Soldier" : shownWord(job, JobPrefix, jobNames());
 }
 
 std::string shownWord(std::string_view name, std::string_view prefix,

@@ -29,6 +29,7 @@ inline constexpr std::string_view MountMiddle = "MOUNT_MIDDLE";
 inline constexpr std::string_view MountRear = "MOUNT_REAR";
 inline constexpr std::string_view NationalityPrefix = "NATIONALITY_";
 inline constexpr std::string_view JobPrefix = "JOB_";
+inline constexpr std::string_view NewManJob = "JOB_LOADER";
 inline constexpr std::string_view EnginePrefix = "ENGINE_";
 inline constexpr std::string_view WeaponPrefix = "WEAPON_";
 inline constexpr std::string_view BombPrefix = "WEAPON_BOMB_";
@@ -49,12 +50,17 @@ const NationalUniform* findNationalUniform(std::string_view nationality);
 /// does, and a weapon type without a known prefix has no default.
 bool isDefaultFlavour(std::string_view weaponType, std::string_view flavour);
 
-/// A name for people: "NATIONALITY_NORTH_KOREAN" without its prefix as "North Korean".
+/// A name for people: "NATIONALITY_NORTH_KOREAN" without its prefix as "North Korean"; abbreviations keep
+/// their capitals.
 std::string displayName(std::string_view name, std::string_view prefix);
 
 /// The same for one of `names`; any other name as it stands, with a mark.
 std::string shownWord(std::string_view name, std::string_view prefix,
                       std::span<const std::string_view> names);
+
+/// The job of a man of a squad on foot, for people. One without a job in the file has that of a new man, and
+/// is no loader for it.
+std::string squadJobWord(std::string_view job);
 
 /// A weapon type for people: "Cannon 75 KWK42 L70".
 std::string weaponWord(std::string_view weaponType);

@@ -65,14 +65,22 @@ std::vector<Finding> unitGaps(const SquadRecord& unit) {
                    "the sound of the aircraft");
         gaps.addIf(unit.aircraft->speed == 0, path, field::AircraftSpeed.element, "the speed");
     } else {
-        gaps.addIf(unit.infantrymen.empty(), {}, element::Description,
-                   unit.heavyWeapon ? "the crew" : "the men");
+        const auto& men = unit.infantrymen;
+        gaps.addIf(men.empty(), {}, element::Description, unit.heavyWeapon ? "the crew" : "the men");
+        const bool isUnarmed =
+            !unit.heavyWeapon &&
+            std::all_of(men.begin(), men.end(), [](const CrewManRecord& man) { return man.weapons.empty(); });
+        gaps.addIf(!men.empty() && isUnarmed, {}, element::Man, "the weapons of the men");
     }
     if (unit.heavyWeapon) {
         const std::string path = std::string(elementOf(unit.heavyWeapon->kind)) + ".";
-        gaps.addIf(unit.heavyWeapon->gunImage.empty(), path, field::GunImage.element,
-                   "the picture of the gun");
-        gaps.addIf(unit.heavyWeapon->weapons.empty(), path, field::GunImage.element, "the weapon of the gun");
+        const HeavyWeaponRecord& gun = *unit.heavyWeapon;
+        gaps.addIf(gun.gunImage.empty(), path, field::GunImage.element, "the picture of the gun");
+        gaps.addIf(gun.weapons.empty(), path, field::GunImage.element, "the weapon of the gun");
+        gaps.addIf(!gun.weapons.empty() && gun.ammo.empty(), path, element::Ammo,
+                   "the ammunition of the gun");
+        gaps.addIf(gun.kind == HeavyWeaponKind::AtGun && gun.mass == 0, path, field::Mass.element,
+                   "the mass of the gun");
     }
     gaps.addIf(unit.availability.empty(), {}, element::Availability, "the dates of availability");
     return gaps.take();

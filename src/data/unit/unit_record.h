@@ -3,6 +3,7 @@
 // files; lengths and offsets are centimetres, angles degrees clockwise seen from above with 0 straight ahead.
 
 #include "data/format/fixed_string.h"
+#include "data/unit/enumerations.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -45,7 +46,7 @@ struct AmmoLoadRecord {
 
 /// A crew man of a component, or an infantryman.
 struct CrewManRecord {
-    Text job{"JOB_LOADER"};
+    Text job{NewManJob};
     LanguageCode language;
     bool bodyArmour = false;
     bool nightVision = false;

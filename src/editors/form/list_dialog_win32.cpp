@@ -3,7 +3,6 @@
 #include "editors/form/list_keys_win32.h"
 #include "platform/messages.h"
 #include "resources/resource.h"
-#include "view/painting/gdi_object_win32.h"
 
 #include <algorithm>
 #include <array>
@@ -18,21 +17,6 @@ constexpr auto EntryKeys = std::to_array<ListKey>({
     {VK_UP, true, IDC_ENTRY_UP, "In the list: Alt+Up"},
     {VK_DOWN, true, IDC_ENTRY_DOWN, "In the list: Alt+Down"},
 });
-
-/// A list that is wider than its box can be scrolled.
-void measureLines(HWND box, const ListModel& model) {
-    const MemoryDevice device(nullptr);
-    const Selection font(device.get(), reinterpret_cast<HFONT>(SendMessageA(box, WM_GETFONT, 0, 0)));
-    WPARAM widest = 0;
-    for (std::size_t i = 0; i < model.count(); ++i) {
-        const std::string line = model.line(i);
-        SIZE size{};
-        GetTextExtentPoint32A(device.get(), line.c_str(), static_cast<int>(line.size()), &size);
-        widest = std::max(widest, static_cast<WPARAM>(size.cx));
-    }
-    constexpr WPARAM margin = 6;
-    SendMessageA(box, LB_SETHORIZONTALEXTENT, widest + margin, 0);
-}
 
 } // namespace
 
@@ -107,7 +91,7 @@ void ListDialog::followTyping(int control) {
     SendMessageA(box, LB_INSERTSTRING, shownIndex(),
                  reinterpret_cast<LPARAM>(model_.line(shownIndex()).c_str()));
     SendMessageA(box, LB_SETCURSEL, shownIndex(), 0);
-    measureLines(box, model_);
+    measureLines(box);
     SendMessageA(box, WM_SETREDRAW, TRUE, 0);
     InvalidateRect(box, nullptr, TRUE);
     followForm();
@@ -210,7 +194,7 @@ void ListDialog::refresh(int chosen) {
         SendMessageA(box, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(model_.line(i).c_str()));
     }
     SendMessageA(box, LB_SETCURSEL, static_cast<WPARAM>(chosen), 0);
-    measureLines(box, model_);
+    measureLines(box);
     SendMessageA(box, WM_SETREDRAW, TRUE, 0);
     InvalidateRect(box, nullptr, TRUE);
     showEntry(chosen);

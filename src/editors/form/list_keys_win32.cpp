@@ -1,5 +1,7 @@
 #include "editors/form/list_keys_win32.h"
 
+#include "view/painting/gdi_object_win32.h"
+
 #include <commctrl.h>
 
 #include <algorithm>
@@ -64,6 +66,23 @@ void addTips(HWND dialog, std::span<const Tip> tips) {
         tool.lpszText = text.data();
         SendMessageA(window, TTM_ADDTOOLA, 0, reinterpret_cast<LPARAM>(&tool));
     }
+}
+
+void measureLines(HWND box) {
+    const MemoryDevice device(nullptr);
+    const Selection font(device.get(), reinterpret_cast<HFONT>(SendMessageA(box, WM_GETFONT, 0, 0)));
+    WPARAM widest = 0;
+    const LRESULT count = SendMessageA(box, LB_GETCOUNT, 0, 0);
+    for (LRESULT i = 0; i < count; ++i) {
+        const auto row = static_cast<WPARAM>(i);
+        std::string line(static_cast<std::size_t>(SendMessageA(box, LB_GETTEXTLEN, row, 0)), '\0');
+        SendMessageA(box, LB_GETTEXT, row, reinterpret_cast<LPARAM>(line.data()));
+        SIZE size{};
+        GetTextExtentPoint32A(device.get(), line.c_str(), static_cast<int>(line.size()), &size);
+        widest = std::max(widest, static_cast<WPARAM>(size.cx));
+    }
+    constexpr WPARAM margin = 6;
+    SendMessageA(box, LB_SETHORIZONTALEXTENT, widest + margin, 0);
 }
 
 void keepKeyboard(HWND dialog, HWND former, int control) {

@@ -1,5 +1,5 @@
 #pragma once
-// Keys of a list box that do what the buttons beside it do.
+// List boxes of dialogs: keys that do what the buttons beside them do, and room for their lines.
 
 #include <windows.h>
 
@@ -25,6 +25,9 @@ struct Tip {
     const char* text;
 };
 void addTips(HWND dialog, std::span<const Tip> tips);
+
+/// Lets a list box be scrolled sideways as far as its widest line needs; where none does, it has no bar.
+void measureLines(HWND box);
 
 /// Gives the keyboard to a control when `former`, which had it, has been disabled: the dialog would take no
 /// key any more.

@@ -1,12 +1,12 @@
 // The "Details" dialog of aircraft, and their rotor blades.
 
-#include "editors/form/form_dialog_win32.h"
 #include "editors/form/list_dialog_win32.h"
 #include "editors/squad/rotor_list.h"
 #include "editors/squad/squad_dialogs.h"
 #include "editors/squad/squad_form.h"
 #include "editors/squad/squad_notes.h"
 #include "editors/unit/availability_dialog.h"
+#include "editors/unit/details_terms_win32.h"
 #include "editors/unit/play_sound_win32.h"
 #include "editors/unit/sound_choices.h"
 #include "resources/resource.h"
@@ -20,13 +20,8 @@ namespace {
 class AircraftDialog final : public FormDialog {
 public:
     explicit AircraftDialog(EditContext& edit)
-        : FormDialog({.dialogTemplate = IDD_AIRCRAFT,
-                      .caption = "Details",
-                      .imageBases = edit.imageBases,
-                      .changed = edit.changed,
-                      .undoName = "Details"},
-                     form_),
-          edit_(edit), image_(edit.record.aircraft->image), form_(edit.record, aircraftShape()) {
+        : FormDialog(detailsTerms(edit, IDD_AIRCRAFT), form_), edit_(edit),
+          image_(edit.record.aircraft->image), form_(edit.record, aircraftShape()) {
         onButton(IDC_WEAPONS_BUTTON,
                  [this] { open([this] { return editArmament(handle(), edit_, armament()); }, "Weapons"); });
         onButton(IDC_AMMO_BUTTON, [this] {

@@ -3,10 +3,14 @@
 #include "data/each_field.h"
 #include "editors/form/form_dialog_win32.h"
 #include "editors/squad/heavy_weapon_form.h"
+#include "editors/squad/members.h"
 #include "editors/squad/squad_dialogs.h"
+#include "editors/squad/squad_notes.h"
+#include "editors/unit/carried_ammo.h"
 #include "resources/resource.h"
 
 #include <utility>
+#include <vector>
 
 namespace varrocade {
 
@@ -44,10 +48,21 @@ private:
         port().setText(IDC_NOT_STORED, heavyWeaponNotStored(port(), work_));
         HeavyWeaponRecord shown = work_;
         readPossible(port(), heavyWeaponShape(), shown);
+        port().setText(IDC_CARRIED, carriedLines(weaponTypesOf(shown.weapons), shown.ammo));
+        port().setText(IDC_UNIT_NOTES, notesOf(shown));
         if (shown != edit_.record.heavyWeapon) {
             edit_.record.heavyWeapon = std::move(shown);
             edit_.redraw();
         }
+    }
+    /// What is odd about the weapon, but for the kind, which is told where it is chosen.
+    [[nodiscard]] std::string notesOf(const HeavyWeaponRecord& shown) const {
+        SquadRecord unit = edit_.record;
+        unit.heavyWeapon = shown;
+        unit.type = unitTypeOf(shown.kind);
+        std::vector<SquadNote> notes = squadNotes(unit, edit_.catalogue, edit_.imageBases);
+        std::erase_if(notes, [&](const SquadNote& note) { return note.member != heavyPlace(unit); });
+        return noteLines(notes);
     }
     [[nodiscard]] Armament armament() {
         return {work_.weapons, work_.ammo, holderOf(shownKind(port(), work_)), WeaponBearer::HeavyWeapon};

@@ -71,12 +71,6 @@ std::optional<std::size_t> manAt(const SquadRecord& squad, std::size_t place) {
     return squad.heavyWeapon && place > heavyPlace(squad) ? place - 1 : place;
 }
 
-std::string squadJobWord(std::string_view job) {
-    const auto jobs = squadJobNames();
-    const bool isStored = std::find(jobs.begin(), jobs.end(), job) != jobs.end();
-    return isStored ? displayName(job, JobPrefix) : "Soldier";
-}
-
 std::string memberLine(const SquadRecord& squad, std::size_t place) {
     std::vector<std::string> arms;
     std::string who;

@@ -29,9 +29,6 @@ std::optional<std::size_t> manAt(const SquadRecord& squad, std::size_t place);
 /// A line of the list: "3. Squad leader: Rifle Kar98K, 2 kinds of ammunition".
 std::string memberLine(const SquadRecord& squad, std::size_t place);
 
-/// What a man of a squad is: his job, or an ordinary soldier.
-std::string squadJobWord(std::string_view job);
-
 /// How many men fit in yet.
 std::size_t roomForMen(const SquadRecord& squad);
 

@@ -1,6 +1,5 @@
 // One man of a squad, several of them at once, and how many more are wanted.
 
-#include "data/format/words.h"
 #include "data/unit/enumerations.h"
 #include "data/unit_fields.h"
 #include "editors/form/form_dialog_win32.h"
@@ -9,7 +8,6 @@
 #include "editors/squad/squad_dialogs.h"
 #include "editors/squad/squad_notes.h"
 #include "resources/resource.h"
-#include "weapons/ammo_words.h"
 
 #include <algorithm>
 #include <array>
@@ -18,20 +16,6 @@
 namespace varrocade {
 
 namespace {
-
-/// What a man carries, a line each.
-std::string carriedLines(const CrewManRecord& man) {
-    std::string lines;
-    const auto add = [&lines](const std::string& line) { lines += (lines.empty() ? "" : "\r\n") + line; };
-    for (const Text& weapon : man.weapons) {
-        add(weaponWord(weapon));
-    }
-    for (const AmmoLoadRecord& load : man.ammo) {
-        add(grouped(load.rounds) + " rounds for " + weaponWord(load.weaponType) +
-            (load.flavour.empty() ? "" : ", " + flavourWord(load.flavour)));
-    }
-    return lines.empty() ? "nothing" : lines;
-}
 
 class ManDialog final : public FormDialog {
 public:
@@ -51,7 +35,7 @@ public:
 
 private:
     void follow() override {
-        port().setText(IDC_CARRIED, carriedLines(work_));
+        port().setText(IDC_CARRIED, carriedLines(weaponTypesOf(std::span(&work_, 1)), work_.ammo));
         CrewManRecord shown = work_;
         readPossible(port(), manShape(), shown);
         const auto jobs = squadJobNames();

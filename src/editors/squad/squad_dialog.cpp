@@ -1,12 +1,12 @@
 // The "Details" dialog of squads on foot and of heavy weapons.
 
-#include "editors/form/form_dialog_win32.h"
 #include "editors/form/list_keys_win32.h"
 #include "editors/squad/members.h"
 #include "editors/squad/squad_dialogs.h"
 #include "editors/squad/squad_form.h"
 #include "editors/squad/squad_notes.h"
 #include "editors/unit/availability_dialog.h"
+#include "editors/unit/details_terms_win32.h"
 #include "editors/unit/uniform_dialog.h"
 #include "platform/messages.h"
 #include "resources/resource.h"
@@ -19,6 +19,13 @@ namespace varrocade {
 
 namespace {
 
+constexpr auto MemberTips = std::to_array<Tip>({
+    {IDC_MEMBER_COPY, "Adds each of the chosen men once more"},
+    {IDC_MEMBER_SEVERAL, "Adds more men like the chosen one"},
+    {IDC_MEMBER_EDIT, "Opens the man or the heavy weapon; changes several chosen men at once"},
+    {IDC_MEMBER_HEAVY, "Adds a mortar, machine gun or gun that the men serve"},
+});
+
 constexpr auto MemberKeys = std::to_array<ListKey>({
     {VK_INSERT, false, IDC_MEMBER_ADD, "In the list: Insert"},
     {VK_DELETE, false, IDC_MEMBER_DELETE, "In the list: Delete"},
@@ -29,13 +36,7 @@ constexpr auto MemberKeys = std::to_array<ListKey>({
 class SquadDialog final : public FormDialog {
 public:
     explicit SquadDialog(EditContext& edit)
-        : FormDialog({.dialogTemplate = IDD_SQUAD,
-                      .caption = "Details",
-                      .imageBases = edit.imageBases,
-                      .changed = edit.changed,
-                      .undoName = "Details"},
-                     form_),
-          edit_(edit), form_(edit.record, squadShape()) {
+        : FormDialog(detailsTerms(edit, IDD_SQUAD), form_), edit_(edit), form_(edit.record, squadShape()) {
         onButton(IDC_MEMBER_ADD, [this] { addOne(); });
         onButton(IDC_MEMBER_COPY, [this] { copyChosen(); });
         onButton(IDC_MEMBER_SEVERAL, [this] { addSeveral(); });
@@ -60,6 +61,7 @@ public:
 private:
     void prepare() override {
         bindListKeys(handle(), IDC_MEMBERS, MemberKeys);
+        addTips(handle(), MemberTips);
         const std::size_t first = std::min(edit_.firstShown, memberCount(squad()));
         refreshMembers(memberCount(squad()) > 0 ? MemberPlaces{first} : MemberPlaces());
     }
@@ -155,8 +157,7 @@ void SquadDialog::refreshMembers(const MemberPlaces& places) {
     if (!places.empty()) {
         SendMessageA(list(), LB_SETCARETINDEX, places.back(), FALSE);
     }
-    constexpr int widestLine = 420;
-    SendMessageA(list(), LB_SETHORIZONTALEXTENT, static_cast<WPARAM>(edit_.drawing.scaled(widestLine)), 0);
+    measureLines(list());
     SendMessageA(list(), WM_SETREDRAW, TRUE, 0);
     InvalidateRect(list(), nullptr, TRUE);
     showNotes();

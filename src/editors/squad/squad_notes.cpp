@@ -1,5 +1,6 @@
 #include "editors/squad/squad_notes.h"
 
+#include "data/format/words.h"
 #include "data/unit/enumerations.h"
 #include "data/unit/image_names.h"
 #include "data/unit_fields.h"
@@ -10,6 +11,7 @@
 #include "editors/unit/sound_choices.h"
 #include "editors/unit/weapon_choices.h"
 #include "platform/file_operations.h"
+#include "weapons/ammo_words.h"
 
 #include <algorithm>
 #include <array>
@@ -38,6 +40,10 @@ void addLoads(Types& types, std::span<const AmmoLoadRecord> loads) {
     }
 }
 
+std::string roundsText(std::int32_t rounds) {
+    return grouped(rounds) + (rounds == 1 ? " round" : " rounds");
+}
+
 class NoteWriter {
 public:
     NoteWriter(const WeaponCatalogue& catalogue, std::span<const std::string> bases)
@@ -64,7 +70,7 @@ public:
             const bool isThrown = weapon != nullptr && weapon->type == WeaponType::Grenade;
             if (!hasType(weapons, load.weaponType.view()) && !isThrown) {
                 const std::string word = load.weaponType.empty() ? "no weapon" : weaponWord(load.weaponType);
-                add(member, std::string(whose) + std::to_string(load.rounds) + " rounds for " + word +
+                add(member, std::string(whose) + roundsText(load.rounds) + " for " + word +
                                 (load.weaponType.empty() ? "" : ", which nobody carries"));
             }
         }
@@ -170,6 +176,19 @@ std::vector<SquadNote> aircraftNotes(const SquadRecord& unit, const WeaponCatalo
         notes.checkPicture(SquadNote::Everybody, field::RotorImage, rotor.image);
     }
     return notes.take();
+}
+
+std::string carriedLines(std::span<const std::string> weapons, std::span<const AmmoLoadRecord> ammo) {
+    std::string lines;
+    const auto add = [&lines](const std::string& line) { lines += (lines.empty() ? "" : "\r\n") + line; };
+    for (const std::string& weapon : weapons) {
+        add(weaponWord(weapon));
+    }
+    for (const AmmoLoadRecord& load : ammo) {
+        add(roundsText(load.rounds) + " for " + weaponWord(load.weaponType) +
+            (load.flavour.empty() ? "" : ", " + flavourWord(load.flavour)));
+    }
+    return lines.empty() ? "nothing" : lines;
 }
 
 std::string noteLines(std::span<const SquadNote> notes) {

@@ -29,6 +29,9 @@ std::vector<SquadNote> squadNotes(const SquadRecord& squad, const WeaponCatalogu
 std::vector<SquadNote> aircraftNotes(const SquadRecord& unit, const WeaponCatalogue& catalogue,
                                      std::span<const std::string> bases);
 
+/// What somebody carries, a line each.
+std::string carriedLines(std::span<const std::string> weapons, std::span<const AmmoLoadRecord> ammo);
+
 /// The notes as lines.
 std::string noteLines(std::span<const SquadNote> notes);
 

@@ -2,9 +2,10 @@
 
 #include "data/format/words.h"
 #include "data/unit/enumerations.h"
-#include "editors/unit/weapon_choices.h"
+#include "weapons/weapon_names.h"
 
 #include <algorithm>
+#include <array>
 
 namespace varrocade {
 
@@ -27,7 +28,71 @@ std::vector<std::string> without(std::vector<std::string> some, std::span<const 
     return some;
 }
 
+struct UsualRounds {
+    WeaponType type;
+    std::int32_t onGround; ///< of a man, or of a heavy weapon
+    std::int32_t inAir;    ///< of an aircraft
+};
+
+/// What most units of the game's sample carry for a weapon of the type.
+constexpr auto RoundsOfTypes = std::to_array<UsualRounds>({
+    {WeaponType::Rifle, 60, 60},
+    {WeaponType::Pistol, 16, 16},
+    {WeaponType::Carbine, 90, 90},
+    {WeaponType::Shotgun, 32, 32},
+    {WeaponType::AtRifle, 20, 20},
+    {WeaponType::Bomb, 2, 2},
+    {WeaponType::Smg, 160, 160},
+    {WeaponType::Lmg, 240, 1000},
+    {WeaponType::Hmg, 1500, 1000},
+    {WeaponType::Grenade, 2, 2},
+    {WeaponType::GrenadeLauncher, 10, 10},
+    {WeaponType::Rpg, 3, 4},
+    {WeaponType::RecoillessRifle, 8, 8},
+    {WeaponType::FlamethrowerPortable, 7, 7},
+    {WeaponType::FlamethrowerTank, 60, 60},
+    {WeaponType::Mortar, 48, 48},
+    {WeaponType::Cannon, 40, 150},
+    {WeaponType::Mlrs, 8, 8},
+    {WeaponType::Artillery, 40, 40},
+});
+
+constexpr auto HighExplosives =
+    std::to_array<AmmoFlavour>({AmmoFlavour::He, AmmoFlavour::MortarHe, AmmoFlavour::ArtilleryHe,
+                                AmmoFlavour::RpgHe, AmmoFlavour::GrenadeHe, AmmoFlavour::RocketHe});
+
 } // namespace
+
+std::vector<AmmoLoadRecord> usualLoads(const WeaponCatalogue& catalogue, std::string_view weaponType,
+                                       WeaponBearer bearer) {
+    const WeaponRecord* weapon = catalogue.find(weaponType);
+    const auto usual = std::find_if(RoundsOfTypes.begin(), RoundsOfTypes.end(), [&](const UsualRounds& row) {
+        return weapon != nullptr && row.type == weapon->type;
+    });
+    if (usual == RoundsOfTypes.end() || weapon->ammoTypes.empty()) {
+        return {};
+    }
+    std::vector<AmmoFlavour> flavours = {weapon->ammoTypes.front().flavour};
+    const auto explosive =
+        std::find_if(weapon->ammoTypes.begin(), weapon->ammoTypes.end(), [](const AmmoTypeRecord& ammo) {
+            return std::find(HighExplosives.begin(), HighExplosives.end(), ammo.flavour) !=
+                   HighExplosives.end();
+        });
+    if (bearer != WeaponBearer::Man && explosive != weapon->ammoTypes.end() &&
+        explosive->flavour != flavours.front()) {
+        flavours.push_back(explosive->flavour);
+    }
+    std::vector<AmmoLoadRecord> loads;
+    for (const AmmoFlavour flavour : flavours) {
+        // The files leave out what goes without saying, but for bombs the reader puts it in again.
+        const std::string_view name = nameOf(flavour);
+        const bool isLeftOut = isDefaultFlavour(weaponType, name) && name != FlavourBombHe;
+        loads.push_back({.weaponType = weaponType,
+                         .flavour = isLeftOut ? std::string_view() : name,
+                         .rounds = bearer == WeaponBearer::Aircraft ? usual->inAir : usual->onGround});
+    }
+    return loads;
+}
 
 std::vector<std::string> weaponTypesOf(std::span<const WeaponMountRecord> weapons) {
     std::vector<std::string> types;

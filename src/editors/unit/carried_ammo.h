@@ -3,11 +3,13 @@
 // its weapon goes.
 
 #include "data/unit/unit_record.h"
+#include "editors/unit/weapon_choices.h"
 #include "weapons/weapon_catalogue.h"
 
 #include <cstdint>
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace varrocade {
@@ -19,6 +21,11 @@ std::vector<std::string> weaponTypesOf(std::span<const WeaponMountRecord> weapon
 /// none of it; after all of these for the first weapon once more. For no weapon where there is none.
 AmmoLoadRecord nextAmmunition(std::span<const std::string> weaponTypes, std::span<const AmmoLoadRecord> loads,
                               bool hasFlavour, const WeaponCatalogue& catalogue);
+
+/// What a bearer usually carries for a weapon: some of its first ammunition; a heavy weapon or an aircraft
+/// also of its first high explosive. Nothing for a weapon that the catalogue does not hold.
+std::vector<AmmoLoadRecord> usualLoads(const WeaponCatalogue& catalogue, std::string_view weaponType,
+                                       WeaponBearer bearer);
 
 /// Ammunition whose weapon an edit took away.
 struct OrphanedAmmo {

@@ -136,7 +136,11 @@ constexpr auto WeaponRows = std::to_array<FormRow<WeaponMountRecord>>({
 });
 
 std::string weaponLine(std::size_t place, const WeaponMountRecord& weapon) {
-    return numbered(place, weapon.type.empty() ? "(no weapon)" : weaponWord(weapon.type));
+    std::string text = weapon.type.empty() ? "(no weapon)" : weaponWord(weapon.type);
+    if (weapon.offsetX != 0 || weapon.offsetY != 0) {
+        text += " " + offsetText(weapon.offsetX, weapon.offsetY);
+    }
+    return numbered(place, text);
 }
 
 /// To the other wing, or the other side of a turret.

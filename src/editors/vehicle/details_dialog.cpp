@@ -4,9 +4,9 @@
 
 #include "data/unit/component_words.h"
 #include "data/unit/unit_consistency.h"
-#include "editors/form/form_dialog_win32.h"
 #include "editors/form/list_keys_win32.h"
 #include "editors/unit/availability_dialog.h"
+#include "editors/unit/details_terms_win32.h"
 #include "editors/vehicle/component_dialogs.h"
 #include "editors/vehicle/component_list.h"
 #include "editors/vehicle/drive_dialog.h"
@@ -54,13 +54,8 @@ constexpr auto ComponentTips = std::to_array<Tip>({
 class DetailsDialog final : public FormDialog {
 public:
     DetailsDialog(EditContext& edit, const DrawingObjects& drawing)
-        : FormDialog({.dialogTemplate = IDD_DETAILS,
-                      .caption = "Details",
-                      .imageBases = edit.imageBases,
-                      .changed = edit.changed,
-                      .undoName = "Details"},
-                     form_),
-          edit_(edit), form_(edit.record, vehicleShape()) {
+        : FormDialog(detailsTerms(edit, IDD_DETAILS), form_), edit_(edit),
+          form_(edit.record, vehicleShape()) {
         onButton(IDC_ADD, [this] { addToList(); });
         onButton(IDC_REMOVE, [this] { deleteFromList(); });
         onButton(IDC_COPY_COMPONENT, [this] { addTwin(copyComponent, "Copy component"); });

@@ -70,14 +70,15 @@ private:
     DrawList list_;
 };
 
-/// An arrow head at the right of a rotor, where its blades go: to the rear when it turns clockwise.
+/// An arrow head where a rotor's blades go to the rear: at its right when it turns clockwise, otherwise at
+/// its left. So the marks of two rotors on one mast stand apart.
 void addTurning(PictureStack& stack, const RotorBladesRecord& rotor, UnitPart part) {
     constexpr double out = 0.35; ///< of the diameter
     constexpr double size = 25;  ///< of the arrow head
-    const Point tip{rotor.offsetX + rotor.diameter * out, static_cast<double>(rotor.offsetY)};
-    const double behind = rotor.clockwise ? size : -size;
-    stack.line({{tip.x - size, tip.y + behind}, tip, Ink::Yellow, part});
-    stack.line({{tip.x + size, tip.y + behind}, tip, Ink::Yellow, part});
+    const double side = rotor.diameter * (rotor.clockwise ? out : -out);
+    const Point tip{rotor.offsetX + side, static_cast<double>(rotor.offsetY)};
+    stack.line({{tip.x - size, tip.y + size}, tip, Ink::Yellow, part});
+    stack.line({{tip.x + size, tip.y + size}, tip, Ink::Yellow, part});
 }
 
 } // namespace

@@ -14,6 +14,7 @@ namespace {
 constexpr double CellWidth = 130;
 constexpr double LineHeight = 17; ///< of a label, at the scale that a whole squad is shown at
 constexpr std::size_t LineLength = 17;
+constexpr std::size_t CrewLineLength = 12; ///< below a gun, which makes the scale smaller
 constexpr double WeaponGap = 4;
 
 class SquadDrawing {
@@ -112,11 +113,12 @@ private:
     }
 
     /// What a label takes when its lines are broken at the width of a cell.
-    static double labelHeight(std::string_view words) {
+    [[nodiscard]] double labelHeight(std::string_view words) const {
+        const std::size_t length = unit_.heavyWeapon ? CrewLineLength : LineLength;
         double lines = 1; // free below the last one
         while (!words.empty()) {
             const std::size_t end = std::min(words.find('\n'), words.size());
-            const std::size_t broken = (end + LineLength - 1) / LineLength;
+            const std::size_t broken = (end + length - 1) / length;
             lines += static_cast<double>(broken);
             words.remove_prefix(std::min(words.size(), end + 1));
         }

@@ -105,7 +105,7 @@ std::string partName(const SquadRecord& unit, const UnitPart& part) {
     case PartKind::Exhaust:
         return "Exhaust pipe " + number;
     case PartKind::Man:
-        return number + ". " + shownWord(unit.infantrymen[part.index].job, JobPrefix, jobNames());
+        return number + ". " + squadJobWord(unit.infantrymen[part.index].job);
     case PartKind::Rotor:
         return "Rotor " + number;
     case PartKind::HeavyWeapon:

@@ -24,19 +24,27 @@ namespace {
 /// The weapons with what is carried for each.
 SheetTable armamentTable(std::span<const WeaponMountRecord> weapons, std::span<const AmmoLoadRecord> ammo,
                          const WeaponCatalogue& catalogue) {
+    // A heavy weapon's file has no places of its weapons.
+    const bool hasPlaces = std::any_of(weapons.begin(), weapons.end(), [](const WeaponMountRecord& weapon) {
+        return weapon.offsetX != 0 || weapon.offsetY != 0;
+    });
     SheetTable table;
-    table.rows.push_back({{"Weapon", "Ammunition", "Place (cm)"}});
+    table.rows.push_back({{"Weapon", "Ammunition"}});
+    if (hasPlaces) {
+        table.rows.back().cells.emplace_back("Place (cm)");
+    }
     std::set<std::string, std::less<>> known;
     for (std::size_t i = 0; i < weapons.size(); ++i) {
         const WeaponMountRecord& weapon = weapons[i];
         const std::string type = weapon.type.str();
-        const bool hasPlace = weapon.offsetX != 0 || weapon.offsetY != 0;
         const bool isFirst = known.insert(type).second;
-        table.rows.push_back(
-            {{weaponWord(type), isFirst ? ammoFor(ammo, type) : "",
-              hasPlace ? std::to_string(weapon.offsetX) + ", " + std::to_string(weapon.offsetY) : "-"},
-             {PartKind::Weapon, 0, i},
-             isFirst ? weaponFigures(catalogue, type) : std::string()});
+        table.rows.push_back({{weaponWord(type), isFirst ? ammoFor(ammo, type) : ""},
+                              {PartKind::Weapon, 0, i},
+                              isFirst ? weaponFigures(catalogue, type) : std::string()});
+        if (hasPlaces) {
+            table.rows.back().cells.push_back(std::to_string(weapon.offsetX) + ", " +
+                                              std::to_string(weapon.offsetY));
+        }
     }
     return table;
 }
@@ -110,7 +118,9 @@ SheetRow rowOfMan(const CrewManRecord& man, std::string place, const UnitPart& p
         rounds += (rounds.empty() ? "" : ", ") + ammoText(ammo);
         rounds += ammo.weaponType.empty() ? "" : " for " + weaponWord(ammo.weaponType);
     }
-    return {{std::move(place), shownValue(field::Job, man, {.nothing = {}}), arms, rounds}, part};
+    const std::string job =
+        part.kind == PartKind::Man ? squadJobWord(man.job) : shownValue(field::Job, man, {.nothing = {}});
+    return {{std::move(place), job, arms, rounds}, part};
 }
 
 void addSquadSections(DataSheet& sheet, const SquadRecord& record, const WeaponCatalogue& catalogue) {

@@ -34,6 +34,7 @@ struct OfStart {
 constexpr auto StartMen =
     field_row::number(&UnitStart::men, "man", "Men",
                       {.range = {.least = 0, .greatest = static_cast<std::int32_t>(MaxSquadMembers)}});
+constexpr auto StartArms = field_row::reference(FieldKind::Weapon, &UnitStart::arms, "type", "Each carries");
 constexpr auto StartKind = field_row::reference(FieldKind::Choice, &UnitStart::kind, "kind", "Kind");
 constexpr auto StartPicture =
     field_row::image(&UnitStart::picture, "image", "Picture", image_sources::UnitPicture);
@@ -41,9 +42,10 @@ constexpr auto StartWeapon = field_row::reference(FieldKind::Weapon, &UnitStart:
 
 constexpr auto StartRows = std::to_array<FormRow<NewSquadChoice>>({
     {IDC_START_MEN, OfStart(), StartMen, {.kinds = Holders::of(Holder::SquadFile, Holder::AtGun)}},
+    {IDC_START_ARMS, OfStart(), StartArms, {.kinds = Holders::of(Holder::SquadFile, Holder::AtGun)}},
     {IDC_START_KIND, OfStart(), StartKind, {.kinds = Holders::of(Holder::AtGun)}},
     {IDC_START_PICTURE, OfStart(), StartPicture, {.kinds = Holders::of(Holder::AtGun, Holder::AircraftFile)}},
-    {IDC_START_WEAPON, OfStart(), StartWeapon, {.kinds = Holders::allBut(Holder::VehicleFile)}},
+    {IDC_START_WEAPON, OfStart(), StartWeapon, {.kinds = Holders::of(Holder::AtGun, Holder::AircraftFile)}},
 });
 
 constexpr FormShape<NewSquadChoice> StartShape = {
@@ -62,13 +64,6 @@ Holder holderOfCategory(Category category) {
     }
 }
 
-WeaponBearer bearerOf(Holder holder) {
-    if (holder == Holder::AtGun) {
-        return WeaponBearer::HeavyWeapon;
-    }
-    return holder == Holder::AircraftFile ? WeaponBearer::Aircraft : WeaponBearer::Man;
-}
-
 class NewSquadDialog final : public FormDialog {
 public:
     NewSquadDialog(const std::vector<std::string>& bases, NewSquadChoice& choice)
@@ -79,6 +74,7 @@ public:
 
 private:
     void prepare() override;
+    void follow() override;
     bool accept() override;
     bool notice(int control, int notification) override;
     bool receive(UINT message, WPARAM, LPARAM) override {
@@ -94,9 +90,13 @@ private:
     void chooseNationality();
     void offerPictures();
     void offerWeapons();
+    void suggest(HeavyWeaponKind kind);
+    void replace(int control, Text& former, const Text& next);
     void closeGaps();
 
     NewSquadChoice& choice_;
+    UnitStart suggested_; ///< what the controls show that the user did not change
+    std::vector<std::string> pictures_;
     std::string nationality_; ///< "NATIONALITY_..."
     std::string name_;
     RecordForm<NewSquadChoice> form_;
@@ -117,31 +117,82 @@ void NewSquadDialog::prepare() {
     SendDlgItemMessageA(handle(), IDC_NEW_NATIONALITY, CB_SETCURSEL, static_cast<WPARAM>(first), 0);
     constexpr std::size_t longestName = 255;
     port().setLimit(IDC_NEW_NAME, longestName);
-    chooseNationality();
     if (choice_.holder == Holder::AtGun) {
         port().setText(IDC_START_LABELS, "Cre&w:");
-        port().setText(IDC_START_LABELS + 2, "&Gun image:");
-        port().setText(IDC_START_LABELS + 3, "W&eapon:");
+        port().setText(IDC_START_LABELS + 3, "&Gun image:");
+        port().setText(IDC_START_LABELS + 4, "W&eapon:");
     }
     offerPictures();
+    chooseNationality();
+    choice_.start = suggested_;
     closeGaps();
     PostMessageA(handle(), FocusName, 0, 0);
 }
 
-/// A gun's picture is one of those that are called so.
+/// A gun's picture is one of those that are called so; an aircraft's is none that belongs to something else.
 void NewSquadDialog::offerPictures() {
-    std::vector<std::string> pictures = imageChoices(imageBases(theWorkspace()), StartPicture.images);
-    if (choice_.holder == Holder::AtGun) {
-        std::erase_if(pictures, [](const std::string& name) { return !name.ends_with(" gun"); });
-    }
-    port().setChoices(IDC_START_PICTURE, pictures);
+    pictures_ = imageChoices(imageBases(theWorkspace()), StartPicture.images);
+    const bool isGun = choice_.holder == Holder::AtGun;
+    std::erase_if(pictures_, [isGun](const std::string& name) {
+        const bool isOfGun = name.ends_with(" gun");
+        return isGun ? !isOfGun
+                     : isOfGun || name.ends_with(" base") || name.ends_with(" rotor") ||
+                           !name.starts_with("Image-");
+    });
+    port().setChoices(IDC_START_PICTURE, pictures_);
 }
 
 void NewSquadDialog::offerWeapons() {
+    const Workspace& workspace = theWorkspace();
     SquadRecord unit;
     unit.nationality = std::string_view(nationality_);
+    port().setChoices(IDC_START_ARMS, weaponChoices(workspace.catalogue, unit, WeaponBearer::Man, false));
     port().setChoices(IDC_START_WEAPON,
-                      weaponChoices(theWorkspace().catalogue, unit, bearerOf(choice_.holder), false));
+                      startWeapons(workspace.category, nationality_, suggested_.kind, workspace.catalogue));
+}
+
+void NewSquadDialog::replace(int control, Text& former, const Text& next) {
+    if (port().text(control) == former.view()) {
+        port().setText(control, next);
+    }
+    former = next;
+}
+
+/// Suggests what fits the nationality and the kind, but leaves what the user chose.
+void NewSquadDialog::suggest(HeavyWeaponKind kind) {
+    const Workspace& workspace = theWorkspace();
+    const UnitStart next =
+        suggestedStart(workspace.category, nationality_, kind, workspace.catalogue, pictures_);
+    suggested_.kind = kind;
+    suggested_.men = next.men;
+    offerWeapons();
+    replace(IDC_START_ARMS, suggested_.arms, next.arms);
+    replace(IDC_START_WEAPON, suggested_.weapon, next.weapon);
+    replace(IDC_START_PICTURE, suggested_.picture, next.picture);
+}
+
+/// A gun's weapon and picture go together while only one of them was chosen.
+void NewSquadDialog::follow() {
+    NewSquadChoice shown = choice_;
+    readPossible(port(), StartShape, shown);
+    const UnitStart& start = shown.start;
+    if (start.kind != suggested_.kind) {
+        suggest(start.kind);
+    } else if (choice_.holder != Holder::AtGun) {
+        return;
+    } else if (start.weapon != suggested_.weapon && start.picture == suggested_.picture) {
+        const std::string picture = pictureOfWeapon(start.weapon, pictures_);
+        replace(IDC_START_PICTURE, suggested_.picture, std::string_view(picture));
+    } else if (start.picture != suggested_.picture && start.weapon == suggested_.weapon) {
+        const std::string picture = start.picture.str();
+        for (const std::string& weapon :
+             startWeapons(theWorkspace().category, nationality_, start.kind, theWorkspace().catalogue)) {
+            if (!pictureOfWeapon(weapon, std::span(&picture, 1)).empty()) {
+                replace(IDC_START_WEAPON, suggested_.weapon, std::string_view(weapon));
+                return;
+            }
+        }
+    }
 }
 
 /// The rows of other categories go, and what is below them moves up.
@@ -157,7 +208,7 @@ void NewSquadDialog::closeGaps() {
         SetWindowPos(GetDlgItem(handle(), control), nullptr, place.left, place.top - by, 0, 0,
                      SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
     };
-    const LONG pitch = topOf(IDC_START_KIND).top - topOf(IDC_START_MEN).top;
+    const LONG pitch = topOf(IDC_START_ARMS).top - topOf(IDC_START_MEN).top;
     LONG gap = 0;
     for (std::size_t i = 0; i < StartRows.size(); ++i) {
         const int label = IDC_START_LABELS + static_cast<int>(i);
@@ -187,7 +238,7 @@ void NewSquadDialog::chooseNationality() {
                        ? std::string(names[static_cast<std::size_t>(chosen)])
                        : std::string();
     port().setText(IDC_NEW_NAME, nameForNationality(port().text(IDC_NEW_NAME), former, nationality_));
-    offerWeapons();
+    suggest(suggested_.kind);
 }
 
 bool NewSquadDialog::notice(int control, int notification) {

@@ -3,17 +3,23 @@
 #include "data/unit/enumerations.h"
 #include "editors/squad/heavy_weapon_form.h"
 #include "editors/squad/members.h"
+#include "editors/unit/carried_ammo.h"
 
 #include <algorithm>
+#include <cctype>
 
 namespace varrocade {
 
 namespace {
 
-void addCrew(SquadRecord& unit, const UnitStart& start, const Text& weapon) {
+constexpr std::string_view PictureBegin = "Image-";
+constexpr std::string_view GunEnd = " gun";
+
+void addCrew(SquadRecord& unit, const UnitStart& start, const WeaponCatalogue& catalogue) {
     CrewManRecord man;
-    if (!weapon.empty()) {
-        man.weapons = {weapon};
+    if (!start.arms.empty()) {
+        man.weapons = {start.arms};
+        man.ammo = usualLoads(catalogue, start.arms, WeaponBearer::Man);
     }
     addMen(unit, man, static_cast<std::size_t>(std::max(start.men, 0)), std::nullopt);
     if (!unit.infantrymen.empty()) {
@@ -21,47 +27,140 @@ void addCrew(SquadRecord& unit, const UnitStart& start, const Text& weapon) {
     }
 }
 
-void addMounted(std::vector<WeaponMountRecord>& weapons, const Text& type) {
+/// Arms a heavy weapon or an aircraft.
+void mount(auto& bearer, const Text& type, const WeaponCatalogue& catalogue, WeaponBearer kind) {
     if (!type.empty()) {
-        weapons.emplace_back().type = type;
+        bearer.weapons.emplace_back().type = type;
+        bearer.ammo = usualLoads(catalogue, type, kind);
     }
+}
+
+WeaponType typeOfKind(HeavyWeaponKind kind) {
+    switch (kind) {
+    case HeavyWeaponKind::Mortar:
+        return WeaponType::Mortar;
+    case HeavyWeaponKind::Hmg:
+        return WeaponType::Hmg;
+    case HeavyWeaponKind::RecoillessRifle:
+        return WeaponType::RecoillessRifle;
+    case HeavyWeaponKind::AtGun:
+        break;
+    }
+    return WeaponType::Cannon;
+}
+
+/// The first of the weapons that is of the type, or none.
+Text firstOfType(std::span<const std::string> weapons, WeaponType type, const WeaponCatalogue& catalogue) {
+    const auto found = std::find_if(weapons.begin(), weapons.end(), [&](const std::string& name) {
+        return catalogue.find(name)->type == type;
+    });
+    return found == weapons.end() ? Text() : Text(std::string_view(*found));
+}
+
+/// A name without what sets its words apart.
+std::string bareName(std::string_view name) {
+    std::string bare;
+    for (const char c : name) {
+        if (std::isalnum(static_cast<unsigned char>(c)) != 0) {
+            bare += static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+        }
+    }
+    return bare;
+}
+
+std::vector<std::string> weaponsOf(std::string_view nationality, WeaponBearer bearer,
+                                   const WeaponCatalogue& catalogue) {
+    SquadRecord unit;
+    unit.nationality = nationality;
+    return weaponChoices(catalogue, unit, bearer, false);
 }
 
 void dressGun(HeavyWeaponRecord& gun, const UnitStart& start,
               const std::function<bool(std::string_view)>& hasPicture) {
-    constexpr std::string_view begin = "Image-";
-    constexpr std::string_view end = " gun";
     gun.gunImage = start.picture;
     const std::string_view name = start.picture;
-    if (!name.starts_with(begin) || !name.ends_with(end)) {
+    if (!name.starts_with(PictureBegin) || !name.ends_with(GunEnd)) {
         return;
     }
-    const std::string stem(name.substr(begin.size(), name.size() - begin.size() - end.size()));
+    const std::string stem(
+        name.substr(PictureBegin.size(), name.size() - PictureBegin.size() - GunEnd.size()));
     const auto take = [&](Text& image, const std::string& picture) {
         if (hasPicture(picture)) {
             image = std::string_view(picture);
         }
     };
-    take(gun.baseImage, std::string(begin) + stem + " base");
+    take(gun.baseImage, std::string(PictureBegin) + stem + " base");
     take(gun.profileImage, "Profile-" + stem);
 }
 
 } // namespace
 
-void beginWith(SquadRecord& unit, Category category, const UnitStart& start,
+std::string pictureOfWeapon(std::string_view weapon, std::span<const std::string> pictures) {
+    const std::string bare = bareName(weapon);
+    std::string best;
+    std::size_t longest = 2; // fewer characters are no name
+    for (const std::string& picture : pictures) {
+        std::string_view stem = picture;
+        stem.remove_prefix(stem.starts_with(PictureBegin) ? PictureBegin.size() : 0);
+        stem.remove_suffix(stem.ends_with(GunEnd) ? GunEnd.size() : 0);
+        const std::string name = bareName(stem);
+        if (name.size() > longest && bare.find(name) != std::string::npos) {
+            longest = name.size();
+            best = picture;
+        }
+    }
+    return best;
+}
+
+std::vector<std::string> startWeapons(Category category, std::string_view nationality, HeavyWeaponKind kind,
+                                      const WeaponCatalogue& catalogue) {
+    const bool isGun = category == Category::AtGuns;
+    std::vector<std::string> weapons =
+        weaponsOf(nationality, isGun ? WeaponBearer::HeavyWeapon : WeaponBearer::Aircraft, catalogue);
+    if (isGun) {
+        std::stable_partition(weapons.begin(), weapons.end(), [&](const std::string& name) {
+            return catalogue.find(name)->type == typeOfKind(kind);
+        });
+    }
+    return weapons;
+}
+
+UnitStart suggestedStart(Category category, std::string_view nationality, HeavyWeaponKind kind,
+                         const WeaponCatalogue& catalogue, std::span<const std::string> pictures) {
+    constexpr std::int32_t riflemen = 10;
+    constexpr std::int32_t gunners = 5;
+    UnitStart start{.kind = kind};
+    const bool isGun = category == Category::AtGuns;
+    if (isGun || category == Category::Infantry) {
+        start.men = isGun ? gunners : riflemen;
+        start.arms =
+            firstOfType(weaponsOf(nationality, WeaponBearer::Man, catalogue), WeaponType::Rifle, catalogue);
+    }
+    if (isGun) {
+        start.weapon =
+            firstOfType(startWeapons(category, nationality, kind, catalogue), typeOfKind(kind), catalogue);
+        start.picture = std::string_view(pictureOfWeapon(start.weapon, pictures));
+    } else if (category == Category::Aircraft) {
+        start.weapon =
+            firstOfType(startWeapons(category, nationality, kind, catalogue), WeaponType::Hmg, catalogue);
+    }
+    return start;
+}
+
+void beginWith(SquadRecord& unit, Category category, const UnitStart& start, const WeaponCatalogue& catalogue,
                const std::function<bool(std::string_view picture)>& hasPicture) {
     if (category == Category::Infantry) {
-        addCrew(unit, start, start.weapon);
+        addCrew(unit, start, catalogue);
     } else if (category == Category::AtGuns) {
         HeavyWeaponRecord& gun = *unit.heavyWeapon;
         gun.kind = start.kind;
         unit.type = unitTypeOf(start.kind);
         dressGun(gun, start, hasPicture);
-        addMounted(gun.weapons, start.weapon);
-        addCrew(unit, start, {});
+        mount(gun, start.weapon, catalogue, WeaponBearer::HeavyWeapon);
+        addCrew(unit, start, catalogue);
     } else if (category == Category::Aircraft) {
         unit.aircraft->image = start.picture;
-        addMounted(unit.aircraft->weapons, start.weapon);
+        mount(*unit.aircraft, start.weapon, catalogue, WeaponBearer::Aircraft);
     }
 }
 
