@@ -4,6 +4,7 @@
 
 #include "analysis/penetration.h"
 #include "analysis/usual_spans.h"
+#include "data/format/texts.h"
 #include "data/unit/enumerations.h"
 #include "editors/form/list_dialog_win32.h"
 #include "editors/form/list_keys_win32.h"
@@ -116,7 +117,7 @@ private:
     void followChart(const WeaponRecord& weapon);
     void followFigures(const WeaponRecord& weapon);
     void play(std::size_t sound);
-    void compareWith(int chosen);
+    void compareWith(const std::string& name);
     void showUsers();
     void openUser();
     static LRESULT CALLBACK chartProcedure(HWND curves, UINT message, WPARAM parameter, LPARAM detail,
@@ -145,7 +146,6 @@ void WeaponDataDialog::prepare() {
     std::vector<std::string> weapons = penetrationWeapons(edit_.catalogue);
     weapons.insert(weapons.begin(), std::string(NoComparison));
     port().setChoices(IDC_WD_COMPARE, weapons);
-    port().setText(IDC_WD_COMPARE, NoComparison);
     for (const CheckedText& check : checks_) {
         prepareCheckList(GetDlgItem(handle(), check.list));
     }
@@ -178,10 +178,13 @@ bool WeaponDataDialog::notice(int control, int notification) {
         return true;
     }
     if (control == IDC_WD_COMPARE) {
-        if (notification == CBN_SELCHANGE) {
-            compareWith(static_cast<int>(SendDlgItemMessageA(handle(), control, CB_GETCURSEL, 0, 0)));
+        if (isUserChange(notification)) {
+            if (notification == CBN_SELCHANGE) {
+                completeChoice(handle(), control);
+            }
+            compareWith(port().text(control));
         }
-        return true;
+        return false;
     }
     if (control == IDC_WD_USERS) {
         port().setEnabled(IDC_WD_OPEN_UNIT,
@@ -305,7 +308,7 @@ void WeaponDataDialog::followChart(const WeaponRecord& weapon) {
     if (other_ != nullptr) {
         const std::vector<std::string> names = shellTypes(*other_);
         for (std::size_t i = 0; i < std::min(names.size(), MostComparedCurves); ++i) {
-            add(*other_, other_->ammoTypes[i], weaponWord(other_->fileName) + ": " + names[i]);
+            add(*other_, other_->ammoTypes[i], "Other: " + names[i]);
         }
     }
     InvalidateRect(GetDlgItem(handle(), IDC_WD_CURVES), nullptr, FALSE);
@@ -337,12 +340,14 @@ void WeaponDataDialog::play(std::size_t sound) {
     port().setText(IDC_WD_SOUND_NOTE + static_cast<int>(sound), path.empty() ? "missing" : playSound(path));
 }
 
-void WeaponDataDialog::compareWith(int chosen) {
-    const auto& entries = edit_.catalogue.entries();
-    // The first entry of the list stands for none.
-    const int place = chosen - 1;
-    other_ = place >= 0 && static_cast<std::size_t>(place) < entries.size()
-                 ? &entries[static_cast<std::size_t>(place)].weapon
+/// A text that names no weapon, half typed or "no other weapon", ends the comparison.
+void WeaponDataDialog::compareWith(const std::string& name) {
+    const std::vector<std::string> names = penetrationWeapons(edit_.catalogue);
+    const auto named = std::find_if(names.begin(), names.end(), [&](const std::string& weapon) {
+        return equalsIgnoringCase(weapon, name);
+    });
+    other_ = named != names.end()
+                 ? &edit_.catalogue.entries()[static_cast<std::size_t>(named - names.begin())].weapon
                  : nullptr;
     follow();
 }
