@@ -4,7 +4,6 @@
 
 #include "analysis/penetration.h"
 #include "analysis/usual_spans.h"
-#include "data/format/texts.h"
 #include "data/unit/enumerations.h"
 #include "editors/form/list_dialog_win32.h"
 #include "editors/form/list_keys_win32.h"
@@ -117,7 +116,7 @@ private:
     void followChart(const WeaponRecord& weapon);
     void followFigures(const WeaponRecord& weapon);
     void play(std::size_t sound);
-    void compareWith(const std::string& name);
+    void compare();
     void showUsers();
     void openUser();
     static LRESULT CALLBACK chartProcedure(HWND curves, UINT message, WPARAM parameter, LPARAM detail,
@@ -182,7 +181,7 @@ bool WeaponDataDialog::notice(int control, int notification) {
             if (notification == CBN_SELCHANGE) {
                 completeChoice(handle(), control);
             }
-            compareWith(port().text(control));
+            compare();
         }
         return false;
     }
@@ -341,14 +340,10 @@ void WeaponDataDialog::play(std::size_t sound) {
 }
 
 /// A text that names no weapon, half typed or "no other weapon", ends the comparison.
-void WeaponDataDialog::compareWith(const std::string& name) {
-    const std::vector<std::string> names = penetrationWeapons(edit_.catalogue);
-    const auto named = std::find_if(names.begin(), names.end(), [&](const std::string& weapon) {
-        return equalsIgnoringCase(weapon, name);
-    });
-    other_ = named != names.end()
-                 ? &edit_.catalogue.entries()[static_cast<std::size_t>(named - names.begin())].weapon
-                 : nullptr;
+void WeaponDataDialog::compare() {
+    // The first entry of the list stands for none.
+    const std::size_t chosen = port().chosen(IDC_WD_COMPARE).value_or(0);
+    other_ = chosen > 0 ? &edit_.catalogue.entries()[chosen - 1].weapon : nullptr;
     follow();
 }
 
@@ -438,20 +433,7 @@ void WeaponDataDialog::paint(const DRAWITEMSTRUCT& item) {
 LRESULT CALLBACK WeaponDataDialog::chartProcedure(HWND curves, UINT message, WPARAM parameter, LPARAM detail,
                                                   UINT_PTR, DWORD_PTR data) {
     auto& dialog = *reinterpret_cast<WeaponDataDialog*>(data);
-    if (message == WM_MOUSEMOVE || message == WM_MOUSELEAVE) {
-        RECT area{};
-        GetClientRect(curves, &area);
-        const POINT point{GET_X_LPARAM(detail), GET_Y_LPARAM(detail)};
-        const auto range = message == WM_MOUSEMOVE
-                               ? chartRangeAt(area, point, dialog.chart_, dialog.edit_.drawing)
-                               : std::nullopt;
-        if (range != dialog.chart_.pointedRange) {
-            dialog.chart_.pointedRange = range;
-            InvalidateRect(curves, nullptr, FALSE);
-        }
-        TRACKMOUSEEVENT leave{sizeof leave, TME_LEAVE, curves, 0};
-        TrackMouseEvent(&leave);
-    }
+    pointAtChart(curves, message, detail, dialog.chart_, dialog.edit_.drawing);
     return DefSubclassProc(curves, message, parameter, detail);
 }
 
