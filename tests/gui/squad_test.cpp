@@ -124,6 +124,24 @@ TEST_F(SquadTest, HeavyWeaponTellsWhatItsFileStores) {
     EXPECT_EQ(text.find("<mass>"), std::string::npos);
 }
 
+TEST_F(SquadTest, HeavyWeaponStandsAmongTheMen) {
+    constexpr std::string_view name = "American Bazooka Team";
+    open(InfantryId, name);
+    const Window details = openDetails();
+    details.startPress(IDC_MEMBER_HEAVY);
+    const Window heavy = editor->waitForDialog("Heavy Weapon");
+    heavy.startPress(IDOK);
+    expectGone(heavy, details);
+    EXPECT_FALSE(details.control(IDC_MEMBER_HEAVY).isEnabled());
+    details.press(IDC_MEMBER_UP);
+    EXPECT_EQ(details.control(IDC_MEMBERS).listTexts().at(1), "2. Mortar: no weapon  (!)");
+    finish(details);
+    const std::string text = game.read(dataFile(name, "Infantry"));
+    const std::size_t mortar = text.find("<mortar>");
+    EXPECT_LT(text.find("<man>"), mortar);
+    EXPECT_GT(text.rfind("<man>"), mortar);
+}
+
 TEST_F(SquadTest, AircraftHaveRotorsWeaponsAndSounds) {
     constexpr std::string_view name = "American UH-1C Huey";
     game.copyFromSample("Sounds");
@@ -152,8 +170,14 @@ TEST_F(SquadTest, NewSquadBeginsWithTheOpenNationAndWhatIsChosen) {
     open(AtGunsId, "German 75mm PaK 40");
     const Window dialog = openDialog(NewId, "New Squad");
     EXPECT_EQ(dialog.control(IDC_NEW_NAME).text(), "German ");
+    expectWellLaidOut(dialog);
+    dialog.control(IDC_START_KIND).choose("Mortar");
+    EXPECT_EQ(dialog.control(IDC_START_WEAPON).text(), "WEAPON_MORTAR_80_GRW34");
+    EXPECT_EQ(dialog.control(IDC_START_PICTURE).text(), "Image-GrW34 gun");
+    dialog.control(IDC_START_KIND).choose("Anti-tank gun");
     dialog.control(IDC_NEW_NATIONALITY).choose("Russian");
     EXPECT_EQ(dialog.control(IDC_NEW_NAME).text(), "Russian ");
+    EXPECT_TRUE(dialog.control(IDC_START_ARMS).text().starts_with("WEAPON_RIFLE_"));
     EXPECT_TRUE(eventually([&] { return editor->focus() == dialog.control(IDC_NEW_NAME); }));
     dialog.setText(IDC_NEW_NAME, "Russian New Gun");
     dialog.setText(IDC_START_MEN, "3");
@@ -163,6 +187,8 @@ TEST_F(SquadTest, NewSquadBeginsWithTheOpenNationAndWhatIsChosen) {
     EXPECT_NE(text.find("<image_view_base>Image-Pak40 base.png</image_view_base>"), std::string::npos)
         << text;
     EXPECT_NE(text.find("JOB_SQUAD_LEADER"), std::string::npos) << text;
+    EXPECT_NE(text.find("<rounds>60</rounds>"), std::string::npos) << "for the rifles: " << text;
+    EXPECT_NE(text.find("<rounds>40</rounds>"), std::string::npos) << "for the gun: " << text;
 }
 
 } // namespace varrocade::gui
