@@ -19,7 +19,7 @@
 namespace varrocade::tests {
 namespace {
 
-std::vector<std::string> linesOf(std::string_view text) {
+std::vector<std::string> crLfLines(std::string_view text) {
     std::vector<std::string> lines;
     while (!text.empty()) {
         lines.emplace_back(takePart(text, "\r\n"));
@@ -29,8 +29,8 @@ std::vector<std::string> linesOf(std::string_view text) {
 
 /// The lines that one text has in place of the other's: "  - former", "  + new".
 std::string changedLines(std::string_view former, std::string_view present) {
-    std::vector<std::string> before = linesOf(former);
-    std::vector<std::string> after = linesOf(present);
+    std::vector<std::string> before = crLfLines(former);
+    std::vector<std::string> after = crLfLines(present);
     const auto [a, b] = std::mismatch(before.begin(), before.end(), after.begin(), after.end());
     before.erase(before.begin(), a);
     after.erase(after.begin(), b);
@@ -50,7 +50,8 @@ std::string changedLines(std::string_view former, std::string_view present) {
 
 /// Changes the control of one field, named by its element or, without one, by its label.
 template <typename Record>
-void change(const FormShape<Record>& shape, Record& record, std::string_view field, std::string_view value) {
+void changeField(const FormShape<Record>& shape, Record& record, std::string_view field,
+                 std::string_view value) {
     const auto row = std::find_if(shape.rows.begin(), shape.rows.end(), [&](const FormRow<Record>& each) {
         return (each.field->element.empty() ? each.field->label : each.field->element) == field;
     });
@@ -75,35 +76,35 @@ void changeIn(SquadRecord& unit, std::string_view form, std::string_view field, 
     const auto ofArms = [&](auto& bearer) {
         const std::string_view list = takePart(form, " ");
         if (list == "weapon") {
-            change(weaponShape().form, bearer.weapons.at(place()), field, value);
+            changeField(weaponShape().form, bearer.weapons.at(place()), field, value);
         } else {
-            change(ammunitionShape().form, bearer.ammo.at(place()), field, value);
+            changeField(ammunitionShape().form, bearer.ammo.at(place()), field, value);
         }
     };
     const std::string_view what = takePart(form, " ");
     if (what == "details") {
-        change(unit.aircraft ? aircraftShape() : squadShape(), unit, field, value);
+        changeField(unit.aircraft ? aircraftShape() : squadShape(), unit, field, value);
     } else if (what == "uniform") {
-        change(uniformShape(), unit, field, value);
+        changeField(uniformShape(), unit, field, value);
     } else if (what == "availability") {
-        change(availabilityShape().form, unit.availability.at(place()), field, value);
+        changeField(availabilityShape().form, unit.availability.at(place()), field, value);
     } else if (what == "rotor") {
-        change(rotorShape().form, unit.aircraft->rotorBlades.at(place()), field, value);
+        changeField(rotorShape().form, unit.aircraft->rotorBlades.at(place()), field, value);
     } else if (what == "air") {
         ofArms(*unit.aircraft);
     } else if (what == "heavy") {
         if (form.empty()) {
-            change(heavyWeaponShape(), *unit.heavyWeapon, field, value);
+            changeField(heavyWeaponShape(), *unit.heavyWeapon, field, value);
         } else {
             ofArms(*unit.heavyWeapon);
         }
     } else {
         CrewManRecord& man = unit.infantrymen.at(place());
         if (form.empty()) {
-            change(manShape(), man, field, value);
+            changeField(manShape(), man, field, value);
         } else {
             takePart(form, " ");
-            change(ammunitionShape().form, man.ammo.at(place()), field, value);
+            changeField(ammunitionShape().form, man.ammo.at(place()), field, value);
         }
     }
 }
