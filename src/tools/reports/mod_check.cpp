@@ -15,7 +15,7 @@ bool isWithin(std::string_view folder, std::string_view path) {
 } // namespace
 
 ReferenceUser userOfFile(Category category, const AssetFile& file) {
-    GameFile data{.category = category, .isOfMod = file.isOfMod, .name = file.name, .path = file.path};
+    GameFile data{.category = category, .isOfMod = file.isOfMod, .name = file.name, .path = file.path()};
     data.name.resize(data.name.size() - DataFileEnding.size());
     std::string name = std::string(categoryName(category)) + ": " + data.name;
     return {std::move(name), std::move(data)};
