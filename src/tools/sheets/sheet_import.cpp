@@ -1,6 +1,7 @@
 #include "tools/sheets/sheet_import.h"
 
 #include "data/finding_text.h"
+#include "data/losses/loss_list.h"
 #include "data/losses/save_losses.h"
 #include "data/reading/unit_reader.h"
 #include "data/unit/unit_consistency.h"
@@ -255,7 +256,7 @@ void SheetImport::keepChanges(Row& row, const Record& before, const Record& afte
         noteMissing(row, reference.path.text(), reference.name);
     });
     for (const Finding& loss : lossesOf(*category_, content)) {
-        tell(Severity::Warning, line, name + ": " + explanation(loss), loss.field, loss.value);
+        tell(Severity::Warning, line, name + ": line " + lossText(loss), loss.field, loss.value);
     }
     changedFiles_.push_back({row.file->path, content, std::move(*text)});
 }
