@@ -6,8 +6,6 @@
 #include "tools/checks/engine/folder_check.h"
 #include "weapons/weapon_files.h"
 
-#include <chrono>
-
 #include <benchmark/benchmark.h>
 
 namespace varrocade::benchmarks {
@@ -44,16 +42,6 @@ void checkFolderInOneThread() {
     check.run(1);
     benchmark::DoNotOptimize(check.findings().size());
 }
-
-/// What one waits for.
-struct WallClock {
-    template <typename Work>
-    double operator()(Work work) const {
-        const auto start = std::chrono::steady_clock::now();
-        work();
-        return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-    }
-};
 
 void checkingFolder(benchmark::State& state) {
     folder();

@@ -2,6 +2,7 @@
 // Ratios that hold on a busy machine: the contestants take turns, and medians are compared.
 
 #include <algorithm>
+#include <chrono>
 #include <cstddef>
 #include <ctime>
 #include <vector>
@@ -27,6 +28,16 @@ struct ProcessorClock {
         const std::clock_t start = std::clock();
         work();
         return static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
+    }
+};
+
+/// What one waits for.
+struct WallClock {
+    template <typename Work>
+    double operator()(Work work) const {
+        const auto start = std::chrono::steady_clock::now();
+        work();
+        return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
     }
 };
 

@@ -128,7 +128,7 @@ void numberPictures(CorpusFile& file, const std::string& number, std::vector<Cor
                 replaceAll(file.content, ">" + name + std::string(ending),
                            ">" + name + number + std::string(ending));
             }
-            pictures.push_back({model->folder + name + number + ".png", model->below()});
+            pictures.push_back({std::string(model->folder) + name + number + ".png", model->below()});
         }
     });
 }

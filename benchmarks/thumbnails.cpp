@@ -10,7 +10,6 @@
 #include "tools/pictures/thumbnails.h"
 
 #include <array>
-#include <chrono>
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
@@ -148,15 +147,6 @@ void codeOnly() {
         }
     }
 }
-
-struct WallClock {
-    template <typename Work>
-    double operator()(Work work) const {
-        const auto start = std::chrono::steady_clock::now();
-        work();
-        return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-    }
-};
 
 } // namespace
 

@@ -80,27 +80,35 @@ std::string withOtherRows(std::string_view pixels, const PngChunks& old) {
     return file;
 }
 
-/// The chunks of a file that can be written anew; otherwise why not.
-PngChunks keepableChunks(std::string_view bytes) {
-    PngChunks file = splitPng(bytes);
-    if (file.failure.empty()) {
-        if (const PngChunk* unknown = unknownChunk(file)) {
-            file.failure = std::string(NotKept) + std::string(unknown->name) + "\"";
-        }
+/// A file that can be written anew: its chunks and its pixels, or why not.
+struct KeepableFile {
+    PngChunks chunks;
+    Picture picture = {};
+    std::string failure = {};
+};
+
+KeepableFile readKeepable(std::string_view bytes) {
+    KeepableFile file{.chunks = splitPng(bytes)};
+    file.failure = file.chunks.failure;
+    if (!file.failure.empty()) {
+        return file;
     }
+    if (const PngChunk* unknown = unknownChunk(file.chunks)) {
+        file.failure = std::string(NotKept) + std::string(unknown->name) + "\"";
+        return file;
+    }
+    PngReading reading = readPng(bytes);
+    file.picture = std::move(reading.picture);
+    file.failure = std::move(reading.failure);
     return file;
 }
 
 } // namespace
 
 PngReduction recompressedPng(std::string_view bytes) {
-    const PngChunks file = keepableChunks(bytes);
+    const KeepableFile file = readKeepable(bytes);
     if (!file.failure.empty()) {
         return {{}, file.failure};
-    }
-    const PngReading before = readPng(bytes);
-    if (!before.failure.empty()) {
-        return {{}, before.failure};
     }
     std::string smallest;
     const auto consider = [&](std::string candidate) {
@@ -108,12 +116,12 @@ PngReduction recompressedPng(std::string_view bytes) {
             smallest = std::move(candidate);
         }
     };
-    if (const std::string same = writeInSameColours(bytes, file.header); !same.empty()) {
-        consider(withOtherRows(same, file));
+    if (const std::string same = writeInSameColours(bytes, file.chunks.header); !same.empty()) {
+        consider(withOtherRows(same, file.chunks));
     }
-    if (!has(file, PngChunkUse::OfColours)) {
-        if (const std::string other = writeSmallestPng(before.picture, kindsFor(file)); !other.empty()) {
-            consider(withFreeChunks(other, file));
+    if (!has(file.chunks, PngChunkUse::OfColours)) {
+        if (const std::string other = writeSmallestPng(file.picture, kindsFor(file.chunks)); !other.empty()) {
+            consider(withFreeChunks(other, file.chunks));
         }
     }
     // Nobody has to trust the encoder.
@@ -124,20 +132,16 @@ PngReduction recompressedPng(std::string_view bytes) {
 }
 
 PngReduction scaledPng(std::string_view bytes, PictureSize size) {
-    const PngChunks file = keepableChunks(bytes);
+    const KeepableFile file = readKeepable(bytes);
     if (!file.failure.empty()) {
         return {{}, file.failure};
     }
-    const PngReading before = readPng(bytes);
-    if (!before.failure.empty()) {
-        return {{}, before.failure};
-    }
-    const Picture scaled = scaledPicture(before.picture, size);
-    const std::string pixels = scaled.samples.empty() ? "" : writeSmallestPng(scaled, kindsFor(file));
+    const Picture scaled = scaledPicture(file.picture, size);
+    const std::string pixels = scaled.samples.empty() ? "" : writeSmallestPng(scaled, kindsFor(file.chunks));
     if (pixels.empty()) {
         return {{}, "is too large for the memory"};
     }
-    std::string content = withFreeChunks(pixels, file);
+    std::string content = withFreeChunks(pixels, file.chunks);
     if (content.size() >= bytes.size()) {
         content.clear();
     }

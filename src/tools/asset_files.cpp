@@ -13,20 +13,19 @@ namespace {
 /// A file with the name that it is told apart by.
 struct KeyedFile {
     std::string key;
-    AssetFile file;
+    std::string name;
+    bool isOfMod;
 };
 
 void addFiles(std::vector<KeyedFile>& files, const std::string& base, bool isOfMod, std::string_view folder,
               std::string_view ending) {
     std::vector<std::string> names;
-    const std::string path = base + std::string(folder);
     // A folder that is not there holds nothing: few mods have them all.
-    listFiles(path, ending, names);
+    listFiles(base + std::string(folder), ending, names);
     files.reserve(files.size() + names.size());
     for (std::string& name : names) {
         std::string key = loweredText(name);
-        std::string below = path + name;
-        files.push_back({std::move(key), {std::string(folder), std::move(name), std::move(below), isOfMod}});
+        files.push_back({std::move(key), std::move(name), isOfMod});
     }
 }
 
@@ -36,7 +35,7 @@ bool countsBefore(const KeyedFile& a, const KeyedFile& b) {
     if (const int order = a.key.compare(b.key); order != 0) {
         return order < 0;
     }
-    return a.file.isOfMod != b.file.isOfMod ? a.file.isOfMod : a.file.name < b.file.name;
+    return a.isOfMod != b.isOfMod ? a.isOfMod : a.name < b.name;
 }
 
 } // namespace
@@ -47,6 +46,7 @@ const AssetFiles::Listing& AssetFiles::listing(std::string_view folder, std::str
     const auto [place, isNew] = listings_.try_emplace(std::move(key));
     Listing& result = place->second;
     if (isNew) {
+        result.folder = folder;
         std::vector<KeyedFile> files;
         if (!bases_.mod.empty()) {
             addFiles(files, bases_.mod, true, folder, ending);
@@ -55,10 +55,15 @@ const AssetFiles::Listing& AssetFiles::listing(std::string_view folder, std::str
         std::sort(files.begin(), files.end(), countsBefore);
         std::vector<AssetFile> hidden;
         result.files.reserve(files.size());
-        result.places.reserve(files.size());
+        result.keys.reserve(files.size());
         for (KeyedFile& file : files) {
-            const bool counts = result.places.try_emplace(std::move(file.key), result.files.size()).second;
-            (counts ? result.files : hidden).push_back(std::move(file.file));
+            const bool counts = result.keys.empty() || result.keys.back() != file.key;
+            const std::string& base = file.isOfMod ? bases_.mod : bases_.program;
+            (counts ? result.files : hidden)
+                .push_back({base, result.folder, std::move(file.name), file.isOfMod});
+            if (counts) {
+                result.keys.push_back(std::move(file.key));
+            }
         }
         result.files.insert(result.files.end(), std::move_iterator(hidden.begin()),
                             std::move_iterator(hidden.end()));
@@ -83,8 +88,10 @@ const AssetFile* AssetFiles::find(std::string_view folder, std::string_view name
     const Listing& candidates = listing(folder, ending);
     std::string key = loweredText(name);
     key += ending;
-    const auto place = candidates.places.find(key);
-    return place == candidates.places.end() ? nullptr : &candidates.files[place->second];
+    const auto place = std::lower_bound(candidates.keys.begin(), candidates.keys.end(), key);
+    return place == candidates.keys.end() || *place != key
+               ? nullptr
+               : &candidates.files[static_cast<std::size_t>(place - candidates.keys.begin())];
 }
 
 const AssetFile* AssetFiles::find(const Reference& reference) {

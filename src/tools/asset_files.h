@@ -16,19 +16,23 @@ namespace varrocade {
 
 /// A file of the game or the mod, below one of its folders.
 struct AssetFile {
-    std::string folder; ///< below the base, such as "Images\Uniforms\"
-    std::string name;   ///< with its ending, in the letter case that it has on the disk
-    std::string path;
+    std::string_view base;   ///< the folder of the game or the mod
+    std::string_view folder; ///< below the base, such as "Images\Uniforms\"
+    std::string name;        ///< with its ending, in the letter case that it has on the disk
     bool isOfMod = false;
-    [[nodiscard]] std::string below() const { return folder + name; }
+    [[nodiscard]] std::string below() const { return std::string(folder) + name; }
+    [[nodiscard]] std::string path() const { return std::string(base) + below(); }
 };
 
 /// The files below the bases. A folder is listed once, when it is asked for first; pointers to files stay
-/// good as long as the object lives.
+/// good as long as the object lives, and what they name of it.
 class AssetFiles {
 public:
     AssetFiles() = default;
     explicit AssetFiles(GameFolders folders) : bases_(std::move(folders)) {}
+    AssetFiles(const AssetFiles&) = delete;
+    AssetFiles& operator=(const AssetFiles&) = delete;
+    ~AssetFiles() = default;
 
     /// The files of a folder whose names end in `ending`: those that count first, sorted by name, then the
     /// game's that the mod hides.
@@ -49,8 +53,9 @@ public:
 
 private:
     struct Listing {
+        std::string folder;
         std::vector<AssetFile> files;
-        std::unordered_map<std::string, std::size_t> places; ///< by name in small letters
+        std::vector<std::string> keys; ///< the names in small letters of those that count, sorted
     };
 
     const Listing& listing(std::string_view folder, std::string_view ending);

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <commctrl.h>
+
 #include <array>
 #include <ostream>
 
@@ -161,6 +163,28 @@ void Window::choose(std::string_view text) const {
 void Window::startChoosing(std::string_view text) const {
     send(isComboBox() ? CB_SETCURSEL : LB_SETCURSEL, static_cast<WPARAM>(indexOf(text)));
     Window(GetParent(handle_)).post(WM_COMMAND, selectionNotice(), reinterpret_cast<LPARAM>(handle_));
+}
+
+void Window::selectRows(int first, int last) const {
+    // The table reads what to do from the memory of its own process.
+    DWORD processId = 0;
+    GetWindowThreadProcessId(handle_, &processId);
+    HANDLE process = OpenProcess(PROCESS_VM_OPERATION | PROCESS_VM_WRITE, FALSE, processId);
+    void* memory = VirtualAllocEx(process, nullptr, sizeof(LVITEMW), MEM_COMMIT, PAGE_READWRITE);
+    ASSERT_NE(memory, nullptr);
+    const auto setSelected = [&](int row, UINT state) {
+        LVITEMW item{};
+        item.stateMask = LVIS_SELECTED;
+        item.state = state;
+        WriteProcessMemory(process, memory, &item, sizeof item, nullptr);
+        send(LVM_SETITEMSTATE, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(memory));
+    };
+    setSelected(-1, 0);
+    for (int row = first; row <= last; ++row) {
+        setSelected(row, LVIS_SELECTED);
+    }
+    VirtualFreeEx(process, memory, 0, MEM_RELEASE);
+    CloseHandle(process);
 }
 
 std::ostream& operator<<(std::ostream& out, const Box& box) {

@@ -86,6 +86,9 @@ public:
     /// The same without waiting, where it opens a box.
     void startChoosing(std::string_view text) const;
 
+    /// Selects rows of a table, from the first to the last one, and no others.
+    void selectRows(int first, int last) const;
+
 private:
     [[nodiscard]] std::vector<std::string> texts(UINT countMessage, UINT lengthMessage,
                                                  UINT textMessage) const;

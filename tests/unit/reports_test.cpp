@@ -10,6 +10,7 @@
 #include "tools/voices.h"
 
 #include <algorithm>
+#include <filesystem>
 
 #include <gtest/gtest.h>
 
@@ -88,6 +89,18 @@ TEST(Reports, FindWhatAModDoesNotNeed) {
     const std::vector<FileFailure> failures = recycleModFiles(systemFiles(), folder.folders().mod, paths);
     ASSERT_EQ(failures.size(), 3U) << "nothing outside the mod's folder is touched";
     EXPECT_EQ(failures[1].reason, "it is not in the mod's folder");
+
+    // Where the mod's folder of weapons is the game's by a link, its files are the game's own.
+    std::error_code error;
+    std::filesystem::create_directory_symlink(folder.nativePath("Game\\Data\\Weapons"),
+                                              folder.nativePath("Mod\\Linked"), error);
+    if (!error) {
+        const std::vector<FileFailure> linked =
+            recycleModFiles(systemFiles(), folder.folders().mod, {folder.folders().mod + "Linked\\Kwk.txt"});
+        ASSERT_EQ(linked.size(), 1U);
+        EXPECT_EQ(linked[0].reason, "a folder of its path is a link to another place");
+        std::filesystem::remove(folder.nativePath("Mod\\Linked"));
+    }
     EXPECT_EQ(folder.files().size(), before.size() - 1);
 }
 

@@ -7,8 +7,9 @@
 #include "app/commands/game_folder.h"
 #include "app/commands/mod/edit_mod.h"
 #include "app/commands/mod/mod_commands.h"
-#include "app/commands/report_commands.h"
-#include "app/commands/stubs.h"
+#include "app/commands/reports/picture_commands.h"
+#include "app/commands/reports/report_commands.h"
+#include "app/commands/reports/sheet_commands.h"
 #include "app/commands/vehicle_performance_commands.h"
 #include "app/commands/weapon_problems.h"
 #include "app/windows/application.h"
@@ -256,10 +257,12 @@ constexpr auto Commands = std::to_array<Command>({
     {IDM_WEAPON_PROBLEMS, showWeaponProblems, hasWeaponProblems},
     {IDM_PERFORMANCE, showOpenPerformance, canShowPerformance},
     {IDM_COMPARE_VEHICLES, compareAllVehicles, always},
-    {IDM_REDUCE_IMAGES, reduceImageSizes, isVehicleOpen},
+    {IDM_REDUCE_IMAGES, reduceOpenVehicle, isVehicleOpen},
+    {IDM_REDUCE_ALL, reduceAllPictures, always},
     {IDM_GENERATE_THUMBNAILS, generateThumbnails, always},
     {IDM_PNG_USAGE, generatePngUsage, always},
     {IDM_SPREADSHEETS, generateSpreadsheets, always},
+    {IDM_IMPORT_SHEET, importSpreadsheet, always},
     {IDM_CHECK_DUPLICATES, checkDuplicateFiles, inModMode},
     {IDM_CHECK_UNUSED, checkUnusedFiles, inModMode},
     {IDM_CHECK_VOICES, checkVoiceFiles, inModMode},

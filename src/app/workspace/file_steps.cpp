@@ -4,6 +4,7 @@
 #include "app/workspace/edits.h"
 #include "app/workspace/file_actions.h"
 #include "app/workspace/positions.h"
+#include "app/workspace/record/sheet_work.h"
 #include "app/workspace/record/unsaved_records.h"
 #include "app/workspace/record_files.h"
 #include "platform/messages.h"
@@ -85,7 +86,10 @@ bool isFileStepNext(const Workspace& workspace) {
 
 void undoFileStep(Workspace& workspace) {
     const FileStep step = workspace.fileSteps.back();
-    if (step.renamedTo.empty() ? bringBack(workspace, step) : renameBack(workspace, step)) {
+    const bool isUndone = !step.imported.empty()   ? takeImportBack(workspace, step)
+                          : step.renamedTo.empty() ? bringBack(workspace, step)
+                                                   : renameBack(workspace, step);
+    if (isUndone) {
         workspace.fileSteps.pop_back();
         workspace.isFileStepLast = false;
     }
@@ -98,6 +102,9 @@ std::string lastStepName(const Workspace& workspace) {
         return std::string(workspace.open.history.undoName());
     }
     const FileStep& step = workspace.fileSteps.back();
+    if (!step.imported.empty()) {
+        return std::string(ImportStepName);
+    }
     return (step.renamedTo.empty() ? "Delete " : "Rename ") + formerName(step);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
-// Undo of all that was done: changes of the open record, and files that were deleted or renamed.
+// Undo of all that was done: changes of the open record, files that were deleted or renamed, spreadsheets
+// that were imported.
 
 #include "app/workspace/workspace.h"
 
@@ -12,7 +13,7 @@ std::string lastStepName(const Workspace& workspace);
 bool canUndoLast(const Workspace& workspace);
 
 /// Takes the last step back. A file that was deleted or renamed comes back under its former name and is
-/// opened with its history; what is in the way is told.
+/// opened with its history, the files of a spreadsheet get back what they held; what is in the way is told.
 void undoLast(Workspace& workspace);
 
 } // namespace varrocade

@@ -10,6 +10,7 @@
 #include "mod/mod_settings.h"
 #include "platform/backups.h"
 #include "platform/file_operations.h"
+#include "tools/file_replacement.h"
 #include "view/drawing/component_places.h"
 #include "weapons/weapon_catalogue.h"
 
@@ -56,11 +57,12 @@ public:
 /// One that hears nothing.
 WorkspaceListener& deafListener();
 
-/// A file that was deleted or renamed, as it was before.
+/// A file that was deleted or renamed, as it was before, or files that a spreadsheet has changed.
 struct FileStep {
-    OpenRecord record;
+    OpenRecord record;     ///< of an import only the base folder and the category
     std::string content;   ///< of the file
     std::string renamedTo; ///< empty of a deleted one
+    std::vector<FileReplacement> imported = {};
 };
 
 /// Puts two spellings of a path that differ in the case of letters only in one place: they lead to one file.

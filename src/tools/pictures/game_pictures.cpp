@@ -17,7 +17,7 @@ std::optional<PictureSize> GamePictures::sizeOf(const std::string& path) {
     }
     const auto [place, isNew] = sizes_.try_emplace(file);
     if (isNew) {
-        place->second = readPngSize(file->path);
+        place->second = readPngSize(file->path());
     }
     return place->second;
 }

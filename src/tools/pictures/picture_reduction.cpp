@@ -4,7 +4,7 @@
 #include "data/reading/unit_reader.h"
 #include "data/unit/image_names.h"
 #include "pictures/png_reduction.h"
-#include "platform/safe_save.h"
+#include "tools/file_replacement.h"
 #include "tools/references.h"
 
 #include <algorithm>
@@ -100,7 +100,7 @@ std::vector<const AssetFile*> ReductionPlan::wantedFiles() {
 
 PictureToReduce ReductionPlan::planned(const AssetFile& file, double factor) {
     const PictureSize size = pictures_->sizeOf(file.below()).value_or(PictureSize{});
-    return {file.path, file.below(), size, factor < 1 ? scaledSize(size, factor) : size};
+    return {file.path(), file.below(), size, factor < 1 ? scaledSize(size, factor) : size};
 }
 
 void ReductionPlan::finish() {
@@ -153,100 +153,142 @@ void take(ReducedPicture& picture, PngReduction reduction, ReductionOutcome outc
     }
 }
 
-/// Scales all of a set; false, with nothing changed, where one cannot be.
-bool scaleAll(const ReductionSet& set, std::vector<ReducedPicture>& pictures) {
-    std::vector<ReducedPicture> scaled = pictures;
-    for (std::size_t i = 0; i < set.size(); ++i) {
-        if (scaled[i].outcome != ReductionOutcome::Failed) {
-            take(scaled[i], scaledPng(scaled[i].former, set[i].wanted), ReductionOutcome::Scaled,
-                 set[i].wanted);
-        }
-        if (scaled[i].outcome != ReductionOutcome::Scaled) {
-            return false;
-        }
-    }
-    pictures = std::move(scaled);
-    return true;
-}
-
 } // namespace
 
-std::vector<ReducedPicture> reduceSet(const ReductionSet& set) {
-    std::vector<ReducedPicture> pictures;
-    std::transform(set.begin(), set.end(), std::back_inserter(pictures), startedWith);
-    const bool isScaled = std::any_of(set.begin(), set.end(),
-                                      [](const PictureToReduce& each) { return each.wanted != each.size; });
-    if (isScaled && scaleAll(set, pictures)) {
-        return pictures;
+SetReduction::SetReduction(const ReductionSet& set)
+    : set_(&set), isScaling_(std::any_of(set.begin(), set.end(), [](const PictureToReduce& each) {
+          return each.wanted != each.size;
+      })) {
+    pictures_.reserve(set.size());
+}
+
+const std::string& SetReduction::nextName() const {
+    const std::size_t next = pictures_.size() < set_->size() ? pictures_.size() : next_;
+    return (*set_)[std::min(next, set_->size() - 1)].below;
+}
+
+bool SetReduction::step() {
+    if (pictures_.size() < set_->size()) {
+        pictures_.push_back(startedWith((*set_)[pictures_.size()]));
+        return true;
     }
-    for (ReducedPicture& picture : pictures) {
+    if (isScaling_) {
+        scaleNext();
+    } else if (next_ < pictures_.size()) {
+        ReducedPicture& picture = pictures_[next_++];
         if (picture.outcome != ReductionOutcome::Failed) {
             take(picture, recompressedPng(picture.former), ReductionOutcome::Recompressed,
                  picture.sizeBefore);
         }
     }
-    return pictures;
+    return next_ < pictures_.size();
+}
+
+/// Where one cannot be scaled, none is.
+void SetReduction::scaleNext() {
+    ReducedPicture scaled = pictures_[next_];
+    if (scaled.outcome != ReductionOutcome::Failed) {
+        const PictureSize wanted = (*set_)[next_].wanted;
+        take(scaled, scaledPng(scaled.former, wanted), ReductionOutcome::Scaled, wanted);
+    }
+    if (scaled.outcome != ReductionOutcome::Scaled) {
+        isScaling_ = false;
+        scaled_.clear();
+        next_ = 0;
+        return;
+    }
+    scaled_.push_back(std::move(scaled));
+    if (++next_ == pictures_.size()) {
+        isScaling_ = false;
+        pictures_ = std::move(scaled_);
+    }
+}
+
+std::vector<ReducedPicture> reduceSet(const ReductionSet& set) {
+    SetReduction reduction(set);
+    while (reduction.step()) {
+    }
+    return std::move(reduction.pictures());
 }
 
 void ReductionJob::start(const GameFolders& folders, const ReductionOptions& options,
                          std::optional<SquadRecord> open) {
     plan_.start(folders, options, std::move(open));
     isPlanned_ = false;
+    present_.reset();
+    donePictures_ = allPictures_ = 0;
     results_.clear();
+}
+
+void ReductionJob::beginSet() {
+    if (results_.size() < plan_.sets().size()) {
+        present_.emplace(plan_.sets()[results_.size()]);
+    }
 }
 
 bool ReductionJob::step() {
     if (!isPlanned_) {
         isPlanned_ = !plan_.step();
-    } else if (results_.size() < plan_.sets().size()) {
-        results_.push_back(reduceSet(plan_.sets()[results_.size()]));
+        if (isPlanned_) {
+            for (const ReductionSet& set : plan_.sets()) {
+                allPictures_ += set.size();
+            }
+            beginSet();
+        }
+    } else if (present_ && !present_->step()) {
+        for (ReducedPicture& picture : present_->pictures()) {
+            if (picture.content.empty()) {
+                picture.former = {};
+            }
+        }
+        donePictures_ += present_->pictures().size();
+        results_.push_back(std::move(present_->pictures()));
+        present_.reset();
+        beginSet();
     }
-    return !isPlanned_ || results_.size() < plan_.sets().size();
+    return !isPlanned_ || present_;
 }
 
 JobProgress ReductionJob::progress() const {
     if (!isPlanned_) {
         return plan_.progress();
     }
-    const std::vector<ReductionSet>& sets = plan_.sets();
-    const std::size_t done = results_.size();
-    return {done, sets.size(), done < sets.size() ? sets[done].front().below : std::string()};
+    return {donePictures_ + (present_ ? present_->done() : 0), allPictures_,
+            present_ ? present_->nextName() : std::string()};
 }
 
 std::optional<FileFailure> writeReducedSet(FileOperations& files, BackupKeeper& backups,
                                            const std::string& base, std::vector<ReducedPicture>& set) {
-    std::optional<FileFailure> failure;
-    std::size_t written = 0;
-    for (; written < set.size() && !failure; ++written) {
-        const ReducedPicture& picture = set[written];
-        std::string now;
-        if (picture.content.empty()) {
-            continue;
-        }
-        if (!files.read(picture.path, now)) {
-            failure = FileFailure{picture.path, files.lastError()};
-        } else if (now != picture.former) {
-            failure = FileFailure{picture.path, "was changed meanwhile"};
-        } else {
-            failure = replaceDataFile(files, backups, base, picture.path, picture.content);
+    std::vector<FileReplacement> replacements;
+    for (const ReducedPicture& picture : set) {
+        if (!picture.content.empty()) {
+            replacements.push_back({picture.path, picture.former, picture.content});
         }
     }
-    if (!failure) {
-        return std::nullopt;
-    }
-    for (std::size_t i = 0; i + 1 < written; ++i) {
-        if (!set[i].content.empty()) {
-            // Backups has it too, should even this fail.
-            static_cast<void>(saveFile(files, set[i].path, set[i].former));
-        }
-    }
+    std::optional<FileFailure> failure = replaceTogether(files, backups, base, std::move(replacements));
     for (ReducedPicture& picture : set) {
-        picture.outcome = ReductionOutcome::Failed;
-        picture.reason = failure->path == picture.path ? failure->reason : "belongs to one that failed";
-        picture.sizeAfter = picture.sizeBefore;
-        picture.bytesAfter = picture.bytesBefore;
+        if (failure) {
+            picture.outcome = ReductionOutcome::Failed;
+            picture.reason = failure->path == picture.path ? failure->reason : "belongs to one that failed";
+            picture.sizeAfter = picture.sizeBefore;
+            picture.bytesAfter = picture.bytesBefore;
+        }
     }
     return failure;
+}
+
+bool ReductionWriter::step() {
+    if (done_ < sets_.size()) {
+        if (auto failure = writeReducedSet(files_, backups_, base_, *sets_[done_])) {
+            failures_.push_back(std::move(*failure));
+        }
+        ++done_;
+    }
+    return done_ < sets_.size();
+}
+
+JobProgress ReductionWriter::progress() const {
+    return {done_, sets_.size(), done_ < sets_.size() ? sets_[done_]->front().below : std::string()};
 }
 
 std::string_view outcomeName(ReductionOutcome outcome) {

@@ -10,6 +10,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace varrocade {
@@ -87,7 +88,28 @@ struct ReducedPicture {
 /// scaled to fewer bytes, none is, and they keep their pixels.
 std::vector<ReducedPicture> reduceSet(const ReductionSet& set);
 
-/// Plans and makes smaller in steps of a file or a set, for a window; nothing is written.
+/// The same in steps of a picture.
+class SetReduction {
+public:
+    explicit SetReduction(const ReductionSet& set);
+    /// False when nothing is left to do.
+    bool step();
+    [[nodiscard]] std::vector<ReducedPicture>& pictures() { return pictures_; }
+    /// How many pictures are done, at least.
+    [[nodiscard]] std::size_t done() const { return isScaling_ ? 0 : next_; }
+    [[nodiscard]] const std::string& nextName() const;
+
+private:
+    void scaleNext();
+
+    const ReductionSet* set_;
+    std::vector<ReducedPicture> pictures_;
+    std::vector<ReducedPicture> scaled_; ///< counts once all are scaled
+    bool isScaling_;
+    std::size_t next_ = 0;
+};
+
+/// Plans and makes smaller in steps of a file or a picture, for a window; nothing is written.
 class ReductionJob : public Job {
 public:
     void start(const GameFolders& folders, const ReductionOptions& options,
@@ -100,8 +122,13 @@ public:
     [[nodiscard]] std::vector<std::vector<ReducedPicture>>& results() { return results_; }
 
 private:
+    void beginSet();
+
     ReductionPlan plan_;
     bool isPlanned_ = false;
+    std::optional<SetReduction> present_; ///< the set at hand
+    std::size_t donePictures_ = 0;        ///< of the sets that are done
+    std::size_t allPictures_ = 0;
     std::vector<std::vector<ReducedPicture>> results_;
 };
 
@@ -109,6 +136,28 @@ private:
 /// written get back what they held, all are `Failed` or as they were, and the failure is told.
 std::optional<FileFailure> writeReducedSet(FileOperations& files, BackupKeeper& backups,
                                            const std::string& base, std::vector<ReducedPicture>& set);
+
+/// Writes sets that were made smaller, one a step.
+class ReductionWriter : public Job {
+public:
+    ReductionWriter(FileOperations& files, BackupKeeper& backups, std::string base,
+                    std::vector<std::vector<ReducedPicture>*> sets)
+        : files_(files), backups_(backups), base_(std::move(base)), sets_(std::move(sets)) {}
+
+    bool step() override;
+    [[nodiscard]] JobProgress progress() const override;
+    [[nodiscard]] std::vector<FileFailure> failures() const override { return failures_; }
+    /// How many sets were gone through.
+    [[nodiscard]] std::size_t done() const { return done_; }
+
+private:
+    FileOperations& files_;
+    BackupKeeper& backups_;
+    std::string base_;
+    std::vector<std::vector<ReducedPicture>*> sets_;
+    std::size_t done_ = 0;
+    std::vector<FileFailure> failures_;
+};
 
 /// A word for people: "scaled", "recompressed", "as it is", "failed".
 std::string_view outcomeName(ReductionOutcome outcome);

@@ -128,7 +128,7 @@ void ThumbnailPlan::addFile(const GameFile& file, std::string_view content) {
     for (const DrawItem& item : drawn.items) {
         if (const auto* picture = std::get_if<PictureItem>(&item)) {
             thumbnail.pictures.push_back(*picture);
-            thumbnail.pictures.back().path = pictures_->fileOf(picture->path)->path;
+            thumbnail.pictures.back().path = pictures_->fileOf(picture->path)->path();
         }
     }
     if (thumbnail.pictures.empty()) {
@@ -254,6 +254,7 @@ public:
 
     /// While no thread writes.
     [[nodiscard]] const std::vector<FileFailure>& failures() const { return failures_; }
+    [[nodiscard]] std::size_t written() const { return written_; }
 
 private:
     void writeSheet(const PlannedSheet& sheet, std::vector<FileFailure>& failures) {
@@ -263,12 +264,14 @@ private:
         std::fill(drawn.begin(), drawn.end(), Pixmap());
     }
 
-    void save(const std::string& name, const Pixmap& pixels, std::vector<FileFailure>& failures) const {
+    void save(const std::string& name, const Pixmap& pixels, std::vector<FileFailure>& failures) {
         const std::string content = writePng(straightened(pixels));
         if (content.empty()) {
             failures.push_back({folder_ + name, "is too large for the memory"});
         } else if (auto failure = saveFile(systemFiles(), folder_ + name, content)) {
             failures.push_back(std::move(*failure));
+        } else {
+            ++written_;
         }
     }
 
@@ -277,6 +280,7 @@ private:
     std::vector<Pixmap> drawn_;
     std::vector<std::size_t> sheetOf_;           ///< of each thumbnail
     std::vector<std::atomic<std::size_t>> left_; ///< thumbnails of each sheet that are not drawn yet
+    std::atomic<std::size_t> written_ = 0;
     std::mutex lock_;
     std::vector<FileFailure> failures_;
 };
@@ -316,6 +320,10 @@ std::vector<FileFailure> ThumbnailJob::failures() const {
         all.insert(all.end(), writer_->failures().begin(), writer_->failures().end());
     }
     return all;
+}
+
+std::size_t ThumbnailJob::written() const {
+    return writer_ ? writer_->written() : 0;
 }
 
 std::vector<FileFailure> writeThumbnails(const ThumbnailPlan& plan, const std::string& folder,

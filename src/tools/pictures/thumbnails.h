@@ -93,6 +93,10 @@ public:
     bool step() override;
     [[nodiscard]] JobProgress progress() const override;
     [[nodiscard]] std::vector<FileFailure> failures() const override;
+    /// Complete once all vehicles were read.
+    [[nodiscard]] const std::vector<PlannedSheet>& sheets() const { return plan_.sheets(); }
+    /// How many PNGs there are so far, thumbnails and sheets.
+    [[nodiscard]] std::size_t written() const;
 
 private:
     ThumbnailPlan plan_;

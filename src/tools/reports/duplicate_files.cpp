@@ -39,7 +39,7 @@ void DuplicateFiles::addPairs(std::string_view folder, std::string_view ending,
     for (auto file = all.begin(); file != firstHidden; ++file) {
         const auto other = hidden.find(loweredText(file->name));
         if (file->isOfMod && other != hidden.end()) {
-            pairs_.push_back({&*file, other->second->path, category});
+            pairs_.push_back({&*file, other->second->path(), category});
         }
     }
 }
@@ -58,9 +58,9 @@ void DuplicateFiles::list() {
 void DuplicateFiles::compare(const Pair& pair) {
     std::string mod;
     std::string game;
-    for (const auto& [path, content] : {std::pair(&pair.mod->path, &mod), std::pair(&pair.gamePath, &game)}) {
-        if (!systemFiles().read(*path, *content)) {
-            failures_.push_back({*path, systemFiles().lastError()});
+    for (const auto& [path, content] : {std::pair(pair.mod->path(), &mod), std::pair(pair.gamePath, &game)}) {
+        if (!systemFiles().read(path, *content)) {
+            failures_.push_back({path, systemFiles().lastError()});
             return;
         }
     }
@@ -109,7 +109,7 @@ std::vector<ModCheckRow> DuplicateFiles::rows() {
     std::vector<ModCheckRow> rows;
     for (const Duplicate& duplicate : duplicates_) {
         const AssetFile& file = *duplicate.pair->mod;
-        ModCheckRow row{file.below(), std::string(duplicate.reason), file.path};
+        ModCheckRow row{file.below(), std::string(duplicate.reason), file.path()};
         if (duplicate.pair->category) {
             row.users.push_back(userOfFile(*duplicate.pair->category, file));
         }

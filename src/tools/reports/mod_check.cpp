@@ -12,10 +12,22 @@ bool isWithin(std::string_view folder, std::string_view path) {
            path.find("..") == std::string_view::npos;
 }
 
+/// Whether a folder on the way from the mod's folder to a file stands for another one, which may be the
+/// game's.
+bool goesThroughLink(std::string_view folder, const std::string& path) {
+    for (std::size_t end = path.find('\\', folder.size()); end != std::string::npos;
+         end = path.find('\\', end + 1)) {
+        if (statusOf(path.substr(0, end)).kind != PathKind::Folder) {
+            return true;
+        }
+    }
+    return false;
+}
+
 } // namespace
 
 ReferenceUser userOfFile(Category category, const AssetFile& file) {
-    GameFile data{.category = category, .isOfMod = file.isOfMod, .name = file.name, .path = file.path};
+    GameFile data{.category = category, .isOfMod = file.isOfMod, .name = file.name, .path = file.path()};
     data.name.resize(data.name.size() - DataFileEnding.size());
     std::string name = std::string(categoryName(category)) + ": " + data.name;
     return {std::move(name), std::move(data)};
@@ -41,6 +53,8 @@ std::vector<FileFailure> recycleModFiles(FileOperations& files, const std::strin
     for (const std::string& path : paths) {
         if (!isWithin(modFolder, path)) {
             failures.push_back({path, "it is not in the mod's folder"});
+        } else if (goesThroughLink(modFolder, path)) {
+            failures.push_back({path, "a folder of its path is a link to another place"});
         } else if (statusOf(path).kind != PathKind::File) {
             failures.push_back({path, "it is no plain file"});
         } else if (!files.recycle(path)) {

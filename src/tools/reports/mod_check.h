@@ -30,8 +30,8 @@ ReferenceUser userOfFile(Category category, const AssetFile& file);
 /// What is asked before files go: how many, and which, as far as a box has room.
 std::string recycleQuestion(const std::vector<ModCheckRow>& rows);
 
-/// Moves files to the recycle bin. What is not below the mod's folder, or leaves it again by its path, is
-/// refused. The files that could not be moved.
+/// Moves files to the recycle bin. What is not below the mod's folder, or leaves it again by its path or by a
+/// link, is refused. The files that could not be moved.
 std::vector<FileFailure> recycleModFiles(FileOperations& files, const std::string& modFolder,
                                          const std::vector<std::string>& paths);
 

@@ -36,12 +36,10 @@ void ReferenceScan::note(const Reference& reference) {
         return;
     }
     // Thousands of units name the same few hundred files: each is looked for once.
-    key_.assign(reference.name);
-    key_ += '|';
-    key_ += reference.folders.front().folder;
-    auto known = lists_.find(key_);
-    if (known == lists_.end()) {
-        known = lists_.emplace(key_, listOf(reference)).first;
+    ListsByName& lists = lists_[reference.folders.data()];
+    auto known = lists.find(reference.name);
+    if (known == lists.end()) {
+        known = lists.emplace(reference.name, listOf(reference)).first;
     }
     const std::size_t user = users_.size() - 1;
     std::vector<std::size_t>* list = known->second;

@@ -6,9 +6,11 @@
 #include "tools/job.h"
 #include "tools/references.h"
 
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <unordered_map>
 #include <vector>
 
@@ -48,6 +50,12 @@ public:
     AssetFiles& files() { return files_; }
 
 private:
+    struct NameHash {
+        using is_transparent = void; // NOLINT(readability-identifier-naming): the library asks for this name
+        std::size_t operator()(std::string_view name) const { return std::hash<std::string_view>()(name); }
+    };
+    using ListsByName = std::unordered_map<std::string, std::vector<std::size_t>*, NameHash, std::equal_to<>>;
+
     void list();
     void read(const GameFile& file, std::string_view content);
     void note(const Reference& reference);
@@ -60,9 +68,9 @@ private:
     std::vector<ReferenceUser> users_;
     ReferenceVisit noteUser_; ///< notes what the last of the users names
     std::unordered_map<const AssetFile*, std::vector<std::size_t>> usages_;
-    /// The lists among `usages_` and `missing_` by name and first folder of a reference.
-    std::unordered_map<std::string, std::vector<std::size_t>*> lists_;
-    std::string key_;                            ///< of the list that is looked for
+    /// The lists among `usages_` and `missing_` by the folders that a reference is looked for in, and its
+    /// name.
+    std::map<const ImageSource*, ListsByName> lists_;
     std::map<std::string, MissingFile> missing_; ///< by path in small letters
 };
 

@@ -12,7 +12,7 @@ std::vector<ModCheckRow> UnusedFiles::rows() {
                          std::optional<Category> category = {}) {
         for (const AssetFile& file : scan_.files().list(folder, ending)) {
             if (file.isOfMod && scan_.usersOf(file) == nullptr) {
-                rows.push_back({file.below(), std::string(reason), file.path});
+                rows.push_back({file.below(), std::string(reason), file.path()});
                 if (category) {
                     rows.back().users = {userOfFile(*category, file)};
                 }

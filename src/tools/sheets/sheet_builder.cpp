@@ -104,23 +104,42 @@ std::string SheetBuilder::file() const {
     for (std::size_t i = 0; i < order.size(); ++i) {
         positions[order[i]] = i;
     }
-    std::vector<std::string_view> row(columns_.size());
+    appendRows(table, positions);
+    return sheetFile(std::move(table));
+}
+
+/// A row has few of the columns, most of them in their order: what lies between is one run of tabs.
+void SheetBuilder::appendRows(std::string& table, const std::vector<std::size_t>& positions) const {
+    using Placed = std::pair<std::size_t, std::string_view>;
+    const auto isBefore = [](const Placed& a, const Placed& b) { return a.first < b.first; };
+    std::vector<Placed> row;
+    std::vector<Placed> times;
     const std::string_view texts = texts_;
     std::size_t begin = 0;
     for (std::size_t i = 0; i < cells_.size();) {
-        std::fill(row.begin(), row.end(), std::string_view());
+        row.clear();
+        times.clear();
         do {
-            row[positions[cells_[i].column]] = texts.substr(begin, cells_[i].length);
-            begin += cells_[i].length;
+            const Cell& cell = cells_[i];
+            if (cell.length > 0) {
+                (columns_[cell.column].isOfTime ? times : row)
+                    .emplace_back(positions[cell.column], texts.substr(begin, cell.length));
+            }
+            begin += cell.length;
         } while (++i < cells_.size() && cells_[i].column != 0);
-        for (const std::string_view cell : row) {
-            table += cell;
-            table += '\t';
+        row.insert(row.end(), times.begin(), times.end());
+        if (!std::is_sorted(row.begin(), row.end(), isBefore)) {
+            std::sort(row.begin(), row.end(), isBefore);
         }
-        table.pop_back();
+        std::size_t position = 0;
+        for (const auto& [wanted, text] : row) {
+            table.append(wanted - position, '\t');
+            table += text;
+            position = wanted;
+        }
+        table.append(columns_.size() - 1 - position, '\t');
         table += RowEnd;
     }
-    return sheetFile(std::move(table));
 }
 
 } // namespace varrocade

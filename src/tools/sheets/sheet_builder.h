@@ -62,6 +62,7 @@ private:
             {static_cast<std::uint32_t>(column), static_cast<std::uint32_t>(texts_.size() - begin)});
     }
     [[nodiscard]] std::vector<std::size_t> sheetOrder() const;
+    void appendRows(std::string& table, const std::vector<std::size_t>& positions) const;
 
     std::vector<Column> columns_;
     std::vector<Place> places_;

@@ -1,10 +1,10 @@
 #include "tools/sheets/sheet_import.h"
 
 #include "data/finding_text.h"
+#include "data/losses/loss_list.h"
 #include "data/losses/save_losses.h"
 #include "data/reading/unit_reader.h"
 #include "data/unit/unit_consistency.h"
-#include "platform/safe_save.h"
 #include "tools/sheets/cell_input.h"
 #include "tools/sheets/sheet_checks.h"
 #include "weapons/weapon_files.h"
@@ -256,7 +256,7 @@ void SheetImport::keepChanges(Row& row, const Record& before, const Record& afte
         noteMissing(row, reference.path.text(), reference.name);
     });
     for (const Finding& loss : lossesOf(*category_, content)) {
-        tell(Severity::Warning, line, name + ": " + explanation(loss), loss.field, loss.value);
+        tell(Severity::Warning, line, name + ": line " + lossText(loss), loss.field, loss.value);
     }
     changedFiles_.push_back({row.file->path, content, std::move(*text)});
 }
@@ -288,30 +288,7 @@ void SheetImport::noteUnread(const Row& row) {
 }
 
 std::optional<FileFailure> SheetImport::write(FileOperations& files, BackupKeeper& backups) const {
-    const std::string& base = folders_.mod.empty() ? folders_.program : folders_.mod;
-    for (const ChangedFile& file : changedFiles_) {
-        std::string content;
-        if (!files.read(file.path, content)) {
-            return FileFailure{file.path, files.lastError()};
-        }
-        if (content != file.before) {
-            return FileFailure{file.path, "it has changed since it was read"};
-        }
-        if (auto failure = backups.keep(files, base, file.path)) {
-            return failure;
-        }
-    }
-    for (std::size_t i = 0; i < changedFiles_.size(); ++i) {
-        if (auto failure = saveFile(files, changedFiles_[i].path, changedFiles_[i].after)) {
-            for (std::size_t j = 0; j < i; ++j) {
-                if (const auto other = saveFile(files, changedFiles_[j].path, changedFiles_[j].before)) {
-                    failure->reason += "; " + other->path + " could not be put back: " + other->reason;
-                }
-            }
-            return failure;
-        }
-    }
-    return std::nullopt;
+    return replaceTogether(files, backups, base(), changedFiles_);
 }
 
 } // namespace varrocade

@@ -4,8 +4,8 @@
 #include "data/category.h"
 #include "data/finding.h"
 #include "data/game_files.h"
-#include "platform/backups.h"
 #include "tools/asset_files.h"
+#include "tools/file_replacement.h"
 #include "tools/job.h"
 #include "tools/sheets/sheet_table.h"
 #include "weapons/weapon_catalogue.h"
@@ -43,17 +43,19 @@ public:
     /// Errors are refusals, for which nothing is written; the others tell what else comes of writing.
     [[nodiscard]] const std::vector<Finding>& findings() const { return findings_; }
     [[nodiscard]] bool isRefused() const;
+    /// What the sheet is of, where it tells.
+    [[nodiscard]] std::optional<Category> category() const { return category_; }
+    /// The files that it changes, all of them below the base folder.
+    [[nodiscard]] const std::vector<FileReplacement>& files() const { return changedFiles_; }
+    [[nodiscard]] const std::string& base() const {
+        return folders_.mod.empty() ? folders_.program : folders_.mod;
+    }
 
     /// Writes the changed files, with what they held kept among the backups. After a failure all are as they
     /// were. Refused where a file has changed since it was read.
     std::optional<FileFailure> write(FileOperations& files, BackupKeeper& backups) const;
 
 private:
-    struct ChangedFile {
-        std::string path;
-        std::string before;
-        std::string after;
-    };
     /// What the row at hand is about.
     struct Row {
         const TableRow* row;
@@ -92,7 +94,7 @@ private:
     std::vector<SheetChange> changes_;
     std::vector<Finding> findings_;
     std::vector<FileFailure> failures_;
-    std::vector<ChangedFile> changedFiles_;
+    std::vector<FileReplacement> changedFiles_;
 };
 
 } // namespace varrocade

@@ -1,9 +1,10 @@
-#include "app/commands/report_commands.h"
+#include "app/commands/reports/report_commands.h"
 
 #include "app/windows/application.h"
 #include "app/workspace/category_list.h"
 #include "editors/reports/mod_check_dialog.h"
 #include "editors/reports/progress_dialog.h"
+#include "editors/reports/result_dialog.h"
 #include "platform/messages.h"
 #include "resources/resource.h"
 #include "tools/reports/duplicate_files.h"
@@ -12,26 +13,16 @@
 #include "tools/reports/unit_sheets.h"
 #include "tools/reports/unused_files.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace varrocade {
 
 namespace {
 
-void tellFailures(const std::string& caption, std::string text, const std::vector<FileFailure>& failures) {
-    constexpr std::size_t most = 15;
-    for (std::size_t i = 0; i < std::min(most, failures.size()); ++i) {
-        text += "\n    " + failures[i].path + ": " + failures[i].reason;
-    }
-    if (failures.size() > most) {
-        text += "\n    and " + std::to_string(failures.size() - most) + " more";
-    }
-    showMessage({.text = std::move(text), .caption = caption, .icon = MessageIcon::Warning});
-}
-
 /// Asks, makes a report, and writes its files into the base folder.
-void confirmThenReport(const std::string& caption, std::string question, FileReport& report) {
+/// `title` is of the window that tells what was created.
+void confirmThenReport(const std::string& caption, std::string question, std::string title,
+                       FileReport& report) {
     if (showMessage({.text = std::move(question),
                      .caption = caption,
                      .buttons = MessageButtons::YesNo,
@@ -45,15 +36,19 @@ void confirmThenReport(const std::string& caption, std::string question, FileRep
     for (const FileFailure& failure : unwritten) {
         showCouldNotSave(failure.path);
     }
-    if (const std::vector<FileFailure> unread = report.failures(); !unread.empty()) {
-        tellFailures(caption, "These files could not be read and are left out:\n", unread);
-    }
     if (unwritten.empty()) {
-        std::string text = "Created in " + baseFolder(workspace) + ":\n";
+        std::string details;
         for (const ReportFile& file : files) {
-            text += "\n    " + file.name;
+            details += file.name + "\n";
         }
-        showMessage({.text = std::move(text), .caption = caption, .icon = MessageIcon::Information});
+        if (const std::vector<FileFailure> unread = report.failures(); !unread.empty()) {
+            details += "\nThese files could not be read and are left out:\n" + failureLines(unread);
+        }
+        showJobResult(application().window,
+                      {.caption = std::move(title),
+                       .summary = "Created " + std::to_string(files.size()) + " files in the folder:",
+                       .folder = baseFolder(workspace),
+                       .details = std::move(details)});
     }
 }
 
@@ -97,7 +92,7 @@ void generateSpreadsheets() {
         "Generate unit spreadsheets",
         "This will create the tab separated .csv files:\n\n    Vehicles.csv\n    Infantry.csv\n    AT "
         "Guns.csv\n\ncontaining the unit data",
-        sheets);
+        "Unit spreadsheets", sheets);
 }
 
 void generatePngUsage() {
@@ -106,7 +101,7 @@ void generatePngUsage() {
         "Create PNG usage files",
         "This will create a .txt file showing which vehicle PNGs are not being used, and which PNGs are "
         "used by which vehicles",
-        usage);
+        "PNG usage files", usage);
 }
 
 void checkDuplicateFiles() {
