@@ -11,6 +11,7 @@
 #include "data/unit/image_folders.h"
 #include "data/unit/image_names.h"
 #include "platform/messages.h"
+#include "tools/renaming/rename_file.h"
 #include "weapons/weapon_files.h"
 
 #include <algorithm>
@@ -61,32 +62,6 @@ void noteFileStep(Workspace& workspace, FileStep step) {
     }
     workspace.fileSteps.push_back(std::move(step));
     workspace.isFileStepLast = true;
-}
-
-/// Whether a folder lists a file in just this letter case.
-bool isListedSo(const std::string& path) {
-    const std::size_t name = path.rfind('\\') + 1;
-    std::vector<std::string> names;
-    listFiles(path.substr(0, name), "", names);
-    return std::find(names.begin(), names.end(), path.substr(name)) != names.end();
-}
-
-/// Gives a file its other name; the reason where that fails, which leaves it its own. Some systems do nothing
-/// where only the case of letters changes: so there is a step between, and a look at what came of it.
-std::string renameOnDisk(FileOperations& files, const std::string& from, const std::string& to) {
-    if (!equalsIgnoringCase(from, to)) {
-        return files.rename(from, to) ? std::string() : files.lastError();
-    }
-    const std::string between = from + std::string(RenamingEnding);
-    if (!files.rename(from, between)) {
-        return files.lastError();
-    }
-    if (files.rename(between, to) && isListedSo(to)) {
-        return {};
-    }
-    std::string reason = files.lastError();
-    files.rename(files.exists(between) ? between : to, from);
-    return reason.empty() ? "The system does not change the case of its letters." : reason;
 }
 
 /// Takes a file away, whose content goes to the backups; the reason where that fails.
@@ -196,7 +171,7 @@ bool giveName(Workspace& workspace, const std::string& name) {
     if (const auto failure = workspace.backups.keep(*workspace.files, open.base, from)) {
         reason = failure->reason;
     } else {
-        reason = renameOnDisk(*workspace.files, from, pathOf(workspace, name));
+        reason = renameFileOnDisk(*workspace.files, from, pathOf(workspace, name));
     }
     if (!reason.empty()) {
         showMessage({.text = from + "\n\n" + reason,

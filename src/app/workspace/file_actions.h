@@ -11,9 +11,6 @@
 
 namespace varrocade {
 
-/// What a file's name has at its end while the case of its letters is changed.
-inline constexpr std::string_view RenamingEnding = ".renaming";
-
 /// Why a name is refused; an empty text when the reason has been shown already. Nothing: it is taken.
 using NameCheck = std::optional<std::string>;
 
