@@ -29,8 +29,10 @@ constexpr auto Commands = std::to_array<Command>({
      "uniform, a nationality, or in Mod.txt a unit",
      findCommand},
     {"rename", "FOLDER KIND OLD NEW [--mod FOLDER] [--dry-run]",
-     "gives a file of a game folder, or of the mod, another name, and puts it everywhere where its files have "
-     "the former one: all of it, or nothing; KIND is weapon, picture, sound or unit; prints file, line, value, "
+     "gives a file of a game folder, or of the mod, another name, and puts it everywhere where its files "
+     "have "
+     "the former one: all of it, or nothing; KIND is weapon, picture, sound or unit; prints file, line, "
+     "value, "
      "former and new name of each change, tab separated; with --dry-run, does no more than that",
      renameCommand},
     {"penetration", "WEAPONFILE SHELLINDEX ANGLE K | --matrix GAMEFOLDER",

@@ -18,7 +18,8 @@ int findCommand(Arguments arguments) {
     GameFolders folders;
     const std::vector<std::string> plain = withoutModOption(arguments, folders);
     if (plain.size() != 2 || plain[0].empty()) {
-        complain("find takes a name and the folder of a game, and --mod with a mod's folder where one counts");
+        complain(
+            "find takes a name and the folder of a game, and --mod with a mod's folder where one counts");
         return CouldNot;
     }
     folders.program = asFolder(plain[1]);

@@ -51,8 +51,9 @@ int renameCommand(Arguments arguments) {
     const bool isDryRun = std::erase(plain, std::string(DryRunOption)) > 0;
     const auto kind = plain.size() == 4 ? renameKindOf(plain[1]) : std::nullopt;
     if (!kind) {
-        complain("rename takes the folder of a game, weapon, picture, sound or unit, the present name and the "
-                 "new one, --mod and a mod's folder where one is to be changed, and --dry-run");
+        complain(
+            "rename takes the folder of a game, weapon, picture, sound or unit, the present name and the "
+            "new one, --mod and a mod's folder where one is to be changed, and --dry-run");
         return CouldNot;
     }
     request.folders.program = asFolder(plain[0]);

@@ -54,16 +54,6 @@ NameCheck checkOf(const SaveOutcome& outcome) {
     return !tellFailure(outcome) && outcome.result == SaveResult::Saved ? NameCheck() : NameCheck("");
 }
 
-/// Notes what is done to the file of a record, which is as it was before, so that it can be undone.
-void noteFileStep(Workspace& workspace, FileStep step) {
-    constexpr std::size_t mostSteps = 50;
-    if (workspace.fileSteps.size() == mostSteps) {
-        workspace.fileSteps.erase(workspace.fileSteps.begin());
-    }
-    workspace.fileSteps.push_back(std::move(step));
-    workspace.isFileStepLast = true;
-}
-
 /// Takes a file away, whose content goes to the backups; the reason where that fails.
 std::string removeKept(Workspace& workspace, const std::string& path, std::string& content) {
     FileOperations& files = *workspace.files;
@@ -86,6 +76,15 @@ SaveOutcome saveNew(Workspace& workspace, const Record& record) {
 }
 
 } // namespace
+
+void noteFileStep(Workspace& workspace, FileStep step) {
+    constexpr std::size_t mostSteps = 50;
+    if (workspace.fileSteps.size() == mostSteps) {
+        workspace.fileSteps.erase(workspace.fileSteps.begin());
+    }
+    workspace.fileSteps.push_back(std::move(step));
+    workspace.isFileStepLast = true;
+}
 
 NameCheck createUnit(Workspace& workspace, const std::string& name, const std::string& nationality,
                      const UnitStart& start) {
@@ -142,7 +141,7 @@ void openNewFile(Workspace& workspace, const std::string& name) {
     openFile(workspace, name);
 }
 
-NameCheck renameFile(Workspace& workspace, const std::string& name) {
+NameCheck refusalOfRenaming(const Workspace& workspace, const std::string& name) {
     const std::string former = openFileName(workspace);
     if (auto refusal = refusalOfFile(workspace, name)) {
         return refusal;
@@ -153,7 +152,11 @@ NameCheck renameFile(Workspace& workspace, const std::string& name) {
             return "That file already exists";
         }
     }
-    if (auto refusal = refusalOfOtherNationality(workspace, name)) {
+    return refusalOfOtherNationality(workspace, name);
+}
+
+NameCheck renameFile(Workspace& workspace, const std::string& name) {
+    if (auto refusal = refusalOfRenaming(workspace, name)) {
         return refusal;
     }
     FileStep step{.record = workspace.open, .content = {}, .renamedTo = name};
@@ -179,6 +182,7 @@ bool giveName(Workspace& workspace, const std::string& name) {
                      .icon = MessageIcon::Warning});
         return false;
     }
+    workspace.visits.rename({open.base, open.category, openFileName(workspace)}, name);
     setFileName(open.present.record, name);
     setFileName(open.saved.record, name);
     open.history.rename(name);

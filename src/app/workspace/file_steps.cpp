@@ -3,6 +3,7 @@
 #include "app/workspace/category_list.h"
 #include "app/workspace/edits.h"
 #include "app/workspace/file_actions.h"
+#include "app/workspace/names/rename_everywhere.h"
 #include "app/workspace/positions.h"
 #include "app/workspace/record/unsaved_records.h"
 #include "app/workspace/record_files.h"
@@ -53,6 +54,7 @@ bool bringBack(Workspace& workspace, const FileStep& step) {
     workspace.open = step.record;
     workspace.open.content = step.content;
     refillAndSelect(workspace, name);
+    noteVisit(workspace);
     workspace.listener->recordOpened();
     return true;
 }
@@ -76,16 +78,23 @@ bool renameBack(Workspace& workspace, const FileStep& step) {
     return true;
 }
 
+/// The base folder that a step was made in.
+const std::string& baseOf(const FileStep& step) {
+    return step.rewrites.empty() ? step.record.base : step.base;
+}
+
 /// Whether the last step is one of a file, and not of the open record.
 bool isFileStepNext(const Workspace& workspace) {
     const bool isLast = workspace.isFileStepLast || !workspace.open.history.canUndo();
     return isLast && !workspace.fileSteps.empty() &&
-           workspace.fileSteps.back().record.base == baseFolder(workspace);
+           baseOf(workspace.fileSteps.back()) == baseFolder(workspace);
 }
 
 void undoFileStep(Workspace& workspace) {
     const FileStep step = workspace.fileSteps.back();
-    if (step.renamedTo.empty() ? bringBack(workspace, step) : renameBack(workspace, step)) {
+    if (!step.rewrites.empty()   ? undoRenaming(workspace, step)
+        : step.renamedTo.empty() ? bringBack(workspace, step)
+                                 : renameBack(workspace, step)) {
         workspace.fileSteps.pop_back();
         workspace.isFileStepLast = false;
     }
@@ -98,6 +107,9 @@ std::string lastStepName(const Workspace& workspace) {
         return std::string(workspace.open.history.undoName());
     }
     const FileStep& step = workspace.fileSteps.back();
+    if (!step.rewrites.empty()) {
+        return "Rename " + step.renamed + " everywhere";
+    }
     return (step.renamedTo.empty() ? "Delete " : "Rename ") + formerName(step);
 }
 

@@ -90,7 +90,8 @@ std::optional<FileFailure> applyRewrites(FileOperations& files, BackupKeeper& ba
             }
         }
         if (!left.empty()) {
-            failure->reason += "\n\nCould not be put back (the former content is in the folder Backups):" + left;
+            failure->reason +=
+                "\n\nCould not be put back (the former content is in the folder Backups):" + left;
         }
         return failure;
     }

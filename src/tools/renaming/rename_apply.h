@@ -13,9 +13,9 @@ namespace varrocade {
 /// A file that gets another content, another name, or both.
 struct FileRewrite {
     std::string path;
-    std::string newPath;        ///< the same for a file that keeps its name
-    bool keepsContent = false;  ///< as pictures and sounds, whose bytes are not looked at
-    std::string before = {};    ///< what the file holds
+    std::string newPath;       ///< the same for a file that keeps its name
+    bool keepsContent = false; ///< as pictures and sounds, whose bytes are not looked at
+    std::string before = {};   ///< what the file holds
     std::string after = {};
     bool operator==(const FileRewrite&) const = default;
 };

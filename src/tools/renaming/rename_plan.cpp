@@ -77,8 +77,7 @@ void RenamePlanner::begin() {
     for (const RenameTarget& target : targets_.files) {
         plan_.changes.push_back({.file = below(target.path), .from = targets_.from, .to = targets_.to});
         if (request_.kind == RenameKind::Picture || request_.kind == RenameKind::Sound) {
-            plan_.rewrites.push_back(
-                {.path = target.path, .newPath = target.newPath, .keepsContent = true});
+            plan_.rewrites.push_back({.path = target.path, .newPath = target.newPath, .keepsContent = true});
         }
     }
     readSettings();
@@ -112,7 +111,8 @@ const RenameTarget* RenamePlanner::targetOf(std::string_view path) const {
 void RenamePlanner::addEdit(Edits& edits, const std::string& file, std::string path,
                             std::string_view written) {
     const std::string_view name = lastPart(bareName(written));
-    const std::string_view folders = written.substr(0, static_cast<std::size_t>(name.data() - written.data()));
+    const std::string_view folders =
+        written.substr(0, static_cast<std::size_t>(name.data() - written.data()));
     const std::string to = std::string(folders) + targets_.to;
     if (to.size() + targets_.ending.size() > Text::MaxLength) {
         plan_.refusals.push_back(file + ": the name would be too long for the file");
@@ -232,7 +232,8 @@ void RenamePlanner::read(const GameFile& file, std::string_view content) {
         return;
     }
     if (edited->isAnew) {
-        plan_.remarks.push_back(name + " is written anew in the game's layout: it has the name in an older form");
+        plan_.remarks.push_back(name +
+                                " is written anew in the game's layout: it has the name in an older form");
     }
     noteChanges(name, edits, &*edited);
     plan_.rewrites.push_back({.path = file.path,
@@ -253,8 +254,8 @@ void RenamePlanner::finish() {
         }
         const std::size_t rest = gameUsers_.size() - std::min(most, gameUsers_.size());
         users += rest > 0 ? " and " + std::to_string(rest) + " more" : std::string();
-        plan_.remarks.push_back("The game's own files are left as they are and no longer find the mod's file: " +
-                                users);
+        plan_.remarks.push_back(
+            "The game's own files are left as they are and no longer find the mod's file: " + users);
     }
 }
 

@@ -14,8 +14,8 @@ namespace varrocade {
 
 /// One place that names it, or its file itself.
 struct NameChange {
-    std::string file;     ///< below the base folder, with backslashes
-    std::size_t line = 0; ///< from 1; 0 where it stands in no line
+    std::string file;      ///< below the base folder, with backslashes
+    std::size_t line = 0;  ///< from 1; 0 where it stands in no line
     std::string path = {}; ///< of the value; empty of the file's own name
     std::string from;
     std::string to;

@@ -54,9 +54,9 @@ std::vector<std::string> foldersOf(RenameKind kind, const std::string& within) {
     }
     std::erase_if(folders, [&](const std::string& folder) {
         const std::string tail = "\\" + folder;
-        return !within.empty() && !equalsIgnoringCase(tail.substr(tail.size() - std::min(tail.size(),
-                                                                                         within.size() + 1)),
-                                                      "\\" + within);
+        return !within.empty() &&
+               !equalsIgnoringCase(tail.substr(tail.size() - std::min(tail.size(), within.size() + 1)),
+                                   "\\" + within);
     });
     return folders;
 }
@@ -124,7 +124,8 @@ private:
         }
         const std::string what = "the " + std::string(renameWord(request_.kind)) + " " + request_.from;
         if (found_.files.empty()) {
-            refuse(isOfGame ? "The mod has no file of " + what + ": it is the game's own. Copy it into the mod first"
+            refuse(isOfGame ? "The mod has no file of " + what +
+                                  ": it is the game's own. Copy it into the mod first"
                             : "There is no file of " + what);
         } else if (request_.kind == RenameKind::Unit && found_.files.size() > 1) {
             refuse("There are several units of that name: say which by its folder, as in Vehicles\\" +
@@ -160,8 +161,8 @@ private:
                 target == found_.files.end() || equalsIgnoringCase(found_.from, found_.to)
                     ? std::string()
                     : "The game looks for this picture by its name: " + target->path;
-            if (!reason.empty() && std::find(found_.refusals.begin(), found_.refusals.end(), reason) ==
-                                       found_.refusals.end()) {
+            if (!reason.empty() &&
+                std::find(found_.refusals.begin(), found_.refusals.end(), reason) == found_.refusals.end()) {
                 refuse(reason);
             }
         });
