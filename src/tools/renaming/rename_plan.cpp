@@ -83,6 +83,10 @@ void RenamePlanner::begin() {
     readSettings();
     std::vector<FileFailure> ignored; // folders that a mod, or a game in the making, need not have
     std::vector<GameFile> all = listAllFiles(request_.folders, ignored);
+    if (request_.kind == RenameKind::Unit) {
+        // No unit names another.
+        std::erase_if(all, [this](const GameFile& file) { return targetOf(file.path) == nullptr; });
+    }
     // Weapons come first: units name them by names that only the weapons' files have.
     std::stable_partition(all.begin(), all.end(),
                           [](const GameFile& file) { return file.category == Category::Weapons; });

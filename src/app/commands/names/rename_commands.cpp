@@ -17,6 +17,7 @@
 
 #include <algorithm>
 #include <array>
+#include <chrono>
 #include <set>
 
 namespace varrocade {
@@ -101,7 +102,14 @@ HWND frontWindow() {
 /// What a plan has come to; nothing where the user stopped it.
 std::optional<RenamePlan> planInWindow(const RenameRequest& request) {
     RenamePlanner planner(request);
-    if (!runJobInWindow(frontWindow(), "Looking through all files", planner)) {
+    // Most games are looked through before a window would be seen.
+    constexpr std::chrono::milliseconds unseen{200};
+    const auto end = std::chrono::steady_clock::now() + unseen;
+    bool isMore = true;
+    while (isMore && std::chrono::steady_clock::now() < end) {
+        isMore = planner.step();
+    }
+    if (isMore && !runJobInWindow(frontWindow(), "Looking through all files", planner)) {
         return std::nullopt;
     }
     return planner.take();
