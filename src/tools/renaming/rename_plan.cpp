@@ -236,8 +236,9 @@ void RenamePlanner::read(const GameFile& file, std::string_view content) {
         return;
     }
     if (edited->isAnew) {
-        plan_.remarks.push_back(name +
-                                " is written anew in the game's layout: it has the name in an older form");
+        plan_.remarks.push_back(
+            name + " is written anew in the game's layout: with the new name in its place alone it "
+                   "would be read otherwise");
     }
     noteChanges(name, edits, &*edited);
     plan_.rewrites.push_back({.path = file.path,

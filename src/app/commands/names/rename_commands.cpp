@@ -189,6 +189,15 @@ RenameRequest requestOf(RenameKind kind, const std::string& from, const std::str
             .to = to};
 }
 
+/// Where the name cannot follow everywhere: whether the file is to have it all the same.
+bool mayRenameFileOnly(const RenamePlan& plan) {
+    return showMessage({.text = "It cannot be renamed everywhere:\n\n" + firstRefusals(plan) +
+                                "\n\nRename this file only?",
+                        .caption = "Rename Everywhere",
+                        .buttons = MessageButtons::OkCancel,
+                        .icon = MessageIcon::Warning}) == Answer::Ok;
+}
+
 /// The new name of the open record's file: its own, and that in all files that have it where the user wants
 /// so. `isDone` tells that the record goes by it already.
 NameCheck takeOpenName(const std::string& name, bool& isDone) {
@@ -203,7 +212,10 @@ NameCheck takeOpenName(const std::string& name, bool& isDone) {
     if (!plan) {
         return "";
     }
-    if (!plan->isPossible() || !reachesFurther(*plan)) {
+    if (!plan->isPossible()) {
+        return mayRenameFileOnly(*plan) ? renameFile(workspace, name) : NameCheck("");
+    }
+    if (!reachesFurther(*plan)) {
         return renameFile(workspace, name);
     }
     switch (PlanDialog(*plan, true).ask(frontWindow())) {
