@@ -24,9 +24,17 @@ constexpr auto Commands = std::to_array<Command>({
      "prints what that drops, changes or respells, a line each, and without OUT does no more than that; only "
      "regular files are read and replaced, and never the one that is read",
      rewriteCommand},
-    {"find", "NAME FOLDER",
-     "tells where the files of a game folder name a weapon, a picture, a sound, a uniform or a nationality",
+    {"find", "NAME FOLDER [--mod FOLDER]",
+     "tells where the files of a game folder, and of a mod for it, name a weapon, a picture, a sound, a "
+     "uniform, a nationality, or in Mod.txt a unit",
      findCommand},
+    {"rename", "FOLDER KIND OLD NEW [--mod FOLDER] [--dry-run]",
+     "gives a file of a game folder, or of the mod, another name, and puts it everywhere where its files "
+     "have "
+     "the former one: all of it, or nothing; KIND is weapon, picture, sound or unit; prints file, line, "
+     "value, "
+     "former and new name of each change, tab separated; with --dry-run, does no more than that",
+     renameCommand},
     {"penetration", "WEAPONFILE SHELLINDEX ANGLE K | --matrix GAMEFOLDER",
      "prints penetration and velocity of an ammunition type (counted from 0) at seven ranges, for armour "
      "that leans by ANGLE degrees and the drag coefficient K; with --matrix, tab separated, the range up to "
@@ -89,6 +97,23 @@ std::string asFolder(std::string path) {
         path += '\\';
     }
     return path;
+}
+
+std::string withSlashes(std::string path) {
+    std::replace(path.begin(), path.end(), '\\', '/');
+    return path;
+}
+
+std::vector<std::string> withoutModOption(Arguments arguments, GameFolders& folders) {
+    std::vector<std::string> plain;
+    for (std::size_t i = 0; i < arguments.size(); ++i) {
+        if (arguments[i] == ModOption && i + 1 < arguments.size()) {
+            folders.mod = asFolder(arguments[++i]);
+        } else {
+            plain.push_back(arguments[i]);
+        }
+    }
+    return plain;
 }
 
 int runCommandLine(Arguments arguments) {

@@ -1,9 +1,12 @@
 #pragma once
 // varrocade-data: the editor's core without its windows.
 
+#include "data/game_files.h"
+
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace varrocade::cli {
 
@@ -40,11 +43,20 @@ bool print(std::string_view text);
 /// A folder as paths are built from it: ending in a separator.
 std::string asFolder(std::string path);
 
+/// A path with slashes, as the command line prints it on every system.
+std::string withSlashes(std::string path);
+
+/// The arguments without `--mod FOLDER`, which goes to the folders.
+std::vector<std::string> withoutModOption(Arguments arguments, GameFolders& folders);
+
 /// `check FOLDER [--mod FOLDER] [--format F] [--severity S] [--only KEYS] [--baseline FILE]`
 int checkCommand(Arguments arguments);
 
-/// `find NAME FOLDER`
+/// `find NAME FOLDER [--mod FOLDER]`
 int findCommand(Arguments arguments);
+
+/// `rename FOLDER KIND OLD NEW [--mod FOLDER] [--dry-run]`
+int renameCommand(Arguments arguments);
 
 /// `rewrite [--explain] CATEGORY IN OUT` and `rewrite --explain CATEGORY IN`
 int rewriteCommand(Arguments arguments);

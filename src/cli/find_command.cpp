@@ -4,26 +4,36 @@
 
 namespace varrocade::cli {
 
+namespace {
+
+std::string lineOf(const NameUse& use) {
+    std::string line = withSlashes(use.below);
+    line += use.line > 0 ? ":" + std::to_string(use.line) + ":" + std::to_string(use.column) : std::string();
+    return line + ": " + std::string(referenceWord(use.kind)) + " " + use.path + " = " + use.written + "\n";
+}
+
+} // namespace
+
 int findCommand(Arguments arguments) {
-    if (arguments.size() != 2 || arguments[0].empty()) {
-        complain("find takes a name and the folder of a game");
+    GameFolders folders;
+    const std::vector<std::string> plain = withoutModOption(arguments, folders);
+    if (plain.size() != 2 || plain[0].empty()) {
+        complain(
+            "find takes a name and the folder of a game, and --mod with a mod's folder where one counts");
         return CouldNot;
     }
-    const std::string base = asFolder(arguments[1]);
-    if (!isFolder(base + std::string(DataFolder))) {
-        complain(base + ": holds no folder Data");
+    folders.program = asFolder(plain[1]);
+    if (!isFolder(folders.program + std::string(DataFolder))) {
+        complain(folders.program + ": holds no folder Data");
         return CouldNot;
     }
-    std::vector<FileFailure> failures;
+    NameSearch search(folders, {plain[0]});
+    runJob(search);
     std::string out;
-    for (const NameUse& use : usesOfName({.program = base}, arguments[0], failures)) {
-        out += "Data/" + std::string(categoryName(use.file.category)) + "/" + use.file.name +
-               std::string(DataFileEnding);
-        out +=
-            use.line > 0 ? ":" + std::to_string(use.line) + ":" + std::to_string(use.column) : std::string();
-        out += ": " + std::string(referenceWord(use.kind)) + " " + use.path + " = " + use.written + "\n";
+    for (const NameUse& use : search.uses()) {
+        out += lineOf(use);
     }
-    for (const FileFailure& failure : failures) {
+    for (const FileFailure& failure : search.failures()) {
         // A game in the making need not have all five folders.
         if (!failure.path.ends_with('\\')) {
             complain(failure.path + ": " + failure.reason);

@@ -59,18 +59,9 @@ int importSheet(const std::string& path, const GameFolders& folders, bool isWrit
 } // namespace
 
 int importCommand(Arguments arguments) {
-    std::vector<std::string> plain;
     GameFolders folders;
-    bool isWritten = false;
-    for (std::size_t i = 0; i < arguments.size(); ++i) {
-        if (arguments[i] == ModOption && i + 1 < arguments.size()) {
-            folders.mod = asFolder(arguments[++i]);
-        } else if (arguments[i] == WriteOption) {
-            isWritten = true;
-        } else {
-            plain.push_back(arguments[i]);
-        }
-    }
+    std::vector<std::string> plain = withoutModOption(arguments, folders);
+    const bool isWritten = std::erase(plain, std::string(WriteOption)) > 0;
     if (plain.size() != 2) {
         complain("import takes a spreadsheet, a game folder, --mod and a mod's folder where one counts, and "
                  "--write");

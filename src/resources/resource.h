@@ -241,6 +241,22 @@
 #define IDC_PROBLEM_LIST 1410
 #define IDC_SHOW_FILE 1411
 
+// "Where Used", "Rename Everywhere", and going back and forward.
+#define IDD_WHERE_USED 385
+#define IDD_RENAME_EVERYWHERE 386
+#define IDC_USED_NAME 1460
+#define IDC_USED_SUMMARY 1461
+#define IDC_USED_LIST 1462
+#define IDC_USED_RENAME 1463
+#define IDC_RENAME_SUMMARY 1464
+#define IDC_RENAME_LIST 1465
+#define IDC_RENAME_REMARKS 1466
+#define IDC_RENAME_FILE_ONLY 1467
+#define IDM_WHERE_USED 32830
+#define IDM_RENAME_EVERYWHERE 32831
+#define IDM_BACK 32832
+#define IDM_FORWARD 32833
+
 // Controls of the dialogs that ask for a name.
 #define IDC_NEW_NAME 1230
 #define IDC_NEW_NATIONALITY 1231

@@ -4,8 +4,7 @@
 #include "data/each_field.h"
 #include "data/format/texts.h"
 #include "data/unit/image_names.h"
-#include "mod/mod_elements.h"
-#include "mod/mod_fields.h"
+#include "mod/each_mod_field.h"
 #include "weapons/weapon_fields.h"
 
 #include <array>
@@ -148,22 +147,7 @@ void forEachReference(const WeaponRecord& weapon, const ReferenceVisit& visit) {
 }
 
 void forEachReference(const ModSettings& settings, const ReferenceVisit& visit) {
-    // Settings are no unit's file, and nothing in them depends on what holds it.
-    constexpr Holder holder = Holder::VehicleFile;
-    ReferenceWalk walk(visit);
-    each_field::Walk<ReferenceWalk> fields(walk);
-    for (std::size_t i = 0; i < settings.nationalities.size(); ++i) {
-        const ModNationality& nationality = settings.nationalities[i];
-        fields.entry(nationality, mod_element::Nationality, i + 1, holder, holder);
-        const std::string path = std::string(mod_element::Nationality) + "[" + std::to_string(i + 1) + "].";
-        for (std::size_t j = 0; j < nationality.uniforms.size(); ++j) {
-            fields.entry(nationality.uniforms[j], path + std::string(mod_element::Uniform), j + 1, holder,
-                         holder);
-        }
-        for (std::size_t j = 0; j < nationality.ranks.size(); ++j) {
-            fields.entry(nationality.ranks[j], path + std::string(mod_element::Rank), j + 1, holder, holder);
-        }
-    }
+    forEachField(settings, ReferenceWalk(visit));
 }
 
 void forEachGameReference(const ReferenceVisit& visit) {

@@ -20,8 +20,9 @@ enum class ReferenceKind : std::uint8_t {
     Picture,
     Uniform, ///< a picture of a man, of his portrait or of ranks
     Sound,
-    Flag,       ///< two pictures that follow from a nationality: the static and the animated one
-    Nationality ///< no file answers it
+    Flag,        ///< two pictures that follow from a nationality: the static and the animated one
+    Nationality, ///< no file answers it
+    Unit         ///< in the equipment lists of a mod; told by no visit here
 };
 
 /// A name that stands in a record. All texts are good until the visitor returns.

@@ -154,18 +154,21 @@ TEST_F(FileCommandsTest, RenameMovesTheFileAndTheOpenRecord) {
     start();
     forEachWrittenAlike([&](const std::string& name, std::string_view category, const std::string& original) {
         const std::string renamed = name + " II";
-        window.post(WM_COMMAND, MAKEWPARAM(RenameId, 0));
-        if (category == "Weapons") {
-            finish(editor->waitForDialog("Weapon in use"));
-        }
-        const Window dialog = editor->waitForDialog("Rename");
+        const Window dialog = openDialog(RenameId, "Rename");
         EXPECT_EQ(dialog.control(IDC_NEW_NAME).text(), name);
         expectRefusal(dialog, "", NoName);
         expectRefusal(dialog, name + "?", NoCharacter);
         game.write(dataFile(renamed, category), "in the way");
         expectRefusal(dialog, renamed, "That file already exists");
         game.remove(dataFile(renamed, category));
-        takeName(dialog, renamed);
+        if (category == "Weapons") {
+            dialog.setText(IDC_NEW_NAME, renamed);
+            dialog.startPress(IDOK);
+            finish(editor->waitForDialog("Rename Everywhere"), IDC_RENAME_FILE_ONLY);
+            expectGone(dialog, window);
+        } else {
+            takeName(dialog, renamed);
+        }
         EXPECT_EQ(game.read(dataFile(renamed, category)), original);
         EXPECT_FALSE(game.exists(dataFile(name, category)) || isListed(name));
         EXPECT_EQ(game.backups(dataFile(name, category)), std::vector<std::string>{original});

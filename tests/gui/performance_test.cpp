@@ -69,18 +69,44 @@ TEST_F(PerformanceTest, InDriveItGoesByWhatIsTyped) {
     EXPECT_NE(drive.control(IDC_DRIVE_FIGURES).text(), before) << "while it is typed";
     drive.startPress(IDC_PERFORMANCE);
     const Window dialog = editor->waitForDialog(Caption);
-    EXPECT_FALSE(dialog.control(IDC_COMPARE).isVisible()) << "the open vehicle cannot be left here";
+    EXPECT_FALSE(dialog.control(IDC_COMPARE).isEnabled()) << "the open vehicle cannot be left here";
+    const std::string weak = dialog.control(IDC_DRIVING_TEXT).text();
+    drive.setText(IDC_HORSEPOWER, "1400");
+    const std::string strong = dialog.control(IDC_DRIVING_TEXT).text();
+    EXPECT_NE(strong, weak) << "it stands beside the dialog and follows the typing";
+    drive.setText(IDC_HORSEPOWER, "200");
+    EXPECT_EQ(dialog.control(IDC_DRIVING_TEXT).text(), weak);
     dialog.press(IDC_COPY_TABLE);
     const std::string table = clipboardText();
     const std::string estimate = "Weight estimated\t";
     EXPECT_NE(table.find(estimate), std::string::npos);
     dialog.press(IDC_TAKE_ESTIMATE);
-    finish(dialog, IDCANCEL);
     EXPECT_NE(drive.control(IDC_DRIVE_FIGURES).text().find("as given"), std::string::npos);
     finish(drive, IDCANCEL);
     const std::string taken = details.control(IDC_WEIGHT).text();
     EXPECT_NE(taken, "56900") << "the form would put it back";
+    EXPECT_NE(dialog.control(IDC_DRIVING_TEXT).text(), weak) << "Drive was cancelled";
+    details.setText(IDC_WEIGHT, "90000");
+    const std::string sentence = dialog.control(IDC_WEIGHT_SENTENCE).text();
+    EXPECT_TRUE(sentence.starts_with("Weight given: 90,000 kg.")) << sentence;
+    dialog.press(IDC_TAKE_ESTIMATE);
+    EXPECT_EQ(details.control(IDC_WEIGHT).text(), taken) << "as if it had been typed";
     finish(details, IDCANCEL);
+    // It finds its place again, and what was chosen in it.
+    dialog.control(IDC_SURFACE).choose("Sand");
+    SetWindowPos(dialog.handle(), nullptr, 40, 50, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    finish(dialog, IDCANCEL);
+    const Window again = openDialog(IDM_PERFORMANCE, Caption);
+    RECT place{};
+    GetWindowRect(again.handle(), &place);
+    EXPECT_EQ(place.left, 40);
+    EXPECT_EQ(place.top, 50);
+    EXPECT_EQ(again.control(IDC_SURFACE).text(), "Sand");
+    chooseCategory(InfantryId);
+    EXPECT_EQ(again.control(IDC_WEIGHT_SENTENCE).text(), "No vehicle is open.");
+    chooseCategory(VehiclesId);
+    EXPECT_TRUE(again.control(IDC_TAKE_ESTIMATE).exists());
+    finish(again, IDCANCEL);
     sendCommand(IDM_UNDO);
     EXPECT_EQ(weightInDetails(), "56900");
 }
@@ -116,8 +142,11 @@ TEST_F(PerformanceTest, ComparesAllVehiclesAndOpensTheOneThatIsClicked) {
     ASSERT_FALSE(pointed.empty());
     points.post(WM_LBUTTONDOWN, 0, place);
     EXPECT_TRUE(eventually([&] { return !dialog.exists(); }));
-    expectGone(performance, window);
-    EXPECT_EQ(selected(), pointed.substr(0, pointed.find(',')));
+    const std::string shown = pointed.substr(0, pointed.find(','));
+    ASSERT_TRUE(eventually([&] { return selected() == shown; }));
+    performance.press(IDC_COPY_TABLE);
+    EXPECT_TRUE(clipboardText().starts_with(shown + "\t")) << "it follows to the vehicle that was chosen";
+    finish(performance, IDCANCEL);
 
     // From the menu, and by the list of what is out of line.
     dialog = openDialog(IDM_COMPARE_VEHICLES, "Compare Vehicles");

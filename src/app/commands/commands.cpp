@@ -10,6 +10,8 @@
 #include "app/commands/reports/picture_commands.h"
 #include "app/commands/reports/report_commands.h"
 #include "app/commands/reports/sheet_commands.h"
+#include "app/commands/names/rename_commands.h"
+#include "app/commands/names/where_used_window.h"
 #include "app/commands/vehicle_performance_commands.h"
 #include "app/commands/weapon_problems.h"
 #include "app/windows/application.h"
@@ -25,6 +27,7 @@
 #include "app/workspace/names/list_notice.h"
 #include "app/workspace/record/unsaved_records.h"
 #include "app/workspace/record_files.h"
+#include "app/workspace/visits/travel.h"
 #include "editors/form/form_port_win32.h"
 #include "editors/penetration/penetration_dialog.h"
 #include "editors/penetration/penetration_form.h"
@@ -220,6 +223,22 @@ void redo() {
     redoChange(theWorkspace());
 }
 
+void back() {
+    goBack(theWorkspace());
+}
+
+bool hasBack() {
+    return canGoBack(theWorkspace());
+}
+
+void forward() {
+    goForward(theWorkspace());
+}
+
+bool hasForward() {
+    return canGoForward(theWorkspace());
+}
+
 void deleteSelectedFile() {
     if (mayTakeWeaponAway("Deleting")) {
         deleteFile(theWorkspace());
@@ -255,6 +274,10 @@ constexpr auto Commands = std::to_array<Command>({
     {IDM_PENETRATION, penetrationCalculations, always},
     {IDM_CAN_PENETRATE, canItPenetrate, always},
     {IDM_WEAPON_PROBLEMS, showWeaponProblems, hasWeaponProblems},
+    {IDM_WHERE_USED, showWhereUsed, canShowWhereUsed},
+    {IDM_RENAME_EVERYWHERE, renameChosenEverywhere, canRenameChosen},
+    {IDM_BACK, back, hasBack},
+    {IDM_FORWARD, forward, hasForward},
     {IDM_PERFORMANCE, showOpenPerformance, canShowPerformance},
     {IDM_COMPARE_VEHICLES, compareAllVehicles, always},
     {IDM_REDUCE_IMAGES, reduceOpenVehicle, isVehicleOpen},
@@ -300,6 +323,11 @@ bool runCommand(int id) {
     }
     command->run();
     return true;
+}
+
+bool isCommandEnabled(int id) {
+    const Command* command = commandOf(id);
+    return command != nullptr && command->isEnabled();
 }
 
 void updateMenu(HMENU menu) {

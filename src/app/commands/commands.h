@@ -8,6 +8,9 @@ namespace varrocade {
 /// Runs a command; false when there is none of this id or it is disabled.
 bool runCommand(int id);
 
+/// Whether a command can be run as things are.
+bool isCommandEnabled(int id);
+
 /// Greys the menu items whose commands cannot be run now.
 void updateMenu(HMENU menu);
 

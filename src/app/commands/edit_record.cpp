@@ -1,6 +1,7 @@
 #include "app/commands/edit_record.h"
 
 #include "app/commands/edit_weapon.h"
+#include "app/commands/vehicle_performance_commands.h"
 #include "app/windows/application.h"
 #include "app/workspace/edits.h"
 #include "app/workspace/record_files.h"
@@ -43,6 +44,8 @@ void withEditContext(const std::function<bool(EditContext&)>& work) {
             [](const FormerPlaces& places) { theWorkspace().listener->componentsRearranged(places); },
         .redraw = [] { theWorkspace().listener->recordChanged(); },
         .changed = [](std::string_view change) { recordChanged(theWorkspace(), change); },
+        .preview = previewPerformance,
+        .openPerformance = openPerformance,
         .pictures = &application().pictures};
     if (work(edit)) {
         saveOpenRecord(workspace);

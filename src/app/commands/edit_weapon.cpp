@@ -36,7 +36,8 @@ std::vector<std::string> allUsersOfOpenWeapon() {
     return usersOfOpenWeapon().value_or(std::vector<std::string>());
 }
 
-/// Opens a unit as the list of users names it: "Vehicles: German Panzer VI Tiger Ausf E".
+} // namespace
+
 void openUser(std::string_view unit) {
     constexpr std::string_view separator = ": ";
     const std::size_t end = unit.find(separator);
@@ -47,8 +48,6 @@ void openUser(std::string_view unit) {
         showFile(theWorkspace(), *category, std::string(unit.substr(end + separator.size())));
     }
 }
-
-} // namespace
 
 bool isWeaponOpen() {
     return openWeapon(theWorkspace()) != nullptr;

@@ -11,8 +11,11 @@ bool isWeaponOpen();
 /// Opens "Weapon Data" on the open weapon and saves what the user keeps.
 void editOpenWeapon();
 
-/// Before the file of the open weapon is deleted or gets another name: says which units carry it. False when
-/// the user thinks better of it. `action` is what is to be done, such as "Deleting".
+/// Opens a unit as the list of users names it: "Vehicles: German Panzer VI Tiger Ausf E".
+void openUser(std::string_view unit);
+
+/// Before the file of the open weapon is deleted: says which units carry it. False when the user thinks
+/// better of it. `action` is what is to be done, such as "Deleting".
 bool mayTakeWeaponAway(std::string_view action);
 
 } // namespace varrocade

@@ -19,10 +19,6 @@ NameCheck takeDuplicate(const NewFileChoice& choice) {
     return duplicateRecord(theWorkspace(), choice.name);
 }
 
-NameCheck takeRename(const NewFileChoice& choice) {
-    return renameFile(theWorkspace(), choice.name);
-}
-
 } // namespace
 
 void newFile() {
@@ -54,18 +50,6 @@ void duplicateOpenFile() {
     dialog.choice.name = openFileName(workspace) + " (copy)";
     if (askForName(dialog)) {
         openNewFile(workspace, dialog.choice.name);
-    }
-}
-
-void renameOpenFile() {
-    Workspace& workspace = theWorkspace();
-    if (!isRecordOpen(workspace) || !mayLeavePositions(workspace) || !mayTakeWeaponAway("Renaming")) {
-        return;
-    }
-    NameDialog dialog{.owner = application().window, .kind = NameDialogKind::Rename, .take = takeRename};
-    dialog.choice.name = openFileName(workspace);
-    if (askForName(dialog)) {
-        showRenamed(workspace);
     }
 }
 

@@ -5,6 +5,5 @@ namespace varrocade {
 
 void newFile();
 void duplicateOpenFile();
-void renameOpenFile();
 
 } // namespace varrocade

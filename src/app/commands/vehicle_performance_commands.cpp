@@ -1,12 +1,12 @@
 #include "app/commands/vehicle_performance_commands.h"
 
-#include "app/commands/edit_record.h"
 #include "app/windows/application.h"
 #include "app/workspace/category_list.h"
+#include "app/workspace/edits.h"
 #include "editors/performance/comparison_dialog.h"
-#include "editors/performance/performance_dialog.h"
 
 #include <string>
+#include <utility>
 
 namespace varrocade {
 
@@ -18,22 +18,50 @@ void showChosen(const std::string& vehicle) {
     }
 }
 
+void takeWeight(std::int32_t weight) {
+    SquadRecord* unit = openUnit(theWorkspace());
+    if (unit != nullptr && unit->vehicle) {
+        unit->vehicle->weight = weight;
+        recordChanged(theWorkspace(), "Take the estimated weight");
+    }
+}
+
 } // namespace
 
 bool canShowPerformance() {
     const SquadRecord* unit = openUnit(theWorkspace());
-    return unit != nullptr && unit->vehicle && canEditOpenRecord();
+    return unit != nullptr && unit->vehicle && theWorkspace().category == Category::Vehicles;
+}
+
+void openPerformance() {
+    Application& app = application();
+    if (!app.performance) {
+        app.performance = std::make_unique<PerformanceWindow>(PerformanceHooks{
+            .catalogue = app.workspace.catalogue, .drawing = app.drawing, .compare = compareAllVehicles});
+    }
+    app.performance->open(app.window);
 }
 
 void showOpenPerformance() {
-    std::string chosen;
-    const GameFolders folders = gameFolders(theWorkspace());
-    withEditContext([&](EditContext& edit) {
-        chosen =
-            showPerformance(application().window, {.edit = edit, .shown = edit.record, .folders = &folders});
-        return false;
-    });
-    showChosen(chosen);
+    openPerformance();
+    followPerformance();
+}
+
+void previewPerformance(const SquadRecord& typed, TakeWeight take) {
+    if (PerformanceWindow* window = application().performance.get(); window != nullptr && window->isOpen()) {
+        window->show(&typed, std::move(take), false);
+    }
+}
+
+void followPerformance() {
+    const Application& app = application();
+    if (!app.performance || !app.performance->isOpen()) {
+        return;
+    }
+    // A dialog that is at work on the vehicle would put its own weight back.
+    const bool isFree = IsWindowEnabled(app.window) != FALSE;
+    const SquadRecord* unit = canShowPerformance() ? openUnit(app.workspace) : nullptr;
+    app.performance->show(unit, isFree && unit != nullptr ? TakeWeight(takeWeight) : TakeWeight(), isFree);
 }
 
 void compareAllVehicles() {

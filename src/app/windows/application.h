@@ -5,15 +5,19 @@
 #include "app/windows/display/display_state.h"
 #include "app/windows/folder_watch.h"
 #include "app/workspace/workspace.h"
+#include "editors/performance/performance_dialog.h"
 #include "tools/weapon_users.h"
 #include "view/painting/drawing_objects_win32.h"
 #include "view/painting/picture_cache_win32.h"
 
 #include <windows.h>
 
+#include <memory>
 #include <string>
 
 namespace varrocade {
+
+class WhereUsedWindow;
 
 struct Application {
     HINSTANCE instance = nullptr;
@@ -34,6 +38,10 @@ struct Application {
     PictureCache pictures;
     PicturePrefetch prefetch;
     UnitDisplay display;
+
+    // Windows beside the main one; none before they are opened first.
+    std::shared_ptr<WhereUsedWindow> whereUsed;
+    std::unique_ptr<PerformanceWindow> performance;
 };
 
 /// The one application.

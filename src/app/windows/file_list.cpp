@@ -118,6 +118,15 @@ LRESULT CALLBACK listProcedure(HWND list, UINT message, WPARAM parameter, LPARAM
         SendMessageA(application().window, WM_COMMAND, MAKEWPARAM(IDC_DELETE, 0), 0);
         return 0;
     }
+    if (message == WM_RBUTTONDOWN) {
+        // As elsewhere, the menu is that of what lies under the mouse.
+        const LRESULT item = SendMessageA(list, LB_ITEMFROMPOINT, 0, detail);
+        if (HIWORD(item) == 0 && LOWORD(item) != SendMessageA(list, LB_GETCURSEL, 0, 0)) {
+            selectIndex(list, LOWORD(item));
+        }
+        SetFocus(list);
+        return 0;
+    }
     return formerProcedure(list, message, parameter, detail);
 }
 

@@ -2,16 +2,19 @@
 
 #include "app/commands/commands.h"
 #include "app/commands/edit_record.h"
+#include "app/commands/vehicle_performance_commands.h"
 #include "app/windows/application.h"
 #include "app/windows/display/redraw.h"
 #include "app/windows/drawing_window.h"
 #include "app/windows/file_list.h"
+#include "app/windows/menus/list_menu.h"
 #include "app/windows/sheet_window.h"
 #include "app/workspace/category_list.h"
 #include "app/workspace/journal.h"
 #include "app/workspace/options.h"
 #include "app/workspace/record_files.h"
 #include "app/workspace/window_layout.h"
+#include "editors/form/dialog_frame_win32.h"
 #include "resources/resource.h"
 
 #include <windowsx.h>
@@ -249,6 +252,12 @@ LRESULT CALLBACK mainWindowProcedure(HWND window, UINT message, WPARAM parameter
         return 0;
     case WM_CTLCOLORSTATIC:
         return reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_WINDOW));
+    case WM_ENABLE:
+        if (parameter != 0) {
+            // The dialog that worked on the vehicle has gone.
+            followPerformance();
+        }
+        return 0;
     case WM_SETFOCUS:
         SetFocus(GetDlgItem(window, IDC_FILE_LIST));
         return 0;
@@ -266,6 +275,12 @@ LRESULT CALLBACK mainWindowProcedure(HWND window, UINT message, WPARAM parameter
     case WM_DRAWITEM:
         drawListEntry(*reinterpret_cast<const DRAWITEMSTRUCT*>(detail));
         return TRUE;
+    case WM_CONTEXTMENU:
+        if (HWND list = GetDlgItem(window, IDC_FILE_LIST); reinterpret_cast<HWND>(parameter) == list) {
+            showListMenu(list, detail);
+            return 0;
+        }
+        return DefWindowProcA(window, message, parameter, detail);
     case WM_MOUSEWHEEL:
         wheel(parameter, detail);
         return 0;
@@ -357,7 +372,7 @@ HWND createMainWindow() {
 }
 
 bool isWindowNavigation(MSG& message) {
-    return IsDialogMessageA(application().window, &message) != 0;
+    return DialogFrame::isNavigation(message) || IsDialogMessageA(application().window, &message) != 0;
 }
 
 } // namespace varrocade

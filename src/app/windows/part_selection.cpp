@@ -2,10 +2,12 @@
 
 #include "app/commands/edit_record.h"
 #include "app/commands/edit_weapon.h"
+#include "app/commands/names/rename_commands.h"
 #include "app/commands/vehicle_performance_commands.h"
 #include "app/windows/application.h"
 #include "app/windows/display/redraw.h"
 #include "app/windows/display/unit_display.h"
+#include "app/windows/menus/popup_menu.h"
 #include "app/workspace/edits.h"
 #include "app/workspace/positions.h"
 #include "editors/squad/squad_parts_win32.h"
@@ -21,25 +23,6 @@ bool isSelectedMoveLast() {
     const UnitDisplay& display = application().display;
     return display.movedPart == display.selected && isMoveLast(theWorkspace(), display.selected);
 }
-
-/// Owner of a menu for the length of a scope.
-class PopupMenu {
-public:
-    PopupMenu() : menu_(CreatePopupMenu()) {}
-    PopupMenu(const PopupMenu&) = delete;
-    PopupMenu& operator=(const PopupMenu&) = delete;
-    ~PopupMenu() { DestroyMenu(menu_); }
-    [[nodiscard]] HMENU get() const { return menu_; }
-
-    void add(int command, const std::string& text, bool isEnabled) const {
-        AppendMenuA(menu_, isEnabled ? MF_STRING : MF_STRING | MF_GRAYED, static_cast<UINT_PTR>(command),
-                    text.c_str());
-    }
-    void addSeparator() const { AppendMenuA(menu_, MF_SEPARATOR, 0, nullptr); }
-
-private:
-    HMENU menu_;
-};
 
 } // namespace
 
@@ -108,10 +91,10 @@ bool putPartBack() {
 void showPartMenu(POINT screenPixel) {
     const Application& app = application();
     const SquadRecord* unit = openUnit(app.workspace);
-    if (unit == nullptr) {
+    if (!isRecordOpen(app.workspace)) {
         return;
     }
-    const std::string name = partName(*unit, app.display.selected);
+    const std::string name = unit != nullptr ? partName(*unit, app.display.selected) : std::string();
     const PopupMenu menu;
     menu.add(IDM_EDIT_PART, name.empty() ? "&Edit..." : "&Edit " + name + "...\tEnter",
              canEditSelectedPart());
@@ -120,11 +103,12 @@ void showPartMenu(POINT screenPixel) {
     menu.add(IDM_WHOLE_UNIT, "&Whole unit in view\tCtrl+0", app.display.hasDrawing);
     menu.add(IDC_EDIT_DETAILS, "&Details...", canEditOpenRecord());
     menu.add(IDM_PERFORMANCE, "Weight and &top speed...", canShowPerformance());
-    const int command = TrackPopupMenu(menu.get(), TPM_RETURNCMD | TPM_RIGHTBUTTON, screenPixel.x,
-                                       screenPixel.y, 0, app.window, nullptr);
-    if (command != 0) {
-        SendMessageA(app.window, WM_COMMAND, MAKEWPARAM(command, 0), 0);
-    }
+    menu.addSeparator();
+    const UsedName used = chosenName();
+    menu.add(IDM_WHERE_USED, "Where " + menuText(used.name) + " is &used...\tCtrl+U", !used.name.empty());
+    menu.add(IDM_RENAME_EVERYWHERE, "&Rename " + menuText(used.name) + " everywhere...\tShift+F2",
+             canRenameChosen());
+    menu.run(app.window, screenPixel);
 }
 
 } // namespace varrocade

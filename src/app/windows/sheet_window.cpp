@@ -1,5 +1,6 @@
 #include "app/windows/sheet_window.h"
 
+#include "app/commands/edit_weapon.h"
 #include "app/windows/application.h"
 #include "app/windows/child_window.h"
 #include "app/windows/display/redraw.h"
@@ -154,7 +155,10 @@ void lookForUsers(HWND window) {
 /// A line of the bar leads to what it is about.
 void click(POINT pixel) {
     const SheetWarningPlace* warning = sheetWarningAt(pixel);
-    if (warning == nullptr) {
+    if (const SheetLinkPlace* link = sheetLinkAt(pixel)) {
+        const std::string unit = link->text;
+        openUser(unit);
+    } else if (warning == nullptr) {
         selectPart(sheetPartAt(pixel));
     } else if (warning->part) {
         const UnitPart part = warning->part;
@@ -163,6 +167,17 @@ void click(POINT pixel) {
     } else {
         showProblems();
     }
+}
+
+/// The mouse tells what a click would open.
+bool showHandOverLink(HWND window, LPARAM detail) {
+    POINT pixel{};
+    if (LOWORD(detail) != HTCLIENT || GetCursorPos(&pixel) == 0 || ScreenToClient(window, &pixel) == 0 ||
+        sheetLinkAt(pixel) == nullptr) {
+        return false;
+    }
+    SetCursor(LoadCursorA(nullptr, IDC_HAND));
+    return true;
 }
 
 LRESULT CALLBACK sheetProcedure(HWND window, UINT message, WPARAM parameter, LPARAM detail) {
@@ -177,6 +192,8 @@ LRESULT CALLBACK sheetProcedure(HWND window, UINT message, WPARAM parameter, LPA
     case WM_LBUTTONDBLCLK:
         editSelectedPart();
         return 0;
+    case WM_SETCURSOR:
+        return showHandOverLink(window, detail) ? TRUE : DefWindowProcA(window, message, parameter, detail);
     case WM_CONTEXTMENU:
         contextMenu(window, detail);
         return 0;

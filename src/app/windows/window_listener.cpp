@@ -1,6 +1,7 @@
 #include "app/windows/window_listener.h"
 
 #include "app/commands/commands.h"
+#include "app/commands/vehicle_performance_commands.h"
 #include "app/windows/application.h"
 #include "app/windows/display/redraw.h"
 #include "app/windows/display/unit_display.h"
@@ -25,6 +26,7 @@ public:
         displayChanged();
         updateButtons();
         redrawNow();
+        followPerformance();
         prefetchNeighbours();
     }
 
@@ -32,6 +34,7 @@ public:
         displayChanged();
         redrawNow();
         redrawOpenEntry();
+        followPerformance();
     }
 
     void recordSaved() override { redrawOpenEntry(); }

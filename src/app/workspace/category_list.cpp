@@ -90,6 +90,8 @@ void chooseCategory(Workspace& workspace, Category category) {
 
 void showFile(Workspace& workspace, Category category, const std::string& name) {
     if (category != workspace.category) {
+        // So that the file selected there last is not opened in between.
+        workspace.rememberedSelections[static_cast<std::size_t>(category)] = name;
         chooseCategory(workspace, category);
     }
     if (category == workspace.category) {

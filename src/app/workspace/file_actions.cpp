@@ -11,6 +11,7 @@
 #include "data/unit/image_folders.h"
 #include "data/unit/image_names.h"
 #include "platform/messages.h"
+#include "tools/renaming/rename_file.h"
 #include "weapons/weapon_files.h"
 
 #include <algorithm>
@@ -53,42 +54,6 @@ NameCheck checkOf(const SaveOutcome& outcome) {
     return !tellFailure(outcome) && outcome.result == SaveResult::Saved ? NameCheck() : NameCheck("");
 }
 
-/// Notes what is done to the file of a record, which is as it was before, so that it can be undone.
-void noteFileStep(Workspace& workspace, FileStep step) {
-    constexpr std::size_t mostSteps = 50;
-    if (workspace.fileSteps.size() == mostSteps) {
-        workspace.fileSteps.erase(workspace.fileSteps.begin());
-    }
-    workspace.fileSteps.push_back(std::move(step));
-    workspace.isFileStepLast = true;
-}
-
-/// Whether a folder lists a file in just this letter case.
-bool isListedSo(const std::string& path) {
-    const std::size_t name = path.rfind('\\') + 1;
-    std::vector<std::string> names;
-    listFiles(path.substr(0, name), "", names);
-    return std::find(names.begin(), names.end(), path.substr(name)) != names.end();
-}
-
-/// Gives a file its other name; the reason where that fails, which leaves it its own. Some systems do nothing
-/// where only the case of letters changes: so there is a step between, and a look at what came of it.
-std::string renameOnDisk(FileOperations& files, const std::string& from, const std::string& to) {
-    if (!equalsIgnoringCase(from, to)) {
-        return files.rename(from, to) ? std::string() : files.lastError();
-    }
-    const std::string between = from + std::string(RenamingEnding);
-    if (!files.rename(from, between)) {
-        return files.lastError();
-    }
-    if (files.rename(between, to) && isListedSo(to)) {
-        return {};
-    }
-    std::string reason = files.lastError();
-    files.rename(files.exists(between) ? between : to, from);
-    return reason.empty() ? "The system does not change the case of its letters." : reason;
-}
-
 /// Takes a file away, whose content goes to the backups; the reason where that fails.
 std::string removeKept(Workspace& workspace, const std::string& path, std::string& content) {
     FileOperations& files = *workspace.files;
@@ -111,6 +76,15 @@ SaveOutcome saveNew(Workspace& workspace, const Record& record) {
 }
 
 } // namespace
+
+void noteFileStep(Workspace& workspace, FileStep step) {
+    constexpr std::size_t mostSteps = 50;
+    if (workspace.fileSteps.size() == mostSteps) {
+        workspace.fileSteps.erase(workspace.fileSteps.begin());
+    }
+    workspace.fileSteps.push_back(std::move(step));
+    workspace.isFileStepLast = true;
+}
 
 NameCheck createUnit(Workspace& workspace, const std::string& name, const std::string& nationality,
                      const UnitStart& start) {
@@ -167,7 +141,7 @@ void openNewFile(Workspace& workspace, const std::string& name) {
     openFile(workspace, name);
 }
 
-NameCheck renameFile(Workspace& workspace, const std::string& name) {
+NameCheck refusalOfRenaming(const Workspace& workspace, const std::string& name) {
     const std::string former = openFileName(workspace);
     if (auto refusal = refusalOfFile(workspace, name)) {
         return refusal;
@@ -178,7 +152,11 @@ NameCheck renameFile(Workspace& workspace, const std::string& name) {
             return "That file already exists";
         }
     }
-    if (auto refusal = refusalOfOtherNationality(workspace, name)) {
+    return refusalOfOtherNationality(workspace, name);
+}
+
+NameCheck renameFile(Workspace& workspace, const std::string& name) {
+    if (auto refusal = refusalOfRenaming(workspace, name)) {
         return refusal;
     }
     FileStep step{.record = workspace.open, .content = {}, .renamedTo = name};
@@ -196,7 +174,7 @@ bool giveName(Workspace& workspace, const std::string& name) {
     if (const auto failure = workspace.backups.keep(*workspace.files, open.base, from)) {
         reason = failure->reason;
     } else {
-        reason = renameOnDisk(*workspace.files, from, pathOf(workspace, name));
+        reason = renameFileOnDisk(*workspace.files, from, pathOf(workspace, name));
     }
     if (!reason.empty()) {
         showMessage({.text = from + "\n\n" + reason,
@@ -204,6 +182,7 @@ bool giveName(Workspace& workspace, const std::string& name) {
                      .icon = MessageIcon::Warning});
         return false;
     }
+    workspace.visits.rename({open.base, open.category, openFileName(workspace)}, name);
     setFileName(open.present.record, name);
     setFileName(open.saved.record, name);
     open.history.rename(name);

@@ -11,9 +11,6 @@
 
 namespace varrocade {
 
-/// What a file's name has at its end while the case of its letters is changed.
-inline constexpr std::string_view RenamingEnding = ".renaming";
-
 /// Why a name is refused; an empty text when the reason has been shown already. Nothing: it is taken.
 using NameCheck = std::optional<std::string>;
 
@@ -31,11 +28,17 @@ NameCheck duplicateRecord(Workspace& workspace, const std::string& name);
 /// Shows a file that was just made in the list and opens it.
 void openNewFile(Workspace& workspace, const std::string& name);
 
+/// Why the file of the open record cannot get a name.
+NameCheck refusalOfRenaming(const Workspace& workspace, const std::string& name);
+
 /// Gives the file of the open record another name, and the record with all its steps. Can be undone.
 NameCheck renameFile(Workspace& workspace, const std::string& name);
 
 /// Does the same without looking at the name; false when it fails, which has been shown.
 bool giveName(Workspace& workspace, const std::string& name);
+
+/// Notes what is done to files, with the record as it was before, so that it can be undone.
+void noteFileStep(Workspace& workspace, FileStep step);
 
 /// Selects the open record under its new name and has it shown.
 void showRenamed(Workspace& workspace);

@@ -3,6 +3,7 @@
 #include "app/workspace/category_list.h"
 #include "app/workspace/edits.h"
 #include "app/workspace/file_actions.h"
+#include "app/workspace/names/rename_everywhere.h"
 #include "app/workspace/positions.h"
 #include "app/workspace/record/sheet_work.h"
 #include "app/workspace/record/unsaved_records.h"
@@ -54,6 +55,7 @@ bool bringBack(Workspace& workspace, const FileStep& step) {
     workspace.open = step.record;
     workspace.open.content = step.content;
     refillAndSelect(workspace, name);
+    noteVisit(workspace);
     workspace.listener->recordOpened();
     return true;
 }
@@ -77,16 +79,22 @@ bool renameBack(Workspace& workspace, const FileStep& step) {
     return true;
 }
 
+/// The base folder that a step was made in.
+const std::string& baseOf(const FileStep& step) {
+    return step.rewrites.empty() ? step.record.base : step.base;
+}
+
 /// Whether the last step is one of a file, and not of the open record.
 bool isFileStepNext(const Workspace& workspace) {
     const bool isLast = workspace.isFileStepLast || !workspace.open.history.canUndo();
     return isLast && !workspace.fileSteps.empty() &&
-           workspace.fileSteps.back().record.base == baseFolder(workspace);
+           baseOf(workspace.fileSteps.back()) == baseFolder(workspace);
 }
 
 void undoFileStep(Workspace& workspace) {
     const FileStep step = workspace.fileSteps.back();
-    const bool isUndone = !step.imported.empty()   ? takeImportBack(workspace, step)
+    const bool isUndone = !step.rewrites.empty()   ? undoRenaming(workspace, step)
+                          : !step.imported.empty() ? takeImportBack(workspace, step)
                           : step.renamedTo.empty() ? bringBack(workspace, step)
                                                    : renameBack(workspace, step);
     if (isUndone) {
@@ -102,6 +110,9 @@ std::string lastStepName(const Workspace& workspace) {
         return std::string(workspace.open.history.undoName());
     }
     const FileStep& step = workspace.fileSteps.back();
+    if (!step.rewrites.empty()) {
+        return "Rename " + step.renamed + " everywhere";
+    }
     if (!step.imported.empty()) {
         return std::string(ImportStepName);
     }

@@ -180,6 +180,7 @@ bool openFile(Workspace& workspace, const std::string& name) {
             workspace.listener->listOutdated(workspace);
         }
     }
+    noteVisit(workspace);
     workspace.listener->recordOpened();
     return isRecordOpen(workspace);
 }

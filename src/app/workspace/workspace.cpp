@@ -104,6 +104,16 @@ std::string openFileName(const Workspace& workspace) {
     return fileNameOf(workspace.open.present.record);
 }
 
+Visit openVisit(const Workspace& workspace) {
+    return {workspace.open.base, workspace.open.category, openFileName(workspace)};
+}
+
+void noteVisit(Workspace& workspace) {
+    if (isRecordOpen(workspace)) {
+        workspace.visits.note(openVisit(workspace));
+    }
+}
+
 std::string listedOpenName(const Workspace& workspace) {
     const OpenRecord& open = workspace.open;
     std::string name = openFileName(workspace);

@@ -4,6 +4,7 @@
 
 #include "app/workspace/names/name_list.h"
 #include "app/workspace/record/open_record.h"
+#include "app/workspace/visits/visits.h"
 #include "data/category.h"
 #include "data/format/texts.h"
 #include "data/game_files.h"
@@ -11,6 +12,7 @@
 #include "platform/backups.h"
 #include "platform/file_operations.h"
 #include "tools/file_replacement.h"
+#include "tools/renaming/rename_apply.h"
 #include "view/drawing/component_places.h"
 #include "weapons/weapon_catalogue.h"
 
@@ -63,6 +65,11 @@ struct FileStep {
     std::string content;   ///< of the file
     std::string renamedTo; ///< empty of a deleted one
     std::vector<FileReplacement> imported = {};
+    /// Of a name that was changed everywhere: all files that were written, and what was renamed. The record
+    /// is the one that was open, if any.
+    std::vector<FileRewrite> rewrites = {};
+    std::string renamed = {};
+    std::string base = {}; ///< the folder of those files
 };
 
 /// Puts two spellings of a path that differ in the case of letters only in one place: they lead to one file.
@@ -98,6 +105,7 @@ struct Workspace {
     std::vector<OpenRecord> aside; ///< those with unsaved changes that are not shown
     Journal journal;               ///< of the unsaved changes of them all
     std::vector<FileStep> fileSteps;
+    Visits visits;               ///< of records, to go back to
     bool isFileStepLast = false; ///< nothing was changed in the open record since the last of these
     WeaponCatalogue catalogue;
     BackupKeeper backups;
@@ -148,5 +156,9 @@ std::string openFileName(const Workspace& workspace);
 /// The same where that file is one of the list's; empty of the game's unit that stays open in a mod, which
 /// may have a file of the same name.
 std::string listedOpenName(const Workspace& workspace);
+
+/// The open record's place among the visits, and the note that it was opened.
+Visit openVisit(const Workspace& workspace);
+void noteVisit(Workspace& workspace);
 
 } // namespace varrocade

@@ -11,11 +11,64 @@ namespace {
 
 /// A drop-down list has opened, whose control is the first parameter. Dialogs' own messages lie below.
 constexpr UINT ComboOpened = WM_APP + 0x100;
+/// The window property of dialogs that stand beside the main window.
+constexpr const char* ModelessProperty = "Varrocade.Modeless";
 
 } // namespace
 
 bool DialogFrame::run(HWND owner) {
     return runDialog(owner, template_, frameProcedure, this) != 0;
+}
+
+void DialogFrame::open(HWND owner) {
+    if (!isOpen()) {
+        isModeless_ = true;
+        CreateDialogParamA(GetModuleHandleA(nullptr), MAKEINTRESOURCEA(template_), owner, frameProcedure,
+                           reinterpret_cast<LPARAM>(this));
+    }
+    if (isOpen()) {
+        ShowWindow(dialog_, SW_SHOWNORMAL);
+        SetForegroundWindow(dialog_);
+    }
+}
+
+bool DialogFrame::isNavigation(MSG& message) {
+    HWND dialog = message.hwnd == nullptr ? nullptr : GetAncestor(message.hwnd, GA_ROOT);
+    return dialog != nullptr && GetPropA(dialog, ModelessProperty) != nullptr &&
+           IsDialogMessageA(dialog, &message) != 0;
+}
+
+void DialogFrame::finish(INT_PTR result) {
+    if (isModeless_) {
+        DestroyWindow(dialog_);
+    } else {
+        EndDialog(dialog_, result);
+    }
+}
+
+void DialogFrame::place() {
+    if (isModeless_) {
+        SetPropA(dialog_, ModelessProperty, dialog_);
+    }
+    if (!lastPlace_) {
+        placeBesideDrawing(dialog_);
+        return;
+    }
+    SetWindowPos(dialog_, nullptr, lastPlace_->x, lastPlace_->y, 0, 0,
+                 SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    SendMessageA(dialog_, DM_REPOSITION, 0, 0);
+}
+
+/// What is left of a dialog that goes. One that opens again finds its place.
+void DialogFrame::leave() {
+    port().unmarkAll();
+    if (isModeless_) {
+        RECT last{};
+        GetWindowRect(dialog_, &last);
+        lastPlace_ = {last.left, last.top};
+        RemovePropA(dialog_, ModelessProperty);
+        dialog_ = nullptr;
+    }
 }
 
 void DialogFrame::onButton(int control, std::function<void()> press) {
@@ -48,7 +101,7 @@ INT_PTR DialogFrame::handleMessage(UINT message, WPARAM parameter, LPARAM pointe
         if (!title_.empty()) {
             SetWindowTextA(dialog_, title_.c_str());
         }
-        placeBesideDrawing(dialog_);
+        place();
         init();
         return TRUE;
     case WM_COMMAND:
@@ -62,7 +115,7 @@ INT_PTR DialogFrame::handleMessage(UINT message, WPARAM parameter, LPARAM pointe
         keepOpenedText(static_cast<int>(parameter));
         return TRUE;
     case WM_DESTROY:
-        port().unmarkAll();
+        leave();
         return FALSE;
     default:
         return receive(message, parameter, pointer) ? TRUE : FALSE;
@@ -77,7 +130,7 @@ bool DialogFrame::handleCommand(int control, int notification) {
         return true;
     }
     if (control == IDCANCEL) {
-        EndDialog(dialog_, 0);
+        finish(0);
         return true;
     }
     const auto button = std::find_if(buttons_.begin(), buttons_.end(),

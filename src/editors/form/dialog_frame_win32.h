@@ -14,7 +14,7 @@
 
 namespace varrocade {
 
-/// A modal dialog. What derives from it says what it is filled with and what OK takes.
+/// A dialog. What derives from it says what it is filled with and what OK takes.
 class DialogFrame {
 public:
     DialogFrame(const DialogFrame&) = delete;
@@ -23,6 +23,14 @@ public:
 
     /// Shows the dialog until it is ended; true when OK ended it.
     bool run(HWND owner);
+
+    /// Shows the dialog beside its owner, which can be worked with meanwhile; brings one that is open to the
+    /// front. It opens again where it was closed.
+    void open(HWND owner);
+    [[nodiscard]] bool isOpen() const { return dialog_ != nullptr; }
+    /// Whether a message is a key that moves within one of the dialogs that stand beside the main window.
+    /// Their thread's message loop asks before it hands a message on.
+    static bool isNavigation(MSG& message);
 
 protected:
     /// `caption` is of the boxes with refusals, `title` of the window where it is not the template's.
@@ -36,7 +44,7 @@ protected:
     /// What a button of this dialog does, told before it runs.
     void onButton(int control, std::function<void()> press);
     /// Ends the dialog as OK does.
-    void end() { EndDialog(dialog_, 1); }
+    void end() { finish(1); }
     /// Says why the form cannot be taken: in a box, in the control, which gets the keyboard.
     void refuse(const FormError& error);
 
@@ -64,6 +72,9 @@ private:
     };
 
     static INT_PTR CALLBACK frameProcedure(HWND dialog, UINT message, WPARAM parameter, LPARAM pointer);
+    void finish(INT_PTR result);
+    void place();
+    void leave();
     INT_PTR handleMessage(UINT message, WPARAM parameter, LPARAM pointer);
     bool handleCommand(int control, int notification);
     void followCombo(int control, int notification);
@@ -74,6 +85,8 @@ private:
     std::string caption_;
     std::string title_;
     std::vector<Button> buttons_;
+    bool isModeless_ = false;
+    std::optional<POINT> lastPlace_; ///< of a modeless one that was closed
     HWND dialog_ = nullptr;
     std::optional<DialogPort> port_;
     GdiObject<HBRUSH> refusedBrush_;

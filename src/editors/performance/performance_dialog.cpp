@@ -1,8 +1,6 @@
 #include "editors/performance/performance_dialog.h"
 
 #include "editors/form/clipboard_win32.h"
-#include "editors/form/dialog_frame_win32.h"
-#include "editors/performance/comparison_dialog.h"
 #include "editors/performance/performance_form.h"
 #include "resources/resource.h"
 #include "view/chart/chart_painter.h"
@@ -10,57 +8,50 @@
 #include "view/painting/painter_win32.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace varrocade {
 
-namespace {
-
-class PerformanceDialog final : public DialogFrame {
-public:
-    explicit PerformanceDialog(const PerformanceTerms& terms)
-        : DialogFrame(IDD_PERFORMANCE, "Weight and Top Speed"), terms_(terms), shown_(terms.shown) {
-        onButton(IDC_TAKE_ESTIMATE, [this] { takeEstimate(); });
-        onButton(IDC_COPY_TABLE,
-                 [this] { copyToClipboard(handle(), performanceTable(performance_, conditions_)); });
-        onButton(IDC_COMPARE, [this] { compare(); });
-    }
-
-    [[nodiscard]] const std::string& chosen() const { return chosen_; }
-
-private:
-    void init() override;
-    bool accept() override { return true; }
-    bool notice(int control, int notification) override;
-    void paint(const DRAWITEMSTRUCT& item) override;
-
-    void compute();
-    void showDriving();
-    void takeEstimate();
-    void compare();
-
-    const PerformanceTerms& terms_;
-    SquadRecord shown_;
-    VehiclePerformance performance_;
-    DriveConditions conditions_;
-    std::string chosen_;
-};
-
-void PerformanceDialog::init() {
-    port().setChoices(IDC_SURFACE, surfaceChoices());
-    SendDlgItemMessageA(handle(), IDC_SURFACE, CB_SETCURSEL, 0, 0);
-    port().setText(IDC_SLOPE, "0");
-    ShowWindow(GetDlgItem(handle(), IDC_COMPARE), terms_.folders != nullptr ? SW_SHOW : SW_HIDE);
-    compute();
+PerformanceWindow::PerformanceWindow(PerformanceHooks hooks)
+    : DialogFrame(IDD_PERFORMANCE, "Weight and Top Speed"), hooks_(std::move(hooks)) {
+    onButton(IDC_TAKE_ESTIMATE, [this] { takeEstimate(); });
+    onButton(IDC_COPY_TABLE,
+             [this] { copyToClipboard(handle(), performanceTable(performance_, conditions_)); });
+    onButton(IDC_COMPARE, [this] { hooks_.compare(); });
 }
 
-void PerformanceDialog::compute() {
-    performance_ = vehiclePerformance(shown_, WeaponMasses(terms_.edit.catalogue, *shown_.vehicle));
-    port().setText(IDC_WEIGHT_SENTENCE, weightSentence(performance_));
+void PerformanceWindow::show(const SquadRecord* unit, TakeWeight take, bool mayLeave) {
+    if (unit != nullptr && unit->vehicle) {
+        shown_ = *unit;
+    } else {
+        shown_.reset();
+    }
+    take_ = std::move(take);
+    mayLeave_ = mayLeave;
+    if (isOpen()) {
+        showAll();
+    }
+}
+
+void PerformanceWindow::init() {
+    port().setChoices(IDC_SURFACE, surfaceChoices());
+    SendDlgItemMessageA(handle(), IDC_SURFACE, CB_SETCURSEL, static_cast<WPARAM>(conditions_.surface), 0);
+    port().setText(IDC_SLOPE, slope_);
+    showAll();
+}
+
+void PerformanceWindow::showAll() {
+    performance_ = shown_ ? vehiclePerformance(*shown_, WeaponMasses(hooks_.catalogue, *shown_->vehicle))
+                          : VehiclePerformance{};
+    port().setText(IDC_WEIGHT_SENTENCE, shown_ ? weightSentence(performance_) : "No vehicle is open.");
     HWND former = GetFocus();
-    const bool canTake =
-        performance_.shares.has_value() && roundedWeight(performance_.estimate) != shown_.vehicle->weight;
+    const bool canTake = take_ && shown_ && performance_.shares.has_value() &&
+                         roundedWeight(performance_.estimate) != shown_->vehicle->weight;
     port().setEnabled(IDC_TAKE_ESTIMATE, canTake);
-    if (!canTake && former == GetDlgItem(handle(), IDC_TAKE_ESTIMATE)) {
+    port().setEnabled(IDC_COPY_TABLE, shown_.has_value());
+    port().setEnabled(IDC_COMPARE, mayLeave_);
+    const bool isOwn = former != nullptr && GetParent(former) == handle();
+    if (isOwn && IsWindowEnabled(former) == FALSE) {
         // A disabled button would keep the keyboard.
         SetFocus(GetDlgItem(handle(), IDCANCEL));
     }
@@ -68,14 +59,14 @@ void PerformanceDialog::compute() {
     showDriving();
 }
 
-void PerformanceDialog::showDriving() {
-    port().setText(IDC_DRIVING_TEXT, drivingText(performance_, conditions_));
+void PerformanceWindow::showDriving() {
+    port().setText(IDC_DRIVING_TEXT, shown_ ? drivingText(performance_, conditions_) : "");
     for (const int control : {IDC_FORCE_CURVES, IDC_SPEED_CURVE}) {
         InvalidateRect(GetDlgItem(handle(), control), nullptr, FALSE);
     }
 }
 
-bool PerformanceDialog::notice(int control, int notification) {
+bool PerformanceWindow::notice(int control, int notification) {
     if (control == IDC_SURFACE && notification == CBN_SELCHANGE) {
         const LRESULT chosen = SendDlgItemMessageA(handle(), IDC_SURFACE, CB_GETCURSEL, 0, 0);
         conditions_.surface = static_cast<Surface>(std::max<LRESULT>(0, chosen));
@@ -83,9 +74,11 @@ bool PerformanceDialog::notice(int control, int notification) {
         return true;
     }
     if (control == IDC_SLOPE && notification == EN_CHANGE) {
-        const std::optional<double> slope = slopeOf(port().text(IDC_SLOPE));
+        const std::string text = port().text(IDC_SLOPE);
+        const std::optional<double> slope = slopeOf(text);
         port().mark(IDC_SLOPE, slope ? std::string_view() : SlopeRefusal);
         if (slope) {
+            slope_ = text;
             conditions_.slope = *slope;
             showDriving();
         }
@@ -94,8 +87,8 @@ bool PerformanceDialog::notice(int control, int notification) {
     return false;
 }
 
-void PerformanceDialog::paint(const DRAWITEMSTRUCT& item) {
-    const DrawingObjects& drawing = terms_.edit.drawing;
+void PerformanceWindow::paint(const DRAWITEMSTRUCT& item) {
+    const DrawingObjects& drawing = hooks_.drawing;
     paintBuffered(item.hDC, item.rcItem, drawing, [&](HDC screen) {
         GdiDevice device(screen, drawing);
         const PixelRect area = pixelRect(item.rcItem);
@@ -109,29 +102,12 @@ void PerformanceDialog::paint(const DRAWITEMSTRUCT& item) {
     });
 }
 
-void PerformanceDialog::takeEstimate() {
-    shown_.vehicle->weight = roundedWeight(performance_.estimate);
-    terms_.edit.record.vehicle->weight = shown_.vehicle->weight;
-    terms_.edit.changed("Take the estimated weight");
-    compute();
-}
-
-void PerformanceDialog::compare() {
-    chosen_ = compareVehicles(handle(), {.catalogue = terms_.edit.catalogue,
-                                         .drawing = terms_.edit.drawing,
-                                         .folders = *terms_.folders,
-                                         .openUnit = &shown_});
-    if (!chosen_.empty()) {
-        end();
+void PerformanceWindow::takeEstimate() {
+    if (take_ && shown_) {
+        // It shows the vehicle anew, and with that another way to take a weight.
+        const TakeWeight take = take_;
+        take(roundedWeight(performance_.estimate));
     }
-}
-
-} // namespace
-
-std::string showPerformance(HWND owner, const PerformanceTerms& terms) {
-    PerformanceDialog dialog(terms);
-    dialog.run(owner);
-    return dialog.chosen();
 }
 
 } // namespace varrocade

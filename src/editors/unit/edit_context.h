@@ -5,6 +5,8 @@
 #include "weapons/weapon_catalogue.h"
 
 #include <cstddef>
+#include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -32,6 +34,12 @@ struct EditContext {
     /// What the dialog's entries belong to, for its caption: "Turret 2". Empty where the dialog's own says
     /// it.
     std::string subject = {};
+    /// Has windows that follow the editing show the unit with what is typed and not taken over yet; null
+    /// where there are none. A weight that is taken there goes to `take`.
+    void (*preview)(const SquadRecord& typed, std::function<void(std::int32_t weight)> take) = nullptr;
+    /// Opens the window with weight and top speed, which shows what `preview` gives it; null where there is
+    /// none.
+    void (*openPerformance)() = nullptr;
     /// The pictures of the drawing, for dialogs that show some themselves.
     PictureCache* pictures = nullptr;
 };

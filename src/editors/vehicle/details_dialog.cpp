@@ -70,6 +70,7 @@ public:
                 // The estimate was taken there: this form would put the former weight back.
                 port().setText(IDC_WEIGHT, std::to_string(vehicle().weight));
             }
+            preview();
         });
         onButton(IDC_AVAILABILITY, [this, &drawing] {
             if (editAvailability(handle(), edit_, drawing)) {
@@ -78,7 +79,27 @@ public:
         });
     }
 
+    DetailsDialog(const DetailsDialog&) = delete;
+    DetailsDialog& operator=(const DetailsDialog&) = delete;
+    ~DetailsDialog() override {
+        if (edit_.preview != nullptr) {
+            edit_.preview(edit_.record, {});
+        }
+    }
+
 private:
+    /// What is typed shows in the window with weight and top speed; a weight that is taken there is typed
+    /// here.
+    void preview() override {
+        if (edit_.preview != nullptr) {
+            SquadRecord unit = edit_.record;
+            readPossible(port(), vehicleShape(), unit);
+            edit_.preview(unit, [this](std::int32_t weight) {
+                port().setText(IDC_WEIGHT, std::to_string(weight));
+                preview();
+            });
+        }
+    }
     void prepare() override {
         bindListKeys(handle(), IDC_COMPONENTS, ComponentKeys);
         addTips(handle(), ComponentTips);
@@ -255,6 +276,7 @@ void DetailsDialog::openComponent() {
     }
     editComponent(handle(), edit_, *index);
     edit_.redraw();
+    preview();
     SendMessageA(handle(), RefreshComponents, 0, 0);
     select(*index);
 }

@@ -2,7 +2,6 @@
 
 #include "analysis/performance/vehicle_performance.h"
 #include "editors/form/form_dialog_win32.h"
-#include "editors/performance/performance_dialog.h"
 #include "editors/unit/list_dialogs.h"
 #include "editors/vehicle/drive_form.h"
 #include "resources/resource.h"
@@ -24,12 +23,32 @@ public:
             }
         });
         onButton(IDC_PERFORMANCE, [this] {
-            showPerformance(handle(), {.edit = edit_, .shown = typed()});
-            follow();
+            if (edit_.openPerformance != nullptr) {
+                edit_.openPerformance();
+                preview();
+            }
         });
     }
 
+    DriveDialog(const DriveDialog&) = delete;
+    DriveDialog& operator=(const DriveDialog&) = delete;
+    ~DriveDialog() override {
+        if (edit_.preview != nullptr) {
+            edit_.preview(edit_.record, {});
+        }
+    }
+
 private:
+    void preview() override {
+        if (edit_.preview != nullptr) {
+            edit_.preview(typed(), [this](std::int32_t weight) {
+                edit_.record.vehicle->weight = weight;
+                edit_.changed("Take the estimated weight");
+                follow();
+                preview();
+            });
+        }
+    }
     void prepare() override { port().setChoices(IDC_ENGINE, engineNames()); }
     void follow() override {
         const SquadRecord unit = typed();
@@ -47,6 +66,7 @@ private:
         if (control == IDC_ENGINE && notification == CBN_SELCHANGE) {
             // An engine picked from the list brings its horsepower with it.
             takeEngine(port(), port().text(IDC_ENGINE));
+            preview();
         }
         return isFollowed;
     }

@@ -17,6 +17,7 @@ namespace {
 
 constexpr Colour RuleColour = {190, 172, 128};
 constexpr Colour SelectedGround = {186, 205, 226};
+constexpr Colour LinkInk = {0, 70, 160};
 constexpr Colour BarGround = {255, 221, 148};
 
 /// Lays a sheet out from top to bottom and paints it on the way.
@@ -189,7 +190,12 @@ private:
         }
         paintPictures(section.pictures);
         for (const SheetNote& words : section.notes) {
-            paragraph(words.text, TextFont::Small, TextInk);
+            const int top = y_;
+            paragraph(words.text, TextFont::Small, words.isLink ? LinkInk : TextInk);
+            if (words.isLink) {
+                layout_.links.push_back(
+                    {{left_, top + options_.scroll, right_, y_ + options_.scroll}, words.text});
+            }
         }
         // After the rows within it, which are the more exact answer to a click.
         note(section.part, before);
@@ -318,6 +324,16 @@ const SheetWarningPlace* sheetWarningAt(const SheetLayout& layout, PixelPoint pi
         std::find_if(layout.warnings.begin(), layout.warnings.end(),
                      [&](const SheetWarningPlace& warning) { return warning.place.contains(pixel); });
     return found == layout.warnings.end() ? nullptr : &*found;
+}
+
+const SheetLinkPlace* sheetLinkAt(const SheetLayout& layout, int scroll, PixelPoint pixel) {
+    if (pixel.y < layout.headHeight) {
+        return nullptr;
+    }
+    pixel.y += scroll;
+    const auto found = std::find_if(layout.links.begin(), layout.links.end(),
+                                    [&](const SheetLinkPlace& link) { return link.place.contains(pixel); });
+    return found == layout.links.end() ? nullptr : &*found;
 }
 
 UnitPart sheetPartAt(const SheetLayout& layout, int scroll, PixelPoint pixel) {

@@ -28,12 +28,19 @@ struct SheetWarningPlace {
     UnitPart part; ///< none: the section of problems
 };
 
+/// A note that a click opens something of.
+struct SheetLinkPlace {
+    PixelRect place; ///< as `SheetPlace` counts
+    std::string text;
+};
+
 struct SheetLayout {
     int height = 0;                          ///< pixels of the whole sheet
     int headHeight = 0;                      ///< pixels of its title and bar, which do not scroll
     std::vector<SheetPlace> places;          ///< rows before the sections that they are in
     std::vector<SheetWarningPlace> warnings; ///< the lines of the bar
-    PixelRect problems = {};                 ///< the section that holds them, as `SheetPlace` counts
+    std::vector<SheetLinkPlace> links = {};
+    PixelRect problems = {}; ///< the section that holds them, as `SheetPlace` counts
 };
 
 /// Paints a sheet into `area`, whose ground is there already.
@@ -42,6 +49,9 @@ SheetLayout paintSheet(PaintDevice& device, const PixelRect& area, const DataShe
 
 /// The line of the bar at a pixel of the area, or null.
 const SheetWarningPlace* sheetWarningAt(const SheetLayout& layout, PixelPoint pixel);
+
+/// The link at a pixel of the area that a sheet was painted into, scrolled down so far; or null.
+const SheetLinkPlace* sheetLinkAt(const SheetLayout& layout, int scroll, PixelPoint pixel);
 
 /// The part at a pixel of the area that a sheet was painted into, scrolled down so far.
 UnitPart sheetPartAt(const SheetLayout& layout, int scroll, PixelPoint pixel);

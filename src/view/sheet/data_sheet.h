@@ -31,6 +31,7 @@ struct SheetHeading {
 /// Running text, broken where it must.
 struct SheetNote {
     std::string text;
+    bool isLink = false; ///< a click on it opens what it names: "Vehicles: German Tiger"
 };
 
 struct SheetRow {

@@ -213,6 +213,9 @@ DataSheet weaponSheet(const WeaponRecord& weapon, std::span<const Finding> probl
         std::to_array<std::string>({users ? "No unit carries it." : "Looking through the units..."});
     sheet.sections.push_back(
         notesSection("Used by", users && !users->empty() ? std::span<const std::string>(*users) : instead));
+    for (SheetNote& user : sheet.sections.back().notes) {
+        user.isLink = users && !users->empty();
+    }
     return sheet;
 }
 

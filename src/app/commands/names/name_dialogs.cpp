@@ -95,6 +95,9 @@ INT_PTR CALLBACK nameProcedure(HWND window, UINT message, WPARAM parameter, LPAR
     auto* dialog = dialogContext<NameDialog>(window, message, pointer);
     if (message == WM_INITDIALOG) {
         DialogPort port(window);
+        if (!dialog->title.empty()) {
+            SetWindowTextA(window, dialog->title.c_str());
+        }
         if (dialog->kind == NameDialogKind::NewWeapon) {
             fillWeaponTypes(window, dialog->choice.weaponType);
             followWeaponName(window);

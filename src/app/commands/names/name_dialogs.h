@@ -5,6 +5,7 @@
 
 #include <windows.h>
 
+#include <functional>
 #include <string>
 
 namespace varrocade {
@@ -20,8 +21,9 @@ struct NameDialog {
     HWND owner;
     NameDialogKind kind;
     /// Does what the dialog is for, or says why not; the dialog then stays open.
-    NameCheck (*take)(const NewFileChoice& choice);
+    std::function<NameCheck(const NewFileChoice& choice)> take;
     NewFileChoice choice = {}; ///< what the dialog begins with, and what was chosen
+    std::string title = {};    ///< of the window, where it is not the template's
 };
 
 /// Runs the dialog; false when the user cancelled it.

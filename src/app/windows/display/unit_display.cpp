@@ -253,6 +253,11 @@ const SheetWarningPlace* sheetWarningAt(POINT pixel) {
     return sheetWarningAt(application().display.sheetLayout, {pixel.x, pixel.y});
 }
 
+const SheetLinkPlace* sheetLinkAt(POINT pixel) {
+    const UnitDisplay& display = application().display;
+    return sheetLinkAt(display.sheetLayout, display.scroll, {pixel.x, pixel.y});
+}
+
 void showProblems() {
     scrollTo(application().display.sheetLayout.problems);
     redrawSheet();

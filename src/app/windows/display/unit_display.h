@@ -36,6 +36,9 @@ void showSelectedRow();
 /// The line of the sheet's bar at a pixel of its window, or null.
 const SheetWarningPlace* sheetWarningAt(POINT pixel);
 
+/// The link of the sheet at a pixel of its window, or null.
+const SheetLinkPlace* sheetLinkAt(POINT pixel);
+
 /// Scrolls the sheet to the section of problems.
 void showProblems();
 

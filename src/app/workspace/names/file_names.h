@@ -2,6 +2,8 @@
 // What a user may call a new file.
 
 #include "data/category.h"
+#include "data/format/file_name.h"
+#include "data/unit/unit_name.h"
 #include "data/unit/unit_record.h"
 #include "weapons/weapon_record.h"
 
@@ -10,14 +12,6 @@
 #include <string_view>
 
 namespace varrocade {
-
-/// The message that refuses a name, or nothing: it must not be empty nor hold characters that file names
-/// cannot have, neither begin nor end with a blank, nor be a device's (NUL, COM1). A full stop is refused
-/// too, since the program adds the ending.
-std::optional<std::string> refusalOfName(std::string_view name);
-
-/// The message that refuses a unit's name which does not begin with its nationality ("German").
-std::optional<std::string> refusalOfNationality(std::string_view name, std::string_view nationality);
 
 /// A name that begins with one nationality's word, with another's in its place; an empty one begins with it.
 std::string nameForNationality(const std::string& name, std::string_view former, std::string_view next);

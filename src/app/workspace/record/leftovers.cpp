@@ -1,9 +1,9 @@
 #include "app/workspace/record/leftovers.h"
 
-#include "app/workspace/file_actions.h"
 #include "app/workspace/options_file.h"
 #include "app/workspace/record/journal_copies.h"
 #include "platform/safe_save.h"
+#include "tools/renaming/rename_file.h"
 
 #include <algorithm>
 #include <array>
