@@ -6,6 +6,8 @@
 #include "app/windows/display/unit_display.h"
 #include "app/windows/drawing_window.h"
 #include "app/windows/file_list.h"
+#include "app/windows/main_window.h"
+#include "app/windows/mod_band_win32.h"
 #include "resources/resource.h"
 
 namespace varrocade {
@@ -24,17 +26,22 @@ public:
         display.drag.reset();
         displayChanged();
         updateButtons();
+        showModBand();
         redrawNow();
         prefetchNeighbours();
     }
 
     void recordChanged() override {
         displayChanged();
+        showModBand();
         redrawNow();
         redrawOpenEntry();
     }
 
-    void recordSaved() override { redrawOpenEntry(); }
+    void recordSaved() override {
+        showModBand();
+        redrawOpenEntry();
+    }
 
     void marksChanged() override { redrawEntries(); }
 
@@ -62,6 +69,8 @@ public:
         const std::string title =
             "Varrocade Data Editor" + (workspace.modMode ? " - Mod Mode from: " + workspace.modFolder : "");
         SetWindowTextA(app.window, title.c_str());
+        showModBand();
+        SendMessageA(app.window, LayOutMessage, 0, 0);
     }
 };
 
