@@ -1,6 +1,7 @@
 // Working in a mod: the game's units in it, its settings, and what it changes.
 
 #include "gui_test.h"
+#include "layout_check.h"
 
 #include <commctrl.h>
 
@@ -43,12 +44,10 @@ protected:
         return client.bottom;
     }
     [[nodiscard]] static int rowCount(Window table) { return static_cast<int>(table.send(LVM_GETITEMCOUNT)); }
-    /// Presses keys that select the first rows of a table from another process.
-    static void selectFirst(Window table, int count) {
-        SetFocus(table.handle());
+    /// Selects a row of a table of another process as the arrow keys do.
+    static void selectRow(Window table, int row) {
         table.pressKey(VK_HOME);
-        table.pressKey(VK_SPACE);
-        for (int i = 1; i < count; ++i) {
+        for (int i = 0; i < row; ++i) {
             table.pressKey(VK_DOWN);
         }
     }
@@ -68,6 +67,7 @@ TEST_F(ModWorkTest, TheGamesUnitsAreAtHand) {
     EXPECT_EQ(band(), "Mod: Test Mod  The game's file. What is changed is saved as " + modFile(T34));
 
     const Window copying = openDialog(IDM_MOD_COPY, "Copy into mod");
+    expectWellLaidOut(copying);
     const Window files = copying.control(IDC_MOD_FILES_LIST);
     copying.setText(IDC_MOD_FILES_FILTER, "panther");
     EXPECT_EQ(files.listTexts(), std::vector<std::string>{"German Panzer V Panther Ausf G"});
@@ -112,6 +112,7 @@ TEST_F(ModWorkTest, AHandWrittenFileKeepsWhatWasNotChanged) {
     writeFile(userMod.modFolder() + "Mod.txt", HandWritten);
     start();
     Window settings = openDialog(EditModCommand, "Edit Mod");
+    expectWellLaidOut(settings);
     EXPECT_EQ(settings.control(IDC_MOD_FIRST).text(), "1943");
     finish(settings);
     EXPECT_EQ(readFile(userMod.modFolder() + "Mod.txt"), HandWritten) << "OK without a change";
@@ -124,8 +125,10 @@ TEST_F(ModWorkTest, AHandWrittenFileKeepsWhatWasNotChanged) {
     settings.setText(IDC_MOD_LAST, "1945");
     settings.startPress(IDC_MOD_NATIONALITIES);
     const Window nations = editor->waitForDialog("Nationalities");
+    expectWellLaidOut(nations);
     nations.startPress(IDC_MOD_SURNAMES);
     const Window surnames = editor->waitForDialog("German: surnames");
+    expectWellLaidOut(surnames);
     const Window names = surnames.control(IDC_ENTRY_LIST);
     surnames.press(IDC_ENTRY_ADD);
     surnames.setText(IDC_MOD_NAME, "meier");
@@ -165,26 +168,27 @@ TEST_F(ModWorkTest, EquipmentIsPutTogetherFromTheUnitsThatThereAre) {
     const Window nations = editor->waitForDialog("Nationalities");
     nations.startPress(IDC_MOD_EQUIPMENT);
     const Window lists = editor->waitForDialog("Russian: equipment lists");
-    EXPECT_EQ(lists.control(IDC_ENTRY_LIST).selectedText(), "All (always), 1 units  (!)");
+    EXPECT_EQ(lists.control(IDC_ENTRY_LIST).selectedText(), "All (always), 1 unit  (!)");
     lists.startPress(IDC_MOD_UNITS);
     const Window units = editor->waitForDialog("Units");
+    expectWellLaidOut(units);
     const Window there = units.control(IDC_MOD_SOURCE_LIST);
     const Window listed = units.control(IDC_MOD_LISTED);
-    EXPECT_EQ(units.control(IDC_MOD_SUMMARY).text(), "1 units, 1 that do not exist (!)");
+    EXPECT_EQ(units.control(IDC_MOD_SUMMARY).text(), "1 unit, 1 not there (!)");
     const int own = rowCount(there);
     units.press(IDC_MOD_SOURCE_NATION);
     EXPECT_GT(rowCount(there), own) << "of all nationalities";
     units.setText(IDC_MOD_SOURCE_FILTER, "t-34");
     const int tanks = rowCount(there);
     ASSERT_GE(tanks, 1);
-    selectFirst(there, 1);
+    selectRow(there, 0);
     ASSERT_TRUE(eventually([&] { return units.control(IDC_MOD_UNITS_ADD).isEnabled(); }));
     units.press(IDC_MOD_UNITS_ADD);
     EXPECT_EQ(rowCount(listed), 2);
     EXPECT_EQ(rowCount(there), tanks - 1);
     units.setText(IDC_MOD_COST, "x");
     units.startPress(IDOK);
-    answer({"Units", "Cost must be a whole number"});
+    answer({"Units", "\"Cost\" must be a whole number from 0 to 100000"});
     EXPECT_EQ(editor->focus(), units.control(IDC_MOD_COST));
     units.setText(IDC_MOD_COST, "120");
     listed.send(WM_CHAR, 0x1A);
@@ -202,6 +206,44 @@ TEST_F(ModWorkTest, EquipmentIsPutTogetherFromTheUnitsThatThereAre) {
     EXPECT_NE(saved.find("Nobody"), std::string::npos);
 }
 
+TEST_F(ModWorkTest, PicturesAreChosenByTheirLooks) {
+    userMod.create();
+    game.copyFromSample("Images\\Flags");
+    game.copyFromSample("Images\\Uniforms");
+    start();
+    const Window settings = openDialog(EditModCommand, "Edit Mod");
+    settings.startPress(IDC_MOD_COLOURS);
+    const Window colours = editor->waitForDialog("Colours");
+    expectWellLaidOut(colours);
+    finish(colours, IDCANCEL);
+    settings.startPress(IDC_MOD_NATIONALITIES);
+    const Window nations = editor->waitForDialog("Nationalities");
+    nations.press(IDC_ENTRY_ADD);
+    nations.startPress(IDC_MOD_FLAG_CHOOSE);
+    const Window pictures = editor->waitForDialog("Choose a picture");
+    expectWellLaidOut(pictures);
+    pictures.setText(IDC_MOD_PICTURES_FILTER, "finn");
+    pictures.control(IDC_MOD_PICTURES_LIST).choose("finnish");
+    finish(pictures);
+    EXPECT_EQ(nations.control(IDC_MOD_FLAG).text(), "finnish");
+    nations.press(IDC_ENTRY_UNDO);
+    EXPECT_EQ(nations.control(IDC_MOD_FLAG).text(), "");
+    nations.press(IDC_ENTRY_REDO);
+    for (const auto& [button, caption] : std::initializer_list<std::pair<int, std::string_view>>{
+             {IDC_MOD_SIDES, "United States: sides"},
+             {IDC_MOD_UNIFORMS, "United States: uniforms"},
+             {IDC_MOD_RANKS, "United States: ranks"},
+             {IDC_MOD_EQUIPMENT, "United States: equipment lists"}}) {
+        nations.startPress(button);
+        const Window page = editor->waitForDialog(caption);
+        expectWellLaidOut(page);
+        finish(page, IDCANCEL);
+    }
+    finish(nations);
+    finish(settings);
+    EXPECT_NE(readFile(userMod.modFolder() + "Mod.txt").find("<flag>finnish"), std::string::npos);
+}
+
 TEST_F(ModWorkTest, ChangesAreListedAndTakenBack) {
     userMod.create();
     writeFile(modFile(Tiger), withReplaced(game.read(dataFile(Tiger)), "<weight>56900<", "<weight>60000<"));
@@ -209,6 +251,7 @@ TEST_F(ModWorkTest, ChangesAreListedAndTakenBack) {
     start();
     select(Tiger);
     Window changes = openDialog(IDM_MOD_CHANGES, "What this mod changes");
+    expectWellLaidOut(changes);
     const Window table = changes.control(IDC_MOD_CHANGE_LIST);
     EXPECT_EQ(changes.control(IDC_MOD_CHANGE_COUNT).text(), "0 added, 2 changed, 0 removed");
     EXPECT_EQ(rowCount(table), 3);
@@ -216,13 +259,13 @@ TEST_F(ModWorkTest, ChangesAreListedAndTakenBack) {
     EXPECT_NE(clipboardText().find("| Weight | `vehicle.weight` | 56900 kg | 60000 kg |\r\n"),
               std::string::npos);
     EXPECT_FALSE(changes.control(IDC_MOD_REVERT).isEnabled());
-    selectFirst(table, 2);
+    selectRow(table, 1);
     ASSERT_TRUE(eventually([&] { return changes.control(IDC_MOD_REVERT).isEnabled(); }));
     changes.press(IDC_MOD_REVERT);
     EXPECT_NE(readFile(modFile(Tiger)).find("<weight>56900<"), std::string::npos);
     EXPECT_EQ(rowCount(table), 1) << "the Tiger is the game's over again";
     EXPECT_EQ(changes.control(IDC_MOD_CHANGE_COUNT).text(),
-              "0 added, 1 changed, 0 removed; 1 file is the game's own over again");
+              "0 added, 1 changed, 0 removed; 1 file as the game has them");
     changes.startPress(IDC_MOD_REVERT_FILE);
     answer({"What this mod changes",
             "Are you sure you want to remove " + std::string(T34) +

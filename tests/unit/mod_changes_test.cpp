@@ -134,7 +134,7 @@ TEST_F(ModOfSample, GoesBackByValueAndByFile) {
 
 TEST_F(ModOfSample, IsATableOfWhichRowsGoBack) {
     const ModChanges changes = findModChanges(SampleBase, folder.path());
-    EXPECT_EQ(changesSummary(changes), "1 added, 2 changed, 1 removed; 1 file is the game's own over again");
+    EXPECT_EQ(changesSummary(changes), "1 added, 2 changed, 1 removed; 1 file as the game has them");
     const std::vector<ChangeRow> rows = changeRows(changes, "");
     using Cells = std::array<std::string, 3>;
     ASSERT_EQ(rows.size(), 6U) << "four files, two of them with a value";

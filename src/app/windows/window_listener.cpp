@@ -52,6 +52,7 @@ public:
     void namesChanged() override {
         showNames();
         updateButtons();
+        showModBand();
     }
 
     void selectionChanged() override {

@@ -3,6 +3,7 @@
 #include "data/format/clean_text.h"
 #include "data/format/numbers.h"
 #include "data/format/texts.h"
+#include "data/format/words.h"
 #include "data/unit/enumerations.h"
 #include "mod/mod_fields.h"
 #include "mod/starting_points.h"
@@ -102,7 +103,7 @@ constexpr auto EquipmentRows =
     withPeriod<ModEquipment>(FormRow<ModEquipment>(IDC_MOD_NAME, mf::EquipmentName));
 
 std::string equipmentLine(std::size_t, const ModEquipment& list) {
-    return list.name + " (" + periodText(list.period) + "), " + std::to_string(list.units.size()) + " units";
+    return list.name + " (" + periodText(list.period) + "), " + counted(list.units.size(), "unit");
 }
 
 // ---- other entries

@@ -3,6 +3,7 @@
 #include "editors/mod/mod_list_dialogs.h"
 
 #include "data/format/texts.h"
+#include "data/format/words.h"
 #include "editors/form/clipboard_win32.h"
 #include "editors/form/list_dialog_win32.h"
 #include "editors/mod/mod_forms.h"
@@ -130,7 +131,7 @@ private:
             std::count_if(counts_.begin(), counts_.end(), [](const auto& name) { return name.second > 1; });
         port().setText(
             IDC_MOD_SUMMARY,
-            std::to_string(surnames_.size()) + " surnames" +
+            counted(surnames_.size(), "surname") +
                 (doubles > 0 ? ", " + std::to_string(doubles) + " more than once, marked (!)" : ""));
         port().setEnabled(IDC_MOD_DOUBLES, doubles > 0);
         if (before != counts_) {
@@ -315,10 +316,10 @@ private:
         std::string summary;
         if (isShown()) {
             const ModNationality& nation = nations_[shownIndex()];
-            summary = std::to_string(nation.surnames.size()) + " surnames, " +
-                      std::to_string(nation.uniforms.size()) + " uniforms, " +
-                      std::to_string(nation.ranks.size()) + " ranks, " +
-                      std::to_string(nation.equipment.size()) + " equipment lists";
+            summary = counted(nation.surnames.size(), "surname") + ", " +
+                      counted(nation.uniforms.size(), "uniform") + ", " +
+                      counted(nation.ranks.size(), "rank") + ", " +
+                      counted(nation.equipment.size(), "equipment list");
         }
         port().setText(IDC_MOD_SUMMARY, summary);
     }

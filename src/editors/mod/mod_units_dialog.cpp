@@ -3,6 +3,7 @@
 #include "editors/mod/mod_units_dialog.h"
 
 #include "data/codec.h"
+#include "data/format/words.h"
 #include "editors/form/dialog_frame_win32.h"
 #include "editors/form/edit_history.h"
 #include "editors/form/table_win32.h"
@@ -131,8 +132,8 @@ private:
             return !isUnitThere(from_.sources, unit);
         });
         port().setText(IDC_MOD_SUMMARY,
-                       std::to_string(units_.size()) + " units" +
-                           (missing > 0 ? ", " + std::to_string(missing) + " that do not exist (!)" : ""));
+                       counted(units_.size(), "unit") +
+                           (missing > 0 ? ", " + std::to_string(missing) + " not there (!)" : ""));
         followHistory();
     }
 

@@ -3,6 +3,7 @@
 #include "app/commands/mod/mod_files_dialog.h"
 #include "app/windows/application.h"
 #include "app/workspace/mod_mode.h"
+#include "data/format/words.h"
 #include "platform/messages.h"
 #include "resources/resource.h"
 
@@ -17,12 +18,9 @@ namespace {
 
 /// Tells what went wrong, and what came of the rest.
 void tellModWork(const ModWork& work, std::string_view caption, std::string_view did) {
-    const auto files = [](std::size_t count) {
-        return std::to_string(count) + (count == 1 ? " file" : " files");
-    };
-    std::string text = files(work.done.size()) + " " + std::string(did) + ".";
+    std::string text = counted(work.done.size(), "file") + " " + std::string(did) + ".";
     if (!work.left.empty()) {
-        text += " " + files(work.left.size()) + " left as the mod has it.";
+        text += " " + counted(work.left.size(), "file") + " left as the mod has it.";
     }
     constexpr std::size_t mostLines = 12;
     for (std::size_t i = 0; i < work.failures.size() && i < mostLines; ++i) {

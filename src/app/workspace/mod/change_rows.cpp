@@ -1,6 +1,7 @@
 #include "app/workspace/mod/change_rows.h"
 
 #include "app/workspace/names/name_filter.h"
+#include "data/format/words.h"
 #include "mod/changes/changes_text.h"
 
 #include <algorithm>
@@ -8,10 +9,6 @@
 namespace varrocade {
 
 namespace {
-
-std::string countText(std::size_t count, std::string_view one, std::string_view more) {
-    return std::to_string(count) + " " + std::string(count == 1 ? one : more);
-}
 
 /// What stands in the columns of the game and of the mod for a file as a whole.
 std::array<std::string, 3> fileCells(const FileChange& file) {
@@ -24,7 +21,7 @@ std::array<std::string, 3> fileCells(const FileChange& file) {
     default:
         return {name, "",
                 file.values.empty() ? "the same values, laid out otherwise"
-                                    : countText(file.values.size(), "value", "values") + " changed"};
+                                    : counted(file.values.size(), "value") + " changed"};
     }
 }
 
@@ -53,7 +50,7 @@ std::vector<ChangeRow> changeRows(const ModChanges& changes, std::string_view fi
 std::string changesSummary(const ModChanges& changes) {
     std::string text = kindCounts(changes);
     if (!changes.same.empty()) {
-        text += "; " + countText(changes.same.size(), "file is", "files are") + " the game's own over again";
+        text += "; " + counted(changes.same.size(), "file") + " as the game has them";
     }
     if (!changes.failures.empty()) {
         text += "; " + std::to_string(changes.failures.size()) + " could not be read, such as " +

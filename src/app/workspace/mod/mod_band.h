@@ -8,8 +8,8 @@
 namespace varrocade {
 
 struct ModBand {
-    std::string name;             ///< "Mod: NAME"; empty outside mod mode, when there is no band
-    std::string remark;           ///< where the mod lies, or what is to be told of what is open
+    std::string name = {};        ///< "Mod: NAME"; empty outside mod mode, when there is no band
+    std::string remark = {};      ///< where the mod lies, or what is to be told of what is open
     bool isAboutGameFile = false; ///< the open file is the game's and is going to be the mod's
     bool operator==(const ModBand&) const = default;
 };
