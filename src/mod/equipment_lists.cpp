@@ -43,6 +43,13 @@ std::string nameOfTime(const ModPeriod& period) {
 
 } // namespace
 
+MonthRange monthsOf(const ModSettings& war, const ModPeriod& period) {
+    return {.first = period.firstYear != 0 ? monthCount(period.firstYear, period.firstMonth)
+                                           : monthCount(war.firstYear, war.firstMonth),
+            .last = period.lastYear != 0 ? monthCount(period.lastYear, period.lastMonth)
+                                         : monthCount(war.lastYear, war.lastMonth)};
+}
+
 int mostAvailable(const std::vector<AvailabilityPoint>& points, int firstMonth, int lastMonth) {
     std::vector<std::pair<int, int>> timeline;
     timeline.reserve(points.size());

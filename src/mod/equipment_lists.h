@@ -16,6 +16,14 @@ namespace varrocade {
 /// with it. A unit's number holds from the date of its point on.
 int mostAvailable(const std::vector<AvailabilityPoint>& points, int firstMonth, int lastMonth);
 
+/// The first and the last month of a time, counted in that way.
+struct MonthRange {
+    int first = 0;
+    int last = 0;
+};
+/// A period within the war that a mod covers, which an open end of it goes to.
+MonthRange monthsOf(const ModSettings& war, const ModPeriod& period);
+
 /// A unit that may be listed.
 struct EquipmentSource {
     Category category = Category::Vehicles;

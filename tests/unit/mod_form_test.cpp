@@ -2,6 +2,8 @@
 
 #include "editors/mod/mod_forms.h"
 
+#include "editors/mod/mod_units.h"
+
 #include "fake_form_port.h"
 #include "resources/resource.h"
 
@@ -75,7 +77,73 @@ TEST(ModForm, CreditsAndSurnamesAreLines) {
     EXPECT_EQ(surnames, (std::vector<ModSurname>{{"Smith", 1}, {"adams", 3}, {"Brown", 1}, {"Adams", 3}}));
     sortSurnames(surnames);
     EXPECT_EQ(surnames, (std::vector<ModSurname>{{"adams", 3}, {"Adams", 3}, {"Brown", 1}, {"Smith", 1}}));
+    sortSurnamesByName(surnames);
+    EXPECT_EQ(surnames.back().name, "Smith");
+    surnames.push_back({"SMITH", 9});
+    dropDoubles(surnames);
+    EXPECT_EQ(surnames, (std::vector<ModSurname>{{"adams", 3}, {"Brown", 1}, {"Smith", 9}}));
     EXPECT_EQ(namedColours().size(), 10U);
+}
+
+TEST(ModForm, ListsGoBackAndForth) {
+    std::vector<ModRank> ranks = {{"Private", ""}, {"General", ""}};
+    VectorListModel<ModRank> model(ranks, rankShape());
+    model.note();
+    EXPECT_FALSE(model.canUndo() || model.canRedo());
+    ranks[1].name = "Marshal";
+    EXPECT_TRUE(model.canUndo()) << "also what was not noted yet";
+    model.note();
+    model.add();
+    EXPECT_EQ(model.undo(), 2U);
+    EXPECT_EQ(model.undo(), 1U) << "the entry that is another";
+    EXPECT_EQ(ranks[1].name, "General");
+    EXPECT_EQ(model.undo(), std::nullopt);
+    EXPECT_EQ(model.redo(), 1U);
+    EXPECT_EQ(model.redo(), 2U);
+    FakeFormPort port;
+    model.show(2, port);
+    EXPECT_TRUE(model.read(2, port)) << "still new: a rank needs a name";
+    EXPECT_EQ(model.undo(), 2U);
+    ranks.pop_back();
+    model.resized();
+    model.note();
+    EXPECT_FALSE(model.canRedo()) << "something else was done";
+    EditHistory<int> history(0);
+    for (int i = 1; i < 300; ++i) {
+        history.note(i);
+    }
+    int steps = 0;
+    for (const int* state = history.undo(299); state != nullptr; state = history.undo(*state)) {
+        ++steps;
+    }
+    EXPECT_EQ(steps, 99) << "the oldest are forgotten";
+}
+
+TEST(ModForm, EquipmentHasTwoSides) {
+    const std::vector<EquipmentSource> sources = {
+        {Category::Vehicles, "Tank", "NATIONALITY_FRENCH", {{1, 1940, 5000}}},
+        {Category::Vehicles, "Old Tank", "NATIONALITY_FRENCH", {{1, 1917, 3}, {1, 1919, 0}}},
+        {Category::Infantry, "Men", "NATIONALITY_GERMAN", {}}};
+    ModSettings war;
+    const MonthRange year = monthsOf(war, {.firstYear = 1940, .lastYear = 1940});
+    EXPECT_EQ(monthsOf(war, {}).first, 1939 * 12);
+    std::vector<ModListedUnit> listed = {{"tank", "infantry", 2, 7}};
+    using Places = std::vector<std::size_t>;
+    EXPECT_EQ(unitsToOffer(sources, {}, listed), (Places{0, 1, 2})) << "the listed one is of another kind";
+    EXPECT_EQ(unitsToOffer(sources, {.words = "tank old"}, listed), Places{1});
+    EXPECT_EQ(unitsToOffer(sources, {.words = "", .category = Category::Infantry}, listed), Places{2});
+    EXPECT_EQ(unitsToOffer(sources, {.words = "", .nationality = "NATIONALITY_FRENCH", .time = year}, listed),
+              Places{0});
+    listUnits(listed, sources, Places{0, 2}, year);
+    EXPECT_EQ(listed[1], (ModListedUnit{"Tank", "vehicles", 1000, 0})) << "no share is greater";
+    EXPECT_EQ(listed[2].share, 1);
+    EXPECT_EQ(unitsToOffer(sources, {}, listed), Places{1});
+    EXPECT_EQ(listedCells(sources, listed[0])[0], "tank  (!) there is no such unit");
+    EXPECT_EQ(commonNumber(listed, Places{1, 2}, &ModListedUnit::share), "");
+    EXPECT_EQ(commonNumber(listed, Places{1, 2}, &ModListedUnit::cost), "0");
+    unlistUnits(listed, Places{0, 2});
+    EXPECT_EQ(listed.size(), 1U);
+    EXPECT_TRUE(isUnitThere(sources, listed[0]));
 }
 
 } // namespace

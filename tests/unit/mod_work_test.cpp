@@ -2,6 +2,10 @@
 
 #include "app/workspace/mod/mod_work.h"
 
+#include "app/workspace/mod/mod_band.h"
+#include "app/workspace/mod/mod_memory.h"
+#include "app/workspace/names/list_notice.h"
+#include "app/workspace/options.h"
 #include "mod/mod_settings.h"
 #include "workspace_fixture.h"
 
@@ -75,7 +79,48 @@ TEST_F(ModWorkTest, OpensModsOfAnyFolder) {
     EXPECT_TRUE(workspace.list.all.empty());
     EXPECT_TRUE(openOtherMod(workspace, folder.path() + "Game\\Mod\\"));
     EXPECT_TRUE(openOtherMod(workspace, folder.path() + "Elsewhere\\"));
-    EXPECT_EQ(workspace.otherMods, (Names{folder.path() + "Elsewhere\\", folder.path() + "Game\\Mod\\"}));
+    const Names both = {folder.path() + "Elsewhere\\", folder.path() + "Game\\Mod\\"};
+    EXPECT_EQ(workspace.otherMods, both);
+    showGameUnits(workspace, true);
+    Workspace next;
+    next.programFolder = workspace.programFolder;
+    ASSERT_TRUE(readOptions(next));
+    EXPECT_EQ(next.otherMods, both) << "also in the next run";
+    EXPECT_TRUE(next.showsGameUnits);
+    forgetMod(next, both[1]);
+    readModMemory(workspace);
+    EXPECT_EQ(workspace.otherMods, Names{both[0]});
+    folder.write("Game\\editor.txt", "<editor><mod>no backslash</mod><mod>A\\</mod><mod>a\\</mod><mod>" +
+                                         std::string(300, 'x') + "\\</mod><mod></mod><x></x></editor>");
+    readModMemory(workspace);
+    EXPECT_EQ(workspace.otherMods, Names{"A\\"});
+    EXPECT_FALSE(workspace.showsGameUnits);
+}
+
+TEST_F(ModWorkTest, TellsWhatCanBeBroughtInAndWhereItGoes) {
+    EXPECT_EQ(namesToCopy(workspace, Category::Vehicles), Names{"German Tank"});
+    EXPECT_EQ(namesToRemove(workspace, Category::Vehicles), Names{"German truck"});
+    EXPECT_EQ(modBand(workspace), (ModBand{"Mod: M", workspace.modFolder}));
+    workspace.hasStartedInMod = true;
+    EXPECT_NE(modBand(workspace).remark.find("has started in the mod"), std::string::npos);
+    chooseCategory(workspace, Category::Infantry);
+    const ListNotice notice = listNotice(workspace);
+    EXPECT_EQ(notice.remedy, ListRemedy::ShowGameUnits) << "the mod has no infantry, the game has";
+    showGameUnits(workspace, true);
+    EXPECT_EQ(listNotice(workspace).text, "");
+    openEntry(workspace, "German Squad");
+    const std::string path = dataFilePath(workspace.modFolder, Category::Infantry, "German Squad");
+    EXPECT_EQ(modBand(workspace).remark, "The game's file. What is changed is saved as " + path);
+    change("Ours");
+    EXPECT_TRUE(modBand(workspace).isAboutGameFile);
+    EXPECT_TRUE(modBand(workspace).remark.ends_with("going to be saved as " + path));
+    saveOpenRecord(workspace);
+    EXPECT_FALSE(modBand(workspace).isAboutGameFile);
+    chooseCategory(workspace, Category::Aircraft);
+    EXPECT_EQ(listNotice(workspace).remedy, ListRemedy::None) << "the game has none, either";
+    leaveModMode(workspace);
+    EXPECT_EQ(modBand(workspace), ModBand());
+    EXPECT_FALSE(workspace.hasStartedInMod);
 }
 
 } // namespace

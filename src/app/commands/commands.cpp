@@ -23,6 +23,8 @@
 #include "app/workspace/edits.h"
 #include "app/workspace/file_actions.h"
 #include "app/workspace/file_steps.h"
+#include "app/workspace/mod/mod_memory.h"
+#include "app/workspace/mod/mod_work.h"
 #include "app/workspace/mod_mode.h"
 #include "app/workspace/names/list_notice.h"
 #include "app/workspace/record/unsaved_records.h"
@@ -164,6 +166,9 @@ void mendEmptyList() {
     case ListRemedy::ChooseFolder:
         chooseProgramFolder();
         break;
+    case ListRemedy::ShowGameUnits:
+        showGameUnits(theWorkspace(), true);
+        break;
     }
 }
 
@@ -251,6 +256,22 @@ void modMode() {
     }
 }
 
+template <std::size_t Place>
+void openRecent() {
+    openRecentMod(Place);
+}
+
+template <std::size_t Place>
+bool isRecentMod() {
+    return Place < theWorkspace().otherMods.size();
+}
+
+template <std::size_t Place>
+constexpr Command recentModRow() {
+    static_assert(Place < MostOtherMods);
+    return {IDM_MOD_RECENT + static_cast<int>(Place), openRecent<Place>, isRecentMod<Place>};
+}
+
 constexpr auto Commands = std::to_array<Command>({
     {IDC_VEHICLES, choose<Category::Vehicles>, always},
     {IDC_AT_GUNS, choose<Category::AtGuns>, always},
@@ -267,10 +288,20 @@ constexpr auto Commands = std::to_array<Command>({
     {IDM_MOD_MODE, modMode, always},
     {IDM_EDIT_MOD, editModSettings, inModMode},
     {IDM_MOD_GAME_UNITS, toggleGameUnits, inModMode},
-    {IDM_MOD_COPY, copySelectedIntoMod, isGameUnitSelected},
-    {IDM_MOD_REMOVE, removeSelectedFromMod, isModUnitSelected},
+    {IDC_MOD_GAME_UNITS, toggleGameUnits, inModMode},
+    {IDM_MOD_COPY, copyFilesIntoMod, inModMode},
+    {IDM_MOD_REMOVE, removeFilesFromMod, inModMode},
     {IDM_MOD_OPEN, browseForMod, always},
     {IDM_MOD_CHANGES, showModChanges, inModMode},
+    recentModRow<0>(),
+    recentModRow<1>(),
+    recentModRow<2>(),
+    recentModRow<3>(),
+    recentModRow<4>(),
+    recentModRow<5>(),
+    recentModRow<6>(),
+    recentModRow<7>(),
+    recentModRow<8>(),
     {IDM_PENETRATION, penetrationCalculations, always},
     {IDM_CAN_PENETRATE, canItPenetrate, always},
     {IDM_WEAPON_PROBLEMS, showWeaponProblems, hasWeaponProblems},
@@ -341,6 +372,7 @@ void updateMenu(HMENU menu) {
                        MF_BYCOMMAND);
     CheckMenuItem(menu, IDM_MOD_GAME_UNITS,
                   MF_BYCOMMAND | (theWorkspace().showsGameUnits ? MF_CHECKED : MF_UNCHECKED));
+    listRecentMods(menu);
     CheckMenuItem(menu, IDM_SHOW_MARKS, MF_BYCOMMAND | (application().showMarks ? MF_CHECKED : MF_UNCHECKED));
     for (const Command& command : Commands) {
         EnableMenuItem(menu, static_cast<UINT>(command.id),
@@ -358,6 +390,10 @@ void updateButtons() {
         if (id >= IDC_VEHICLES && id <= IDC_WEAPONS) {
             const bool isChosen = id - IDC_VEHICLES == static_cast<int>(theWorkspace().category);
             SendMessageA(child, BM_SETCHECK, isChosen ? BST_CHECKED : BST_UNCHECKED, 0);
+        }
+        if (id == IDC_MOD_GAME_UNITS) {
+            SendMessageA(child, BM_SETCHECK, theWorkspace().showsGameUnits ? BST_CHECKED : BST_UNCHECKED, 0);
+            ShowWindow(child, theWorkspace().modMode ? SW_SHOWNA : SW_HIDE);
         }
         if (id == IDC_EDIT_DETAILS) {
             ShowWindow(child, canEditOpenRecord() ? SW_SHOWNA : SW_HIDE);

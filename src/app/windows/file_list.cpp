@@ -158,7 +158,7 @@ void showNotice() {
     HWND words = GetDlgItem(parent, IDC_LIST_NOTICE);
     HWND remedy = GetDlgItem(parent, IDC_LIST_REMEDY);
     SetWindowTextA(words, notice.text.c_str());
-    SetWindowTextA(remedy, notice.remedy == ListRemedy::ChooseFolder ? "Choose folder..." : "Show all");
+    SetWindowTextA(remedy, std::string(remedyText(notice.remedy)).c_str());
     ShowWindow(words, notice.text.empty() ? SW_HIDE : SW_SHOWNA);
     ShowWindow(remedy, notice.remedy == ListRemedy::None ? SW_HIDE : SW_SHOWNA);
 }

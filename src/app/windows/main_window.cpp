@@ -8,6 +8,7 @@
 #include "app/windows/drawing_window.h"
 #include "app/windows/file_list.h"
 #include "app/windows/menus/list_menu.h"
+#include "app/windows/mod_band_win32.h"
 #include "app/windows/sheet_window.h"
 #include "app/workspace/category_list.h"
 #include "app/workspace/journal.h"
@@ -95,7 +96,8 @@ void layOut(HWND window) {
     for (std::size_t i = 0; i < FileButtons.size(); ++i) {
         move(window, FileButtons[i].id, filePlaces[i]);
     }
-    move(window, IDC_FILTER, filterPlace());
+    move(window, IDC_FILTER, theWorkspace().modMode ? filterBesideBoxPlace() : filterPlace());
+    move(window, IDC_MOD_GAME_UNITS, gameUnitsBoxPlace());
     move(window, IDC_FILE_LIST, fileListPlace(height));
     move(window, IDC_LIST_NOTICE, listNoticePlace());
     move(window, IDC_LIST_REMEDY, listRemedyPlace());
@@ -119,6 +121,8 @@ LRESULT create(HWND window) {
         createButton(window, row, BS_CHECKBOX | BS_PUSHLIKE);
     }
     createFileList(window);
+    createButton(window, {IDC_MOD_GAME_UNITS, "Game's units too"}, BS_CHECKBOX);
+    createModBand(window);
     for (const ButtonRow& row : FileButtons) {
         createButton(window, row);
     }
@@ -166,6 +170,7 @@ void limitSize(HWND window, MINMAXINFO& limits) {
     RECT least{0, 0, MulDiv(LeastClientWidth, dpi, USER_DEFAULT_SCREEN_DPI),
                MulDiv(LeastClientHeight, dpi, USER_DEFAULT_SCREEN_DPI)};
     AdjustWindowRectEx(&least, WS_OVERLAPPEDWINDOW, TRUE, 0);
+    least.bottom += modBandHeight();
     MONITORINFO monitor{};
     monitor.cbSize = sizeof(monitor);
     GetMonitorInfoA(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST), &monitor);
@@ -213,7 +218,8 @@ LRESULT command(HWND window, WPARAM parameter) {
     default:
         // A button that is clicked takes the keyboard with it; the list is where it is wanted.
         if (runCommand(id) && notification == BN_CLICKED && IsChild(window, GetFocus()) &&
-            ((id <= IDC_WEAPONS && id >= IDC_VEHICLES) || id == IDC_LIST_REMEDY)) {
+            ((id <= IDC_WEAPONS && id >= IDC_VEHICLES) || id == IDC_LIST_REMEDY ||
+             id == IDC_MOD_GAME_UNITS)) {
             SetFocus(GetDlgItem(window, IDC_FILE_LIST));
         }
         return 0;
@@ -245,6 +251,13 @@ LRESULT CALLBACK mainWindowProcedure(HWND window, UINT message, WPARAM parameter
     case WM_CREATE:
         return create(window);
     case WM_SIZE:
+        layOut(window);
+        return 0;
+    case WM_NCCALCSIZE:
+    case WM_NCPAINT:
+    case WM_NCACTIVATE:
+        return withModBand(window, message, parameter, detail);
+    case LayOutMessage:
         layOut(window);
         return 0;
     case WM_GETMINMAXINFO:

@@ -10,4 +10,7 @@ HWND createMainWindow();
 /// Whether a message was the main window's keyboard navigation, or one that its accelerators or dialogs took.
 bool isWindowNavigation(MSG& message);
 
+/// Has the main window lay its controls out anew, without its size having changed.
+inline constexpr UINT LayOutMessage = WM_APP + 2;
+
 } // namespace varrocade

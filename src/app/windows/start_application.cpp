@@ -3,6 +3,7 @@
 #include "app/windows/application.h"
 #include "app/windows/main_window.h"
 #include "app/windows/message_boxes.h"
+#include "app/windows/mod_band_win32.h"
 #include "app/windows/window_listener.h"
 #include "app/workspace/journal.h"
 #include "app/workspace/mod_mode.h"
@@ -163,7 +164,8 @@ int startApplication(HINSTANCE instance, int showCommand) {
         return 0;
     }
     app.menu = GetMenu(app.window);
-    detectModMode(workspace);
+    workspace.hasStartedInMod = detectModMode(workspace);
+    showModBand();
     ShowWindow(app.window, showCommand);
     UpdateWindow(app.window);
     tellOfUnusableFolder();

@@ -7,6 +7,8 @@
 #include "app/windows/display/unit_display.h"
 #include "app/windows/drawing_window.h"
 #include "app/windows/file_list.h"
+#include "app/windows/main_window.h"
+#include "app/windows/mod_band_win32.h"
 #include "resources/resource.h"
 
 namespace varrocade {
@@ -25,6 +27,7 @@ public:
         display.drag.reset();
         displayChanged();
         updateButtons();
+        showModBand();
         redrawNow();
         followPerformance();
         prefetchNeighbours();
@@ -32,12 +35,16 @@ public:
 
     void recordChanged() override {
         displayChanged();
+        showModBand();
         redrawNow();
         redrawOpenEntry();
         followPerformance();
     }
 
-    void recordSaved() override { redrawOpenEntry(); }
+    void recordSaved() override {
+        showModBand();
+        redrawOpenEntry();
+    }
 
     void marksChanged() override { redrawEntries(); }
 
@@ -48,6 +55,7 @@ public:
     void namesChanged() override {
         showNames();
         updateButtons();
+        showModBand();
     }
 
     void selectionChanged() override {
@@ -65,6 +73,8 @@ public:
         const std::string title =
             "Varrocade Data Editor" + (workspace.modMode ? " - Mod Mode from: " + workspace.modFolder : "");
         SetWindowTextA(app.window, title.c_str());
+        showModBand();
+        SendMessageA(app.window, LayOutMessage, 0, 0);
     }
 };
 

@@ -30,6 +30,7 @@ std::string userModFolder(const Workspace& workspace) {
 /// Reads the weapons of the present mode and has it shown with the list of its files.
 void enterMode(Workspace& workspace) {
     loadCatalogue(workspace);
+    workspace.hasStartedInMod = false;
     // A file of the same name in the other folder is another file.
     workspace.list.selected.clear();
     workspace.listener->modeChanged();

@@ -1,5 +1,6 @@
 #include "app/workspace/options.h"
 
+#include "app/workspace/mod/mod_memory.h"
 #include "app/workspace/options_file.h"
 #include "platform/messages.h"
 #include "platform/safe_save.h"
@@ -18,6 +19,7 @@ std::string optionsPath(const Workspace& workspace) {
 
 bool readOptions(Workspace& workspace) {
     workspace.gameFolder.clear();
+    readModMemory(workspace);
     std::string content;
     if (!workspace.files->read(optionsPath(workspace), content)) {
         return true;

@@ -5,7 +5,8 @@
 
 namespace varrocade {
 
-/// Reads "options.dat" in the program's folder; a missing one leaves the game folder empty. False when it
+/// Reads "options.dat" in the program's folder, and what is remembered of mods; a missing one leaves the game
+/// folder empty. False when it
 /// announces a longer text than a path can be, and the program must not go on.
 bool readOptions(Workspace& workspace);
 

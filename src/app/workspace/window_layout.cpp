@@ -31,6 +31,14 @@ Place filterPlace() {
     return {4, 43, 350, 22};
 }
 
+Place filterBesideBoxPlace() {
+    return {4, 43, 222, 22};
+}
+
+Place gameUnitsBoxPlace() {
+    return {232, 43, 122, 22};
+}
+
 Place listNoticePlace() {
     return {14, 96, 314, 130};
 }

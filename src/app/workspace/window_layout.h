@@ -37,9 +37,16 @@ Place firstWindowPlace(int workWidth, int workHeight, const FrameMetrics& metric
 /// The list box and the filter above it, for a client area of `height`.
 Place fileListPlace(int height);
 Place filterPlace();
+/// In mod mode the filter leaves room for the box beside it that shows the game's units.
+Place filterBesideBoxPlace();
+Place gameUnitsBoxPlace();
 /// What stands over the list while it is empty: words and the button below them.
 Place listNoticePlace();
 Place listRemedyPlace();
+
+/// The height of the band that names the mod. It lies between the menu and the client area, in which
+/// everything keeps its place.
+inline constexpr int ModBandHeight = 22;
 
 inline constexpr std::size_t FileButtonCount = 4;
 /// The four file buttons below the list, in the order New, Duplicate, Rename, Delete.

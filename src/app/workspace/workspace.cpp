@@ -57,23 +57,24 @@ std::vector<std::string> namesOfFiles(const std::string& folder) {
     return names;
 }
 
+std::vector<std::string> namesOfGameAlone(const Workspace& workspace, Category category) {
+    std::set<std::string> ofMod;
+    for (const std::string& name : namesOfFiles(categoryFolder(workspace.modFolder, category))) {
+        ofMod.insert(loweredText(name));
+    }
+    std::vector<std::string> names = namesOfFiles(categoryFolder(workspace.programFolder, category));
+    std::erase_if(names, [&](const std::string& name) { return ofMod.contains(loweredText(name)); });
+    return names;
+}
+
 std::vector<std::string> namesToList(const Workspace& workspace, std::vector<std::string>& ofGame) {
     std::vector<std::string> names = namesOfFiles(categoryFolder(baseFolder(workspace), workspace.category));
     ofGame.clear();
-    if (!workspace.modMode || !workspace.showsGameUnits) {
-        return names;
+    if (workspace.modMode && workspace.showsGameUnits) {
+        ofGame = namesOfGameAlone(workspace, workspace.category);
+        names.insert(names.end(), ofGame.begin(), ofGame.end());
+        std::sort(ofGame.begin(), ofGame.end());
     }
-    std::set<std::string> ofMod;
-    for (const std::string& name : names) {
-        ofMod.insert(loweredText(name));
-    }
-    for (std::string& name : namesOfFiles(categoryFolder(workspace.programFolder, workspace.category))) {
-        if (!ofMod.contains(loweredText(name))) {
-            names.push_back(name);
-            ofGame.push_back(std::move(name));
-        }
-    }
-    std::sort(ofGame.begin(), ofGame.end());
     return names;
 }
 

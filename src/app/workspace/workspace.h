@@ -95,6 +95,7 @@ struct Workspace {
     bool modMode = false;
     std::string modFolder; ///< keeps the last folder probed while mod mode is off
     std::optional<ModSettings> modSettings;
+    bool hasStartedInMod = false;       ///< which it found itself, and nothing has switched since
     bool showsGameUnits = false;        ///< behind the mod's
     std::vector<std::string> otherMods; ///< folders of mods that were opened, the last one first
 
@@ -134,6 +135,9 @@ void loadCatalogue(Workspace& workspace);
 
 /// The names of the data files of a folder, without their ending.
 std::vector<std::string> namesOfFiles(const std::string& folder);
+
+/// The names of the game's files of a category that the mod's folder has none of, letter case aside.
+std::vector<std::string> namesOfGameAlone(const Workspace& workspace, Category category);
 
 /// The names that the list is filled with: in mod mode the mod's, and the game's others behind them where
 /// these are shown. `ofGame` becomes those.

@@ -14,6 +14,10 @@ std::string grouped(std::int32_t value) {
     return digits;
 }
 
+std::string counted(std::size_t count, std::string_view one) {
+    return std::to_string(count) + " " + std::string(one) + (count == 1 ? "" : "s");
+}
+
 std::string yesNo(bool value) {
     return value ? "yes" : "no";
 }

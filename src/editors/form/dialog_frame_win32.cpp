@@ -1,6 +1,7 @@
 #include "editors/form/dialog_frame_win32.h"
 
 #include "editors/form/combo_list_win32.h"
+#include "editors/form/list_keys_win32.h"
 #include "platform/messages.h"
 
 #include <algorithm>
@@ -103,6 +104,7 @@ INT_PTR DialogFrame::handleMessage(UINT message, WPARAM parameter, LPARAM pointe
         }
         place();
         init();
+        bindUndoKeys(dialog_);
         return TRUE;
     case WM_COMMAND:
         return handleCommand(LOWORD(parameter), HIWORD(parameter)) ? TRUE : FALSE;

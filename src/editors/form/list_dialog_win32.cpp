@@ -32,6 +32,8 @@ ListDialog::ListDialog(const ListDialogTerms& terms, ListModel& model)
     onButton(IDC_ENTRY_DELETE, [this] { deleteEntry(); });
     onButton(IDC_ENTRY_UP, [this] { moveEntry(-1); });
     onButton(IDC_ENTRY_DOWN, [this] { moveEntry(1); });
+    onButton(IDC_ENTRY_UNDO, [this] { goBack(&ListModel::undo); });
+    onButton(IDC_ENTRY_REDO, [this] { goBack(&ListModel::redo); });
 }
 
 void ListDialog::init() {
@@ -49,6 +51,33 @@ void ListDialog::updateButtons() {
     port().setEnabled(IDC_ENTRY_UP, shown_ > 0);
     port().setEnabled(IDC_ENTRY_DOWN, isShown() && shown_ < lastIndex());
     keepKeyboard(handle(), former, IDC_ENTRY_LIST);
+    updateUndo();
+}
+
+void ListDialog::settle() {
+    if (GetDlgItem(handle(), IDC_ENTRY_UNDO) != nullptr) {
+        model_.note();
+        updateUndo();
+    }
+}
+
+void ListDialog::updateUndo() {
+    HWND former = GetFocus();
+    port().setEnabled(IDC_ENTRY_UNDO, model_.canUndo());
+    port().setEnabled(IDC_ENTRY_REDO, model_.canRedo());
+    keepKeyboard(handle(), former, IDC_ENTRY_LIST);
+}
+
+/// Text that cannot be taken is the first thing to go.
+void ListDialog::goBack(std::optional<std::size_t> (ListModel::*step)()) {
+    if (isShown() && model_.read(shownIndex(), port())) {
+        refreshShown();
+        return;
+    }
+    if (const auto place = (model_.*step)()) {
+        refresh(std::min(static_cast<int>(*place), lastIndex()));
+        preview();
+    }
 }
 
 void ListDialog::followForm() {
@@ -85,6 +114,7 @@ void ListDialog::followTyping(int control) {
         followForm();
         return;
     }
+    updateUndo();
     HWND box = GetDlgItem(handle(), IDC_ENTRY_LIST);
     SendMessageA(box, WM_SETREDRAW, FALSE, 0);
     SendMessageA(box, LB_DELETESTRING, shownIndex(), 0);
@@ -102,6 +132,7 @@ bool ListDialog::addEntry(void (ListModel::*how)(std::size_t)) {
     if (!takeShown() || !hasRoom()) {
         return false;
     }
+    settle();
     if (how == nullptr) {
         model_.add();
     } else {
@@ -121,6 +152,7 @@ void ListDialog::focusFirstField() {
 }
 
 void ListDialog::deleteEntry() {
+    settle();
     model_.erase(shownIndex());
     refresh(std::min(shown_, lastIndex()));
     preview();
@@ -131,6 +163,7 @@ void ListDialog::moveEntry(int step) {
     if (!isShown() || other < 0 || other > lastIndex() || !takeShown()) {
         return;
     }
+    settle();
     model_.swap(shownIndex(), static_cast<std::size_t>(other));
     refresh(other);
     preview();
@@ -142,6 +175,7 @@ void ListDialog::chooseEntry() {
         return;
     }
     if (takeShown()) {
+        settle();
         showEntry(chosen);
     } else {
         SendDlgItemMessageA(handle(), IDC_ENTRY_LIST, LB_SETCURSEL, shownIndex(), 0);
@@ -186,18 +220,28 @@ bool ListDialog::hasRoom() {
     return false;
 }
 
-void ListDialog::refresh(int chosen) {
+void ListDialog::fillList(int chosen, LRESULT top) {
     HWND box = GetDlgItem(handle(), IDC_ENTRY_LIST);
     SendMessageA(box, WM_SETREDRAW, FALSE, 0);
     SendMessageA(box, LB_RESETCONTENT, 0, 0);
     for (std::size_t i = 0; i < model_.count(); ++i) {
         SendMessageA(box, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(model_.line(i).c_str()));
     }
+    SendMessageA(box, LB_SETTOPINDEX, static_cast<WPARAM>(top), 0);
     SendMessageA(box, LB_SETCURSEL, static_cast<WPARAM>(chosen), 0);
     measureLines(box);
     SendMessageA(box, WM_SETREDRAW, TRUE, 0);
     InvalidateRect(box, nullptr, TRUE);
+}
+
+void ListDialog::showLines() {
+    fillList(shown_, SendDlgItemMessageA(handle(), IDC_ENTRY_LIST, LB_GETTOPINDEX, 0, 0));
+}
+
+void ListDialog::refresh(int chosen) {
+    fillList(chosen, SendDlgItemMessageA(handle(), IDC_ENTRY_LIST, LB_GETTOPINDEX, 0, 0));
     showEntry(chosen);
+    settle();
 }
 
 } // namespace varrocade

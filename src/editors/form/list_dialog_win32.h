@@ -46,11 +46,16 @@ protected:
     [[nodiscard]] std::size_t shownIndex() const { return static_cast<std::size_t>(shown_); }
     /// Takes the form over into the shown entry; false after telling what is wrong with it.
     bool takeShown();
+    /// Makes a step that can be undone of what was changed since the last one. Where the template has
+    /// IDC_ENTRY_UNDO, the buttons of the list do so themselves, and going to another entry.
+    void settle();
     /// Whether another entry fits; false after telling that none does.
     bool hasRoom();
     /// Shows the list's entries anew and chooses one of them; -1 for none.
     void refresh(int chosen);
     void refreshShown() { refresh(shown_); }
+    /// Shows other lines for the same entries, while the form stays as it is.
+    void showLines();
 
     bool notice(int control, int notification) override;
 
@@ -60,7 +65,10 @@ private:
     [[nodiscard]] int lastIndex() const { return static_cast<int>(model_.count()) - 1; }
     void showEntry(int index);
     void followForm();
+    void fillList(int chosen, LRESULT top);
     void updateButtons();
+    void updateUndo();
+    void goBack(std::optional<std::size_t> (ListModel::*step)());
     void followTyping(int control);
     bool addEntry(void (ListModel::*how)(std::size_t));
     void focusFirstField();

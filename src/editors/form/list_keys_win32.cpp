@@ -1,10 +1,12 @@
 #include "editors/form/list_keys_win32.h"
 
+#include "resources/resource.h"
 #include "view/painting/gdi_object_win32.h"
 
 #include <commctrl.h>
 
 #include <algorithm>
+#include <array>
 #include <string>
 #include <vector>
 
@@ -36,7 +38,41 @@ LRESULT CALLBACK listKeysProcedure(HWND list, UINT message, WPARAM parameter, LP
     return withAlt ? DefWindowProcA(list, message, parameter, detail) : 0;
 }
 
+// What Ctrl with these letters comes to.
+constexpr WPARAM ControlY = 'Y' - 'A' + 1;
+constexpr WPARAM ControlZ = 'Z' - 'A' + 1;
+
+LRESULT CALLBACK undoKeysProcedure(HWND control, UINT message, WPARAM parameter, LPARAM detail, UINT_PTR,
+                                   DWORD_PTR dialog) {
+    const bool isUndo = message == WM_CHAR && parameter == ControlZ;
+    const bool isRedo = message == WM_CHAR && parameter == ControlY;
+    // What is no edit answers nothing.
+    if ((!isUndo && !isRedo) || (isUndo && SendMessageA(control, EM_CANUNDO, 0, 0) == TRUE)) {
+        return DefSubclassProc(control, message, parameter, detail);
+    }
+    HWND owner = reinterpret_cast<HWND>(dialog);
+    const int id = isUndo ? IDC_ENTRY_UNDO : IDC_ENTRY_REDO;
+    HWND button = GetDlgItem(owner, id);
+    if (IsWindowEnabled(button) != FALSE) {
+        SendMessageA(owner, WM_COMMAND, MAKEWPARAM(id, BN_CLICKED), reinterpret_cast<LPARAM>(button));
+    }
+    return 0;
+}
+
+BOOL CALLBACK bindUndoKeysOf(HWND control, LPARAM dialog) {
+    SetWindowSubclass(control, undoKeysProcedure, 1, static_cast<DWORD_PTR>(dialog));
+    return TRUE;
+}
+
 } // namespace
+
+void bindUndoKeys(HWND dialog) {
+    if (GetDlgItem(dialog, IDC_ENTRY_UNDO) == nullptr) {
+        return;
+    }
+    EnumChildWindows(dialog, bindUndoKeysOf, reinterpret_cast<LPARAM>(dialog));
+    addTips(dialog, std::to_array<Tip>({{IDC_ENTRY_UNDO, "Ctrl+Z"}, {IDC_ENTRY_REDO, "Ctrl+Y"}}));
+}
 
 void bindListKeys(HWND dialog, int listBox, std::span<const ListKey> keys) {
     SetWindowSubclass(GetDlgItem(dialog, listBox), listKeysProcedure, keys.size(),

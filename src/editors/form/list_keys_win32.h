@@ -19,6 +19,10 @@ struct ListKey {
 /// the buttons tell of them.
 void bindListKeys(HWND dialog, int listBox, std::span<const ListKey> keys);
 
+/// Has Ctrl+Z and Ctrl+Y press IDC_ENTRY_UNDO and IDC_ENTRY_REDO of a dialog that has these, wherever the
+/// keyboard is. An edit takes back what was typed into it before.
+void bindUndoKeys(HWND dialog);
+
 /// A text that a control shows while the mouse rests on it.
 struct Tip {
     int control;

@@ -2,10 +2,13 @@
 // A list of entries of which the chosen one is shown in a form: crew, exhaust pipes, ammunition and their
 // like.
 
+#include "editors/form/edit_history.h"
 #include "editors/form/form.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -47,6 +50,15 @@ public:
     virtual void offer(FormPort& port, std::span<const std::string> imageBases) = 0;
     /// Names what the shown entry holds that the lists do not offer.
     virtual std::string unknown(std::size_t index, FormPort& port) = 0;
+
+    /// Makes a step of what was changed since the last one; the first call begins the history.
+    virtual void note() = 0;
+    [[nodiscard]] virtual bool canUndo() const = 0;
+    [[nodiscard]] virtual bool canRedo() const = 0;
+    /// Goes back one step or forth again, and gives the first entry that is another then; nothing where there
+    /// is no step.
+    virtual std::optional<std::size_t> undo() = 0;
+    virtual std::optional<std::size_t> redo() = 0;
 };
 
 /// How entries of one kind are shown.
@@ -142,6 +154,25 @@ public:
         return unknownChoices(port, shape_.form, entries_[index]);
     }
 
+    void note() override {
+        if (history_) {
+            history_->note(state());
+        } else {
+            history_.emplace(state());
+        }
+    }
+    [[nodiscard]] bool canUndo() const override { return history_ && history_->canUndo(state()); }
+    [[nodiscard]] bool canRedo() const override { return history_ && history_->canRedo(state()); }
+    std::optional<std::size_t> undo() override {
+        return history_ ? goTo(history_->undo(state())) : std::nullopt;
+    }
+    std::optional<std::size_t> redo() override {
+        return history_ ? goTo(history_->redo(state())) : std::nullopt;
+    }
+
+    /// Tells that entries were taken out or put in behind the model's back, none of them new.
+    void resized() { isNew_.assign(entries_.size(), 0); }
+
     /// Puts in a new entry where it belongs.
     void insert(Entry entry) {
         newest_ = surroundings_.place != nullptr ? surroundings_.place(entry) : entries_.size();
@@ -151,10 +182,27 @@ public:
     }
 
 private:
+    /// The entries, and which of them are new.
+    using State = std::pair<std::vector<Entry>, std::vector<char>>;
+
+    [[nodiscard]] State state() const { return {entries_, isNew_}; }
+    std::optional<std::size_t> goTo(const State* state) {
+        if (state == nullptr) {
+            return std::nullopt;
+        }
+        const auto differs =
+            std::mismatch(entries_.begin(), entries_.end(), state->first.begin(), state->first.end());
+        const auto place = static_cast<std::size_t>(differs.first - entries_.begin());
+        entries_ = state->first;
+        isNew_ = state->second;
+        return place;
+    }
+
     std::vector<Entry>& entries_;
     const ListShape<Entry>& shape_;
     ListSurroundings<Entry> surroundings_;
-    std::vector<char> isNew_; ///< whether the dialog made the entry
+    std::optional<EditHistory<State>> history_; ///< of dialogs that have one
+    std::vector<char> isNew_;                   ///< whether the dialog made the entry
     std::size_t newest_ = 0;
 };
 

@@ -1,5 +1,6 @@
 #include "editors/mod/mod_dialog.h"
 
+#include "editors/form/edit_history.h"
 #include "editors/form/form_dialog_win32.h"
 #include "editors/mod/mod_forms.h"
 #include "editors/mod/mod_list_dialogs.h"
@@ -18,13 +19,21 @@ class ModDialog final : public FormDialog {
 public:
     explicit ModDialog(ModEdit& edit)
         : FormDialog({.dialogTemplate = IDD_EDIT_MOD, .caption = "Edit Mod"}, form_), edit_(edit),
-          form_(edit.settings, modShape()) {
-        onButton(IDC_MOD_COLOURS, [this] { editColours(handle(), edit_.settings.colours); });
+          form_(edit.settings, modShape()), history_(edit.settings) {
+        onButton(IDC_MOD_COLOURS, [this] {
+            settle();
+            editColours(handle(), edit_.settings.colours);
+            settle();
+        });
         onButton(IDC_MOD_NATIONALITIES, [this] {
+            settle();
             editNationalities(handle(), edit_);
+            settle();
             summarize();
         });
         onButton(IDC_MOD_START_FROM, [this] { startAnew(); });
+        onButton(IDC_ENTRY_UNDO, [this] { goTo(history_.undo(typed())); });
+        onButton(IDC_ENTRY_REDO, [this] { goTo(history_.redo(typed())); });
     }
 
 private:
@@ -34,8 +43,62 @@ private:
                                 reinterpret_cast<LPARAM>(std::string(name).c_str()));
         }
         SendDlgItemMessageA(handle(), IDC_MOD_START, CB_SETCURSEL, 0, 0);
-        port().setText(IDC_MOD_CREDITS, creditsText(edit_.settings.credits));
+        showCredits();
         summarize();
+    }
+
+    void showCredits() {
+        // The port shows texts on one line.
+        SetDlgItemTextA(handle(), IDC_MOD_CREDITS, creditsText(edit_.settings.credits).c_str());
+    }
+
+    [[nodiscard]] std::vector<std::string> typedCredits() {
+        HWND edit = GetDlgItem(handle(), IDC_MOD_CREDITS);
+        std::string text(static_cast<std::size_t>(GetWindowTextLengthA(edit)) + 1, '\0');
+        text.resize(
+            static_cast<std::size_t>(GetWindowTextA(edit, text.data(), static_cast<int>(text.size()))));
+        return creditLines(text);
+    }
+
+    /// The settings as far as what is typed can be taken.
+    [[nodiscard]] ModSettings typed() {
+        ModSettings settings = edit_.settings;
+        readPossible(port(), modShape(), settings);
+        settings.credits = typedCredits();
+        return settings;
+    }
+
+    /// Makes a step of what was typed, or done in another dialog, since the last one.
+    void settle() {
+        edit_.settings = typed();
+        history_.note(edit_.settings);
+        followHistory();
+    }
+
+    void followHistory() {
+        const ModSettings present = typed();
+        port().setEnabled(IDC_ENTRY_UNDO, history_.canUndo(present));
+        port().setEnabled(IDC_ENTRY_REDO, history_.canRedo(present));
+    }
+
+    void goTo(const ModSettings* state) {
+        if (state != nullptr) {
+            edit_.settings = *state;
+            showCredits();
+            show();
+            summarize();
+        }
+    }
+
+    void follow() override { followHistory(); }
+
+    /// What was typed is a step once the keyboard goes elsewhere.
+    bool notice(int control, int notification) override {
+        if (notification == EN_KILLFOCUS) {
+            settle();
+            return false;
+        }
+        return FormDialog::notice(control, notification);
     }
 
     void summarize() {
@@ -64,19 +127,20 @@ private:
         }
         ModSettings start = startingSettings(static_cast<StartingPoint>(chosen));
         listEquipment(start, readEquipmentSources(edit_.folders));
+        settle();
         ModSettings& settings = edit_.settings;
-        readPossible(port(), modShape(), settings);
         settings.firstYear = start.firstYear;
         settings.firstMonth = start.firstMonth;
         settings.lastYear = start.lastYear;
         settings.lastMonth = start.lastMonth;
         settings.nationalities = std::move(start.nationalities);
+        history_.note(settings);
         show();
         summarize();
     }
 
     bool accept() override {
-        std::vector<std::string> credits = creditLines(port().text(IDC_MOD_CREDITS));
+        std::vector<std::string> credits = typedCredits();
         if (const auto error = refusalOfCredits(credits)) {
             refuse(*error);
             return false;
@@ -90,6 +154,7 @@ private:
 
     ModEdit& edit_;
     RecordForm<ModSettings> form_;
+    EditHistory<ModSettings> history_;
 };
 
 } // namespace

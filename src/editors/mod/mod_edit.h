@@ -9,6 +9,9 @@
 
 namespace varrocade {
 
+struct DrawingObjects;
+class PictureCache;
+
 /// What the "Edit Mod" dialogs work on.
 struct ModEdit {
     ModSettings settings; ///< the copy that they change
@@ -16,6 +19,8 @@ struct ModEdit {
     GameFolders folders; ///< whose units can be listed
     /// Writes what OK takes; false, after telling why, leaves the dialog open.
     std::function<bool(const ModSettings& settings)> save;
+    const DrawingObjects& drawing;
+    PictureCache& pictures; ///< that pictures are shown from
 };
 
 } // namespace varrocade

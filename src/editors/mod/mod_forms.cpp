@@ -3,6 +3,7 @@
 #include "data/format/clean_text.h"
 #include "data/format/numbers.h"
 #include "data/format/texts.h"
+#include "data/format/words.h"
 #include "data/unit/enumerations.h"
 #include "mod/mod_fields.h"
 #include "mod/starting_points.h"
@@ -10,6 +11,8 @@
 
 #include <algorithm>
 #include <array>
+#include <map>
+#include <utility>
 
 namespace varrocade {
 
@@ -100,7 +103,7 @@ constexpr auto EquipmentRows =
     withPeriod<ModEquipment>(FormRow<ModEquipment>(IDC_MOD_NAME, mf::EquipmentName));
 
 std::string equipmentLine(std::size_t, const ModEquipment& list) {
-    return list.name + " (" + periodText(list.period) + "), " + std::to_string(list.units.size()) + " units";
+    return list.name + " (" + periodText(list.period) + "), " + counted(list.units.size(), "unit");
 }
 
 // ---- other entries
@@ -148,25 +151,6 @@ std::optional<FormError> namelessRank(const ModRank& rank) {
                : std::nullopt;
 }
 
-constexpr auto UnitRows = std::to_array<FormRow<ModListedUnit>>({
-    {IDC_MOD_UNIT_FILE, mf::UnitFile},
-    {IDC_MOD_UNIT_KIND, mf::UnitCategory},
-    {IDC_MOD_SHARE, mf::UnitShare},
-    {IDC_MOD_COST, mf::UnitCost},
-});
-
-std::string unitLine(std::size_t, const ModListedUnit& unit) {
-    return unit.fileName + "  " + std::to_string(unit.share) +
-           (unit.cost > 0 ? ", " + std::to_string(unit.cost) + " points" : "");
-}
-
-std::optional<FormError> namelessUnit(const ModListedUnit& unit) {
-    return unit.fileName.empty()
-               ? std::optional(
-                     FormError{refusedInput(mf::UnitFile, "A file must be chosen"), IDC_MOD_UNIT_FILE})
-               : std::nullopt;
-}
-
 } // namespace
 
 const FormShape<ModSettings>& modShape() {
@@ -205,12 +189,6 @@ const ListShape<ModRank>& rankShape() {
 const ListShape<ModEquipment>& equipmentShape() {
     static const ListShape<ModEquipment> shape{
         .form = {.rows = EquipmentRows, .check = checkPeriod<ModEquipment>}, .line = equipmentLine};
-    return shape;
-}
-
-const ListShape<ModListedUnit>& listedUnitShape() {
-    static const ListShape<ModListedUnit> shape{
-        .form = {.rows = UnitRows}, .line = unitLine, .incomplete = namelessUnit};
     return shape;
 }
 
@@ -290,6 +268,31 @@ void sortSurnames(std::vector<ModSurname>& surnames) {
         return a.commonness != b.commonness ? a.commonness > b.commonness
                                             : compareIgnoringCase(a.name, b.name) < 0;
     });
+}
+
+void sortSurnamesByName(std::vector<ModSurname>& surnames) {
+    std::stable_sort(surnames.begin(), surnames.end(), [](const ModSurname& a, const ModSurname& b) {
+        return compareIgnoringCase(a.name, b.name) < 0;
+    });
+}
+
+void dropDoubles(std::vector<ModSurname>& surnames) {
+    std::map<std::string, std::size_t> places;
+    std::vector<ModSurname> kept;
+    for (ModSurname& surname : surnames) {
+        const auto [place, isNew] = places.try_emplace(loweredText(surname.name), kept.size());
+        if (isNew) {
+            kept.push_back(std::move(surname));
+        } else {
+            std::int32_t& commonness = kept[place->second].commonness;
+            commonness = std::max(commonness, surname.commonness);
+        }
+    }
+    surnames = std::move(kept);
+}
+
+std::string shownNationality(const ModNationality& nation) {
+    return nation.name.empty() ? displayName(nation.id, NationalityPrefix) : nation.name;
 }
 
 const std::vector<NamedColour>& namedColours() {

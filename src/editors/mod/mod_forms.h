@@ -18,7 +18,6 @@ const ListShape<ModSurname>& surnameShape();
 const ListShape<ModUniform>& modUniformShape();
 const ListShape<ModRank>& rankShape();
 const ListShape<ModEquipment>& equipmentShape();
-const ListShape<ModListedUnit>& listedUnitShape();
 
 /// A nationality that no entry has yet, with what is known of it.
 ModNationality nextNationality(const std::vector<ModNationality>& nations);
@@ -35,6 +34,13 @@ std::vector<ModSurname> surnamesOfText(std::string_view text);
 
 /// The most common first, equal ones by name, without regard to the case of letters.
 void sortSurnames(std::vector<ModSurname>& surnames);
+/// By name alone.
+void sortSurnamesByName(std::vector<ModSurname>& surnames);
+/// Leaves the first of each name, letter case aside, as common as the most common of them.
+void dropDoubles(std::vector<ModSurname>& surnames);
+
+/// What a nationality is called in the mod.
+std::string shownNationality(const ModNationality& nation);
 
 /// The colours by name, in the order of the file.
 struct NamedColour {

@@ -3,14 +3,21 @@
 #include "editors/mod/mod_list_dialogs.h"
 
 #include "data/format/texts.h"
+#include "data/format/words.h"
 #include "editors/form/clipboard_win32.h"
 #include "editors/form/list_dialog_win32.h"
 #include "editors/mod/mod_forms.h"
+#include "editors/mod/mod_pictures_win32.h"
+#include "editors/mod/mod_units.h"
+#include "editors/mod/mod_units_dialog.h"
 #include "mod/equipment_lists.h"
+#include "mod/mod_fields.h"
 #include "mod/starting_points.h"
 #include "resources/resource.h"
+#include "view/painting/drawing_objects_win32.h"
 
 #include <algorithm>
+#include <array>
 #include <map>
 #include <utility>
 
@@ -18,19 +25,82 @@ namespace varrocade {
 
 namespace {
 
-/// A list that needs no more than its rows.
-template <typename Entry>
-bool editEntries(HWND owner, const ModEdit& edit, int dialogTemplate, std::string_view caption,
-                 std::vector<Entry>& entries, const ListShape<Entry>& shape) {
-    class EntriesDialog final : public ListDialog {
-    public:
-        using ListDialog::ListDialog;
-    };
+/// A drop-down list that names a picture, the button that has it chosen, and where its pictures lie.
+struct PictureField {
+    int control;
+    int button;
+    std::string_view label;
+    std::span<const ImageSource> sources;
+};
+
+constexpr std::array<PictureField, 2> FlagFields = {
+    {{IDC_MOD_FLAG, IDC_MOD_FLAG_CHOOSE, "Flag", mod_field::StaticFlagImages},
+     {IDC_MOD_ANIMATED_FLAG, IDC_MOD_ANIMATED_CHOOSE, "Animated flag", mod_field::AnimatedFlagImages}}};
+constexpr std::array<PictureField, 3> UniformFields = {
+    {{IDC_MOD_PROFILE, IDC_MOD_PROFILE_CHOOSE, "Profile", mod_field::GameImages},
+     {IDC_MOD_GAME_IMAGE, IDC_MOD_GAME_CHOOSE, "Game", mod_field::GameImages},
+     {IDC_MOD_RANKS_IMAGE, IDC_MOD_RANKS_CHOOSE, "Ranks", mod_field::RanksImages}}};
+constexpr std::array<PictureField, 1> RankFields = {
+    {{IDC_MOD_RANKS_IMAGE, IDC_MOD_RANKS_CHOOSE, "Image", mod_field::RanksImages}}};
+
+/// A list whose entries name pictures: they are shown, and chosen by their looks.
+class PicturedListDialog : public ListDialog {
+public:
+    PicturedListDialog(const ModEdit& edit, const ListDialogTerms& terms, ListModel& model,
+                       std::span<const PictureField> fields)
+        : ListDialog(terms, model), edit_(edit), fields_(fields) {
+        for (const PictureField& field : fields) {
+            onButton(field.button, [this, &field] { choose(field); });
+        }
+    }
+
+protected:
+    [[nodiscard]] const ModEdit& edit() const { return edit_; }
+
+    /// The name of the picture that stands for an empty field, or empty.
+    virtual std::string usualName(const PictureField&) { return {}; }
+
+    void follow() override {
+        for (const PictureField& field : fields_) {
+            port().setEnabled(field.button, isShown());
+        }
+        InvalidateRect(GetDlgItem(handle(), IDC_MOD_PICTURE), nullptr, FALSE);
+    }
+
+    void paint(const DRAWITEMSTRUCT& item) override {
+        std::vector<ShownPicture> pictures;
+        for (const PictureField& field : fields_) {
+            const std::string given = isShown() ? port().text(field.control) : std::string();
+            const std::string name = given.empty() && isShown() ? usualName(field) : given;
+            pictures.push_back({std::string(field.label), picturePath(edit_, field.sources, name)});
+        }
+        paintPictures(item, edit_, pictures);
+    }
+
+private:
+    void choose(const PictureField& field) {
+        if (!isShown()) {
+            return;
+        }
+        const auto name = choosePicture(handle(), edit_, field.sources, port().text(field.control));
+        if (name) {
+            settle();
+            port().setText(field.control, *name);
+            notice(field.control, CBN_EDITCHANGE);
+            settle();
+        }
+    }
+
+    const ModEdit& edit_;
+    std::span<const PictureField> fields_;
+};
+
+/// Runs the dialog of a list on a copy of its entries, which OK takes over.
+template <typename Entry, typename Run>
+bool onCopy(std::vector<Entry>& entries, const ListShape<Entry>& shape, Run run) {
     std::vector<Entry> copy = entries;
     VectorListModel<Entry> model(copy, shape);
-    EntriesDialog dialog(
-        {.dialogTemplate = dialogTemplate, .caption = caption, .imageBases = edit.imageBases}, model);
-    if (!dialog.run(owner)) {
+    if (!run(model)) {
         return false;
     }
     entries = std::move(copy);
@@ -39,20 +109,18 @@ bool editEntries(HWND owner, const ModEdit& edit, int dialogTemplate, std::strin
 
 class SurnamesDialog final : public ListDialog {
 public:
-    explicit SurnamesDialog(std::vector<ModSurname>& surnames)
-        : ListDialog({.dialogTemplate = IDD_MOD_SURNAMES, .caption = "Surnames"}, model_),
+    SurnamesDialog(std::vector<ModSurname>& surnames, std::string title)
+        : ListDialog({.dialogTemplate = IDD_MOD_SURNAMES, .caption = "Surnames", .title = std::move(title)},
+                     model_),
           surnames_(surnames),
           model_(surnames, surnameShape(), {.next = nullptr, .warn = [this](const ModSurname& surname) {
                                                 return counts_[loweredText(surname.name)] > 1 ? "twice" : "";
                                             }}) {
         count();
         onButton(IDC_MOD_PASTE, [this] { paste(); });
-        onButton(IDC_MOD_SORT, [this] {
-            if (takeShown()) {
-                sortSurnames(surnames_);
-                refreshShown();
-            }
-        });
+        onButton(IDC_MOD_SORT, [this] { arrange(sortSurnames); });
+        onButton(IDC_MOD_SORT_NAMES, [this] { arrange(sortSurnamesByName); });
+        onButton(IDC_MOD_DOUBLES, [this] { arrange(dropDoubles); });
     }
 
 private:
@@ -63,8 +131,29 @@ private:
             std::count_if(counts_.begin(), counts_.end(), [](const auto& name) { return name.second > 1; });
         port().setText(
             IDC_MOD_SUMMARY,
-            std::to_string(surnames_.size()) + " surnames" +
+            counted(surnames_.size(), "surname") +
                 (doubles > 0 ? ", " + std::to_string(doubles) + " more than once, marked (!)" : ""));
+        port().setEnabled(IDC_MOD_DOUBLES, doubles > 0);
+        if (before != counts_) {
+            PostMessageA(handle(), CountsChanged, 0, 0);
+        }
+    }
+    /// Entries that became doubles of one another, or are no longer, have other lines.
+    bool receive(UINT message, WPARAM, LPARAM) override {
+        if (message == CountsChanged) {
+            showLines();
+            return true;
+        }
+        return false;
+    }
+    void arrange(void (*how)(std::vector<ModSurname>&)) {
+        if (takeShown()) {
+            settle();
+            how(surnames_);
+            model_.resized();
+            count();
+            refresh(surnames_.empty() ? -1 : 0);
+        }
     }
     void count() {
         counts_.clear();
@@ -76,6 +165,7 @@ private:
         if (!takeShown()) {
             return;
         }
+        settle();
         for (const ModSurname& surname : surnamesOfText(clipboardText(handle()))) {
             model_.add();
             surnames_.back() = surname;
@@ -84,67 +174,31 @@ private:
         refresh(static_cast<int>(surnames_.size()) - 1);
     }
 
+    static constexpr UINT CountsChanged = WM_APP + 1;
+
     std::vector<ModSurname>& surnames_;
     std::map<std::string, int> counts_; ///< by name in lower case
     VectorListModel<ModSurname> model_;
 };
 
-/// The units of one equipment list; a file that does not exist is marked.
-class UnitsDialog final : public ListDialog {
-public:
-    UnitsDialog(const std::vector<EquipmentSource>& sources, const std::string& nationality,
-                std::vector<ModListedUnit>& units)
-        : ListDialog({.dialogTemplate = IDD_MOD_UNITS, .caption = "Units"}, model_), sources_(sources),
-          nationality_(nationality),
-          model_(units, listedUnitShape(), {.next = nullptr, .warn = [this](const ModListedUnit& unit) {
-                                                return sourceOf(unit.fileName) == nullptr ? "missing" : "";
-                                            }}) {}
-
-private:
-    /// The nationality's own files first.
-    void prepare() override {
-        std::vector<std::string> own;
-        std::vector<std::string> others;
-        for (const EquipmentSource& source : sources_) {
-            (source.nationality == nationality_ ? own : others).push_back(source.fileName);
-        }
-        own.insert(own.end(), others.begin(), others.end());
-        port().setChoices(IDC_MOD_UNIT_FILE, own);
-    }
-    [[nodiscard]] const EquipmentSource* sourceOf(const std::string& fileName) const {
-        const auto found = std::find_if(sources_.begin(), sources_.end(), [&](const EquipmentSource& source) {
-            return equalsIgnoringCase(source.fileName, fileName);
-        });
-        return found == sources_.end() ? nullptr : &*found;
-    }
-    /// A file picked from the list brings its kind along.
-    bool notice(int control, int notification) override {
-        const bool isFollowed = ListDialog::notice(control, notification);
-        if (control == IDC_MOD_UNIT_FILE && notification == CBN_SELCHANGE) {
-            if (const EquipmentSource* source = sourceOf(port().text(IDC_MOD_UNIT_FILE))) {
-                port().setText(IDC_MOD_UNIT_KIND, categoryWord(source->category));
-            }
-        }
-        return isFollowed;
-    }
-
-    const std::vector<EquipmentSource>& sources_;
-    const std::string& nationality_;
-    VectorListModel<ModListedUnit> model_;
-};
-
 class EquipmentDialog final : public ListDialog {
 public:
-    EquipmentDialog(const ModEdit& edit, const std::string& nationality, std::vector<ModEquipment>& lists)
-        : ListDialog({.dialogTemplate = IDD_MOD_EQUIPMENT, .caption = "Equipment lists"}, model_),
-          lists_(lists), sources_(readEquipmentSources(edit.folders)), model_(lists, equipmentShape()) {
+    EquipmentDialog(const ModEdit& edit, const std::string& nationality, std::string title,
+                    std::vector<ModEquipment>& lists)
+        : ListDialog(
+              {.dialogTemplate = IDD_MOD_EQUIPMENT, .caption = "Equipment lists", .title = std::move(title)},
+              model_),
+          edit_(edit), lists_(lists), sources_(readEquipmentSources(edit.folders)),
+          model_(lists, equipmentShape(), {.next = nullptr, .warn = [this](const ModEquipment& list) {
+                                               return hasMissing(list) ? "missing" : "";
+                                           }}) {
         onButton(IDC_MOD_UNITS, [this, &nationality] {
             if (!isShown() || !takeShown()) {
                 return;
             }
-            std::vector<ModListedUnit> units = lists_[shownIndex()].units;
-            if (UnitsDialog(sources_, nationality, units).run(handle())) {
-                lists_[shownIndex()].units = std::move(units);
+            ModEquipment& list = lists_[shownIndex()];
+            const UnitsOfList from{sources_, nationality, monthsOf(edit_.settings, list.period)};
+            if (editListedUnits(handle(), from, list.units)) {
                 refreshShown();
             }
         });
@@ -152,40 +206,54 @@ public:
 
 private:
     void follow() override { port().setEnabled(IDC_MOD_UNITS, isShown()); }
+    [[nodiscard]] bool hasMissing(const ModEquipment& list) const {
+        return !std::all_of(list.units.begin(), list.units.end(),
+                            [this](const ModListedUnit& unit) { return isUnitThere(sources_, unit); });
+    }
 
+    const ModEdit& edit_;
     std::vector<ModEquipment>& lists_;
     std::vector<EquipmentSource> sources_;
     VectorListModel<ModEquipment> model_;
 };
 
-class NationalitiesDialog final : public ListDialog {
+class NationalitiesDialog final : public PicturedListDialog {
 public:
     NationalitiesDialog(const ModEdit& edit, std::vector<ModNationality>& nations)
-        : ListDialog({.dialogTemplate = IDD_MOD_NATIONALITIES,
-                      .caption = "Nationalities",
-                      .imageBases = edit.imageBases},
-                     model_),
-          edit_(edit), nations_(nations),
-          model_(nations, nationalityShape(), {.next = [this] { return nextNationality(nations_); }}) {
+        : PicturedListDialog(edit,
+                             {.dialogTemplate = IDD_MOD_NATIONALITIES,
+                              .caption = "Nationalities",
+                              .imageBases = edit.imageBases},
+                             model_, FlagFields),
+          nations_(nations),
+          model_(nations, nationalityShape(),
+                 {.next = [this] { return nextNationality(nations_); },
+                  .warn = [this](const ModNationality& nation) { return isDouble(nation) ? "twice" : ""; }}) {
         onButton(IDC_MOD_SIDES, [this] {
-            editShown(IDD_MOD_SIDES, "Sides", &ModNationality::allegiances, allegianceShape());
+            editShown(&ModNationality::allegiances, allegianceShape(), IDD_MOD_SIDES, "Sides", {});
         });
         onButton(IDC_MOD_UNIFORMS, [this] {
-            editShown(IDD_MOD_UNIFORMS, "Uniforms", &ModNationality::uniforms, modUniformShape());
+            editShown(&ModNationality::uniforms, modUniformShape(), IDD_MOD_UNIFORMS, "Uniforms",
+                      UniformFields);
         });
-        onButton(IDC_MOD_RANKS,
-                 [this] { editShown(IDD_MOD_RANKS, "Ranks", &ModNationality::ranks, rankShape()); });
+        onButton(IDC_MOD_RANKS, [this] {
+            editShown(&ModNationality::ranks, rankShape(), IDD_MOD_RANKS, "Ranks", RankFields);
+        });
         onButton(IDC_MOD_SURNAMES, [this] {
-            editCopy(&ModNationality::surnames,
-                     [this](auto& surnames) { return SurnamesDialog(surnames).run(handle()); });
+            editCopy(&ModNationality::surnames, [this](auto& surnames) {
+                return SurnamesDialog(surnames, titleOf("Surnames")).run(handle());
+            });
         });
         onButton(IDC_MOD_EQUIPMENT, [this] {
             editCopy(&ModNationality::equipment, [this](auto& lists) {
-                return EquipmentDialog(edit_, nations_[shownIndex()].id, lists).run(handle());
+                return EquipmentDialog(this->edit(), nations_[shownIndex()].id, titleOf("Equipment lists"),
+                                       lists)
+                    .run(handle());
             });
         });
         onButton(IDC_MOD_COMPLETE, [this] {
             if (isShown() && takeShown()) {
+                settle();
                 completeNationality(nations_[shownIndex()]);
                 refreshShown();
             }
@@ -193,7 +261,54 @@ public:
     }
 
 private:
+    void prepare() override {
+        constexpr int rowHeight = 20;
+        SendDlgItemMessageA(handle(), IDC_ENTRY_LIST, LB_SETITEMHEIGHT, 0, edit().drawing.scaled(rowHeight));
+    }
+    /// Flags are named after the nationality in lower case where no other is given.
+    static std::string usualFlag(const ModNationality& nation) {
+        const std::string_view id = nation.id;
+        return loweredText(id.starts_with(NationalityPrefix) ? id.substr(NationalityPrefix.size()) : id);
+    }
+    std::string usualName(const PictureField&) override { return usualFlag(nations_[shownIndex()]); }
+    [[nodiscard]] bool isDouble(const ModNationality& nation) const {
+        return std::count_if(nations_.begin(), nations_.end(),
+                             [&](const ModNationality& other) { return other.id == nation.id; }) > 1;
+    }
+    void paint(const DRAWITEMSTRUCT& item) override {
+        if (item.CtlID != IDC_ENTRY_LIST) {
+            PicturedListDialog::paint(item);
+        } else if (item.itemID < nations_.size()) {
+            paintEntry(item, nations_[item.itemID]);
+        }
+    }
+    /// The flag, and the line that the list holds.
+    void paintEntry(const DRAWITEMSTRUCT& item, const ModNationality& nation) {
+        const DrawingObjects& objects = edit().drawing;
+        const bool isSelected = (item.itemState & ODS_SELECTED) != 0;
+        FillRect(item.hDC, &item.rcItem, GetSysColorBrush(isSelected ? COLOR_HIGHLIGHT : COLOR_WINDOW));
+        constexpr int flagWidth = 22;
+        constexpr int gap = 4;
+        RECT place = item.rcItem;
+        place.left += objects.scaled(gap);
+        RECT flag = place;
+        flag.right = flag.left + objects.scaled(flagWidth);
+        InflateRect(&flag, 0, -2);
+        paintPictureInto(item.hDC, flag, edit(),
+                         picturePath(edit(), mod_field::StaticFlagImages,
+                                     nation.flag.empty() ? usualFlag(nation) : nation.flag));
+        place.left = flag.right + objects.scaled(gap);
+        const std::string line = model_.line(item.itemID);
+        SetBkMode(item.hDC, TRANSPARENT);
+        SetTextColor(item.hDC, GetSysColor(isSelected ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT));
+        DrawTextA(item.hDC, line.c_str(), static_cast<int>(line.size()), &place,
+                  DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
+        if ((item.itemState & ODS_FOCUS) != 0) {
+            DrawFocusRect(item.hDC, &item.rcItem);
+        }
+    }
     void follow() override {
+        PicturedListDialog::follow();
         for (const int button : {IDC_MOD_SIDES, IDC_MOD_UNIFORMS, IDC_MOD_RANKS, IDC_MOD_SURNAMES,
                                  IDC_MOD_EQUIPMENT, IDC_MOD_COMPLETE}) {
             port().setEnabled(button, isShown());
@@ -201,10 +316,10 @@ private:
         std::string summary;
         if (isShown()) {
             const ModNationality& nation = nations_[shownIndex()];
-            summary = std::to_string(nation.surnames.size()) + " surnames, " +
-                      std::to_string(nation.uniforms.size()) + " uniforms, " +
-                      std::to_string(nation.ranks.size()) + " ranks, " +
-                      std::to_string(nation.equipment.size()) + " equipment lists";
+            summary = counted(nation.surnames.size(), "surname") + ", " +
+                      counted(nation.uniforms.size(), "uniform") + ", " +
+                      counted(nation.ranks.size(), "rank") + ", " +
+                      counted(nation.equipment.size(), "equipment list");
         }
         port().setText(IDC_MOD_SUMMARY, summary);
     }
@@ -222,14 +337,24 @@ private:
         }
     }
     template <typename Entry>
-    void editShown(int dialogTemplate, std::string_view caption, std::vector<Entry> ModNationality::*list,
-                   const ListShape<Entry>& shape) {
+    void editShown(std::vector<Entry> ModNationality::*list, const ListShape<Entry>& shape,
+                   int dialogTemplate, std::string_view what, std::span<const PictureField> pictures) {
         editCopy(list, [&](std::vector<Entry>& entries) {
-            return editEntries(handle(), edit_, dialogTemplate, caption, entries, shape);
+            return onCopy(entries, shape, [&](ListModel& model) {
+                PicturedListDialog dialog(edit(),
+                                          {.dialogTemplate = dialogTemplate,
+                                           .caption = what,
+                                           .imageBases = edit().imageBases,
+                                           .title = titleOf(what)},
+                                          model, pictures);
+                return dialog.run(handle());
+            });
         });
     }
+    [[nodiscard]] std::string titleOf(std::string_view what) const {
+        return shownNationality(nations_[shownIndex()]) + ": " + loweredText(what);
+    }
 
-    const ModEdit& edit_;
     std::vector<ModNationality>& nations_;
     VectorListModel<ModNationality> model_;
 };

@@ -50,7 +50,9 @@ void appendMarkdown(std::string& out, const FileChange& file) {
     }
 }
 
-std::string summaryOf(const ModChanges& changes) {
+} // namespace
+
+std::string kindCounts(const ModChanges& changes) {
     std::string summary;
     for (const FileChangeKind kind :
          {FileChangeKind::Added, FileChangeKind::Changed, FileChangeKind::Removed}) {
@@ -60,8 +62,6 @@ std::string summaryOf(const ModChanges& changes) {
     }
     return summary;
 }
-
-} // namespace
 
 std::string shownValue(const std::optional<std::string>& value, std::string_view unit) {
     if (!value) {
@@ -75,8 +75,8 @@ std::string shownValue(const std::optional<std::string>& value, std::string_view
 
 std::string changesText(const ModChanges& changes, ChangesFormat format, std::string_view title) {
     const bool isMarkdown = format == ChangesFormat::Markdown;
-    std::string out = isMarkdown ? "# " + escaped(title) + "\n\n" + summaryOf(changes) + "\n"
-                                 : std::string(title) + ": " + summaryOf(changes) + "\n";
+    std::string out = isMarkdown ? "# " + escaped(title) + "\n\n" + kindCounts(changes) + "\n"
+                                 : std::string(title) + ": " + kindCounts(changes) + "\n";
     const FileChange* former = nullptr;
     for (const FileChange& file : changes.files) {
         if (former == nullptr || former->category != file.category) {

@@ -1,6 +1,7 @@
 #include "app/commands/mod/edit_mod.h"
 
 #include "app/windows/application.h"
+#include "app/windows/mod_band_win32.h"
 #include "editors/mod/mod_dialog.h"
 #include "mod/mod_settings.h"
 #include "platform/messages.h"
@@ -21,6 +22,7 @@ bool saveSettings(const ModSettings& settings) {
         return false;
     }
     workspace.modSettings = settings;
+    showModBand();
     return true;
 }
 
@@ -36,7 +38,9 @@ void editModSettings() {
     ModEdit edit{.settings = loadModSettings(workspace.modFolder).value_or(*workspace.modSettings),
                  .imageBases = bases,
                  .folders = gameFolders(workspace),
-                 .save = saveSettings};
+                 .save = saveSettings,
+                 .drawing = application().drawing,
+                 .pictures = application().pictures};
     editMod(application().window, edit);
 }
 

@@ -1,13 +1,9 @@
 #include "app/commands/mod/mod_commands.h"
 
+#include "app/commands/mod/mod_files_dialog.h"
 #include "app/windows/application.h"
-#include "app/workspace/mod/mod_work.h"
 #include "app/workspace/mod_mode.h"
-#include "app/workspace/record_files.h"
-#include "editors/form/clipboard_win32.h"
-#include "editors/form/dialog_frame_win32.h"
-#include "mod/changes/changes_text.h"
-#include "mod/changes/revert.h"
+#include "data/format/words.h"
 #include "platform/messages.h"
 #include "resources/resource.h"
 
@@ -21,118 +17,58 @@ namespace varrocade {
 namespace {
 
 /// Tells what went wrong, and what came of the rest.
-void tellModWork(const ModWork& work, std::string caption, std::string_view did) {
-    std::string text = std::to_string(work.done.size()) + " files " + std::string(did) + ".";
+void tellModWork(const ModWork& work, std::string_view caption, std::string_view did) {
+    std::string text = counted(work.done.size(), "file") + " " + std::string(did) + ".";
+    if (!work.left.empty()) {
+        text += " " + counted(work.left.size(), "file") + " left as the mod has it.";
+    }
     constexpr std::size_t mostLines = 12;
     for (std::size_t i = 0; i < work.failures.size() && i < mostLines; ++i) {
         text += "\n\n" + work.failures[i].path + "\n" + work.failures[i].reason;
     }
-    if (!work.failures.empty() || work.done.size() > 1) {
-        showMessage({.text = std::move(text),
-                     .caption = std::move(caption),
-                     .icon = work.failures.empty() ? MessageIcon::Information : MessageIcon::Warning});
-    }
+    showMessage({.text = std::move(text),
+                 .caption = std::string(caption),
+                 .icon = work.failures.empty() ? MessageIcon::Information : MessageIcon::Warning});
 }
-
-/// The changes of the mod as lines of a list; each of a value or of a file can go back.
-class ModChangesDialog final : public DialogFrame {
-public:
-    ModChangesDialog() : DialogFrame(IDD_MOD_CHANGES, "What this mod changes") {
-        onButton(IDC_MOD_REVERT, [this] { revert(); });
-        onButton(IDC_MOD_COPY_TEXT, [this] { copy(ChangesFormat::Plain); });
-        onButton(IDC_MOD_COPY_MARKDOWN, [this] { copy(ChangesFormat::Markdown); });
-    }
-
-    [[nodiscard]] bool hasReverted() const { return hasReverted_; }
-
-private:
-    struct Line {
-        const FileChange* file = nullptr;
-        const ValueChange* value = nullptr; ///< null for the file as a whole
-    };
-
-    void init() override { list(); }
-    bool accept() override { return true; }
-    bool notice(int, int) override { return false; }
-
-    void list() {
-        const Workspace& workspace = theWorkspace();
-        changes_ = findModChanges(workspace.programFolder, workspace.modFolder);
-        lines_.clear();
-        HWND box = GetDlgItem(handle(), IDC_MOD_CHANGE_LIST);
-        SendMessageA(box, LB_RESETCONTENT, 0, 0);
-        constexpr std::array<std::string_view, 3> kinds = {"added", "changed", "removed"};
-        for (const FileChange& file : changes_.files) {
-            add(box, {&file, nullptr},
-                std::string(categoryName(file.category)) + ": " + file.name + " (" +
-                    std::string(kinds.at(static_cast<std::size_t>(file.kind))) + ")");
-            for (const ValueChange& value : file.values) {
-                add(box, {&file, &value},
-                    "        " + value.path + ": " + shownValue(value.game, value.unit) + " -> " +
-                        shownValue(value.mod, value.unit));
-            }
-        }
-        port().setEnabled(IDC_MOD_REVERT, !lines_.empty());
-        constexpr WPARAM widest = 900;
-        SendMessageA(box, LB_SETHORIZONTALEXTENT, widest, 0);
-    }
-
-    void add(HWND box, Line line, const std::string& text) {
-        lines_.push_back(line);
-        SendMessageA(box, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text.c_str()));
-    }
-
-    void revert() {
-        const LRESULT row = SendDlgItemMessageA(handle(), IDC_MOD_CHANGE_LIST, LB_GETCURSEL, 0, 0);
-        if (row < 0) {
-            return;
-        }
-        const Line line = lines_[static_cast<std::size_t>(row)];
-        if (line.value == nullptr && !mayRevertFile(*line.file)) {
-            return;
-        }
-        Workspace& workspace = theWorkspace();
-        const auto failure = line.value != nullptr
-                                 ? revertValueInFile(*workspace.files, workspace.backups,
-                                                     {workspace.programFolder, workspace.modFolder},
-                                                     line.file->category, line.file->name, line.value->path)
-                                 : revertFile(*workspace.files, workspace.backups, workspace.modFolder,
-                                              line.file->category, line.file->name);
-        if (failure) {
-            showMessage({.text = failure->path + "\n\n" + failure->reason,
-                         .caption = caption(),
-                         .icon = MessageIcon::Warning});
-        } else {
-            hasReverted_ = true;
-        }
-        list();
-        SendDlgItemMessageA(handle(), IDC_MOD_CHANGE_LIST, LB_SETCURSEL, static_cast<WPARAM>(row), 0);
-    }
-
-    bool mayRevertFile(const FileChange& file) {
-        const Answer answer =
-            showMessage({.text = "Are you sure you want to remove this file from the mod?\n\n" + file.name +
-                                 "\n\nIt is kept in the folder Backups of the mod.",
-                         .caption = caption(),
-                         .buttons = MessageButtons::YesNo,
-                         .icon = MessageIcon::Question});
-        return answer == Answer::Yes;
-    }
-
-    void copy(ChangesFormat format) {
-        const Workspace& workspace = theWorkspace();
-        copyToClipboard(handle(), changesText(changes_, format,
-                                              workspace.modSettings ? workspace.modSettings->name : "Mod"));
-    }
-
-    ModChanges changes_;
-    std::vector<Line> lines_;
-    bool hasReverted_ = false;
-};
 
 struct FreeFolderItem {
     void operator()(ITEMIDLIST* list) const { CoTaskMemFree(list); }
 };
+
+/// Works on the mod of a folder; false, which is told, where there is none.
+bool openModOf(const std::string& folder) {
+    if (!hasModFile(folder)) {
+        showMessage({.text = folder + "\n\nThere is no Mod.txt in this folder",
+                     .caption = "Error",
+                     .icon = MessageIcon::Information});
+        return false;
+    }
+    openOtherMod(theWorkspace(), folder);
+    return true;
+}
+
+/// The menu, among those below another, that holds a command.
+HMENU menuWith(HMENU menu, UINT command) {
+    for (int i = 0; i < GetMenuItemCount(menu); ++i) {
+        HMENU below = GetSubMenu(menu, i);
+        if (below == nullptr && GetMenuItemID(menu, i) == command) {
+            return menu;
+        }
+        if (HMENU found = below != nullptr ? menuWith(below, command) : nullptr) {
+            return found;
+        }
+    }
+    return nullptr;
+}
+
+/// A text as menus show it: a single "&" would underline what is behind it.
+std::string menuText(const std::string& text) {
+    std::string shown;
+    for (const char c : text) {
+        shown += c == '&' ? "&&" : std::string(1, c);
+    }
+    return shown;
+}
 
 } // namespace
 
@@ -141,44 +77,23 @@ void toggleGameUnits() {
     showGameUnits(workspace, !workspace.showsGameUnits);
 }
 
-bool isGameUnitSelected() {
-    return isOfGame(theWorkspace().list, theWorkspace().list.selected);
-}
-
-bool isModUnitSelected() {
-    const Workspace& workspace = theWorkspace();
-    return workspace.modMode && !workspace.list.selected.empty() && !isGameUnitSelected();
-}
-
-void copySelectedIntoMod() {
+void copyFilesIntoMod() {
     Workspace& workspace = theWorkspace();
-    const std::array<std::string, 1> names = {workspace.list.selected};
-    const Answer answer =
-        showMessage({.text = "Copy " + names[0] +
-                             " into the mod?\n\nYes: with the pictures, weapons and sounds that it "
-                             "needs\nNo: the file alone",
-                     .caption = "Copy into mod",
-                     .buttons = MessageButtons::YesNoCancel,
-                     .icon = MessageIcon::Question});
-    if (answer == Answer::Yes || answer == Answer::No) {
-        tellModWork(copyIntoMod(workspace, workspace.category, names,
-                                answer == Answer::Yes ? CopyNeeds::Yes : CopyNeeds::No),
-                    "Copy into mod", "copied");
+    ModFiles files{.caption = "Copy into mod",
+                   .names = namesToCopy,
+                   .chosen = workspace.list.selected,
+                   .needs = CopyNeeds::Yes};
+    if (chooseModFiles(files)) {
+        tellModWork(copyIntoMod(workspace, files.category, files.picked, *files.needs), files.caption,
+                    "copied");
     }
 }
 
-void removeSelectedFromMod() {
+void removeFilesFromMod() {
     Workspace& workspace = theWorkspace();
-    const std::array<std::string, 1> names = {workspace.list.selected};
-    const Answer answer =
-        showMessage({.text = "Are you sure you want to remove " + names[0] +
-                             " from the mod?\n\nThe game's file of that name, if there is one, counts "
-                             "again. The mod's is kept in the folder Backups.",
-                     .caption = "Remove from mod",
-                     .buttons = MessageButtons::YesNo,
-                     .icon = MessageIcon::Question});
-    if (answer == Answer::Yes) {
-        tellModWork(removeFromMod(workspace, workspace.category, names), "Remove from mod", "removed");
+    ModFiles files{.caption = "Remove from mod", .names = namesToRemove, .chosen = workspace.list.selected};
+    if (chooseModFiles(files)) {
+        tellModWork(removeFromMod(workspace, files.category, files.picked), files.caption, "removed");
     }
 }
 
@@ -194,23 +109,29 @@ void browseForMod() {
     }
     std::string folder = path.data();
     folder += folder.ends_with('\\') ? "" : "\\";
-    if (!hasModFile(folder)) {
-        showMessage({.text = folder + "\n\nThere is no Mod.txt in this folder",
-                     .caption = "Error",
-                     .icon = MessageIcon::Information});
-        return;
-    }
-    openOtherMod(theWorkspace(), folder);
+    openModOf(folder);
 }
 
-void showModChanges() {
-    ModChangesDialog dialog;
-    dialog.run(application().window);
-    if (dialog.hasReverted()) {
-        Workspace& workspace = theWorkspace();
-        loadCatalogue(workspace);
-        workspace.listener->listOutdated(workspace);
-        noticeOutsideChanges(workspace);
+void openRecentMod(std::size_t place) {
+    const std::string folder = theWorkspace().otherMods.at(place);
+    if (!openModOf(folder)) {
+        forgetMod(theWorkspace(), folder);
+    }
+}
+
+void listRecentMods(HMENU menu) {
+    HMENU recent = menuWith(menu, IDM_MOD_RECENT);
+    while (DeleteMenu(recent, 1, MF_BYPOSITION) != FALSE) {
+    }
+    const std::vector<std::string>& folders = theWorkspace().otherMods;
+    for (std::size_t i = 0; i < folders.size(); ++i) {
+        const std::string text = "&" + std::to_string(i + 1) + "  " + menuText(folders[i]);
+        const auto id = static_cast<UINT>(IDM_MOD_RECENT + i);
+        if (i == 0) {
+            ModifyMenuA(recent, id, MF_BYCOMMAND | MF_STRING, id, text.c_str());
+        } else {
+            AppendMenuA(recent, MF_STRING, id, text.c_str());
+        }
     }
 }
 

@@ -1,5 +1,6 @@
 #include "app/workspace/mod/mod_work.h"
 
+#include "app/workspace/mod/mod_memory.h"
 #include "app/workspace/mod_mode.h"
 #include "app/workspace/positions.h"
 #include "app/workspace/record_files.h"
@@ -86,6 +87,10 @@ private:
     std::set<std::string> copied_;
 };
 
+void dropFolder(std::vector<std::string>& folders, const std::string& folder) {
+    std::erase_if(folders, [&](const std::string& other) { return equalsIgnoringCase(other, folder); });
+}
+
 /// The files of the mod are others than before.
 void afterModWork(Workspace& workspace) {
     loadCatalogue(workspace);
@@ -96,8 +101,17 @@ void afterModWork(Workspace& workspace) {
 
 void showGameUnits(Workspace& workspace, bool isShown) {
     if (std::exchange(workspace.showsGameUnits, isShown) != isShown) {
+        keepModMemory(workspace);
         workspace.listener->listOutdated(workspace);
     }
+}
+
+std::vector<std::string> namesToCopy(const Workspace& workspace, Category category) {
+    return namesOfGameAlone(workspace, category);
+}
+
+std::vector<std::string> namesToRemove(const Workspace& workspace, Category category) {
+    return namesOfFiles(categoryFolder(workspace.modFolder, category));
 }
 
 ModWork copyIntoMod(Workspace& workspace, Category category, std::span<const std::string> names,
@@ -157,11 +171,16 @@ bool openOtherMod(Workspace& workspace, const std::string& folder) {
     enterMod(workspace, folder);
     workspace.listener->recordOpened();
     workspace.rememberedSelections.fill({});
-    std::erase_if(workspace.otherMods,
-                  [&](const std::string& other) { return equalsIgnoringCase(other, folder); });
+    dropFolder(workspace.otherMods, folder);
     workspace.otherMods.insert(workspace.otherMods.begin(), folder);
     workspace.otherMods.resize(std::min(workspace.otherMods.size(), MostOtherMods));
+    keepModMemory(workspace);
     return true;
+}
+
+void forgetMod(Workspace& workspace, const std::string& folder) {
+    dropFolder(workspace.otherMods, folder);
+    keepModMemory(workspace);
 }
 
 } // namespace varrocade

@@ -10,8 +10,13 @@
 
 namespace varrocade {
 
-/// Shows the game's units that the mod has none of behind the mod's, or the mod's alone.
+/// Shows the game's units that the mod has none of behind the mod's, or the mod's alone. Remembered.
 void showGameUnits(Workspace& workspace, bool isShown);
+
+/// The files of a category that can be copied into the mod: the game's that it has none of.
+std::vector<std::string> namesToCopy(const Workspace& workspace, Category category);
+/// Those that can be taken out of it.
+std::vector<std::string> namesToRemove(const Workspace& workspace, Category category);
 
 /// What came of bringing files into the mod, or of taking them out. Paths below the mod's folder.
 struct ModWork {
@@ -31,12 +36,12 @@ ModWork copyIntoMod(Workspace& workspace, Category category, std::span<const std
 /// backups.
 ModWork removeFromMod(Workspace& workspace, Category category, std::span<const std::string> names);
 
-/// How many folders of mods are remembered.
-inline constexpr std::size_t MostOtherMods = 9;
-
 /// Turns mod mode on with the mod of any folder, which ends in a backslash; false, and nothing changes, where
 /// it has no "Mod.txt" or the user cancels. Drops the open record as leaving mod mode does, and remembers the
-/// folder.
+/// folder from run to run.
 bool openOtherMod(Workspace& workspace, const std::string& folder);
+
+/// Remembers the folder of a mod no longer.
+void forgetMod(Workspace& workspace, const std::string& folder);
 
 } // namespace varrocade

@@ -2,7 +2,14 @@
 
 #include "data/format/words.h"
 
+#include <array>
+
 namespace varrocade {
+
+std::string_view remedyText(ListRemedy remedy) {
+    constexpr std::array<std::string_view, 4> texts = {"", "Show all", "Choose folder...", "Show the game's"};
+    return texts.at(static_cast<std::size_t>(remedy));
+}
 
 ListNotice listNotice(const Workspace& workspace) {
     const NameList& list = workspace.list;
@@ -21,8 +28,15 @@ ListNotice listNotice(const Workspace& workspace) {
                     "\nhas no \"Data\" in it. Choose the folder that holds the game's Data and Images.",
                 ListRemedy::ChooseFolder};
     }
-    return {category + ": there are none yet in\n" +
-            categoryFolder(baseFolder(workspace), workspace.category)};
+    const std::string none =
+        category + ": there are none yet in\n" + categoryFolder(baseFolder(workspace), workspace.category);
+    if (workspace.modMode && !workspace.showsGameUnits &&
+        !namesOfGameAlone(workspace, workspace.category).empty()) {
+        return {none +
+                    "\nThe game's can be shown here, in grey. What is changed of them is saved in the mod.",
+                ListRemedy::ShowGameUnits};
+    }
+    return {none};
 }
 
 } // namespace varrocade

@@ -2,6 +2,7 @@
 
 #include "data/finding_text.h"
 #include "data/format/source_map.h"
+#include "data/format/words.h"
 #include "tools/checks/engine/check_rules.h"
 #include "tools/checks/output/json_text.h"
 
@@ -12,10 +13,6 @@
 namespace varrocade {
 
 namespace {
-
-std::string counted(std::size_t count, std::string_view what) {
-    return std::to_string(count) + " " + std::string(what) + (count == 1 ? "" : "s");
-}
 
 std::string countsText(const std::vector<Finding>& findings) {
     std::string text;
