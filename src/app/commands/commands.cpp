@@ -16,6 +16,7 @@
 #include "app/windows/drawing_window.h"
 #include "app/windows/file_list.h"
 #include "app/windows/part_selection.h"
+#include "app/windows/problems/problems_window.h"
 #include "app/workspace/category_list.h"
 #include "app/workspace/edits.h"
 #include "app/workspace/file_actions.h"
@@ -245,6 +246,9 @@ constexpr auto Commands = std::to_array<Command>({
     {IDM_PENETRATION, penetrationCalculations, always},
     {IDM_CAN_PENETRATE, canItPenetrate, always},
     {IDM_WEAPON_PROBLEMS, showWeaponProblems, hasWeaponProblems},
+    {IDM_PROBLEMS, openProblemsWindow, always},
+    {IDM_NEXT_PROBLEM, goToNextProblem, always},
+    {IDM_PREVIOUS_PROBLEM, goToPreviousProblem, always},
     {IDM_PERFORMANCE, showOpenPerformance, canShowPerformance},
     {IDM_COMPARE_VEHICLES, compareAllVehicles, always},
     {IDM_REDUCE_IMAGES, reduceImageSizes, isVehicleOpen},

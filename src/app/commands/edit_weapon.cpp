@@ -54,7 +54,7 @@ bool isWeaponOpen() {
     return openWeapon(theWorkspace()) != nullptr;
 }
 
-void editOpenWeapon() {
+void editOpenWeapon(const WeaponTarget& target) {
     Workspace& workspace = theWorkspace();
     auto* weapon = std::get_if<WeaponRecord>(&workspace.open.present.record);
     if (weapon == nullptr) {
@@ -66,7 +66,9 @@ void editOpenWeapon() {
                     .pictures = application().pictures,
                     .bases = imageBases(workspace),
                     .users = usersOfOpenWeapon,
-                    .changed = [](std::string_view change) { recordChanged(theWorkspace(), change); }};
+                    .changed = [](std::string_view change) { recordChanged(theWorkspace(), change); },
+                    .firstAmmo = target.ammo,
+                    .focus = target.field};
     if (editWeaponData(application().window, edit)) {
         saveOpenRecord(workspace);
         workspace.listener->recordChanged();

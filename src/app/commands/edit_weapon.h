@@ -1,6 +1,8 @@
 #pragma once
 // The editor at work on the open weapon, and what its users are told of.
 
+#include "view/sheet/unit_problems.h"
+
 #include <string_view>
 
 namespace varrocade {
@@ -8,8 +10,8 @@ namespace varrocade {
 /// Whether a weapon is open.
 bool isWeaponOpen();
 
-/// Opens "Weapon Data" on the open weapon and saves what the user keeps.
-void editOpenWeapon();
+/// Opens "Weapon Data" on the open weapon, at a value of it, and saves what the user keeps.
+void editOpenWeapon(const WeaponTarget& target = {});
 
 /// Before the file of the open weapon is deleted or gets another name: says which units carry it. False when
 /// the user thinks better of it. `action` is what is to be done, such as "Deleting".

@@ -4,6 +4,7 @@
 
 #include "app/windows/display/display_state.h"
 #include "app/windows/folder_watch.h"
+#include "app/windows/problems/problems_state.h"
 #include "app/workspace/workspace.h"
 #include "tools/weapon_users.h"
 #include "view/painting/drawing_objects_win32.h"
@@ -34,6 +35,7 @@ struct Application {
     PictureCache pictures;
     PicturePrefetch prefetch;
     UnitDisplay display;
+    ProblemsState problems;
 };
 
 /// The one application.

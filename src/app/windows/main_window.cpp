@@ -6,6 +6,8 @@
 #include "app/windows/display/redraw.h"
 #include "app/windows/drawing_window.h"
 #include "app/windows/file_list.h"
+#include "app/windows/problems/problem_search.h"
+#include "app/windows/problems/problems_window.h"
 #include "app/windows/sheet_window.h"
 #include "app/workspace/category_list.h"
 #include "app/workspace/journal.h"
@@ -285,6 +287,10 @@ LRESULT CALLBACK mainWindowProcedure(HWND window, UINT message, WPARAM parameter
         paintMainWindow(window);
         return 0;
     case WM_TIMER:
+        if (parameter == ProblemsTimer) {
+            checkOpenRecord();
+            return 0;
+        }
         keepJournal(theWorkspace());
         application().isLookDue |= application().watch.hasChanged(baseFolder(theWorkspace()));
         lookOutside(window);
@@ -312,6 +318,7 @@ LRESULT CALLBACK mainWindowProcedure(HWND window, UINT message, WPARAM parameter
         }
         return 0;
     case WM_DESTROY:
+        application().problems.search.cancel();
         application().window = nullptr;
         PostQuitMessage(0);
         return 0;
@@ -357,7 +364,7 @@ HWND createMainWindow() {
 }
 
 bool isWindowNavigation(MSG& message) {
-    return IsDialogMessageA(application().window, &message) != 0;
+    return isProblemsNavigation(message) || IsDialogMessageA(application().window, &message) != 0;
 }
 
 } // namespace varrocade

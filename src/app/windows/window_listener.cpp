@@ -6,6 +6,7 @@
 #include "app/windows/display/unit_display.h"
 #include "app/windows/drawing_window.h"
 #include "app/windows/file_list.h"
+#include "app/windows/problems/problem_search.h"
 #include "resources/resource.h"
 
 namespace varrocade {
@@ -26,15 +27,22 @@ public:
         updateButtons();
         redrawNow();
         prefetchNeighbours();
+        openProblemsOutdated();
     }
 
     void recordChanged() override {
         displayChanged();
         redrawNow();
         redrawOpenEntry();
+        openProblemsOutdated();
     }
 
-    void recordSaved() override { redrawOpenEntry(); }
+    void recordSaved() override {
+        redrawOpenEntry();
+        openProblemsOutdated();
+    }
+
+    void filesRewritten() override { searchProblemsAgain(); }
 
     void marksChanged() override { redrawEntries(); }
 
@@ -45,6 +53,7 @@ public:
     void namesChanged() override {
         showNames();
         updateButtons();
+        followFilesOfList();
     }
 
     void selectionChanged() override {

@@ -76,6 +76,35 @@ bool renameBack(Workspace& workspace, const FileStep& step) {
     return true;
 }
 
+/// Gives all files of a step their former contents, or none.
+bool writeBack(Workspace& workspace, const FileStep& step) {
+    for (const RewrittenFile& file : step.changed) {
+        std::string present;
+        if (!readWholeFile(file.path, present) || present != file.after) {
+            showMessage({.text = file.path + "\n\nThe file was changed since",
+                         .caption = "Couldn't undo " + step.name,
+                         .icon = MessageIcon::Warning});
+            return false;
+        }
+    }
+    for (std::size_t i = 0; i < step.changed.size(); ++i) {
+        const RewrittenFile& file = step.changed[i];
+        const auto failure =
+            replaceDataFile(*workspace.files, workspace.backups, step.record.base, file.path, file.before);
+        if (failure) {
+            for (std::size_t done = 0; done < i; ++done) {
+                saveFile(*workspace.files, step.changed[done].path, step.changed[done].after);
+            }
+            showCouldNotSave(failure->path);
+            return false;
+        }
+    }
+    loadCatalogue(workspace);
+    noticeOutsideChanges(workspace);
+    workspace.listener->filesRewritten();
+    return true;
+}
+
 /// Whether the last step is one of a file, and not of the open record.
 bool isFileStepNext(const Workspace& workspace) {
     const bool isLast = workspace.isFileStepLast || !workspace.open.history.canUndo();
@@ -85,7 +114,10 @@ bool isFileStepNext(const Workspace& workspace) {
 
 void undoFileStep(Workspace& workspace) {
     const FileStep step = workspace.fileSteps.back();
-    if (step.renamedTo.empty() ? bringBack(workspace, step) : renameBack(workspace, step)) {
+    const bool isUndone = !step.changed.empty()    ? writeBack(workspace, step)
+                          : step.renamedTo.empty() ? bringBack(workspace, step)
+                                                   : renameBack(workspace, step);
+    if (isUndone) {
         workspace.fileSteps.pop_back();
         workspace.isFileStepLast = false;
     }
@@ -98,6 +130,9 @@ std::string lastStepName(const Workspace& workspace) {
         return std::string(workspace.open.history.undoName());
     }
     const FileStep& step = workspace.fileSteps.back();
+    if (!step.changed.empty()) {
+        return step.name;
+    }
     return (step.renamedTo.empty() ? "Delete " : "Rename ") + formerName(step);
 }
 

@@ -49,6 +49,8 @@ public:
     virtual void marksChanged() {}
     /// The filter was emptied, since it hid what is to be selected.
     virtual void filterDropped() {}
+    /// Files that are not open hold something else than before.
+    virtual void filesRewritten() {}
     /// Mod mode was turned on or off.
     virtual void modeChanged() {}
 };
@@ -56,11 +58,20 @@ public:
 /// One that hears nothing.
 WorkspaceListener& deafListener();
 
-/// A file that was deleted or renamed, as it was before.
+/// A file that was written without being open, with what it held before.
+struct RewrittenFile {
+    std::string path;
+    std::string before;
+    std::string after;
+};
+
+/// A file that was deleted or renamed, as it was before; or files that were rewritten together.
 struct FileStep {
     OpenRecord record;
     std::string content;   ///< of the file
     std::string renamedTo; ///< empty of a deleted one
+    std::string name;      ///< of the step, where files were rewritten
+    std::vector<RewrittenFile> changed;
 };
 
 /// Puts two spellings of a path that differ in the case of letters only in one place: they lead to one file.

@@ -11,6 +11,8 @@ namespace {
 
 /// A drop-down list has opened, whose control is the first parameter. Dialogs' own messages lie below.
 constexpr UINT ComboOpened = WM_APP + 0x100;
+/// The dialog has been shown.
+constexpr UINT DialogOpened = WM_APP + 0x101;
 
 } // namespace
 
@@ -50,7 +52,8 @@ INT_PTR DialogFrame::handleMessage(UINT message, WPARAM parameter, LPARAM pointe
         }
         placeBesideDrawing(dialog_);
         init();
-        return TRUE;
+        PostMessageA(dialog_, DialogOpened, 0, 0);
+        return giveFocus() ? FALSE : TRUE;
     case WM_COMMAND:
         return handleCommand(LOWORD(parameter), HIWORD(parameter)) ? TRUE : FALSE;
     case WM_DRAWITEM:
@@ -58,6 +61,9 @@ INT_PTR DialogFrame::handleMessage(UINT message, WPARAM parameter, LPARAM pointe
         return TRUE;
     case WM_CTLCOLOREDIT:
         return colourEdit(reinterpret_cast<HDC>(parameter), reinterpret_cast<HWND>(pointer));
+    case DialogOpened:
+        opened();
+        return TRUE;
     case ComboOpened:
         keepOpenedText(static_cast<int>(parameter));
         return TRUE;
@@ -67,6 +73,17 @@ INT_PTR DialogFrame::handleMessage(UINT message, WPARAM parameter, LPARAM pointe
     default:
         return receive(message, parameter, pointer) ? TRUE : FALSE;
     }
+}
+
+/// False leaves the keyboard to the control that the template begins with.
+bool DialogFrame::giveFocus() {
+    const int control = firstFocus();
+    HWND window = control == 0 ? nullptr : GetDlgItem(dialog_, control);
+    if (window == nullptr || IsWindowEnabled(window) == FALSE) {
+        return false;
+    }
+    port().focus(control);
+    return true;
 }
 
 bool DialogFrame::handleCommand(int control, int notification) {

@@ -24,7 +24,8 @@ public:
                       .caption = "Details",
                       .imageBases = edit.imageBases,
                       .changed = edit.changed,
-                      .undoName = "Details"},
+                      .undoName = "Details",
+                      .focus = edit.focus.field},
                      form_),
           edit_(edit), image_(edit.record.aircraft->image), form_(edit.record, aircraftShape()) {
         onButton(IDC_WEAPONS_BUTTON,
@@ -93,7 +94,8 @@ public:
         : ListDialog({.dialogTemplate = IDD_ROTORS,
                       .caption = "Rotor Blades",
                       .first = edit.firstShown,
-                      .imageBases = edit.imageBases},
+                      .imageBases = edit.imageBases,
+                      .focus = edit.focus.field},
                      model),
           edit_(edit) {}
 

@@ -33,7 +33,8 @@ public:
                       .caption = "Details",
                       .imageBases = edit.imageBases,
                       .changed = edit.changed,
-                      .undoName = "Details"},
+                      .undoName = "Details",
+                      .focus = edit.focus.field},
                      form_),
           edit_(edit), form_(edit.record, squadShape()) {
         onButton(IDC_MEMBER_ADD, [this] { addOne(); });

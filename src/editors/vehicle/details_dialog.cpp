@@ -58,7 +58,8 @@ public:
                       .caption = "Details",
                       .imageBases = edit.imageBases,
                       .changed = edit.changed,
-                      .undoName = "Details"},
+                      .undoName = "Details",
+                      .focus = edit.focus.field},
                      form_),
           edit_(edit), form_(edit.record, vehicleShape()) {
         onButton(IDC_ADD, [this] { addToList(); });

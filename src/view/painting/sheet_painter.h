@@ -26,6 +26,7 @@ struct SheetPlace {
 struct SheetWarningPlace {
     PixelRect place;
     UnitPart part; ///< none: the section of problems
+    std::string field = {};
 };
 
 struct SheetLayout {
