@@ -45,7 +45,8 @@ void showProblemWords() {
     port.setEnabled(IDOK, problem != nullptr);
     port.setEnabled(IDC_PROBLEMS_FIX, !fix.empty());
     port.setEnabled(IDC_PROBLEMS_FIX_ALL,
-                    problem != nullptr && fixableLike(viewState().book, viewState().shown, *problem).size() > 1);
+                    problem != nullptr &&
+                        fixableLike(viewState().book, viewState().shown, *problem).size() > 1);
     port.setEnabled(IDC_PROBLEMS_COPY, !viewState().shown.empty());
 }
 
