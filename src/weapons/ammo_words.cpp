@@ -4,14 +4,30 @@
 #include "data/unit/enumerations.h"
 #include "weapons/weapon_names.h"
 
+#include <array>
+#include <utility>
+
 namespace varrocade {
 
+namespace {
+
+/// The game's own lists have no words for these.
+constexpr auto UnlistedFlavours = std::to_array<std::pair<AmmoFlavour, std::string_view>>(
+    {{AmmoFlavour::ArtilleryHe, "Artillery HE"}, {AmmoFlavour::ArtillerySmoke, "Artillery smoke"}});
+
+} // namespace
+
 std::string flavourWord(std::string_view flavour) {
-    const std::string_view known = displayNameOf(flavourOf(flavour));
-    if (flavourOf(flavour) != AmmoFlavour::None && !known.empty()) {
-        return std::string(known);
+    const AmmoFlavour known = flavourOf(flavour);
+    if (known == AmmoFlavour::None) {
+        return displayName(flavour, "FLAVOUR_");
     }
-    return displayName(flavour, "FLAVOUR_");
+    for (const auto& [unlisted, word] : UnlistedFlavours) {
+        if (known == unlisted) {
+            return std::string(word);
+        }
+    }
+    return std::string(displayNameOf(known));
 }
 
 std::string ammoText(const AmmoLoadRecord& ammo) {

@@ -34,10 +34,10 @@ Texts rows(Window dialog, int first) {
 }
 
 /// A drop-down list tells its dialog of typing only.
-void typeAngle(Window dialog, std::string_view text) {
-    dialog.setText(AngleBox, text);
-    dialog.send(WM_COMMAND, MAKEWPARAM(AngleBox, CBN_EDITCHANGE),
-                reinterpret_cast<LPARAM>(dialog.control(AngleBox).handle()));
+void typeInto(Window dialog, int list, std::string_view text) {
+    dialog.setText(list, text);
+    dialog.send(WM_COMMAND, MAKEWPARAM(list, CBN_EDITCHANGE),
+                reinterpret_cast<LPARAM>(dialog.control(list).handle()));
 }
 
 /// A weapon with the given ammunition entries.
@@ -95,13 +95,13 @@ TEST_F(PenetrationTest, FollowsEveryChange) {
     EXPECT_EQ(rows(dialog, PenetrationRows),
               (Texts{"76 mm", "75 mm", "73 mm", "72 mm", "71 mm", "69 mm", "63 mm"}));
     EXPECT_EQ(rows(dialog, VelocityRows), velocities) << "whatever the angle";
-    typeAngle(dialog, "30");
+    typeInto(dialog, AngleBox, "30");
     dialog.setText(ApcbcDrag, "none");
     EXPECT_EQ(rows(dialog, PenetrationRows), Texts(Rows, "132 mm"));
     EXPECT_EQ(rows(dialog, VelocityRows), Texts(Rows, "935 m/s"));
 
     dialog.control(WeaponBox).choose("WEAPON_CANNON_TEST");
-    typeAngle(dialog, "");
+    typeInto(dialog, AngleBox, "");
     EXPECT_EQ(rows(dialog, PenetrationRows), Texts(Rows, "128 mm"));
     dialog.setText(ApDrag, "0");
     EXPECT_EQ(rows(dialog, VelocityRows), Texts(Rows, "450 m/s"));
@@ -112,6 +112,11 @@ TEST_F(PenetrationTest, FollowsEveryChange) {
     EXPECT_EQ(rows(dialog, PenetrationRows), Texts(Rows, "-"));
     EXPECT_EQ(rows(dialog, VelocityRows), Texts(Rows, "-"));
     EXPECT_FALSE(dialog.control(IDC_COPY_TABLE).isEnabled());
+    typeInto(dialog, WeaponBox, "kwk36");
+    EXPECT_EQ(dialog.control(WeaponBox).choices(), Texts{"WEAPON_CANNON_88_KWK36_L56"});
+    EXPECT_TRUE(dialog.control(ShellBox).choices().empty()) << "nothing is chosen yet";
+    typeInto(dialog, WeaponBox, "weapon_cannon_88_kwk36_l56");
+    EXPECT_EQ(dialog.control(Calibre).text(), "88");
     finish(dialog, IDCANCEL);
 }
 

@@ -123,6 +123,15 @@ void toggleMarks() {
     redrawNow();
 }
 
+/// What is selected in drawing and sheet, or else all of it.
+void editPartOrRecord() {
+    if (canEditSelectedPart()) {
+        editSelectedPart();
+    } else {
+        editOpenRecord();
+    }
+}
+
 void putBack() {
     putPartBack();
 }
@@ -270,7 +279,7 @@ constexpr auto Commands = std::to_array<Command>({
     {IDM_CHANGED_FILES, showChangedFiles, hasChangedFiles},
     {IDM_UNDO, undo, canUndoStep},
     {IDM_REDO, redo, canRedo},
-    {IDM_EDIT_PART, editSelectedPart, canEditSelectedPart},
+    {IDM_EDIT_PART, editPartOrRecord, canEditOpenRecord},
     {IDM_PUT_BACK, putBack, always},
     {IDM_WHOLE_UNIT, resetView, hasDrawing},
     {IDM_SHOW_MARKS, toggleMarks, always},

@@ -124,6 +124,17 @@ void DialogFrame::followCombo(int control, int notification) {
     }
 }
 
+std::optional<std::size_t> DialogFrame::followNames(int control, int notification, std::size_t present) {
+    if (notification == CBN_SELCHANGE) {
+        completeChoice(dialog_, control);
+    }
+    const auto chosen = port().chosen(control);
+    if (notification == CBN_KILLFOCUS && !chosen) {
+        port().choose(control, present);
+    }
+    return isUserChange(notification) && chosen && chosen != present ? chosen : std::nullopt;
+}
+
 /// The system completes the text from the list's entries as it opens.
 void DialogFrame::keepOpenedText(int control) {
     if (port().text(control) != openedWith_) {

@@ -40,6 +40,11 @@ protected:
     /// Says why the form cannot be taken: in a box, in the control, which gets the keyboard.
     void refuse(const FormError& error);
 
+    /// Follows a drop-down list of names that is typed into: the place of the name that was chosen or typed
+    /// to its end, where that is another than `present`. When the keyboard leaves a half typed name, the
+    /// present one is back.
+    [[nodiscard]] std::optional<std::size_t> followNames(int control, int notification, std::size_t present);
+
     /// Fills the dialog when it opens.
     virtual void init() = 0;
     /// The control that has the keyboard first; 0: that of the template.

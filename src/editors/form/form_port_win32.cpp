@@ -114,6 +114,30 @@ void DialogPort::showChoices(HWND window, std::span<const std::string> choices) 
     isFilling_ = wasFilling;
 }
 
+std::optional<std::size_t> DialogPort::chosen(int control) {
+    const auto known = choices_.find(control);
+    if (known == choices_.end()) {
+        const LRESULT place = SendDlgItemMessageA(dialog_, control, CB_GETCURSEL, 0, 0);
+        return place >= 0 ? std::optional(static_cast<std::size_t>(place)) : std::nullopt;
+    }
+    const std::string name = text(control);
+    const auto found =
+        std::find_if(known->second.begin(), known->second.end(),
+                     [&](const std::string& choice) { return equalsIgnoringCase(choice, name); });
+    return found != known->second.end()
+               ? std::optional(static_cast<std::size_t>(found - known->second.begin()))
+               : std::nullopt;
+}
+
+void DialogPort::choose(int control, std::size_t choice) {
+    const auto known = choices_.find(control);
+    if (known == choices_.end()) {
+        SendDlgItemMessageA(dialog_, control, CB_SETCURSEL, choice, 0);
+    } else if (choice < known->second.size()) {
+        setText(control, known->second[choice]);
+    }
+}
+
 void DialogPort::filterChoices(int control) {
     const auto known = choices_.find(control);
     if (known != choices_.end()) {

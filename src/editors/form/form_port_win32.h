@@ -5,6 +5,7 @@
 #include <windows.h>
 
 #include <map>
+#include <optional>
 #include <set>
 #include <span>
 #include <string>
@@ -28,6 +29,11 @@ public:
     void focus(int control) override;
     /// Marked controls have another background (`refusedColour`), and tell why while the mouse rests on them.
     void mark(int control, std::string_view refusal) override;
+
+    /// The place of a drop-down list's text among all its choices, letter case aside.
+    [[nodiscard]] std::optional<std::size_t> chosen(int control);
+    /// Puts one of its choices into a drop-down list.
+    void choose(int control, std::size_t choice);
 
     /// Shows only those entries of a drop-down list that fit what was typed into it.
     void filterChoices(int control);

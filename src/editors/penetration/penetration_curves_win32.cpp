@@ -5,6 +5,8 @@
 #include "view/chart/chart.h"
 #include "view/painting/painter_win32.h"
 
+#include <windowsx.h>
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -186,6 +188,25 @@ void paintContent(HDC device, const RECT& area, const PenetrationChart& chart,
 void paintChart(const DRAWITEMSTRUCT& item, const PenetrationChart& chart, const DrawingObjects& drawing) {
     paintBuffered(item.hDC, item.rcItem, drawing,
                   [&](HDC device) { paintContent(device, item.rcItem, chart, drawing); });
+}
+
+bool pointAtChart(HWND chartControl, UINT message, LPARAM detail, PenetrationChart& chart,
+                  const DrawingObjects& drawing) {
+    if (message != WM_MOUSEMOVE && message != WM_MOUSELEAVE) {
+        return false;
+    }
+    RECT area{};
+    GetClientRect(chartControl, &area);
+    const POINT point{GET_X_LPARAM(detail), GET_Y_LPARAM(detail)};
+    const auto range = message == WM_MOUSEMOVE ? chartRangeAt(area, point, chart, drawing) : std::nullopt;
+    if (range != chart.pointedRange) {
+        chart.pointedRange = range;
+        InvalidateRect(chartControl, nullptr, FALSE);
+    }
+    TRACKMOUSEEVENT leave{
+        .cbSize = sizeof(leave), .dwFlags = TME_LEAVE, .hwndTrack = chartControl, .dwHoverTime = 0};
+    TrackMouseEvent(&leave);
+    return true;
 }
 
 std::optional<int> chartRangeAt(const RECT& area, POINT point, const PenetrationChart& chart,

@@ -25,6 +25,11 @@ struct PenetrationChart {
 /// Paints the chart without flicker.
 void paintChart(const DRAWITEMSTRUCT& item, const PenetrationChart& chart, const DrawingObjects& drawing);
 
+/// Has the chart tell the values of the range that the mouse points to; true for the messages that it needs
+/// for this, `detail` being their second parameter.
+bool pointAtChart(HWND chartControl, UINT message, LPARAM detail, PenetrationChart& chart,
+                  const DrawingObjects& drawing);
+
 /// The range below a point of the chart's control; nothing beside the curves.
 std::optional<int> chartRangeAt(const RECT& area, POINT point, const PenetrationChart& chart,
                                 const DrawingObjects& drawing);

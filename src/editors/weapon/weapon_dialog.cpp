@@ -122,7 +122,7 @@ private:
     void followChart(const WeaponRecord& weapon);
     void followFigures(const WeaponRecord& weapon);
     void play(std::size_t sound);
-    void compareWith(int chosen);
+    void compare();
     void showUsers();
     void openUser();
     static LRESULT CALLBACK chartProcedure(HWND curves, UINT message, WPARAM parameter, LPARAM detail,
@@ -151,7 +151,6 @@ void WeaponDataDialog::prepare() {
     std::vector<std::string> weapons = penetrationWeapons(edit_.catalogue);
     weapons.insert(weapons.begin(), std::string(NoComparison));
     port().setChoices(IDC_WD_COMPARE, weapons);
-    port().setText(IDC_WD_COMPARE, NoComparison);
     for (const CheckedText& check : checks_) {
         prepareCheckList(GetDlgItem(handle(), check.list));
     }
@@ -184,10 +183,13 @@ bool WeaponDataDialog::notice(int control, int notification) {
         return true;
     }
     if (control == IDC_WD_COMPARE) {
-        if (notification == CBN_SELCHANGE) {
-            compareWith(static_cast<int>(SendDlgItemMessageA(handle(), control, CB_GETCURSEL, 0, 0)));
+        if (isUserChange(notification)) {
+            if (notification == CBN_SELCHANGE) {
+                completeChoice(handle(), control);
+            }
+            compare();
         }
-        return true;
+        return false;
     }
     if (control == IDC_WD_USERS) {
         port().setEnabled(IDC_WD_OPEN_UNIT,
@@ -311,7 +313,7 @@ void WeaponDataDialog::followChart(const WeaponRecord& weapon) {
     if (other_ != nullptr) {
         const std::vector<std::string> names = shellTypes(*other_);
         for (std::size_t i = 0; i < std::min(names.size(), MostComparedCurves); ++i) {
-            add(*other_, other_->ammoTypes[i], weaponWord(other_->fileName) + ": " + names[i]);
+            add(*other_, other_->ammoTypes[i], "Other: " + names[i]);
         }
     }
     InvalidateRect(GetDlgItem(handle(), IDC_WD_CURVES), nullptr, FALSE);
@@ -343,13 +345,11 @@ void WeaponDataDialog::play(std::size_t sound) {
     port().setText(IDC_WD_SOUND_NOTE + static_cast<int>(sound), path.empty() ? "missing" : playSound(path));
 }
 
-void WeaponDataDialog::compareWith(int chosen) {
-    const auto& entries = edit_.catalogue.entries();
+/// A text that names no weapon, half typed or "no other weapon", ends the comparison.
+void WeaponDataDialog::compare() {
     // The first entry of the list stands for none.
-    const int place = chosen - 1;
-    other_ = place >= 0 && static_cast<std::size_t>(place) < entries.size()
-                 ? &entries[static_cast<std::size_t>(place)].weapon
-                 : nullptr;
+    const std::size_t chosen = port().chosen(IDC_WD_COMPARE).value_or(0);
+    other_ = chosen > 0 ? &edit_.catalogue.entries()[chosen - 1].weapon : nullptr;
     follow();
 }
 
@@ -439,20 +439,7 @@ void WeaponDataDialog::paint(const DRAWITEMSTRUCT& item) {
 LRESULT CALLBACK WeaponDataDialog::chartProcedure(HWND curves, UINT message, WPARAM parameter, LPARAM detail,
                                                   UINT_PTR, DWORD_PTR data) {
     auto& dialog = *reinterpret_cast<WeaponDataDialog*>(data);
-    if (message == WM_MOUSEMOVE || message == WM_MOUSELEAVE) {
-        RECT area{};
-        GetClientRect(curves, &area);
-        const POINT point{GET_X_LPARAM(detail), GET_Y_LPARAM(detail)};
-        const auto range = message == WM_MOUSEMOVE
-                               ? chartRangeAt(area, point, dialog.chart_, dialog.edit_.drawing)
-                               : std::nullopt;
-        if (range != dialog.chart_.pointedRange) {
-            dialog.chart_.pointedRange = range;
-            InvalidateRect(curves, nullptr, FALSE);
-        }
-        TRACKMOUSEEVENT leave{sizeof leave, TME_LEAVE, curves, 0};
-        TrackMouseEvent(&leave);
-    }
+    pointAtChart(curves, message, detail, dialog.chart_, dialog.edit_.drawing);
     return DefSubclassProc(curves, message, parameter, detail);
 }
 
