@@ -36,6 +36,8 @@ struct Finding {
     std::string hint = {};     ///< how to mend it, as a message is written
     /// What the record calls itself at that place; empty before it has a name.
     std::string subject = {};
+    /// What to write for `value`, where one text is the right answer.
+    std::string replacement = {};
 
     bool operator==(const Finding&) const = default;
 };

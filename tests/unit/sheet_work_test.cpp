@@ -34,8 +34,8 @@ TEST_F(SheetWork, ImportIsOneStepThatUndoTakesBack) {
     change("C");
     EXPECT_EQ(lastStepName(workspace), "Name");
     EXPECT_EQ(unsavedAmong(workspace, import->files()), std::vector<std::size_t>{0});
-    EXPECT_FALSE(takeImportBack(workspace, workspace.fileSteps.back()));
-    EXPECT_EQ(captions(), Names{"Couldn't undo the import"});
+    EXPECT_FALSE(takeReplacedBack(workspace, workspace.fileSteps.back()));
+    EXPECT_EQ(captions(), Names{"Couldn't undo: Import spreadsheet"});
     undoLast(workspace);
     folder.write("Game\\Data\\Vehicles\\German Truck.txt", tankText("D"));
     undoLast(workspace);

@@ -7,11 +7,11 @@
 #include "app/commands/game_folder.h"
 #include "app/commands/mod/edit_mod.h"
 #include "app/commands/mod/mod_commands.h"
+#include "app/commands/names/rename_commands.h"
+#include "app/commands/names/where_used_window.h"
 #include "app/commands/reports/picture_commands.h"
 #include "app/commands/reports/report_commands.h"
 #include "app/commands/reports/sheet_commands.h"
-#include "app/commands/names/rename_commands.h"
-#include "app/commands/names/where_used_window.h"
 #include "app/commands/vehicle_performance_commands.h"
 #include "app/commands/weapon_problems.h"
 #include "app/windows/application.h"
@@ -19,6 +19,7 @@
 #include "app/windows/drawing_window.h"
 #include "app/windows/file_list.h"
 #include "app/windows/part_selection.h"
+#include "app/windows/problems/problems_window.h"
 #include "app/workspace/category_list.h"
 #include "app/workspace/edits.h"
 #include "app/workspace/file_actions.h"
@@ -309,6 +310,9 @@ constexpr auto Commands = std::to_array<Command>({
     {IDM_RENAME_EVERYWHERE, renameChosenEverywhere, canRenameChosen},
     {IDM_BACK, back, hasBack},
     {IDM_FORWARD, forward, hasForward},
+    {IDM_PROBLEMS, openProblemsWindow, always},
+    {IDM_NEXT_PROBLEM, goToNextProblem, always},
+    {IDM_PREVIOUS_PROBLEM, goToPreviousProblem, always},
     {IDM_PERFORMANCE, showOpenPerformance, canShowPerformance},
     {IDM_COMPARE_VEHICLES, compareAllVehicles, always},
     {IDM_REDUCE_IMAGES, reduceOpenVehicle, isVehicleOpen},

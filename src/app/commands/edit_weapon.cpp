@@ -53,7 +53,7 @@ bool isWeaponOpen() {
     return openWeapon(theWorkspace()) != nullptr;
 }
 
-void editOpenWeapon() {
+void editOpenWeapon(const WeaponTarget& target) {
     Workspace& workspace = theWorkspace();
     auto* weapon = std::get_if<WeaponRecord>(&workspace.open.present.record);
     if (weapon == nullptr) {
@@ -65,7 +65,9 @@ void editOpenWeapon() {
                     .pictures = application().pictures,
                     .bases = imageBases(workspace),
                     .users = usersOfOpenWeapon,
-                    .changed = [](std::string_view change) { recordChanged(theWorkspace(), change); }};
+                    .changed = [](std::string_view change) { recordChanged(theWorkspace(), change); },
+                    .firstAmmo = target.ammo,
+                    .focus = target.field};
     if (editWeaponData(application().window, edit)) {
         saveOpenRecord(workspace);
         workspace.listener->recordChanged();

@@ -1,6 +1,8 @@
 #pragma once
 // The editor at work on the open weapon, and what its users are told of.
 
+#include "view/sheet/unit_problems.h"
+
 #include <string_view>
 
 namespace varrocade {
@@ -8,8 +10,8 @@ namespace varrocade {
 /// Whether a weapon is open.
 bool isWeaponOpen();
 
-/// Opens "Weapon Data" on the open weapon and saves what the user keeps.
-void editOpenWeapon();
+/// Opens "Weapon Data" on the open weapon, at a value of it, and saves what the user keeps.
+void editOpenWeapon(const WeaponTarget& target = {});
 
 /// Opens a unit as the list of users names it: "Vehicles: German Panzer VI Tiger Ausf E".
 void openUser(std::string_view unit);

@@ -4,6 +4,7 @@
 
 #include "app/windows/display/display_state.h"
 #include "app/windows/folder_watch.h"
+#include "app/windows/problems/problems_state.h"
 #include "app/workspace/workspace.h"
 #include "editors/performance/performance_dialog.h"
 #include "tools/weapon_users.h"
@@ -42,6 +43,7 @@ struct Application {
     // Windows beside the main one; none before they are opened first.
     std::shared_ptr<WhereUsedWindow> whereUsed;
     std::unique_ptr<PerformanceWindow> performance;
+    ProblemsState problems;
 };
 
 /// The one application.

@@ -1,6 +1,7 @@
 #include "app/windows/file_list.h"
 
 #include "app/windows/application.h"
+#include "app/windows/problems/problem_marks.h"
 #include "app/workspace/category_list.h"
 #include "app/workspace/names/list_notice.h"
 #include "app/workspace/names/name_filter.h"
@@ -231,6 +232,7 @@ void drawListEntry(const DRAWITEMSTRUCT& item) {
     constexpr int gap = 4;
     const int height = item.rcItem.bottom - item.rcItem.top;
     RECT place = item.rcItem;
+    place.right -= objects.scaled(2 * ProblemSignSize);
     place.left += objects.scaled(gap);
     if (app.workspace.category != Category::Weapons) {
         const LONG top = place.top + (height - objects.scaled(flagHeight)) / 2;
@@ -247,6 +249,14 @@ void drawListEntry(const DRAWITEMSTRUCT& item) {
     const std::string text = name + std::string(markText(markOf(app.workspace, name)));
     constexpr UINT format = DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS;
     DrawTextA(item.hDC, text.c_str(), static_cast<int>(text.size()), &place, format);
+    if (!isOfGame(app.workspace.list, name)) {
+        if (const auto severity = severityToMark(app.problems.book, app.workspace.category, name)) {
+            const int size = objects.scaled(ProblemSignSize);
+            paintProblemSign(item.hDC, objects,
+                             {item.rcItem.right - size, (item.rcItem.top + item.rcItem.bottom) / 2},
+                             *severity);
+        }
+    }
     if ((item.itemState & ODS_FOCUS) != 0) {
         DrawFocusRect(item.hDC, &item.rcItem);
     }

@@ -9,6 +9,8 @@
 #include "app/windows/file_list.h"
 #include "app/windows/menus/list_menu.h"
 #include "app/windows/mod_band_win32.h"
+#include "app/windows/problems/problem_search.h"
+#include "app/windows/problems/problems_window.h"
 #include "app/windows/sheet_window.h"
 #include "app/workspace/category_list.h"
 #include "app/workspace/journal.h"
@@ -313,6 +315,10 @@ LRESULT CALLBACK mainWindowProcedure(HWND window, UINT message, WPARAM parameter
         paintMainWindow(window);
         return 0;
     case WM_TIMER:
+        if (parameter == ProblemsTimer) {
+            checkOpenRecord();
+            return 0;
+        }
         keepJournal(theWorkspace());
         application().isLookDue |= application().watch.hasChanged(baseFolder(theWorkspace()));
         lookOutside(window);
@@ -340,6 +346,7 @@ LRESULT CALLBACK mainWindowProcedure(HWND window, UINT message, WPARAM parameter
         }
         return 0;
     case WM_DESTROY:
+        application().problems.search.cancel();
         application().window = nullptr;
         PostQuitMessage(0);
         return 0;
@@ -385,7 +392,8 @@ HWND createMainWindow() {
 }
 
 bool isWindowNavigation(MSG& message) {
-    return DialogFrame::isNavigation(message) || IsDialogMessageA(application().window, &message) != 0;
+    return DialogFrame::isNavigation(message) || isProblemsNavigation(message) ||
+           IsDialogMessageA(application().window, &message) != 0;
 }
 
 } // namespace varrocade

@@ -51,12 +51,17 @@ void editSelectedPart() {
     if (isWeaponOpen()) {
         editOpenWeapon();
     } else if (canEditSelectedPart()) {
-        const UnitPart part = application().display.selected;
-        withEditContext([part](EditContext& edit) {
-            return edit.record.vehicle ? editPart(application().window, edit, application().drawing, part)
-                                       : editSquadPart(application().window, edit, part);
-        });
+        editPartAt({.part = application().display.selected});
     }
+}
+
+void editPartAt(const FieldTarget& target) {
+    withEditContext([&target](EditContext& edit) {
+        edit.focus = target.focus;
+        const UnitPart part = hasPart(edit.record, target.part) ? target.part : UnitPart{PartKind::Details};
+        return edit.record.vehicle ? editPart(application().window, edit, application().drawing, part)
+                                   : editSquadPart(application().window, edit, part);
+    });
 }
 
 bool nudgeSelectedPart(int right, int up) {

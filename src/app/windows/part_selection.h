@@ -4,6 +4,7 @@
 
 #include "app/workspace/record/undo_history.h"
 #include "view/drawing/unit_part.h"
+#include "view/sheet/unit_problems.h"
 
 #include <windows.h>
 
@@ -15,6 +16,8 @@ void selectPart(const UnitPart& part);
 /// Whether there is an editor for the selected part.
 bool canEditSelectedPart();
 void editSelectedPart();
+/// Opens the editor of a part at a field; of the unit as a whole where the part has none.
+void editPartAt(const FieldTarget& target);
 
 /// Moves the selected part by whole centimetres, to the right and upwards in the drawing; false when it
 /// cannot be moved. Moves that follow one another are one step of the undo history.

@@ -180,6 +180,19 @@ bool showHandOverLink(HWND window, LPARAM detail) {
     return true;
 }
 
+/// On a line of the bar the editor of what it is about opens, at the field.
+void doubleClick(POINT pixel) {
+    const SheetWarningPlace* warning = sheetWarningAt(pixel);
+    const SquadRecord* unit = openUnit(theWorkspace());
+    if (warning != nullptr && unit != nullptr && warning->part) {
+        if (canEditSelectedPart()) {
+            editPartAt(targetOfField(*unit, warning->field));
+        }
+    } else {
+        editSelectedPart();
+    }
+}
+
 LRESULT CALLBACK sheetProcedure(HWND window, UINT message, WPARAM parameter, LPARAM detail) {
     switch (message) {
     case WM_LBUTTONDOWN:
@@ -190,7 +203,7 @@ LRESULT CALLBACK sheetProcedure(HWND window, UINT message, WPARAM parameter, LPA
         SetFocus(window);
         return 0;
     case WM_LBUTTONDBLCLK:
-        editSelectedPart();
+        doubleClick({GET_X_LPARAM(detail), GET_Y_LPARAM(detail)});
         return 0;
     case WM_SETCURSOR:
         return showHandOverLink(window, detail) ? TRUE : DefWindowProcA(window, message, parameter, detail);

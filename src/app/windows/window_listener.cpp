@@ -9,6 +9,7 @@
 #include "app/windows/file_list.h"
 #include "app/windows/main_window.h"
 #include "app/windows/mod_band_win32.h"
+#include "app/windows/problems/problem_search.h"
 #include "resources/resource.h"
 
 namespace varrocade {
@@ -31,6 +32,7 @@ public:
         redrawNow();
         followPerformance();
         prefetchNeighbours();
+        openProblemsOutdated();
     }
 
     void recordChanged() override {
@@ -39,12 +41,16 @@ public:
         redrawNow();
         redrawOpenEntry();
         followPerformance();
+        openProblemsOutdated();
     }
 
     void recordSaved() override {
         showModBand();
         redrawOpenEntry();
+        openProblemsOutdated();
     }
+
+    void filesRewritten() override { searchProblemsAgain(); }
 
     void marksChanged() override { redrawEntries(); }
 
@@ -56,6 +62,7 @@ public:
         showNames();
         updateButtons();
         showModBand();
+        followFilesOfList();
     }
 
     void selectionChanged() override {

@@ -94,7 +94,7 @@ bool isFileStepNext(const Workspace& workspace) {
 void undoFileStep(Workspace& workspace) {
     const FileStep step = workspace.fileSteps.back();
     const bool isUndone = !step.rewrites.empty()   ? undoRenaming(workspace, step)
-                          : !step.imported.empty() ? takeImportBack(workspace, step)
+                          : !step.replaced.empty() ? takeReplacedBack(workspace, step)
                           : step.renamedTo.empty() ? bringBack(workspace, step)
                                                    : renameBack(workspace, step);
     if (isUndone) {
@@ -110,11 +110,8 @@ std::string lastStepName(const Workspace& workspace) {
         return std::string(workspace.open.history.undoName());
     }
     const FileStep& step = workspace.fileSteps.back();
-    if (!step.rewrites.empty()) {
-        return "Rename " + step.renamed + " everywhere";
-    }
-    if (!step.imported.empty()) {
-        return std::string(ImportStepName);
+    if (!step.name.empty()) {
+        return step.name;
     }
     return (step.renamedTo.empty() ? "Delete " : "Rename ") + formerName(step);
 }

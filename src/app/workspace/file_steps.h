@@ -13,7 +13,7 @@ std::string lastStepName(const Workspace& workspace);
 bool canUndoLast(const Workspace& workspace);
 
 /// Takes the last step back. A file that was deleted or renamed comes back under its former name and is
-/// opened with its history, the files of a spreadsheet get back what they held; what is in the way is told.
+/// opened with its history; files that were rewritten get back what they held. What is in the way is told.
 void undoLast(Workspace& workspace);
 
 } // namespace varrocade

@@ -52,6 +52,8 @@ public:
     virtual void marksChanged() {}
     /// The filter was emptied, since it hid what is to be selected.
     virtual void filterDropped() {}
+    /// Files that are not open hold something else than before.
+    virtual void filesRewritten() {}
     /// Mod mode was turned on or off.
     virtual void modeChanged() {}
 };
@@ -59,16 +61,17 @@ public:
 /// One that hears nothing.
 WorkspaceListener& deafListener();
 
-/// A file that was deleted or renamed, as it was before, or files that a spreadsheet has changed.
+/// A file that was deleted or renamed, as it was before; or files that were written together.
 struct FileStep {
-    OpenRecord record;     ///< of an import only the base folder and the category
+    OpenRecord record;     ///< where files were replaced, only the base folder and the category
     std::string content;   ///< of the file
     std::string renamedTo; ///< empty of a deleted one
-    std::vector<FileReplacement> imported = {};
-    /// Of a name that was changed everywhere: all files that were written, and what was renamed. The record
-    /// is the one that was open, if any.
+    std::string name = {}; ///< of the step, where several files were written
+    /// Files that were not open and got other contents.
+    std::vector<FileReplacement> replaced = {};
+    /// Of a name that was changed everywhere: all files that were written. The record is the one that was
+    /// open, if any.
     std::vector<FileRewrite> rewrites = {};
-    std::string renamed = {};
     std::string base = {}; ///< the folder of those files
 };
 

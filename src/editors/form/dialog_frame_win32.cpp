@@ -14,6 +14,8 @@ namespace {
 constexpr UINT ComboOpened = WM_APP + 0x100;
 /// The window property of dialogs that stand beside the main window.
 constexpr const char* ModelessProperty = "Varrocade.Modeless";
+/// The dialog has been shown.
+constexpr UINT DialogOpened = WM_APP + 0x101;
 
 } // namespace
 
@@ -105,7 +107,8 @@ INT_PTR DialogFrame::handleMessage(UINT message, WPARAM parameter, LPARAM pointe
         place();
         init();
         bindUndoKeys(dialog_);
-        return TRUE;
+        PostMessageA(dialog_, DialogOpened, 0, 0);
+        return giveFocus() ? FALSE : TRUE;
     case WM_COMMAND:
         return handleCommand(LOWORD(parameter), HIWORD(parameter)) ? TRUE : FALSE;
     case WM_DRAWITEM:
@@ -113,6 +116,9 @@ INT_PTR DialogFrame::handleMessage(UINT message, WPARAM parameter, LPARAM pointe
         return TRUE;
     case WM_CTLCOLOREDIT:
         return colourEdit(reinterpret_cast<HDC>(parameter), reinterpret_cast<HWND>(pointer));
+    case DialogOpened:
+        opened();
+        return TRUE;
     case ComboOpened:
         keepOpenedText(static_cast<int>(parameter));
         return TRUE;
@@ -122,6 +128,17 @@ INT_PTR DialogFrame::handleMessage(UINT message, WPARAM parameter, LPARAM pointe
     default:
         return receive(message, parameter, pointer) ? TRUE : FALSE;
     }
+}
+
+/// False leaves the keyboard to the control that the template begins with.
+bool DialogFrame::giveFocus() {
+    const int control = firstFocus();
+    HWND window = control == 0 ? nullptr : GetDlgItem(dialog_, control);
+    if (window == nullptr || IsWindowEnabled(window) == FALSE) {
+        return false;
+    }
+    port().focus(control);
+    return true;
 }
 
 bool DialogFrame::handleCommand(int control, int notification) {

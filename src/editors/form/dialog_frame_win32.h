@@ -55,6 +55,10 @@ protected:
 
     /// Fills the dialog when it opens.
     virtual void init() = 0;
+    /// The control that has the keyboard first; 0: that of the template.
+    virtual int firstFocus() { return 0; }
+    /// What comes as soon as the dialog is there to be seen, such as a further one.
+    virtual void opened() {}
     /// Takes the dialog over; false, after telling why, leaves it open.
     virtual bool accept() = 0;
     /// What else than its buttons the dialog follows; an edit or a drop-down list has its new text already.
@@ -77,6 +81,7 @@ private:
     void leave();
     INT_PTR handleMessage(UINT message, WPARAM parameter, LPARAM pointer);
     bool handleCommand(int control, int notification);
+    bool giveFocus();
     void followCombo(int control, int notification);
     void keepOpenedText(int control);
     INT_PTR colourEdit(HDC device, HWND edit);

@@ -84,6 +84,17 @@ void updateEnabling(FormPort& port, const FormShape<Record>& shape, const Record
     }
 }
 
+/// The control of a field in the form of a record; 0 where it has none.
+template <typename Record>
+int controlOf(const FormShape<Record>& shape, const Record& record, FieldId field) {
+    for (const FormRow<Record>& row : shape.rows) {
+        if (field != nullptr && row.field == field && form_detail::stands(row, shape, record)) {
+            return row.control;
+        }
+    }
+    return 0;
+}
+
 /// Shows a record in the controls of its form.
 template <typename Record>
 void fillForm(FormPort& port, const FormShape<Record>& shape, const Record& record) {
@@ -213,6 +224,8 @@ public:
     virtual void mark(FormPort& port, int control) = 0;
     virtual std::string unknown(FormPort& port) = 0;
     virtual std::string notStored() = 0;
+    /// The control of a field; 0 where the form has none.
+    virtual int controlOf(FieldId field) = 0;
     /// Takes the form over into the record.
     virtual std::optional<FormError> read(FormPort& port) = 0;
 };
@@ -230,6 +243,7 @@ public:
     void mark(FormPort& port, int control) override { markControl(port, shape_, record_, control); }
     std::string unknown(FormPort& port) override { return unknownChoices(port, shape_, record_); }
     std::string notStored() override { return notStoredText(shape_, record_); }
+    int controlOf(FieldId field) override { return varrocade::controlOf(shape_, record_, field); }
     std::optional<FormError> read(FormPort& port) override { return readForm(port, shape_, record_); }
 
 private:

@@ -17,7 +17,8 @@ struct FormDialogTerms {
     /// Tells the undo history of what OK took over, and under which name; none where the caller does.
     void (*changed)(std::string_view what) = nullptr;
     std::string undoName = {};
-    std::string title = {}; ///< of the window, where it is not the template's
+    std::string title = {};  ///< of the window, where it is not the template's
+    FieldId focus = nullptr; ///< the field that has the keyboard first, where the form has it
 };
 
 /// A dialog that shows one record in a form: a template, a table of rows, and the dialog's own rules. OK
@@ -41,6 +42,7 @@ protected:
     /// Takes the form over into the record; false after telling what is wrong with it.
     bool take();
 
+    int firstFocus() override { return form_.controlOf(terms_.focus); }
     bool accept() override;
     bool notice(int control, int notification) override;
 

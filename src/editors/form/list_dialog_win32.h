@@ -19,6 +19,7 @@ struct ListDialogTerms {
     std::size_t first = 0;                        ///< the entry to begin with
     std::span<const std::string> imageBases = {}; ///< the folders that pictures are offered from
     std::string title = {};                       ///< of the window, where it is not the template's
+    FieldId focus = nullptr;                      ///< the field of that entry that has the keyboard first
 };
 
 /// A dialog with a list, the buttons that change it, and a form for the chosen entry. The controls have the
@@ -39,6 +40,7 @@ protected:
     /// What the shown entry holds that no list offers, in words.
     virtual std::string unknownText() { return model_.unknown(shownIndex(), port()); }
 
+    int firstFocus() override { return isShown() ? model_.controlOf(shownIndex(), terms_.focus) : 0; }
     bool accept() override { return takeShown(); }
 
     [[nodiscard]] bool isShown() const { return shown_ >= 0; }

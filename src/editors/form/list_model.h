@@ -36,6 +36,8 @@ public:
     virtual void mirror(std::size_t index) = 0;
     /// Where the entry stands that was made last.
     [[nodiscard]] virtual std::size_t newest() const { return count() - 1; }
+    /// The control of a field in the form of an entry; 0 where it has none.
+    [[nodiscard]] virtual int controlOf(std::size_t index, FieldId field) const = 0;
     /// The form's first control, or 0.
     [[nodiscard]] virtual int firstControl() const { return 0; }
     virtual void erase(std::size_t index) = 0;
@@ -123,6 +125,9 @@ public:
         insert(std::move(twin));
     }
     [[nodiscard]] std::size_t newest() const override { return newest_; }
+    [[nodiscard]] int controlOf(std::size_t index, FieldId field) const override {
+        return varrocade::controlOf(shape_.form, entries_[index], field);
+    }
     [[nodiscard]] int firstControl() const override {
         return shape_.form.rows.empty() ? 0 : shape_.form.rows.front().control;
     }

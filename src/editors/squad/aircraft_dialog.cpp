@@ -88,7 +88,8 @@ public:
         : ListDialog({.dialogTemplate = IDD_ROTORS,
                       .caption = "Rotor Blades",
                       .first = edit.firstShown,
-                      .imageBases = edit.imageBases},
+                      .imageBases = edit.imageBases,
+                      .focus = edit.focus.field},
                      model),
           edit_(edit) {}
 

@@ -20,9 +20,11 @@ class HeavyWeaponDialog final : public FormDialog {
 public:
     /// `work` is the copy that the dialog works on; the record shows what the form says meanwhile.
     HeavyWeaponDialog(EditContext& edit, HeavyWeaponRecord& work)
-        : FormDialog(
-              {.dialogTemplate = IDD_HEAVY_WEAPON, .caption = "Heavy Weapon", .imageBases = edit.imageBases},
-              form_),
+        : FormDialog({.dialogTemplate = IDD_HEAVY_WEAPON,
+                      .caption = "Heavy Weapon",
+                      .imageBases = edit.imageBases,
+                      .focus = edit.focus.field},
+                     form_),
           edit_(edit), work_(work), form_(work, heavyWeaponShape()) {
         onButton(IDC_WEAPONS_BUTTON, [this] {
             editArmament(handle(), edit_, armament());

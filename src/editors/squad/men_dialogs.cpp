@@ -20,20 +20,29 @@ namespace {
 class ManDialog final : public FormDialog {
 public:
     ManDialog(EditContext& edit, CrewManRecord& work)
-        : FormDialog({.dialogTemplate = IDD_MAN, .caption = "Man"}, form_), edit_(edit), work_(work),
-          form_(work, manShape()) {
-        onButton(IDC_MAN_WEAPONS_BUTTON, [this] {
-            editPersonalWeapons(handle(), edit_, work_);
-            follow();
-        });
-        onButton(IDC_MAN_AMMO_BUTTON, [this] {
-            editSoldierAmmunition(handle(), edit_, work_,
-                                  ammoWeaponsOf(edit_.record, work_, edit_.catalogue));
-            follow();
-        });
+        : FormDialog({.dialogTemplate = IDD_MAN, .caption = "Man", .focus = edit.focus.field}, form_),
+          edit_(edit), work_(work), form_(work, manShape()) {
+        onButton(IDC_MAN_WEAPONS_BUTTON, [this] { editWeapons(); });
+        onButton(IDC_MAN_AMMO_BUTTON, [this] { editAmmunition(); });
     }
 
 private:
+    void editWeapons() {
+        editPersonalWeapons(handle(), edit_, work_);
+        follow();
+    }
+    void editAmmunition() {
+        editSoldierAmmunition(handle(), edit_, work_, ammoWeaponsOf(edit_.record, work_, edit_.catalogue));
+        follow();
+    }
+    void opened() override {
+        if (edit_.focus.carried == PartKind::Weapon) {
+            editWeapons();
+        } else if (edit_.focus.carried == PartKind::Ammunition) {
+            editAmmunition();
+        }
+        edit_.focus = {};
+    }
     void follow() override {
         port().setText(IDC_CARRIED, carriedLines(weaponTypesOf(std::span(&work_, 1)), work_.ammo));
         CrewManRecord shown = work_;

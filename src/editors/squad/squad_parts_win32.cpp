@@ -3,6 +3,7 @@
 #include "editors/squad/members.h"
 #include "editors/squad/squad_dialogs.h"
 #include "editors/unit/availability_dialog.h"
+#include "editors/unit/uniform_dialog.h"
 
 #include <string_view>
 
@@ -42,6 +43,12 @@ bool editSquadPart(HWND owner, EditContext& edit, const UnitPart& part) {
         return note(edit, editRotors(owner, edit), "Rotor blades");
     case PartKind::Availability:
         return note(edit, editAvailability(owner, edit, edit.drawing), "Availability");
+    case PartKind::Details:
+        if (edit.focus.field != nullptr && edit.focus.field->kind == FieldKind::Uniform &&
+            !edit.record.aircraft) {
+            return note(edit, editUniform(owner, edit), "Uniform");
+        }
+        [[fallthrough]];
     default:
         edit.firstShown = 0;
         return edit.record.aircraft ? editAircraft(owner, edit) : editSquad(owner, edit);

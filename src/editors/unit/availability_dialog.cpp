@@ -1,5 +1,6 @@
 #include "editors/unit/availability_dialog.h"
 
+#include "data/unit_fields.h"
 #include "editors/form/list_dialog_win32.h"
 #include "editors/unit/availability_edit.h"
 #include "editors/unit/unit_lists.h"
@@ -20,14 +21,24 @@ namespace {
 constexpr int Reach = 8;  // pixels at 96 dpi, as the other
 constexpr int Jitter = 3; // of a hand that moves to the side
 
+/// The point that something is to be done about.
+std::size_t firstPoint(const EditContext& edit) {
+    const FieldId field = edit.focus.field;
+    const bool isOfPoint = field == &field::Month || field == &field::Year || field == &field::NumberOfUnits;
+    return isOfPoint ? edit.firstShown : 0;
+}
+
 class AvailabilityDialog final : public ListDialog {
 public:
     /// `points` is the copy that the dialog works on.
-    AvailabilityDialog(std::vector<AvailabilityPoint>& points, const DrawingObjects& drawing)
+    AvailabilityDialog(const EditContext& edit, std::vector<AvailabilityPoint>& points,
+                       const DrawingObjects& drawing)
         : ListDialog({.dialogTemplate = IDD_AVAILABILITY,
                       .caption = "Availability",
                       .fullText = "There are already 255 dates, the most that the game counts",
-                      .fullCaption = "Availability"},
+                      .fullCaption = "Availability",
+                      .first = firstPoint(edit),
+                      .focus = edit.focus.field},
                      model_),
           points_(points), drawing_(drawing),
           model_(points, availabilityShape(),
@@ -189,7 +200,7 @@ LRESULT CALLBACK AvailabilityDialog::timelineProcedure(HWND timeline, UINT messa
 
 bool editAvailability(HWND owner, EditContext& edit, const DrawingObjects& drawing) {
     std::vector<AvailabilityPoint> points = edit.record.availability;
-    if (!AvailabilityDialog(points, drawing).run(owner) || points == edit.record.availability) {
+    if (!AvailabilityDialog(edit, points, drawing).run(owner) || points == edit.record.availability) {
         return false;
     }
     edit.record.availability = std::move(points);

@@ -19,7 +19,8 @@ public:
                       .fullText = TooManyComponentsText,
                       .fullCaption = SquadFullCaption,
                       .first = edit.firstShown,
-                      .title = captionOf(edit, "crew")},
+                      .title = captionOf(edit, "crew"),
+                      .focus = edit.focus.field},
                      model_),
           edit_(edit), kind_(kind), crew_(crew), model_(crew, crewShape()) {
         onButton(IDC_MAN_WEAPONS_BUTTON, [this] { editMan(editPersonalWeapons); });
@@ -31,6 +32,14 @@ private:
         if (kind_ == ComponentKind::Superstructure) {
             port().setText(IDC_NOT_STORED, "The crew of a superstructure is not stored in the file.");
         }
+    }
+    void opened() override {
+        if (edit_.focus.carried == PartKind::Weapon) {
+            editMan(editPersonalWeapons);
+        } else if (edit_.focus.carried == PartKind::Ammunition) {
+            editMan(editManAmmunition);
+        }
+        edit_.focus = {};
     }
     void follow() override {
         port().setEnabled(IDC_MAN_WEAPONS_BUTTON, isShown());
@@ -58,6 +67,7 @@ public:
     PersonalWeaponsDialog(EditContext& edit, ListModel& model)
         : ListDialog({.dialogTemplate = IDD_PERSONAL_WEAPONS,
                       .caption = "Personal Weapons",
+                      .first = edit.focus.carried == PartKind::Weapon ? edit.focus.carriedIndex : 0,
                       .title = captionOf(edit, "personal weapons")},
                      model),
           edit_(edit) {

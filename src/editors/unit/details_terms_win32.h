@@ -11,7 +11,8 @@ inline FormDialogTerms detailsTerms(const EditContext& edit, int dialogTemplate)
             .caption = "Details",
             .imageBases = edit.imageBases,
             .changed = edit.changed,
-            .undoName = "Details"};
+            .undoName = "Details",
+            .focus = edit.focus.field};
 }
 
 } // namespace varrocade

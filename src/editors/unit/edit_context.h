@@ -2,6 +2,7 @@
 
 #include "data/unit/unit_record.h"
 #include "view/drawing/component_places.h"
+#include "view/sheet/unit_problems.h"
 #include "weapons/weapon_catalogue.h"
 
 #include <cstddef>
@@ -31,6 +32,8 @@ struct EditContext {
     void (*changed)(std::string_view what);
     /// Which entry a dialog that is a list begins with.
     std::size_t firstShown = 0;
+    /// The field that the first dialog begins with; none: its first one.
+    FieldFocus focus = {};
     /// What the dialog's entries belong to, for its caption: "Turret 2". Empty where the dialog's own says
     /// it.
     std::string subject = {};

@@ -60,7 +60,10 @@ private:
 class UniformDialog final : public FormDialog {
 public:
     UniformDialog(EditContext& edit, SquadRecord& work)
-        : FormDialog({.dialogTemplate = IDD_UNIFORM, .caption = "Uniform", .imageBases = edit.imageBases},
+        : FormDialog({.dialogTemplate = IDD_UNIFORM,
+                      .caption = "Uniform",
+                      .imageBases = edit.imageBases,
+                      .focus = edit.focus.field},
                      form_),
           edit_(edit), work_(work), form_(work, uniformShape()) {}
 

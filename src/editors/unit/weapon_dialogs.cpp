@@ -1,5 +1,6 @@
 // The weapons and the ammunition of a component, and the ammunition of a man.
 
+#include "data/unit_fields.h"
 #include "editors/form/list_dialog_win32.h"
 #include "editors/unit/carried_ammo.h"
 #include "editors/unit/list_dialogs.h"
@@ -47,7 +48,8 @@ public:
         : ListDialog({.dialogTemplate = IDD_WEAPONS,
                       .caption = "Weapons",
                       .first = edit.firstShown,
-                      .title = captionOf(edit, "weapons")},
+                      .title = captionOf(edit, "weapons"),
+                      .focus = edit.focus.field},
                      model_),
           edit_(edit), weapons_(weapons), ammo_(ammo), terms_(std::move(terms)), former_(weapons),
           model_(weapons, weaponShape()) {
@@ -109,6 +111,16 @@ private:
     VectorListModel<WeaponMountRecord> model_;
 };
 
+/// The load that something is to be done about.
+std::size_t firstLoad(const EditContext& edit) {
+    if (edit.focus.carried == PartKind::Ammunition) {
+        return edit.focus.carriedIndex;
+    }
+    const FieldId field = edit.focus.field;
+    const bool isOfLoad = field == &field::AmmoFor || field == &field::Flavour || field == &field::Rounds;
+    return isOfLoad ? edit.firstShown : 0;
+}
+
 class AmmunitionDialog final : public ListDialog {
 public:
     /// `weaponTypes` are those of the weapons that it is carried for, `ammo` the copy that the dialog works
@@ -117,7 +129,9 @@ public:
                      std::vector<AmmoLoadRecord>& ammo)
         : ListDialog({.dialogTemplate = IDD_AMMUNITION,
                       .caption = "Ammunition",
-                      .title = captionOf(edit, "ammunition")},
+                      .first = firstLoad(edit),
+                      .title = captionOf(edit, "ammunition"),
+                      .focus = edit.focus.field},
                      model_),
           edit_(edit), weaponTypes_(std::move(weaponTypes)), hasFlavour_(hasFlavour), ammo_(ammo),
           model_(

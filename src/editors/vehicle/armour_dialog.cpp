@@ -48,9 +48,13 @@ class ArmourDialog final : public FormDialog {
 public:
     /// `component` is the copy that the dialog works on: what the fields hold, as far as it can be taken.
     ArmourDialog(const EditContext& edit, ComponentRecord& component)
-        : FormDialog({.dialogTemplate = IDD_ARMOUR, .caption = "Armour", .title = captionOf(edit, "armour")},
+        : FormDialog({.dialogTemplate = IDD_ARMOUR,
+                      .caption = "Armour",
+                      .title = captionOf(edit, "armour"),
+                      .focus = edit.focus.field},
                      form_),
-          drawing_(edit.drawing), component_(component), form_(component, armourShape()) {
+          focus_(edit.focus.field), drawing_(edit.drawing), component_(component),
+          form_(component, armourShape()) {
         onButton(IDC_MIRROR_ARMOUR, [this] { rearrange(mirrorLeftToRight); });
         onButton(IDC_SIDES_ALIKE, [this] { rearrange(makeSidesAlike); });
     }
@@ -79,6 +83,12 @@ private:
         }
     }
 
+    int firstFocus() override {
+        const int plate = controlOfPlate(focus_);
+        return plate != 0 ? plate : FormDialog::firstFocus();
+    }
+
+    FieldId focus_;
     const DrawingObjects& drawing_;
     ComponentRecord& component_;
     RecordForm<ComponentRecord> form_;

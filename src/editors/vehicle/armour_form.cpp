@@ -79,6 +79,15 @@ const FormShape<ComponentRecord>& armourShape() {
     return ArmourShape;
 }
 
+int controlOfPlate(FieldId field) {
+    for (std::size_t i = 0; i < field::Plates.size(); ++i) {
+        if (field == field::Plates[i]) {
+            return firstControl(i);
+        }
+    }
+    return 0;
+}
+
 std::string effectiveText(const ArmourPlate& plate) {
     const auto thickness = effectiveThickness(plate);
     return thickness ? std::to_string(std::lround(*thickness)) + " mm" : "-";

@@ -12,6 +12,9 @@ namespace varrocade {
 /// The armour's form; the component tells whether it has a mantlet.
 const FormShape<ComponentRecord>& armourShape();
 
+/// The control of a plate's thickness; 0 for other fields.
+int controlOfPlate(FieldId field);
+
 /// As the dialog and the drawing show it: "58 mm", or "-" for a horizontal plate.
 std::string effectiveText(const ArmourPlate& plate);
 

@@ -39,7 +39,8 @@ public:
     ComponentDialog(EditContext& edit, ComponentRecord& component, const std::string& title)
         : FormDialog({.dialogTemplate = KindTemplates[static_cast<std::size_t>(component.kind)],
                       .caption = ComponentRefusalCaption,
-                      .imageBases = edit.imageBases},
+                      .imageBases = edit.imageBases,
+                      .focus = edit.focus.field},
                      form_),
           edit_(edit), component_(component), own_(component), title_(title), form_(own_, componentShape()) {
         for (const SubDialog& sub : SubDialogs) {

@@ -13,9 +13,12 @@ namespace {
 class DriveDialog final : public FormDialog {
 public:
     explicit DriveDialog(EditContext& edit)
-        : FormDialog(
-              {.dialogTemplate = IDD_DRIVE, .caption = "Drive", .changed = edit.changed, .undoName = "Drive"},
-              form_),
+        : FormDialog({.dialogTemplate = IDD_DRIVE,
+                      .caption = "Drive",
+                      .changed = edit.changed,
+                      .undoName = "Drive",
+                      .focus = edit.focus.field},
+                     form_),
           edit_(edit), form_(*edit.record.vehicle, driveShape()) {
         onButton(IDC_EXHAUSTS_BUTTON, [this] {
             if (editExhaustPipes(handle(), edit_)) {

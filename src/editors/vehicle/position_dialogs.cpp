@@ -38,9 +38,11 @@ bool editInPlace(HWND owner, EditContext& edit, std::vector<Entry>& entries, con
 } // namespace
 
 bool editExhaustPipes(HWND owner, EditContext& edit) {
-    return editInPlace(
-        owner, edit, edit.record.vehicle->exhaustPipes, exhaustPipeShape(),
-        {.dialogTemplate = IDD_EXHAUST_PIPES, .caption = "Exhaust Pipes", .first = edit.firstShown});
+    return editInPlace(owner, edit, edit.record.vehicle->exhaustPipes, exhaustPipeShape(),
+                       {.dialogTemplate = IDD_EXHAUST_PIPES,
+                        .caption = "Exhaust Pipes",
+                        .first = edit.firstShown,
+                        .focus = edit.focus.field});
 }
 
 bool editSmokeDischargers(HWND owner, EditContext& edit, ComponentRecord& component) {
@@ -48,7 +50,8 @@ bool editSmokeDischargers(HWND owner, EditContext& edit, ComponentRecord& compon
                        {.dialogTemplate = IDD_SMOKE_DISCHARGERS,
                         .caption = "Smoke Dischargers",
                         .first = edit.firstShown,
-                        .title = captionOf(edit, "smoke dischargers")});
+                        .title = captionOf(edit, "smoke dischargers"),
+                        .focus = edit.focus.field});
 }
 
 } // namespace varrocade

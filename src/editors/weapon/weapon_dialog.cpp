@@ -78,7 +78,9 @@ public:
                       .caption = WeaponBoxCaption,
                       .fullText = "There are already 255 ammunition types, the most that the game counts",
                       .fullCaption = WeaponBoxCaption,
-                      .imageBases = edit.bases},
+                      .first = edit.firstAmmo,
+                      .imageBases = edit.bases,
+                      .focus = edit.focus},
                      ammo_),
           edit_(edit), work_(work), form_(work, weaponDataShape()), ammo_(work) {
         onButton(IDC_WD_FIX_PREFIX, [this] {
@@ -94,6 +96,10 @@ public:
 private:
     void prepare() override;
     void follow() override;
+    int firstFocus() override {
+        const int control = form_.controlOf(edit_.focus);
+        return control != 0 ? control : ListDialog::firstFocus();
+    }
     bool accept() override;
     bool notice(int control, int notification) override;
     bool receive(UINT message, WPARAM parameter, LPARAM detail) override;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "data/field.h"
 #include "view/painting/drawing_objects_win32.h"
 #include "view/painting/picture_cache_win32.h"
 #include "weapons/weapon_catalogue.h"
@@ -28,6 +29,8 @@ struct WeaponEdit {
     std::function<std::optional<std::vector<std::string>>()> users;
     /// Shows the record, and remembers it as a step that can be undone under this name.
     void (*changed)(std::string_view what);
+    std::size_t firstAmmo = 0;   ///< the ammunition that is shown first
+    FieldId focus = nullptr;     ///< the field that the dialog begins with
     std::string unitToOpen = {}; ///< one of the users that is to be opened afterwards, or empty
 };
 

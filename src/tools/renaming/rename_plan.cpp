@@ -100,7 +100,7 @@ bool RenamePlanner::isNamed(const Reference& reference) {
     }
     const AssetFile* file = assets_.find(reference);
     if (file != nullptr) {
-        return targetOf(file->path) != nullptr;
+        return targetOf(file->path()) != nullptr;
     }
     // What names a picture that is not there, beside others of its name, goes along.
     return request_.kind == RenameKind::Picture && !targets_.isOneOfSeveral;

@@ -115,9 +115,9 @@ private:
                 continue;
             }
             const std::string& base = isMod ? request_.folders.mod : request_.folders.program;
-            found_.files.push_back({.folder = file->folder,
-                                    .path = file->path,
-                                    .newPath = base + file->folder + found_.to + found_.ending});
+            found_.files.push_back({.folder = std::string(file->folder),
+                                    .path = file->path(),
+                                    .newPath = base + std::string(file->folder) + found_.to + found_.ending});
             if (found_.files.size() == 1) {
                 found_.from = withoutEnding(file->name);
             }
@@ -138,7 +138,7 @@ private:
     void check(const RenameTarget& target) {
         const AssetFile* inTheWay = assets_.find(target.folder, found_.to, found_.ending);
         if (inTheWay != nullptr && !equalsIgnoringCase(found_.from, found_.to)) {
-            refuse("That file already exists: " + inTheWay->path);
+            refuse("That file already exists: " + inTheWay->path());
         }
         if (target.newPath.size() > MaxDataPathLength) {
             refuse("The path of the file would have " + std::to_string(target.newPath.size()) +
@@ -154,7 +154,7 @@ private:
         forEachGameReference([&](const Reference& reference) {
             const AssetFile* file = assets_.find(reference);
             const auto isMeant = [&](const RenameTarget& target) {
-                return file != nullptr && target.path == file->path;
+                return file != nullptr && target.path == file->path();
             };
             const auto target = std::find_if(found_.files.begin(), found_.files.end(), isMeant);
             const std::string reason =

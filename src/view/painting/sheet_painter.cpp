@@ -149,7 +149,8 @@ private:
                 isRest ? "and " + std::to_string(warnings.size() - i) + " more..." : warnings[i].text;
             device_.text(cut(text, right_ - left_, TextFont::Small), {left_, y_}, TextFont::Small, TextInk);
             layout_.warnings.push_back({{left_ - margin, y_, right_ + margin, y_ + lineHeight},
-                                        isRest ? UnitPart{} : warnings[i].part});
+                                        isRest ? UnitPart{} : warnings[i].part,
+                                        isRest ? std::string() : warnings[i].field});
             y_ += lineHeight;
         }
         y_ = bottom + margin;

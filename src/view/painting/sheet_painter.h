@@ -26,6 +26,7 @@ struct SheetPlace {
 struct SheetWarningPlace {
     PixelRect place;
     UnitPart part; ///< none: the section of problems
+    std::string field = {};
 };
 
 /// A note that a click opens something of.

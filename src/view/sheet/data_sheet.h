@@ -76,7 +76,8 @@ struct SheetSection {
 /// A line of the bar below the title.
 struct SheetWarning {
     std::string text;
-    UnitPart part = {}; ///< what a click on it leads to; without one, the section that holds the problems
+    UnitPart part = {};     ///< what a click on it leads to; without one, the section that holds the problems
+    std::string field = {}; ///< what is to be edited to mend it, by its path
 };
 
 struct DataSheet {

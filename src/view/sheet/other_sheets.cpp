@@ -158,7 +158,7 @@ void addProblems(DataSheet& sheet, std::span<const SheetProblem> problems) {
     table.rows.push_back({{"What is wrong"}});
     for (const SheetProblem& problem : problems) {
         const std::string text = sentence(problem.finding);
-        sheet.warnings.push_back({text, problem.part});
+        sheet.warnings.push_back({text, problem.part, problem.finding.field});
         table.rows.push_back({{text}, problem.part, problem.source});
     }
     section.tables.push_back(std::move(table));

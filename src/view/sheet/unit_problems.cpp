@@ -3,6 +3,7 @@
 #include "data/each_field.h"
 #include "data/format/numbers.h"
 #include "data/unit/elements.h"
+#include "weapons/weapon_fields.h"
 
 #include <algorithm>
 #include <iterator>
@@ -76,7 +77,64 @@ UnitPart partOfVehicle(const VehicleRecord& vehicle, std::string_view path) {
     return {isOfDetails ? PartKind::Details : PartKind::Drive};
 }
 
+/// The field of a path, or null: what the path names need not be a value.
+template <typename Record>
+FieldId fieldAt(const Record& record, std::string_view path) {
+    FieldId found = nullptr;
+    forEachField(record, [&](const FieldPlace& place, const auto&) {
+        if (found == nullptr && place.path == path) {
+            found = &place.field;
+        }
+    });
+    return found;
+}
+
+/// What follows a step of a name in a path, as "ammo[1].rounds" follows "man[2]."
+std::string_view behind(std::string_view path, std::string_view name) {
+    for (std::size_t at = 0; at < path.size();) {
+        std::string_view rest = path.substr(at);
+        const Step step = takeStep(rest);
+        if (step.name == name) {
+            return rest;
+        }
+        at = path.size() - rest.size();
+    }
+    return {};
+}
+
 } // namespace
+
+FieldTarget targetOfField(const SquadRecord& record, std::string_view path) {
+    FieldTarget target{.part = partOfField(record, path), .focus = {.field = fieldAt(record, path)}};
+    UnitPart& part = target.part;
+    if (part.kind == PartKind::Man || part.kind == PartKind::CrewMan) {
+        std::string_view carried = behind(path, element::Man);
+        const Step step = takeStep(carried);
+        target.focus.carried = step.name == element::Weapon ? PartKind::Weapon
+                               : step.name == element::Ammo ? PartKind::Ammunition
+                                                            : PartKind::None;
+        target.focus.carriedIndex = step.place();
+        return target;
+    }
+    const bool mayCarry = part.kind == PartKind::Ammunition || part.kind == PartKind::HeavyWeapon ||
+                          part.kind == PartKind::Aircraft;
+    for (std::string_view rest = path; mayCarry && !rest.empty();) {
+        const Step step = takeStep(rest);
+        if (step.name == element::Ammo) {
+            part = {PartKind::Ammunition, part.component, step.place()};
+        }
+    }
+    if (part.kind == PartKind::Availability) {
+        part.index = takeStep(path).place();
+    }
+    return target;
+}
+
+WeaponTarget targetOfField(const WeaponRecord& weapon, std::string_view path) {
+    const FieldId field = fieldAt(weapon, path);
+    const Step step = takeStep(path);
+    return {step.number > 0 ? step.place() : 0, field};
+}
 
 UnitPart partOfField(const SquadRecord& record, std::string_view path) {
     const Step step = takeStep(path);

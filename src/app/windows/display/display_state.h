@@ -1,6 +1,7 @@
 #pragma once
 // What the windows keep of the open record to show it.
 
+#include "app/windows/problems/problem_marks.h"
 #include "app/workspace/record/undo_history.h"
 #include "view/drawing/draw_list.h"
 #include "view/drawing/unit_part.h"
@@ -36,6 +37,7 @@ struct UnitDisplay {
     DataSheet sheet;
     std::string checkedContent; ///< the file's bytes that `fileProblems` are of
     std::vector<SheetProblem> fileProblems;
+    std::vector<MarkedPart> marks;                       ///< where something is wrong with the open unit
     std::optional<std::vector<std::string>> weaponUsers; ///< that the sheet of a weapon shows
     bool wantsWeaponUsers = false;                       ///< they are to be looked for
     bool hasDrawing = false;

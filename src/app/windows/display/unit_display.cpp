@@ -2,6 +2,7 @@
 
 #include "app/windows/application.h"
 #include "app/windows/display/redraw.h"
+#include "app/windows/problems/open_problems.h"
 #include "tools/checks/sheet_problems.h"
 #include "view/drawing/part_positions.h"
 #include "view/painting/gdi_device_win32.h"
@@ -109,6 +110,7 @@ void composeUnitSheet(UnitDisplay& display, const SquadRecord& unit) {
     std::vector<SheetProblem> values = valueProblems(unit, content, display.drawing.missingPictures,
                                                      workspace.catalogue, imageBases(workspace));
     std::move(values.begin(), values.end(), std::back_inserter(problems));
+    noteOpenProblems(unit, problems);
     display.sheet = unitSheet(unit, display.drawing.missingPictures, workspace.catalogue);
     addProblems(display.sheet, problems);
     addSaveFailure(display.sheet);
@@ -123,6 +125,7 @@ void composeDisplay(UnitDisplay& display) {
     if (display.isStale) {
         display.isStale = false;
         display.sheetCanvas.isPainted = false;
+        display.marks.clear();
         if (const WeaponRecord* weapon = openWeapon(workspace)) {
             composeWeaponSheet(display, *weapon);
             display.wantsWeaponUsers = true;
@@ -176,6 +179,9 @@ void paintUnit(HDC device, const RECT& client) {
                                               ? positionText(*unit, display.selected)
                                               : display.caption};
         paintDrawing(memory, client, display.drawing, view, app.drawing, app.pictures);
+        if (app.showMarks) {
+            paintDrawingMarks(memory, app.drawing, display.drawing, display.shownFit, display.marks);
+        }
     });
 }
 
@@ -192,6 +198,7 @@ void paintSheetArea(HDC device, const RECT& client) {
         display.sheetLayout = paintSheet(
             canvas, pixelRect(client), display.sheet,
             {.bases = imageBases(app.workspace), .scroll = display.scroll, .selected = display.selected});
+        paintSheetMarks(memory, app.drawing, display.sheetLayout, display.scroll, display.marks);
     });
 }
 

@@ -115,7 +115,7 @@ bool renameEverywhere(Workspace& workspace, const RenamePlan& plan) {
         return false;
     }
     FileStep step{.record = workspace.open, .content = {}, .renamedTo = {}, .rewrites = plan.rewrites};
-    step.renamed = plan.changes.front().from;
+    step.name = "Rename " + plan.changes.front().from + " everywhere";
     step.base = plan.base;
     if (!writeAll(workspace, plan.rewrites)) {
         return false;

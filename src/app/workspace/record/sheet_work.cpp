@@ -31,7 +31,11 @@ std::vector<std::size_t> unsavedAmong(const Workspace& workspace, const std::vec
 }
 
 void noteImport(Workspace& workspace, const SheetImport& import) {
-    FileStep step{.record = {}, .content = {}, .renamedTo = {}, .imported = import.files()};
+    FileStep step{.record = {},
+                  .content = {},
+                  .renamedTo = {},
+                  .name = std::string(ImportStepName),
+                  .replaced = import.files()};
     step.record.base = import.base();
     step.record.category = import.category().value_or(workspace.category);
     workspace.fileSteps.push_back(std::move(step));
@@ -39,13 +43,13 @@ void noteImport(Workspace& workspace, const SheetImport& import) {
     refreshAll(workspace);
 }
 
-bool takeImportBack(Workspace& workspace, const FileStep& step) {
+bool takeReplacedBack(Workspace& workspace, const FileStep& step) {
     FileFailure failure;
-    if (const auto unsaved = unsavedAmong(workspace, step.imported); !unsaved.empty()) {
+    if (const auto unsaved = unsavedAmong(workspace, step.replaced); !unsaved.empty()) {
         failure = {unsavedRecordText(workspace, *unsavedRecords(workspace)[unsaved.front()]),
                    "It has unsaved changes. Save or discard them first."};
     } else {
-        std::vector<FileReplacement> back = step.imported;
+        std::vector<FileReplacement> back = step.replaced;
         for (FileReplacement& file : back) {
             std::swap(file.before, file.after);
         }
@@ -53,12 +57,13 @@ bool takeImportBack(Workspace& workspace, const FileStep& step) {
             replaceTogether(*workspace.files, workspace.backups, step.record.base, std::move(back));
         if (!failed) {
             refreshAll(workspace);
+            workspace.listener->filesRewritten();
             return true;
         }
         failure = *failed;
     }
     showMessage({.text = failure.path + "\n\n" + failure.reason,
-                 .caption = "Couldn't undo the import",
+                 .caption = "Couldn't undo: " + step.name,
                  .icon = MessageIcon::Warning});
     return false;
 }

@@ -19,8 +19,8 @@ std::vector<std::size_t> unsavedAmong(const Workspace& workspace, const std::vec
 /// After the files were written: they can be undone together, and all that shows them is read again.
 void noteImport(Workspace& workspace, const SheetImport& import);
 
-/// Gives all files of an import what they held before. False, and nothing is written, where one has changed
+/// Gives the files of a step what they held before. False, and nothing is written, where one has changed
 /// since, on the disk or here; that is told.
-bool takeImportBack(Workspace& workspace, const FileStep& step);
+bool takeReplacedBack(Workspace& workspace, const FileStep& step);
 
 } // namespace varrocade

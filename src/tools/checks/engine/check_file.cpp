@@ -185,6 +185,33 @@ std::vector<Finding> withTree(const FileToCheck& file, Check check) {
 
 } // namespace
 
+std::string pathOfFinding(Category category, std::string_view content, const Finding& finding) {
+    if (finding.line == 0 || finding.field.find_first_of(".[") != std::string::npos) {
+        return finding.field;
+    }
+    TagTree tree;
+    tree.parse(content);
+    const SourceMap places(tree, content);
+    std::string nearest;
+    SourcePlace nearestPlace{0, 0};
+    for (const auto& [path, node] : pathsOfElements(tree, elementsOf(category))) {
+        const SourcePlace place = places.placeOf(tree.nodes()[node]);
+        const bool isBefore = std::tie(place.line, place.column) <= std::tie(finding.line, finding.column);
+        const bool isNearer =
+            std::tie(nearestPlace.line, nearestPlace.column) < std::tie(place.line, place.column);
+        if (isBefore && isNearer) {
+            nearest = path;
+            nearestPlace = place;
+        }
+    }
+    if (nearest.empty()) {
+        return finding.field;
+    }
+    const bool isItself = nearest == finding.field || nearest.ends_with("." + finding.field);
+    const bool isEntry = nearest.ends_with(']') || finding.key == ck::MissingElement;
+    return isItself || !isEntry || finding.field.empty() ? nearest : nearest + "." + finding.field;
+}
+
 void readForCheck(const FileToCheck& file, ReadUnitFile& into) {
     into.unit.fileName = file.name;
     into.tree.parse(file.content);

@@ -125,7 +125,8 @@ void FileFindings::add(SourcePlace place, Remark remark) {
                       .message = std::move(remark.message),
                       .value = std::move(remark.value),
                       .expected = std::move(remark.expected),
-                      .hint = std::move(remark.hint)});
+                      .hint = std::move(remark.hint),
+                      .replacement = std::move(remark.replacement)});
 }
 
 void FileFindings::atOffset(std::size_t offset, Remark remark) {
@@ -181,7 +182,8 @@ void FileFindings::atValue(Finding finding) {
                   .message = std::move(finding.message),
                   .value = std::move(finding.value),
                   .expected = std::move(finding.expected),
-                  .hint = std::move(finding.hint)};
+                  .hint = std::move(finding.hint),
+                  .replacement = std::move(finding.replacement)};
     atValue(finding.field, std::move(remark));
 }
 

@@ -2,6 +2,7 @@
 // The findings about one file while its rules run: rules name elements, offsets or values, and the places in
 // the file are looked up for what is found only. Most files have nothing wrong.
 
+#include "data/category.h"
 #include "data/element_table.h"
 #include "data/finding.h"
 #include "data/format/source_map.h"
@@ -23,6 +24,7 @@ struct Remark {
     std::string expected = {};
     std::string hint = {};
     std::string field = {};
+    std::string replacement = {};
 };
 
 class FileFindings {
@@ -67,6 +69,10 @@ private:
     std::optional<std::map<std::string, std::uint32_t, std::less<>>> nodes_; ///< by path
     std::vector<Finding> found_;
 };
+
+/// The path of what a finding is about: its field where that is a path, otherwise that of the value at its
+/// place in the file. Findings about the text of a file name elements only.
+std::string pathOfFinding(Category category, std::string_view content, const Finding& finding);
 
 /// The elements of a file by the paths of what they set, as `forEachField` names them: values, and the
 /// entries that hold them.

@@ -11,14 +11,10 @@
 
 namespace varrocade {
 
-namespace {
-
-/// "Data/Vehicles/Name.txt"
-std::string shownPath(const GameFile& file) {
-    return "Data/" + std::string(categoryName(file.category)) + "/" + file.name + std::string(DataFileEnding);
+std::string shownPath(Category category, std::string_view name) {
+    return "Data/" + std::string(categoryName(category)) + "/" + std::string(name) +
+           std::string(DataFileEnding);
 }
-
-} // namespace
 
 FolderCheck::FolderCheck(const GameFolders& folders) {
     list(folders);
@@ -44,7 +40,7 @@ void FolderCheck::list(const GameFolders& folders) {
         for (GameFile& file : list.files) {
             CheckedFile& entry = files_.emplace_back();
             entry.isChecked = folders.mod.empty() || file.isOfMod;
-            entry.shown = shownPath(file);
+            entry.shown = shownPath(file.category, file.name);
             entry.file = std::move(file);
         }
     }
@@ -158,6 +154,15 @@ std::vector<Finding> FolderCheck::findings() const {
         std::copy(entry.found.begin(), entry.found.end(), std::back_inserter(all));
     }
     return all;
+}
+
+std::vector<Finding> FolderCheck::checkAgain(Category category, std::string_view name,
+                                             std::string_view content) const {
+    const std::string shown = shownPath(category, name);
+    std::vector<Finding> found =
+        checkFile(knowledge_, {.category = category, .name = name, .shown = shown, .content = content});
+    std::erase_if(found, [this](const Finding& finding) { return suppressions_.covers(finding); });
+    return found;
 }
 
 std::string_view FolderCheck::contentOf(std::string_view shown) const {

@@ -15,6 +15,9 @@
 
 namespace varrocade {
 
+/// What findings call a data file: "Data/Vehicles/Name.txt".
+std::string shownPath(Category category, std::string_view name);
+
 /// Checks a game, or a mod's files within their game, in steps between which a window can answer.
 class FolderCheck {
 public:
@@ -39,6 +42,21 @@ public:
     [[nodiscard]] const CheckKnowledge& knowledge() const { return knowledge_; }
     /// The bytes of a file by what findings call it, for excerpts; empty for others.
     [[nodiscard]] std::string_view contentOf(std::string_view shown) const;
+
+    /// Calls `visit` with each file that was checked and what was found about it.
+    template <typename Visit>
+    void forEachFile(Visit visit) const {
+        for (const CheckedFile& entry : files_) {
+            if (entry.isChecked) {
+                visit(entry.file, entry.found);
+            }
+        }
+    }
+    /// Findings of the list of suppressions, which belong to no data file.
+    [[nodiscard]] const std::vector<Finding>& ofFolder() const { return ofFolder_; }
+    /// What is found about a file that was changed since, or is changed in memory only.
+    [[nodiscard]] std::vector<Finding> checkAgain(Category category, std::string_view name,
+                                                  std::string_view content) const;
 
 private:
     struct CheckedFile {

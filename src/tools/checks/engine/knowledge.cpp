@@ -103,8 +103,42 @@ void learnFolders(CheckKnowledge& knowledge, const GameFolders& folders) {
     }
 }
 
+void UnitSurvey::addLoads(const SquadRecord& unit) {
+    const auto add = [this](const std::vector<AmmoLoadRecord>& loads) {
+        for (std::size_t i = 0; i < loads.size(); ++i) {
+            const std::string_view weapon = loads[i].weaponType;
+            auto known = loads_.find(weapon);
+            if (known == loads_.end()) {
+                known = loads_.emplace(weapon, Loads{}).first;
+            }
+            const bool isFirst = std::none_of(
+                loads.begin(), loads.begin() + static_cast<std::ptrdiff_t>(i),
+                [weapon](const AmmoLoadRecord& other) { return other.weaponType.view() == weapon; });
+            known->second.carriers += isFirst ? 1 : 0;
+            known->second.rounds[loads[i].flavour.str()].push_back(loads[i].rounds);
+        }
+    };
+    const auto addMen = [&](const std::vector<CrewManRecord>& men) {
+        std::for_each(men.begin(), men.end(), [&](const CrewManRecord& man) { add(man.ammo); });
+    };
+    if (unit.vehicle) {
+        for (const ComponentRecord& component : unit.vehicle->components) {
+            add(component.ammo);
+            addMen(component.crew);
+        }
+    }
+    if (unit.heavyWeapon) {
+        add(unit.heavyWeapon->ammo);
+    }
+    if (unit.aircraft) {
+        add(unit.aircraft->ammo);
+    }
+    addMen(unit.infantrymen);
+}
+
 void UnitSurvey::add(Category category, std::string_view file, const SquadRecord& unit) {
     addSamples(samples_, unit);
+    addLoads(unit);
     if (unit.vehicle && knowledge_.masses) {
         vehicles_.push_back(vehicleFigures(unit, *knowledge_.masses));
     }
@@ -120,7 +154,25 @@ void UnitSurvey::join(UnitSurvey other) {
     }
     std::move(other.vehicles_.begin(), other.vehicles_.end(), std::back_inserter(vehicles_));
     std::move(other.units_.begin(), other.units_.end(), std::back_inserter(units_));
+    for (const auto& [weapon, loads] : other.loads_) {
+        Loads& ours = loads_[weapon];
+        ours.carriers += loads.carriers;
+        for (const auto& [flavour, rounds] : loads.rounds) {
+            std::vector<std::int32_t>& all = ours.rounds[flavour];
+            all.insert(all.end(), rounds.begin(), rounds.end());
+        }
+    }
 }
+
+namespace {
+
+std::int32_t middleOf(std::vector<std::int32_t> values) {
+    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
+    std::nth_element(values.begin(), middle, values.end());
+    return *middle;
+}
+
+} // namespace
 
 void UnitSurvey::finish(CheckKnowledge& knowledge) {
     for (const CatalogueEntry& entry : knowledge.catalogue->entries()) {
@@ -130,6 +182,16 @@ void UnitSurvey::finish(CheckKnowledge& knowledge) {
     }
     knowledge.usual = UsualValues(samples_);
     knowledge.weights = calibrateWeight(vehicles_);
+    knowledge.usualLoads.clear();
+    for (const auto& [weapon, loads] : loads_) {
+        std::vector<UsualLoad>& usual = knowledge.usualLoads[weapon];
+        for (const auto& [flavour, rounds] : loads.rounds) {
+            const std::int32_t number = middleOf(rounds);
+            if (2 * rounds.size() > loads.carriers && number > 0) {
+                usual.push_back({flavour, number});
+            }
+        }
+    }
     knowledge.unitsByName.clear();
     for (KnownUnit& unit : units_) {
         knowledge.unitsByName[loweredText(unit.longName)].push_back(std::move(unit));

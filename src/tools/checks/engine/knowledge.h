@@ -42,6 +42,13 @@ private:
     std::map<std::string, Folder, std::less<>> folders_;
 };
 
+/// What units carry for a weapon, as a rule: a flavour that more than half of them have, and how many rounds.
+struct UsualLoad {
+    std::string flavour; ///< empty where files name none
+    std::int32_t rounds = 0;
+    bool operator==(const UsualLoad&) const = default;
+};
+
 /// A unit as far as others are compared with it.
 struct KnownUnit {
     Category category;
@@ -70,6 +77,9 @@ struct CheckKnowledge {
     std::optional<WeaponMasses> masses = {};
     std::unordered_map<std::string, std::vector<KnownUnit>> unitsByName = {}; ///< by long name, small letters
 
+    /// By weapon, as units write its name.
+    std::unordered_map<std::string, std::vector<UsualLoad>> usualLoads = {};
+
     [[nodiscard]] const WeaponRecord* findWeapon(std::string_view name) const;
     /// The size of a picture, read once; nothing when the file is no picture.
     [[nodiscard]] std::optional<PictureSize> sizeOf(const std::string& path) const;
@@ -96,10 +106,19 @@ public:
     void finish(CheckKnowledge& knowledge);
 
 private:
+    /// The loads for a weapon in all lists of ammunition.
+    struct Loads {
+        std::size_t carriers = 0;
+        std::map<std::string, std::vector<std::int32_t>, std::less<>> rounds = {}; ///< by flavour
+    };
+
+    void addLoads(const SquadRecord& unit);
+
     const CheckKnowledge& knowledge_;
     ValueSamples samples_;
     std::vector<VehicleFigures> vehicles_;
     std::vector<KnownUnit> units_;
+    std::map<std::string, Loads, std::less<>> loads_;
 };
 
 } // namespace varrocade

@@ -65,14 +65,23 @@ NearestName::NearestName(std::string_view wanted)
     : wanted_(trimmed(wanted)), distance_(1 + std::max<std::size_t>(1, ownLength(wanted_) / 3)) {}
 
 void NearestName::offer(std::string_view name) {
-    if (name.empty() || distance_ == 0) {
+    if (name.empty() || (distance_ == 0 && best_ == name)) {
         return;
     }
-    const std::size_t distance = editDistance(wanted_, name, distance_ - 1);
+    const std::size_t limit = best_.empty() ? distance_ - 1 : distance_;
+    const std::size_t distance = editDistance(wanted_, name, limit);
     if (distance < distance_) {
         distance_ = distance;
         best_ = name;
+        isOnly_ = true;
+    } else if (distance == distance_ && !best_.empty() && name != best_) {
+        isOnly_ = false;
     }
+}
+
+const std::string& NearestName::onlyName() const {
+    static const std::string none;
+    return isOnly_ ? best_ : none;
 }
 
 std::string NearestName::hint() const {

@@ -27,6 +27,8 @@ public:
 
     /// Empty where none is near enough.
     [[nodiscard]] const std::string& name() const { return best_; }
+    /// The same where no other name is as near: then it can be nothing else.
+    [[nodiscard]] const std::string& onlyName() const;
     /// `did you mean "X"?`; empty without a name.
     [[nodiscard]] std::string hint() const;
 
@@ -34,6 +36,7 @@ private:
     std::string_view wanted_;
     std::size_t distance_;
     std::string best_;
+    bool isOnly_ = true;
 };
 
 } // namespace varrocade

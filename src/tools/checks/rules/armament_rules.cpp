@@ -76,13 +76,15 @@ void checkMen(const CheckedUnit& checked, const std::vector<CrewManRecord>& men,
             // Grenades are thrown: they are ammunition without a weapon.
             const bool isThrown = typeOfWeaponName(load.weaponType) == WeaponType::Grenade;
             if (!isThrown && !load.weaponType.empty() && !carried.contains(load.weaponType.view())) {
+                const NearestName nearest = NearestName(load.weaponType).offerAll(carried);
                 checked.out.atValue(ofMan + numbered(element::Ammo, k) + "." +
                                         std::string(field::AmmoFor.element),
                                     {.key = finding_key::AmmoWithoutWeapon,
                                      .message = std::to_string(load.rounds) + " rounds for " +
                                                 quoted(load.weaponType) + ", which nobody carries",
                                      .value = load.weaponType.str(),
-                                     .hint = NearestName(load.weaponType).offerAll(carried).hint()});
+                                     .hint = nearest.hint(),
+                                     .replacement = nearest.onlyName()});
             }
         }
         checkRounds(checked, men[i].ammo, ofMan);

@@ -195,11 +195,11 @@ private:
                 nearest.offer(row.element);
             }
         }
-        out_.atElement(node,
-                       {.key = finding_key::UnknownElement,
-                        .message = tagText(node.name) + " " + placeText(node) + " is not known",
-                        .value = std::string(node.name),
-                        .hint = nearest.name().empty() ? "" : "did you mean <" + nearest.name() + ">?"});
+        out_.atElement(node, {.key = finding_key::UnknownElement,
+                              .message = tagText(node.name) + " " + placeText(node) + " is not known",
+                              .value = std::string(node.name),
+                              .hint = nearest.name().empty() ? "" : "did you mean <" + nearest.name() + ">?",
+                              .replacement = nearest.onlyName()});
     }
 
     /// "<turret>, <hull>": the elements that an element stands in.

@@ -56,7 +56,8 @@ void lookUpPicture(const CheckKnowledge& knowledge, std::span<const ImageSource>
                                                  quoted(entry->name) + " on the disk",
                                       .value = std::string(name),
                                       .expected = entry->name,
-                                      .hint = "write " + quoted(entry->name + std::string(ImageEnding))});
+                                      .hint = "write " + quoted(entry->name + std::string(ImageEnding)),
+                                      .replacement = entry->name});
         } else if (!knowledge.sizeOf(entry->path)) {
             out.atValue(path.text(), {.key = ck::BadPicture,
                                       .message = quoted(file) + " is no PNG file",
@@ -72,7 +73,8 @@ void lookUpPicture(const CheckKnowledge& knowledge, std::span<const ImageSource>
                               .message = "the picture " + quoted(file) + " is missing",
                               .value = std::string(name),
                               .expected = "a file in " + slashed(sources.front().folder),
-                              .hint = nearest.hint()});
+                              .hint = nearest.hint(),
+                              .replacement = nearest.onlyName()});
 }
 
 void lookUpSound(const CheckKnowledge& knowledge, const FieldPath& path, std::string_view name,
@@ -82,19 +84,21 @@ void lookUpSound(const CheckKnowledge& knowledge, const FieldPath& path, std::st
     }
     const FileIndex::Entry* entry = knowledge.sounds.find(SoundFolder, name);
     if (entry == nullptr) {
-        out.atValue(path.text(),
-                    {.key = finding_key::MissingSound,
-                     .message = "the sound " + quoted(name) + " is missing",
-                     .value = std::string(name),
-                     .expected = "a file in " + slashed(SoundFolder),
-                     .hint = NearestName(name).offerAll(knowledge.sounds.namesIn(SoundFolder)).hint()});
+        const NearestName nearest = NearestName(name).offerAll(knowledge.sounds.namesIn(SoundFolder));
+        out.atValue(path.text(), {.key = finding_key::MissingSound,
+                                  .message = "the sound " + quoted(name) + " is missing",
+                                  .value = std::string(name),
+                                  .expected = "a file in " + slashed(SoundFolder),
+                                  .hint = nearest.hint(),
+                                  .replacement = nearest.onlyName()});
     } else if (entry->name != name) {
         out.atValue(path.text(), {.key = ck::SoundCase,
                                   .message = "the sound " + quoted(name) + " is called " +
                                              quoted(entry->name) + " on the disk",
                                   .value = std::string(name),
                                   .expected = entry->name,
-                                  .hint = "write " + quoted(entry->name)});
+                                  .hint = "write " + quoted(entry->name),
+                                  .replacement = entry->name});
     }
 }
 

@@ -33,18 +33,20 @@ void lookUpWeapon(const CheckedUnit& checked, const FieldPath& path, std::string
     }
     const WeaponRecord* weapon = checked.knowledge.findWeapon(name);
     if (weapon == nullptr) {
-        checked.out.atValue(path.text(),
-                            {.key = finding_key::UnknownWeapon,
-                             .message = "there is no weapon file " + quoted(name),
-                             .value = std::string(name),
-                             .expected = "a file in Data/Weapons/",
-                             .hint = NearestName(name).offerAll(weaponNames(checked.knowledge)).hint()});
+        const NearestName nearest = NearestName(name).offerAll(weaponNames(checked.knowledge));
+        checked.out.atValue(path.text(), {.key = finding_key::UnknownWeapon,
+                                          .message = "there is no weapon file " + quoted(name),
+                                          .value = std::string(name),
+                                          .expected = "a file in Data/Weapons/",
+                                          .hint = nearest.hint(),
+                                          .replacement = nearest.onlyName()});
     } else if (weapon->fileName != name && weapon->name != name) {
         checked.out.atValue(path.text(), {.key = ck::WeaponCase,
                                           .message = quoted(name) + " is called " + quoted(weapon->fileName),
                                           .value = std::string(name),
                                           .expected = weapon->fileName,
-                                          .hint = "write " + quoted(weapon->fileName)});
+                                          .hint = "write " + quoted(weapon->fileName),
+                                          .replacement = weapon->fileName});
     }
 }
 
@@ -70,7 +72,8 @@ void lookUpFlavour(const CheckedUnit& checked, const AmmoLoadRecord& load, const
                          .message = load.weaponType.str() + " has no " + load.flavour.str(),
                          .value = load.flavour.str(),
                          .expected = had,
-                         .hint = "it has " + had});
+                         .hint = "it has " + had,
+                         .replacement = weapon->ammoTypes.size() == 1 ? had : std::string()});
 }
 
 /// A uniform is a picture, or one that a mod names. A name like that of a picture means the picture.
@@ -94,12 +97,14 @@ void lookUpUniform(const CheckedUnit& checked, const FieldPlace& place, std::str
 void lookUpWord(const CheckedUnit& checked, const FieldPlace& place, std::string_view name,
                 std::span<const std::string_view> words) {
     if (!name.empty() && std::find(words.begin(), words.end(), name) == words.end()) {
+        const NearestName nearest = NearestName(name).offerAll(words);
         checked.out.atValue(place.path.text(),
                             {.key = finding_key::UnknownWord,
                              .message = std::string(place.field.label) + " " + quoted(name) + " is not known",
                              .value = std::string(name),
                              .expected = "one of " + std::to_string(words.size()) + " words",
-                             .hint = NearestName(name).offerAll(words).hint()});
+                             .hint = nearest.hint(),
+                             .replacement = nearest.onlyName()});
     }
 }
 

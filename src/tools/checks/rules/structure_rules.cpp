@@ -124,6 +124,9 @@ private:
         remark.expected = (tag.isClosing ? "</" : "<") + std::string(tag.name) + ">";
         remark.hint = "write " + remark.expected;
         remark.field = tag.name;
+        if (hasEnd && table_.knows(tag.name)) {
+            remark.replacement = remark.expected;
+        }
         out_.atOffset(tag.begin, std::move(remark));
         brokenAt_ = tag.begin;
     }
@@ -285,11 +288,13 @@ private:
         if (isOpeningWrong || opening.line != closed.line) {
             out_.atOffset(level.begin, {.key = ck::UnclosedElement,
                                         .message = pair,
+                                        .value = isOpeningWrong ? tagText(name) : std::string(),
                                         .expected = isOpeningWrong ? "<" + right + ">" : "</" + right + ">",
                                         .hint = isOpeningWrong ? "did you mean <" + right + ">?"
                                                                : "mend the closing tag on line " +
                                                                      std::to_string(closed.line),
-                                        .field = name});
+                                        .field = name,
+                                        .replacement = isOpeningWrong ? "<" + right + ">" : std::string()});
         }
         if (!isOpeningWrong || opening.line != closed.line) {
             out_.atOffset(tag.begin, {.key = ck::StrayClosingTag,
@@ -299,7 +304,8 @@ private:
                                       .hint = isOpeningWrong ? "mend the opening tag on line " +
                                                                    std::to_string(opening.line)
                                                              : "did you mean </" + right + ">?",
-                                      .field = name});
+                                      .field = name,
+                                      .replacement = isOpeningWrong ? std::string() : "</" + right + ">"});
         }
     }
 

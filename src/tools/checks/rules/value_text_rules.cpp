@@ -68,11 +68,13 @@ public:
     }
 
 private:
-    void tell(std::string_view key, std::string message, std::string expected, std::string hint = {}) {
+    void tell(std::string_view key, std::string message, std::string expected, std::string hint = {},
+              std::string replacement = {}) {
         out_.atText(node_, {.key = key,
                             .message = std::move(message),
                             .expected = std::move(expected),
-                            .hint = std::move(hint)});
+                            .hint = std::move(hint),
+                            .replacement = std::move(replacement)});
     }
 
     bool checkGiven() {
@@ -163,8 +165,10 @@ private:
             checkGiven();
             return;
         }
-        tell(ck::BadFlag, label_ + " " + quoted(text_) + " is neither yes nor no", "yes",
-             NearestName(text_).offerAll(std::to_array<std::string_view>({"yes", "no"})).hint());
+        const NearestName nearest =
+            NearestName(text_).offerAll(std::to_array<std::string_view>({"yes", "no"}));
+        tell(ck::BadFlag, label_ + " " + quoted(text_) + " is neither yes nor no", "yes", nearest.hint(),
+             nearest.onlyName());
     }
 
     void checkWord(std::span<const std::string_view> words) {
@@ -174,8 +178,9 @@ private:
         const auto older = std::find_if(OlderWords.begin(), OlderWords.end(),
                                         [&](const auto& row) { return row.first == text_; });
         if (older != OlderWords.end()) {
-            tell(ck::OlderSpelling, quoted(text_) + " is an older form", std::string(older->second),
-                 "write " + quoted(older->second) + " today");
+            const std::string today(older->second);
+            tell(ck::OlderSpelling, quoted(text_) + " is an older form", today,
+                 "write " + quoted(today) + " today", today);
             return;
         }
         if (std::find(words.begin(), words.end(), text_) != words.end()) {
@@ -184,11 +189,12 @@ private:
         if (words.data() == flavourNames().data() && flavourOf(text_) != AmmoFlavour::None) {
             const std::string today(nameOf(flavourOf(text_)));
             tell(ck::OlderSpelling, quoted(text_) + " is an older form", today,
-                 "write " + quoted(today) + " today");
+                 "write " + quoted(today) + " today", today);
             return;
         }
+        const NearestName nearest = NearestName(text_).offerAll(words);
         tell(finding_key::UnknownWord, label_ + " " + quoted(text_) + " is not known",
-             "one of " + std::to_string(words.size()) + " words", NearestName(text_).offerAll(words).hint());
+             "one of " + std::to_string(words.size()) + " words", nearest.hint(), nearest.onlyName());
     }
 
     void checkLength() {

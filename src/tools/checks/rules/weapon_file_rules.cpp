@@ -97,7 +97,8 @@ void checkUsageWords(const CheckedWeapon& checked) {
                                 {.key = ck::UnknownPeriod,
                                  .message = "the period " + quoted(word) + " is not known",
                                  .value = std::string(word),
-                                 .hint = nearest.hint()});
+                                 .hint = nearest.hint(),
+                                 .replacement = nearest.onlyName()});
         }
     }
     for (const std::string_view word : usageWords(checked.weapon.countries)) {
@@ -110,7 +111,8 @@ void checkUsageWords(const CheckedWeapon& checked) {
                                 {.key = ck::UnknownCountry,
                                  .message = "the country " + quoted(word) + " is not known",
                                  .value = std::string(word),
-                                 .hint = nearest.hint()});
+                                 .hint = nearest.hint(),
+                                 .replacement = nearest.onlyName()});
         }
     }
 }

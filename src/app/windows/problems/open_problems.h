@@ -1,0 +1,16 @@
+#pragma once
+// What is known of the open unit's problems, for its signs.
+
+#include "view/sheet/unit_problems.h"
+
+#include <vector>
+
+namespace varrocade {
+
+/// Forgets what was found in a folder that is no longer in use.
+void followProblemFolder();
+
+/// What the sheet tells of the open unit, for its signs and, before all files were checked, for the list.
+void noteOpenProblems(const SquadRecord& unit, const std::vector<SheetProblem>& problems);
+
+} // namespace varrocade
