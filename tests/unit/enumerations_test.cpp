@@ -127,4 +127,11 @@ TEST(ImageNames, LoseTheirEndingInAnyCase) {
     }
 }
 
+TEST(JobWords, TakeNobodyOnFootForALoader) {
+    EXPECT_EQ(squadJobWord("JOB_LOADER"), "Soldier") << "has no job in the file";
+    EXPECT_EQ(squadJobWord("JOB_SQUAD_MG_ASSISTANT"), "Squad MG Assistant");
+    EXPECT_EQ(squadJobWord("JOB_GUNNER"), "Gunner");
+    EXPECT_EQ(squadJobWord("JOB_COOK"), "JOB_COOK (unknown)");
+}
+
 } // namespace varrocade::tests

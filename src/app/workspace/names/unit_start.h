@@ -16,10 +16,10 @@ namespace varrocade {
 /// What was chosen for a new unit. What is empty or 0 is left to be added later.
 struct UnitStart {
     std::int32_t men = 0;                          ///< of a squad on foot, or the crew of a heavy weapon
-    Text arms;                                     ///< the weapon of each man
+    Text arms = {};                                ///< the weapon of each man
     HeavyWeaponKind kind = HeavyWeaponKind::AtGun; ///< of a heavy weapon
-    Text picture;                                  ///< of the gun, or of the aircraft
-    Text weapon;                                   ///< of the heavy weapon or of the aircraft
+    Text picture = {};                             ///< of the gun, or of the aircraft
+    Text weapon = {};                              ///< of the heavy weapon or of the aircraft
     bool operator==(const UnitStart&) const = default;
 };
 
