@@ -15,6 +15,7 @@ constexpr int UnusedCommand = 32783;
 constexpr int VoicesCommand = 32785;
 constexpr int ReduceCommand = 32789;
 const std::string Pictures = "Images\\Units\\Vehicles\\";
+const std::string SmallPicture = Pictures + "Hulls\\Small.png";
 
 } // namespace
 
@@ -51,8 +52,6 @@ protected:
         const std::size_t begin = text.find("<weight>") + std::string_view("<weight>").size();
         return text.substr(begin, text.find('<', begin) - begin);
     }
-
-    const std::string SmallPicture = Pictures + "Hulls\\Small.png";
 };
 
 TEST_F(ToolsTest, ThumbnailsAreMadeToTheChosenSizeAndCanBeCancelled) {
@@ -83,7 +82,7 @@ TEST_F(ToolsTest, ThumbnailsAreMadeToTheChosenSizeAndCanBeCancelled) {
     dialog.setText(IDC_THUMBNAIL_SIDE, "2048");
     finish(dialog);
     const Window progress = editor->waitForDialog(caption);
-    ASSERT_TRUE(eventually([&] { return game.exists("Thumbnails"); }));
+    ASSERT_TRUE(eventually([&] { return game.exists("Thumbnails\\American.png"); }));
     progress.post(WM_COMMAND, IDCANCEL);
     result = editor->waitForDialog("Vehicle thumbnails");
     EXPECT_TRUE(result.control(IDC_JOB_SUMMARY).text().starts_with("Cancelled. Created "));
@@ -159,6 +158,7 @@ TEST_F(ToolsTest, SheetIsShownWrittenAndUndone) {
     finish(preview);
     EXPECT_TRUE(eventually([&] { return weightInFile() == "57000"; }));
     EXPECT_EQ(game.backups(dataFile(Tiger)).back().find("<weight>57000"), std::string::npos);
+    EXPECT_TRUE(eventually([&] { return editor->dialogs().empty(); }));
     window.send(WM_NULL);
     sendCommand(IDM_UNDO);
     EXPECT_EQ(weightInFile(), "56900");
@@ -194,7 +194,7 @@ TEST_F(ToolsTest, ChecksOfAModMoveItsFilesOnlyAndLeadToWhoNamesThem) {
                 {IDYES, IDNO}},
                button);
     }
-    EXPECT_EQ(dialog.control(IDC_CHECK_SUMMARY).text(), "Nothing was found.");
+    EXPECT_TRUE(eventually([&] { return dialog.control(IDC_CHECK_SUMMARY).text() == "Nothing was found."; }));
     EXPECT_FALSE(dialog.control(IDC_CHECK_RECYCLE).isEnabled());
     finish(dialog, IDCANCEL);
     EXPECT_FALSE(fileExists(mod + Pictures + "Hulls\\One.png") ||
