@@ -3,6 +3,8 @@
 #include "gui_test.h"
 #include "layout_check.h"
 
+#include <algorithm>
+
 namespace varrocade::gui {
 
 class WhereUsedTest : public GuiTest {
@@ -77,9 +79,10 @@ TEST_F(WhereUsedTest, RenamingEverywhereIsShownFirstAndUndoneAsOne) {
     // A sound that the weapon names, from the list of its users.
     const Window used = openDialog(IDM_WHERE_USED, "Where Used");
     const auto choices = used.control(IDC_USED_NAME).choices();
-    ASSERT_GT(choices.size(), 1U);
-    const std::string sound = choices[1];
-    ASSERT_TRUE(sound.starts_with("sound: ")) << sound;
+    const auto isSound = [](const std::string& choice) { return choice.starts_with("sound: "); };
+    const auto found = std::find_if(choices.begin(), choices.end(), isSound);
+    ASSERT_NE(found, choices.end());
+    const std::string sound = *found;
     used.control(IDC_USED_NAME).choose(sound);
     waitForUses(used, "");
     used.startPress(IDC_USED_RENAME);

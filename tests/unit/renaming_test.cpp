@@ -128,9 +128,9 @@ TEST_F(Renaming, InAModLeavesTheGamesFilesAlone) {
               std::string::npos)
         << unit;
     folder.write("Mod\\Data\\Weapons\\Gun.txt", "<weapon><name>Gun</name></weapon>");
-    const RenamePlan override = plan(RenameKind::Weapon, "Gun", "Cannon 2", true);
-    ASSERT_EQ(override.remarks.size(), 1U) << "the game's tank counts again and names it";
-    EXPECT_TRUE(override.remarks.front().ends_with("Vehicles: German Tank")) << override.remarks.front();
+    const RenamePlan overriding = plan(RenameKind::Weapon, "Gun", "Cannon 2", true);
+    ASSERT_EQ(overriding.remarks.size(), 1U) << "the game's tank counts again and names it";
+    EXPECT_TRUE(overriding.remarks.front().ends_with("Vehicles: German Tank")) << overriding.remarks.front();
 }
 
 TEST_F(Renaming, SaysWhyNot) {

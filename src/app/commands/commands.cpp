@@ -222,7 +222,14 @@ void choose() {
 }
 
 void undo() {
+    const std::size_t fileSteps = theWorkspace().fileSteps.size();
     undoLast(theWorkspace());
+    if (theWorkspace().fileSteps.size() != fileSteps) {
+        // Pictures may have their former names again.
+        application().pictures.clear();
+        displayChanged();
+        redrawNow();
+    }
 }
 
 void redo() {

@@ -26,6 +26,23 @@ void takeWeight(std::int32_t weight) {
     }
 }
 
+PerformanceWindow& performanceWindow() {
+    Application& app = application();
+    if (!app.performance) {
+        app.performance = std::make_unique<PerformanceWindow>(PerformanceHooks{
+            .catalogue = app.workspace.catalogue, .drawing = app.drawing, .compare = compareAllVehicles});
+    }
+    return *app.performance;
+}
+
+void showOpenVehicle() {
+    const Application& app = application();
+    // A dialog that is at work on the vehicle would put its own weight back.
+    const bool isFree = IsWindowEnabled(app.window) != FALSE;
+    const SquadRecord* unit = canShowPerformance() ? openUnit(app.workspace) : nullptr;
+    performanceWindow().show(unit, isFree && unit != nullptr ? TakeWeight(takeWeight) : TakeWeight(), isFree);
+}
+
 } // namespace
 
 bool canShowPerformance() {
@@ -34,34 +51,23 @@ bool canShowPerformance() {
 }
 
 void openPerformance() {
-    Application& app = application();
-    if (!app.performance) {
-        app.performance = std::make_unique<PerformanceWindow>(PerformanceHooks{
-            .catalogue = app.workspace.catalogue, .drawing = app.drawing, .compare = compareAllVehicles});
-    }
-    app.performance->open(app.window);
+    performanceWindow().open(application().window);
 }
 
 void showOpenPerformance() {
+    showOpenVehicle();
     openPerformance();
-    followPerformance();
 }
 
 void previewPerformance(const SquadRecord& typed, TakeWeight take) {
-    if (PerformanceWindow* window = application().performance.get(); window != nullptr && window->isOpen()) {
-        window->show(&typed, std::move(take), false);
-    }
+    performanceWindow().show(&typed, std::move(take), false);
 }
 
 void followPerformance() {
     const Application& app = application();
-    if (!app.performance || !app.performance->isOpen()) {
-        return;
+    if (app.performance && app.performance->isOpen()) {
+        showOpenVehicle();
     }
-    // A dialog that is at work on the vehicle would put its own weight back.
-    const bool isFree = IsWindowEnabled(app.window) != FALSE;
-    const SquadRecord* unit = canShowPerformance() ? openUnit(app.workspace) : nullptr;
-    app.performance->show(unit, isFree && unit != nullptr ? TakeWeight(takeWeight) : TakeWeight(), isFree);
 }
 
 void compareAllVehicles() {

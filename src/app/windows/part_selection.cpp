@@ -110,7 +110,7 @@ void showPartMenu(POINT screenPixel) {
     menu.add(IDM_PERFORMANCE, "Weight and &top speed...", canShowPerformance());
     menu.addSeparator();
     const UsedName used = chosenName();
-    menu.add(IDM_WHERE_USED, "Where " + menuText(used.name) + " is &used...\tCtrl+U", !used.name.empty());
+    menu.add(IDM_WHERE_USED, "Where " + menuText(used.name) + " is &used...\tCtrl+U", true);
     menu.add(IDM_RENAME_EVERYWHERE, "&Rename " + menuText(used.name) + " everywhere...\tShift+F2",
              canRenameChosen());
     menu.run(app.window, screenPixel);

@@ -27,8 +27,8 @@ public:
         });
         onButton(IDC_PERFORMANCE, [this] {
             if (edit_.openPerformance != nullptr) {
-                edit_.openPerformance();
                 preview();
+                edit_.openPerformance();
             }
         });
     }

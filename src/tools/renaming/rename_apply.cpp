@@ -100,13 +100,14 @@ std::optional<FileFailure> applyRewrites(FileOperations& files, BackupKeeper& ba
 
 std::vector<FileRewrite> reversed(std::span<const FileRewrite> rewrites) {
     std::vector<FileRewrite> result;
-    for (auto rewrite = rewrites.rbegin(); rewrite != rewrites.rend(); ++rewrite) {
-        result.push_back({.path = rewrite->newPath,
-                          .newPath = rewrite->path,
-                          .keepsContent = rewrite->keepsContent,
-                          .before = rewrite->after,
-                          .after = rewrite->before});
+    for (const FileRewrite& rewrite : rewrites) {
+        result.push_back({.path = rewrite.newPath,
+                          .newPath = rewrite.path,
+                          .keepsContent = rewrite.keepsContent,
+                          .before = rewrite.after,
+                          .after = rewrite.before});
     }
+    std::reverse(result.begin(), result.end());
     return result;
 }
 
