@@ -74,7 +74,7 @@ TEST_F(ModWorkTest, TheGamesUnitsAreAtHand) {
     copying.press(IDC_MOD_FILES_ALL);
     copying.setText(IDC_MOD_FILES_FILTER, "");
     EXPECT_TRUE(copying.control(IDC_MOD_FILES_COUNT).text().starts_with("2 of ")) << "the hidden one stays";
-    copying.press(IDC_MOD_FILES_NEEDS);
+    copying.control(IDC_MOD_FILES_NEEDS).send(BM_CLICK);
     copying.startPress(IDOK);
     answer({"Copy into mod", "2 files copied."});
     EXPECT_TRUE(eventually([&] { return fileExists(modFile("German Panzer V Panther Ausf G")); }));
@@ -176,7 +176,7 @@ TEST_F(ModWorkTest, EquipmentIsPutTogetherFromTheUnitsThatThereAre) {
     const Window listed = units.control(IDC_MOD_LISTED);
     EXPECT_EQ(units.control(IDC_MOD_SUMMARY).text(), "1 unit, 1 not there (!)");
     const int own = rowCount(there);
-    units.press(IDC_MOD_SOURCE_NATION);
+    units.control(IDC_MOD_SOURCE_NATION).send(BM_CLICK);
     EXPECT_GT(rowCount(there), own) << "of all nationalities";
     units.setText(IDC_MOD_SOURCE_FILTER, "t-34");
     const int tanks = rowCount(there);
