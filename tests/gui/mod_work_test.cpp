@@ -38,6 +38,12 @@ protected:
     [[nodiscard]] std::string modFile(std::string_view name) const {
         return userMod.modFolder() + dataFile(name);
     }
+    /// Presses a button that shows a box, whose caption may be the dialog's own, and answers that.
+    void pressAndAnswer(Window dialog, int button, const Box& box, int with = IDOK) const {
+        dialog.startPress(button);
+        EXPECT_TRUE(eventually([&] { return !dialog.isEnabled(); })) << "no box, no end";
+        answer(box, with);
+    }
     [[nodiscard]] int clientHeight() const {
         RECT client{};
         GetClientRect(window.handle(), &client);
@@ -74,9 +80,8 @@ TEST_F(ModWorkTest, TheGamesUnitsAreAtHand) {
     copying.press(IDC_MOD_FILES_ALL);
     copying.setText(IDC_MOD_FILES_FILTER, "");
     EXPECT_TRUE(copying.control(IDC_MOD_FILES_COUNT).text().starts_with("2 of ")) << "the hidden one stays";
-    copying.press(IDC_MOD_FILES_NEEDS);
-    copying.startPress(IDOK);
-    answer({"Copy into mod", "2 files copied."});
+    copying.control(IDC_MOD_FILES_NEEDS).send(BM_CLICK);
+    pressAndAnswer(copying, IDOK, {"Copy into mod", "2 files copied."});
     EXPECT_TRUE(eventually([&] { return fileExists(modFile("German Panzer V Panther Ausf G")); }));
     EXPECT_EQ(readFile(modFile(T34)), game.read(dataFile(T34)));
     EXPECT_TRUE(eventually([&] {
@@ -88,13 +93,14 @@ TEST_F(ModWorkTest, TheGamesUnitsAreAtHand) {
     const Window removing = openDialog(IDM_MOD_REMOVE, "Remove from mod");
     EXPECT_EQ(removing.control(IDC_MOD_FILES_LIST).listTexts().size(), 2U);
     removing.press(IDC_MOD_FILES_ALL);
-    removing.startPress(IDOK);
-    answer(
+    pressAndAnswer(
+        removing, IDOK,
         {"Remove from mod",
          "Are you sure you want to remove 2 files from the mod?\n\nThe game's files of the same names, where "
          "there are any, count again. The mod's are kept in the folder Backups.",
          {IDYES, IDNO}},
         IDYES);
+    EXPECT_TRUE(eventually([&] { return !removing.exists(); }));
     answer({"Remove from mod", "2 files removed."});
     EXPECT_FALSE(fileExists(modFile(T34)));
 
@@ -119,8 +125,7 @@ TEST_F(ModWorkTest, AHandWrittenFileKeepsWhatWasNotChanged) {
 
     settings = openDialog(EditModCommand, "Edit Mod");
     settings.setText(IDC_MOD_LAST, "1942");
-    settings.startPress(IDOK);
-    answer({"Edit Mod", "The end is before the beginning"});
+    pressAndAnswer(settings, IDOK, {"Edit Mod", "The end is before the beginning"});
     EXPECT_EQ(editor->focus(), settings.control(IDC_MOD_LAST));
     settings.setText(IDC_MOD_LAST, "1945");
     settings.startPress(IDC_MOD_NATIONALITIES);
@@ -142,6 +147,9 @@ TEST_F(ModWorkTest, AHandWrittenFileKeepsWhatWasNotChanged) {
     surnames.press(IDC_ENTRY_REDO);
     EXPECT_EQ(names.listTexts().size(), 2U);
     EXPECT_FALSE(surnames.control(IDC_ENTRY_REDO).isEnabled());
+    surnames.press(IDC_ENTRY_ADD);
+    surnames.press(IDC_ENTRY_UNDO);
+    EXPECT_EQ(names.listTexts().size(), 2U) << "an entry without a name goes, too";
     names.choose("Schulz  1");
     surnames.setText(IDC_MOD_SHARE, "5");
     finish(surnames);
@@ -176,7 +184,7 @@ TEST_F(ModWorkTest, EquipmentIsPutTogetherFromTheUnitsThatThereAre) {
     const Window listed = units.control(IDC_MOD_LISTED);
     EXPECT_EQ(units.control(IDC_MOD_SUMMARY).text(), "1 unit, 1 not there (!)");
     const int own = rowCount(there);
-    units.press(IDC_MOD_SOURCE_NATION);
+    units.control(IDC_MOD_SOURCE_NATION).send(BM_CLICK);
     EXPECT_GT(rowCount(there), own) << "of all nationalities";
     units.setText(IDC_MOD_SOURCE_FILTER, "t-34");
     const int tanks = rowCount(there);
@@ -187,8 +195,7 @@ TEST_F(ModWorkTest, EquipmentIsPutTogetherFromTheUnitsThatThereAre) {
     EXPECT_EQ(rowCount(listed), 2);
     EXPECT_EQ(rowCount(there), tanks - 1);
     units.setText(IDC_MOD_COST, "x");
-    units.startPress(IDOK);
-    answer({"Units", "\"Cost\" must be a whole number from 0 to 100000"});
+    pressAndAnswer(units, IDOK, {"Units", "\"Cost\" must be a whole number from 0 to 100000"});
     EXPECT_EQ(editor->focus(), units.control(IDC_MOD_COST));
     units.setText(IDC_MOD_COST, "120");
     listed.send(WM_CHAR, 0x1A);
@@ -266,14 +273,15 @@ TEST_F(ModWorkTest, ChangesAreListedAndTakenBack) {
     EXPECT_EQ(rowCount(table), 1) << "the Tiger is the game's over again";
     EXPECT_EQ(changes.control(IDC_MOD_CHANGE_COUNT).text(),
               "0 added, 1 changed, 0 removed; 1 file as the game has them");
-    changes.startPress(IDC_MOD_REVERT_FILE);
-    answer({"What this mod changes",
-            "Are you sure you want to remove " + std::string(T34) +
-                " from the mod?\n\nThe game's files of the same names, where there are any, count again. The "
-                "mod's "
-                "are kept in the folder Backups.",
-            {IDYES, IDNO}},
-           IDYES);
+    pressAndAnswer(
+        changes, IDC_MOD_REVERT_FILE,
+        {"What this mod changes",
+         "Are you sure you want to remove " + std::string(T34) +
+             " from the mod?\n\nThe game's files of the same names, where there are any, count again. The "
+             "mod's "
+             "are kept in the folder Backups.",
+         {IDYES, IDNO}},
+        IDYES);
     EXPECT_TRUE(eventually([&] { return rowCount(table) == 0; }));
     EXPECT_FALSE(fileExists(modFile(T34)));
     finish(changes, IDCANCEL);

@@ -68,11 +68,14 @@ void ListDialog::updateUndo() {
     keepKeyboard(handle(), former, IDC_ENTRY_LIST);
 }
 
-/// Text that cannot be taken is the first thing to go.
+/// Text that cannot be taken is the first thing to go. An entry that was just added and says nothing yet goes
+/// itself.
 void ListDialog::goBack(std::optional<std::size_t> (ListModel::*step)()) {
     if (isShown() && model_.read(shownIndex(), port())) {
         refreshShown();
-        return;
+        if (!model_.read(shownIndex(), port())) {
+            return;
+        }
     }
     if (const auto place = (model_.*step)()) {
         refresh(std::min(static_cast<int>(*place), lastIndex()));

@@ -39,13 +39,13 @@ LRESULT CALLBACK listKeysProcedure(HWND list, UINT message, WPARAM parameter, LP
 }
 
 // What Ctrl with these letters comes to.
-constexpr WPARAM ControlY = 'Y' - 'A' + 1;
-constexpr WPARAM ControlZ = 'Z' - 'A' + 1;
+constexpr WPARAM RedoKey = 'Y' - 'A' + 1;
+constexpr WPARAM UndoKey = 'Z' - 'A' + 1;
 
 LRESULT CALLBACK undoKeysProcedure(HWND control, UINT message, WPARAM parameter, LPARAM detail, UINT_PTR,
                                    DWORD_PTR dialog) {
-    const bool isUndo = message == WM_CHAR && parameter == ControlZ;
-    const bool isRedo = message == WM_CHAR && parameter == ControlY;
+    const bool isUndo = message == WM_CHAR && parameter == UndoKey;
+    const bool isRedo = message == WM_CHAR && parameter == RedoKey;
     // What is no edit answers nothing.
     if ((!isUndo && !isRedo) || (isUndo && SendMessageA(control, EM_CANUNDO, 0, 0) == TRUE)) {
         return DefSubclassProc(control, message, parameter, detail);

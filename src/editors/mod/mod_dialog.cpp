@@ -57,7 +57,8 @@ private:
         std::string text(static_cast<std::size_t>(GetWindowTextLengthA(edit)) + 1, '\0');
         text.resize(
             static_cast<std::size_t>(GetWindowTextA(edit, text.data(), static_cast<int>(text.size()))));
-        return creditLines(text);
+        // Empty lines at the end, which the file may have, are no change of the user's.
+        return text == creditsText(edit_.settings.credits) ? edit_.settings.credits : creditLines(text);
     }
 
     /// The settings as far as what is typed can be taken.

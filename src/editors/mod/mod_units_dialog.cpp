@@ -231,17 +231,14 @@ private:
         return false;
     }
 
-    bool receive(UINT message, WPARAM parameter, LPARAM detail) override {
+    bool receive(UINT message, WPARAM, LPARAM detail) override {
         if (message == WM_NOTIFY) {
             follow(*reinterpret_cast<const NMHDR*>(detail));
-        } else if (message == WM_SETCURSOR && dragged_ != nullptr) {
-            SetCursor(LoadCursorA(nullptr, IDC_HAND));
         } else if (message == WM_LBUTTONUP && dragged_ != nullptr) {
             drop({GET_X_LPARAM(detail), GET_Y_LPARAM(detail)});
         } else if (message == WM_CAPTURECHANGED) {
             dragged_ = nullptr;
         }
-        static_cast<void>(parameter);
         return false;
     }
 

@@ -124,6 +124,7 @@ void listRecentMods(HMENU menu) {
     while (DeleteMenu(recent, 1, MF_BYPOSITION) != FALSE) {
     }
     const std::vector<std::string>& folders = theWorkspace().otherMods;
+    ModifyMenuA(recent, IDM_MOD_RECENT, MF_BYCOMMAND | MF_STRING, IDM_MOD_RECENT, "(none yet)");
     for (std::size_t i = 0; i < folders.size(); ++i) {
         const std::string text = "&" + std::to_string(i + 1) + "  " + menuText(folders[i]);
         const auto id = static_cast<UINT>(IDM_MOD_RECENT + i);

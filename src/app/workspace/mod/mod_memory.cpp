@@ -22,18 +22,18 @@ std::string memoryPath(const Workspace& workspace) {
     return workspace.programFolder + std::string(ModMemoryFileName);
 }
 
-std::string element(std::string_view name, std::string_view text) {
+std::string elementLine(std::string_view name, std::string_view text) {
     return "\t<" + std::string(name) + ">" + std::string(text) + "</" + std::string(name) + ">\r\n";
 }
 
 std::string memoryText(const Workspace& workspace) {
     std::string text = "<" + std::string(EditorElement) + ">\r\n";
     if (workspace.showsGameUnits) {
-        text += element(GameUnitsElement, FlagSet);
+        text += elementLine(GameUnitsElement, FlagSet);
     }
     for (const std::string& folder : workspace.otherMods) {
         if (canBeValue(folder)) {
-            text += element(ModElement, folder);
+            text += elementLine(ModElement, folder);
         }
     }
     return text + "</" + std::string(EditorElement) + ">\r\n";
