@@ -27,7 +27,7 @@ namespace {
 constexpr UINT_PTR SearchTimer = 1;
 constexpr UINT SearchPollMilliseconds = 50;
 
-constexpr std::array<int, ProblemColumnCount> ColumnWidths = {64, 190, 44, 150, 250, 210};
+constexpr std::array<int, ProblemColumnCount> ColumnWidths = {64, 180, 44, 130, 230, 146};
 
 struct ScopeRow {
     ProblemScope scope;
