@@ -1,14 +1,17 @@
 // Checks any bytes as a unit and as a weapon: each finding has a rule, a line of the file and a column of the
-// line, and every format of reports takes it.
+// line, every format of reports takes it, and mending it changes the text.
 
 #include "data/format/source_map.h"
 #include "round_trip.h"
 #include "tools/checks/engine/check_file.h"
 #include "tools/checks/engine/check_rules.h"
+#include "tools/checks/fixes/quick_fixes.h"
 #include "tools/checks/output/check_reports.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <vector>
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -27,6 +30,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
                               finding.column <= lines.line(finding.line).size() + 2,
                           "a finding outside of its file", content, finding.message);
         }
+        constexpr std::size_t mostFixed = 20;
+        const std::span<const Finding> some = std::span(found).first(std::min(found.size(), mostFixed));
+        const FixedText fixed = fixText(knowledge, category, "Any", content, some);
+        fuzz::require((fixed.fixed > 0) == (fixed.text != content), "a fix that changes nothing", content,
+                      fixed.text);
         checkReportText(found, [&](std::string_view) { return std::string_view(content); });
         for (const std::string& text :
              {checkReportJson(found), checkReportSarif(found), checkReportGitHub(found)}) {

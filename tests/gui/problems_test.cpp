@@ -51,7 +51,8 @@ TEST_F(ProblemsTest, LeadsToTheFieldAndMendsIt) {
     const Window weapons = editor->waitForDialog("2. Turret: weapons");
     ASSERT_TRUE(weapons);
     EXPECT_EQ(selected(), Tiger);
-    EXPECT_EQ(Window(GetParent(editor->focus().handle())), weapons.control(IDC_WEAPON_TYPE));
+    EXPECT_TRUE(eventually(
+        [&] { return Window(GetParent(editor->focus().handle())) == weapons.control(IDC_WEAPON_TYPE); }));
     finish(weapons, IDCANCEL);
 
     problems.press(IDC_PROBLEMS_FIX);
@@ -78,9 +79,6 @@ TEST_F(ProblemsTest, MendsAFileThatIsNotOpenAndTakesItBack) {
     problems.control(IDC_PROBLEMS_SCOPE).choose("Category");
     EXPECT_EQ(rows(problems), 0);
     finish(problems, IDCANCEL);
-
-    sendCommand(IDM_NEXT_PROBLEM);
-    EXPECT_NE(selected(), Tiger) << "the view is that of the weapons";
 }
 
 TEST_F(ProblemsTest, F8GoesToAProblemBeforeTheWindowWasOpen) {

@@ -20,7 +20,7 @@ namespace {
 
 namespace ck = check_key;
 
-const std::string Squad = "Game\\Data\\Infantry\\German Squad.txt";
+const std::string SquadFile = "Game\\Data\\Infantry\\German Squad.txt";
 
 /// A rifle squad in the lines of the game's own files.
 std::string squadOf(std::string_view weaponLines) {
@@ -33,16 +33,16 @@ std::string squadOf(std::string_view weaponLines) {
            std::string(weaponLines) + "\t</man>\r\n</squad>\r\n";
 }
 
-const std::string Weapon = "\t\t<weapon><type>WEAPON_RIFLE_K98K</type></weapon>\r\n";
-const std::string Rounds = "\t\t<ammo><for>WEAPON_RIFLE_K98K</for><rounds>60</rounds></ammo>\r\n";
+const std::string RifleLine = "\t\t<weapon><type>WEAPON_RIFLE_K98K</type></weapon>\r\n";
+const std::string RoundsLine = "\t\t<ammo><for>WEAPON_RIFLE_K98K</for><rounds>60</rounds></ammo>\r\n";
 
 class ProblemsTest : public WorkspaceTest {
 protected:
     ProblemsTest() {
         WeaponRecord rifle = newWeapon("WEAPON_RIFLE_K98K");
         folder.write("Game\\Data\\Weapons\\WEAPON_RIFLE_K98K.txt", weaponFileText(rifle));
-        folder.write("Game\\Data\\Infantry\\German Others.txt", squadOf(Weapon + Rounds));
-        folder.write(Squad, squadOf(Weapon + Rounds));
+        folder.write("Game\\Data\\Infantry\\German Others.txt", squadOf(RifleLine + RoundsLine));
+        folder.write(SquadFile, squadOf(RifleLine + RoundsLine));
     }
 
     void look() {
@@ -75,29 +75,29 @@ TEST_F(ProblemsTest, QuickFixesChangeWhatTheyNameAndNothingElse) {
         std::string mended;
         std::string_view key;
     } rows[] = {
-        {squadOf("\t\t<weapon><type>WEAPON_RIFLE_K98</type></weapon>\r\n" + Rounds), squadOf(Weapon + Rounds),
-         finding_key::UnknownWeapon},
-        {squadOf("\t\t<weapon><type>weapon_rifle_k98k</type></weapon>\r\n" + Rounds),
-         squadOf(Weapon + Rounds), ck::WeaponCase},
-        {squadOf("\t\t<night_vision>Yes</night_vision>\r\n" + Weapon + Rounds),
-         squadOf("\t\t<night_vision>yes</night_vision>\r\n" + Weapon + Rounds), ck::BadFlag},
-        {squadOf(Weapon + "\t\t<amo><for>WEAPON_RIFLE_K98K</for><rounds>60</rounds></amo>\r\n"),
-         squadOf(Weapon + Rounds), finding_key::UnknownElement},
-        {squadOf(Weapon + "\t\t<ammo><for>WEAPON_RIFLE_K98K</for><rounds>60</round></ammo>\r\n"),
-         squadOf(Weapon + Rounds), ck::StrayClosingTag},
-        {squadOf(Weapon), squadOf(Weapon + Rounds), ck::WeaponWithoutAmmo},
+        {squadOf("\t\t<weapon><type>WEAPON_RIFLE_K98</type></weapon>\r\n" + RoundsLine),
+         squadOf(RifleLine + RoundsLine), finding_key::UnknownWeapon},
+        {squadOf("\t\t<weapon><type>weapon_rifle_k98k</type></weapon>\r\n" + RoundsLine),
+         squadOf(RifleLine + RoundsLine), ck::WeaponCase},
+        {squadOf("\t\t<night_vision>Yes</night_vision>\r\n" + RifleLine + RoundsLine),
+         squadOf("\t\t<night_vision>yes</night_vision>\r\n" + RifleLine + RoundsLine), ck::BadFlag},
+        {squadOf(RifleLine + "\t\t<amo><for>WEAPON_RIFLE_K98K</for><rounds>60</rounds></amo>\r\n"),
+         squadOf(RifleLine + RoundsLine), finding_key::UnknownElement},
+        {squadOf(RifleLine + "\t\t<ammo><for>WEAPON_RIFLE_K98K</for><rounds>60</round></ammo>\r\n"),
+         squadOf(RifleLine + RoundsLine), ck::StrayClosingTag},
+        {squadOf(RifleLine), squadOf(RifleLine + RoundsLine), ck::WeaponWithoutAmmo},
     };
     for (const auto& row : rows) {
-        folder.write(Squad, row.broken);
+        folder.write(SquadFile, row.broken);
         look();
         const std::vector<Problem> problems = squadProblems(row.key);
         ASSERT_EQ(problems.size(), 1U) << row.key;
         EXPECT_NE(fixName(book, problems[0]), "") << row.key;
         EXPECT_EQ(fixProblems(book, workspace, problems).fixed, 1U) << row.key;
-        EXPECT_EQ(fileText(Squad), row.mended) << row.key;
+        EXPECT_EQ(fileText(SquadFile), row.mended) << row.key;
         EXPECT_TRUE(squadProblems(row.key).empty()) << row.key;
         undoLast(workspace);
-        EXPECT_EQ(fileText(Squad), row.broken) << row.key;
+        EXPECT_EQ(fileText(SquadFile), row.broken) << row.key;
         workspace.fileSteps.clear();
     }
     EXPECT_FALSE(files("Game\\Backups\\Data\\Infantry\\German Squad").empty());
@@ -106,7 +106,7 @@ TEST_F(ProblemsTest, QuickFixesChangeWhatTheyNameAndNothingElse) {
 TEST_F(ProblemsTest, WhatHasSeveralAnswersIsNotFixed) {
     folder.write("Game\\Data\\Weapons\\WEAPON_RIFLE_K98A.txt",
                  weaponFileText(newWeapon("WEAPON_RIFLE_K98A")));
-    folder.write(Squad, squadOf("\t\t<weapon><type>WEAPON_RIFLE_K98X</type></weapon>\r\n" + Rounds));
+    folder.write(SquadFile, squadOf("\t\t<weapon><type>WEAPON_RIFLE_K98X</type></weapon>\r\n" + RoundsLine));
     look();
     const std::vector<Problem> problems = squadProblems(finding_key::UnknownWeapon);
     ASSERT_EQ(problems.size(), 1U);
@@ -115,10 +115,10 @@ TEST_F(ProblemsTest, WhatHasSeveralAnswersIsNotFixed) {
 }
 
 TEST_F(ProblemsTest, FixesOfOneKindAreOneStepAndTheOpenRecordHasItsOwn) {
-    const std::string broken = squadOf("\t\t<weapon><type>WEAPON_RIFLE_K98</type></weapon>\r\n" + Rounds);
+    const std::string broken = squadOf("\t\t<weapon><type>WEAPON_RIFLE_K98</type></weapon>\r\n" + RoundsLine);
     const std::string other = "Game\\Data\\Infantry\\German Others.txt";
     const std::string third = "Game\\Data\\Infantry\\German Third.txt";
-    for (const std::string& path : {Squad, other, third}) {
+    for (const std::string& path : {SquadFile, other, third}) {
         folder.write(path, broken);
     }
     showFile(workspace, Category::Infantry, "German Squad");
@@ -129,9 +129,9 @@ TEST_F(ProblemsTest, FixesOfOneKindAreOneStepAndTheOpenRecordHasItsOwn) {
     const FixResult result = fixProblems(book, workspace, fixableLike(book, all, one[0]));
     EXPECT_EQ(result.fixed, 3U);
     EXPECT_EQ(result.inMemory, 1U);
-    EXPECT_EQ(fileText(Squad), broken);
+    EXPECT_EQ(fileText(SquadFile), broken);
     EXPECT_TRUE(workspace.open.isModified());
-    EXPECT_EQ(fileText(other), squadOf(Weapon + Rounds));
+    EXPECT_EQ(fileText(other), squadOf(RifleLine + RoundsLine));
     EXPECT_TRUE(squadProblems(finding_key::UnknownWeapon).empty());
     EXPECT_EQ(lastStepName(workspace), "Fix 3 problems");
     undoLast(workspace);
@@ -144,18 +144,18 @@ TEST_F(ProblemsTest, FixesOfOneKindAreOneStepAndTheOpenRecordHasItsOwn) {
 }
 
 TEST_F(ProblemsTest, AFileThatWasChangedSinceStaysAsItIs) {
-    folder.write(Squad, squadOf("\t\t<weapon><type>WEAPON_RIFLE_K98</type></weapon>\r\n" + Rounds));
+    folder.write(SquadFile, squadOf("\t\t<weapon><type>WEAPON_RIFLE_K98</type></weapon>\r\n" + RoundsLine));
     look();
     ASSERT_EQ(fixProblems(book, workspace, squadProblems(finding_key::UnknownWeapon)).fixed, 1U);
-    const std::string newer = squadOf(Weapon + Rounds + "// newer\r\n");
-    folder.write(Squad, newer);
+    const std::string newer = squadOf(RifleLine + RoundsLine + "// newer\r\n");
+    folder.write(SquadFile, newer);
     undoLast(workspace);
-    EXPECT_EQ(fileText(Squad), newer);
+    EXPECT_EQ(fileText(SquadFile), newer);
     EXPECT_EQ(captions().back(), "Couldn't undo: Fix unknown-weapon");
 }
 
 TEST_F(ProblemsTest, TheListShowsWhatItsViewHas) {
-    folder.write(Squad, squadOf("\t\t<weapon><type>WEAPON_RIFLE_K98</type></weapon>\r\n"));
+    folder.write(SquadFile, squadOf("\t\t<weapon><type>WEAPON_RIFLE_K98</type></weapon>\r\n"));
     look();
     showFile(workspace, Category::Infantry, "German Squad");
     const std::vector<Problem> open =
@@ -244,7 +244,7 @@ TEST(FieldTargets, LeadFromAPathToTheEntryAndTheField) {
 }
 
 TEST(FieldTargets, AnElementOfTheTextHasThePathOfItsPlace) {
-    const std::string content = squadOf(Weapon + Rounds);
+    const std::string content = squadOf(RifleLine + RoundsLine);
     EXPECT_EQ(pathOfFinding(Category::Infantry, content,
                             {.key = ck::NotANumber, .line = 15, .column = 45, .field = "rounds"}),
               "man[1].ammo[1].rounds");

@@ -320,6 +320,7 @@ LRESULT CALLBACK mainWindowProcedure(HWND window, UINT message, WPARAM parameter
             return 0;
         }
         keepJournal(theWorkspace());
+        takeSearch();
         application().isLookDue |= application().watch.hasChanged(baseFolder(theWorkspace()));
         lookOutside(window);
         return 0;

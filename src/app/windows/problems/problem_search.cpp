@@ -59,6 +59,9 @@ void goToProblem(const Problem& problem, bool opensEditor) {
                         equalsIgnoringCase(listedOpenName(workspace), problem.name);
     if (!isOpen) {
         showFile(workspace, problem.category, problem.name);
+        if (!equalsIgnoringCase(listedOpenName(workspace), problem.name)) {
+            return;
+        }
     }
     const std::string path = pathOfFinding(problem.category, textWithProblem(problem), problem.finding);
     if (const WeaponRecord* weapon = openWeapon(workspace)) {

@@ -27,6 +27,7 @@ struct ProblemsState {
     ProblemView view;
     std::vector<Problem> shown; ///< as the view has them
     std::size_t chosen = 0;     ///< the place of the problem that was gone to last, or that is selected
+    bool hasGone = false;       ///< the chosen problem was gone to, and F8 goes on to the next
     bool isStepDue = false;     ///< the next problem is to be gone to as soon as the search is done
     HWND window = nullptr;
     ProblemsLayout layout;

@@ -34,10 +34,12 @@ void showProblemWords() {
     const std::string fix = problem != nullptr ? fixName(viewState().book, *problem) : std::string();
     std::string text;
     if (problem != nullptr) {
-        const CheckRule* rule = findCheckRule(problem->finding.key);
-        text = (rule != nullptr ? std::string(rule->sentence) + " " + std::string(rule->help)
-                                : problem->finding.message) +
-               " [" + std::string(problem->finding.key) + "]";
+        const Finding& finding = problem->finding;
+        const CheckRule* rule = findCheckRule(finding.key);
+        text = finding.message + (finding.hint.empty() ? "" : "; " + finding.hint) + " [" +
+               std::string(finding.key) + "]";
+        text += rule == nullptr ? std::string()
+                                : "\r\n" + std::string(rule->sentence) + " " + std::string(rule->help);
         text += fix.empty() ? "" : "\r\nFix: " + fix;
     }
     SetDlgItemTextA(dialog, IDC_PROBLEMS_HELP, text.c_str());

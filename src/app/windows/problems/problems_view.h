@@ -15,7 +15,7 @@ const Problem* chosenProblem();
 void showProblemList();
 /// Selects the chosen problem.
 void showChosenProblem();
-/// Shows it in words, with what "Fix" would do.
+/// Shows it in words that no column cuts, with its rule and what "Fix" would do.
 void showProblemWords();
 /// Shows how many there are and how far a search has come.
 void showProblemCount();

@@ -27,7 +27,7 @@ namespace {
 constexpr UINT_PTR SearchTimer = 1;
 constexpr UINT SearchPollMilliseconds = 50;
 
-constexpr std::array<int, ProblemColumnCount> ColumnWidths = {64, 190, 44, 150, 250, 210};
+constexpr std::array<int, ProblemColumnCount> ColumnWidths = {64, 180, 44, 130, 230, 146};
 
 struct ScopeRow {
     ProblemScope scope;
@@ -112,6 +112,7 @@ void fix(const std::vector<Problem>& problems) {
 
 void openChosen() {
     if (const Problem* problem = chosenProblem()) {
+        windowState().hasGone = true;
         goToProblem(Problem(*problem), true);
     }
 }
@@ -255,6 +256,7 @@ void goToDueProblem() {
     ProblemsState& problems = windowState();
     if (std::exchange(problems.isStepDue, false) && !problems.shown.empty()) {
         problems.chosen = 0;
+        problems.hasGone = true;
         showChosenProblem();
         goToProblem(Problem(problems.shown.front()), false);
     }
@@ -270,10 +272,11 @@ INT_PTR CALLBACK problemsWindowProcedure(HWND dialog, UINT message, WPARAM param
         return notify(dialog, *reinterpret_cast<const NMHDR*>(detail), detail) ? TRUE : FALSE;
     case WM_TIMER:
         if (windowState().search.isRunning()) {
-            if (takeSearch()) {
-                goToDueProblem();
-            }
+            takeSearch();
             showProblemCount();
+        }
+        if (windowState().book.check() != nullptr) {
+            goToDueProblem();
         }
         return TRUE;
     case WM_COMMAND:
@@ -324,17 +327,15 @@ void step(bool isForwards) {
         return;
     }
     ProblemsState& problems = windowState();
-    const bool isFirst = problems.window == nullptr && problems.shown.empty();
-    problems.shown = problemsIn(problems.book, theWorkspace(), problems.view);
     showProblemList();
     const std::size_t count = problems.shown.size();
     if (count == 0) {
         MessageBeep(MB_OK);
         return;
     }
-    problems.chosen = isFirst      ? 0
-                      : isForwards ? (problems.chosen + 1) % count
-                                   : (problems.chosen + count - 1) % count;
+    const std::size_t onwards = isForwards ? 1 : count - 1;
+    problems.chosen = problems.hasGone ? (problems.chosen + onwards) % count : problems.chosen;
+    problems.hasGone = true;
     showChosenProblem();
     goToProblem(Problem(problems.shown[problems.chosen]), false);
 }

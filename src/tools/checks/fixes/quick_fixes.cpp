@@ -119,7 +119,7 @@ TextEdits editsFor(const CheckKnowledge& knowledge, std::string_view content, co
                                                       : valueEdits(content, at, finding);
 }
 
-bool isSame(const Finding& a, const Finding& b) {
+bool isSameProblem(const Finding& a, const Finding& b) {
     return std::tie(a.key, a.field, a.value) == std::tie(b.key, b.field, b.value);
 }
 
@@ -137,7 +137,8 @@ bool isOfStructure(const Finding& finding) {
 
 bool isBetter(const std::vector<Finding>& before, const std::vector<Finding>& after, const Finding& fixed) {
     const auto count = [&](const std::vector<Finding>& all) {
-        return std::count_if(all.begin(), all.end(), [&](const Finding& one) { return isSame(one, fixed); });
+        return std::count_if(all.begin(), all.end(),
+                             [&](const Finding& one) { return isSameProblem(one, fixed); });
     };
     return count(after) < count(before) &&
            (isOfStructure(fixed) || countErrors(after) <= countErrors(before));
