@@ -529,6 +529,7 @@
 #define IDC_START_PICTURE 2072
 #define IDC_START_WEAPON 2073
 #define IDC_START_ARMS 2300
+#define IDC_START_USUAL 2301
 
 // NOLINTEND(cppcoreguidelines-macro-usage)
 

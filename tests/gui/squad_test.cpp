@@ -171,6 +171,9 @@ TEST_F(SquadTest, NewSquadBeginsWithTheOpenNationAndWhatIsChosen) {
     const Window dialog = openDialog(NewId, "New Squad");
     EXPECT_EQ(dialog.control(IDC_NEW_NAME).text(), "German ");
     expectWellLaidOut(dialog);
+    EXPECT_EQ(dialog.control(IDC_START_WEAPON).text(), "") << "until it is asked for";
+    dialog.press(IDC_START_USUAL);
+    EXPECT_EQ(dialog.control(IDC_START_MEN).text(), "5");
     dialog.control(IDC_START_KIND).choose("Mortar");
     EXPECT_EQ(dialog.control(IDC_START_WEAPON).text(), "WEAPON_MORTAR_80_GRW34");
     EXPECT_EQ(dialog.control(IDC_START_PICTURE).text(), "Image-GrW34 gun");

@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <array>
+#include <string>
 #include <vector>
 
 namespace varrocade {
@@ -68,7 +69,9 @@ class NewSquadDialog final : public FormDialog {
 public:
     NewSquadDialog(const std::vector<std::string>& bases, NewSquadChoice& choice)
         : FormDialog({.dialogTemplate = IDD_NEW_SQUAD, .caption = "Error", .imageBases = bases}, form_),
-          choice_(choice), form_(choice, StartShape) {}
+          choice_(choice), form_(choice, StartShape) {
+        onButton(IDC_START_USUAL, [this] { suggest(suggested_.kind); });
+    }
 
     [[nodiscard]] const std::string& name() const { return name_; }
 
@@ -158,14 +161,19 @@ void NewSquadDialog::replace(int control, Text& former, const Text& next) {
     former = next;
 }
 
-/// Suggests what fits the nationality and the kind, but leaves what the user chose.
+/// Suggests what fits the nationality and the kind, where that is asked for, but leaves what the user chose.
 void NewSquadDialog::suggest(HeavyWeaponKind kind) {
     const Workspace& workspace = theWorkspace();
     const UnitStart next =
-        suggestedStart(workspace.category, nationality_, kind, workspace.catalogue, pictures_);
+        port().isChecked(IDC_START_USUAL)
+            ? suggestedStart(workspace.category, nationality_, kind, workspace.catalogue, pictures_)
+            : UnitStart();
     suggested_.kind = kind;
-    suggested_.men = next.men;
     offerWeapons();
+    if (port().text(IDC_START_MEN) == std::to_string(suggested_.men)) {
+        port().setText(IDC_START_MEN, std::to_string(next.men));
+    }
+    suggested_.men = next.men;
     replace(IDC_START_ARMS, suggested_.arms, next.arms);
     replace(IDC_START_WEAPON, suggested_.weapon, next.weapon);
     replace(IDC_START_PICTURE, suggested_.picture, next.picture);
@@ -221,6 +229,10 @@ void NewSquadDialog::closeGaps() {
             gap += pitch;
         }
     }
+    if (choice_.holder == Holder::VehicleFile) {
+        ShowWindow(GetDlgItem(handle(), IDC_START_USUAL), SW_HIDE);
+    }
+    lift(IDC_START_USUAL, gap);
     lift(IDOK, gap);
     lift(IDCANCEL, gap);
     RECT window{};
