@@ -92,9 +92,12 @@ void GuiTest::dismiss(Window dialog) const {
 void GuiTest::expectGone(Window dialog, Window owner) {
     EXPECT_TRUE(eventually([&] { return !dialog.exists(); })) << "it does not close";
     // The answer comes when the editor waits for its user again.
-    if (owner.exists()) {
-        owner.send(WM_NULL);
-    }
+    DWORD_PTR result = 0;
+    const auto patience = static_cast<UINT>(deadline() - GetTickCount64());
+    EXPECT_TRUE(SendMessageTimeoutW(owner.handle(), WM_NULL, 0, 0, SMTO_ABORTIFHUNG, patience, &result) !=
+                    0 ||
+                !owner.exists())
+        << "the editor does not answer";
 }
 
 void GuiTest::answer(const Box& expected, int button) const {

@@ -252,6 +252,7 @@ TEST_F(ModWorkTest, PicturesAreChosenByTheirLooks) {
 }
 
 TEST_F(ModWorkTest, ChangesAreListedAndTakenBack) {
+    game.copyFromSample("Data\\Weapons");
     userMod.create();
     writeFile(modFile(Tiger), withReplaced(game.read(dataFile(Tiger)), "<weight>56900<", "<weight>60000<"));
     writeFile(modFile(T34), withReplaced(game.read(dataFile(T34)), "<vehicle>", "// ours\r\n<vehicle>"));

@@ -18,6 +18,11 @@ class ProblemsTest : public GuiTest {
 protected:
     /// Starts with a gun misspelt in one vehicle.
     void startMisspelt() {
+        for (const std::string_view folder : {"Data\\Weapons", "Images", "Sounds"}) {
+            game.copyFromSample(folder);
+        }
+        // The files of the sample that are as they are on purpose.
+        game.copyFromSample("Checks.txt");
         broken = withReplaced(game.read(dataFile(Tiger)), Gun, Misspelt);
         game.write(dataFile(Tiger), broken);
         start();
@@ -28,8 +33,8 @@ protected:
     /// Opens the window on the errors alone, and waits until all files were looked at.
     [[nodiscard]] Window openProblems() const {
         Window problems = openDialog(IDM_PROBLEMS, "Problems");
-        problems.press(IDC_PROBLEMS_WARNINGS);
-        problems.press(IDC_PROBLEMS_NOTES);
+        problems.control(IDC_PROBLEMS_WARNINGS).send(BM_CLICK);
+        problems.control(IDC_PROBLEMS_NOTES).send(BM_CLICK);
         EXPECT_TRUE(eventually([&] {
             const std::string count = problems.control(IDC_PROBLEMS_COUNT).text();
             return count.find("checking") == std::string::npos;
@@ -48,7 +53,7 @@ TEST_F(ProblemsTest, LeadsToTheFieldAndMendsIt) {
     ASSERT_EQ(rows(problems), 1);
 
     problems.startPress(IDOK);
-    const Window weapons = editor->waitForDialog("2. Turret: weapons");
+    const Window weapons = editor->waitForDialog("Turret 2: weapons");
     ASSERT_TRUE(weapons);
     EXPECT_EQ(selected(), Tiger);
     EXPECT_TRUE(eventually(
@@ -86,8 +91,8 @@ TEST_F(ProblemsTest, F8GoesToAProblemBeforeTheWindowWasOpen) {
     chooseCategory(WeaponsId);
     const Window problems = openDialog(IDM_NEXT_PROBLEM, "Problems");
     EXPECT_TRUE(eventually([&] { return rows(problems) > 0; }));
-    problems.press(IDC_PROBLEMS_WARNINGS);
-    problems.press(IDC_PROBLEMS_NOTES);
+    problems.control(IDC_PROBLEMS_WARNINGS).send(BM_CLICK);
+    problems.control(IDC_PROBLEMS_NOTES).send(BM_CLICK);
     sendCommand(IDM_NEXT_PROBLEM);
     EXPECT_TRUE(eventually([&] { return selected() == Tiger; }));
     finish(problems, IDCANCEL);

@@ -170,9 +170,10 @@ TEST_F(SquadTest, NewSquadBeginsWithTheOpenNationAndWhatIsChosen) {
     open(AtGunsId, "German 75mm PaK 40");
     const Window dialog = openDialog(NewId, "New Squad");
     EXPECT_EQ(dialog.control(IDC_NEW_NAME).text(), "German ");
+    EXPECT_TRUE(eventually([&] { return editor->focus() == dialog.control(IDC_NEW_NAME); }));
     expectWellLaidOut(dialog);
     EXPECT_EQ(dialog.control(IDC_START_WEAPON).text(), "") << "until it is asked for";
-    dialog.press(IDC_START_USUAL);
+    dialog.control(IDC_START_USUAL).send(BM_CLICK);
     EXPECT_EQ(dialog.control(IDC_START_MEN).text(), "5");
     dialog.control(IDC_START_KIND).choose("Mortar");
     EXPECT_EQ(dialog.control(IDC_START_WEAPON).text(), "WEAPON_MORTAR_80_GRW34");
@@ -181,7 +182,6 @@ TEST_F(SquadTest, NewSquadBeginsWithTheOpenNationAndWhatIsChosen) {
     dialog.control(IDC_NEW_NATIONALITY).choose("Russian");
     EXPECT_EQ(dialog.control(IDC_NEW_NAME).text(), "Russian ");
     EXPECT_TRUE(dialog.control(IDC_START_ARMS).text().starts_with("WEAPON_RIFLE_"));
-    EXPECT_TRUE(eventually([&] { return editor->focus() == dialog.control(IDC_NEW_NAME); }));
     dialog.setText(IDC_NEW_NAME, "Russian New Gun");
     dialog.setText(IDC_START_MEN, "3");
     dialog.control(IDC_START_PICTURE).choose("Image-Pak40 gun");

@@ -66,12 +66,13 @@ TempGame::~TempGame() {
     removeFolder(pathOf(path_));
 }
 
-void TempGame::copyFromSample(std::string_view folder) const {
-    const std::string target = path_ + std::string(folder);
+void TempGame::copyFromSample(std::string_view name) const {
+    const fs::path target = pathOf(path_ + std::string(name));
     std::error_code error;
-    fs::create_directories(pathOf(target), error);
-    fs::copy(sampleFolder() / pathOf(folder), pathOf(target), fs::copy_options::recursive, error);
-    EXPECT_FALSE(error) << "cannot copy " << folder << " of the sample: " << error.message();
+    fs::create_directories(target.parent_path(), error);
+    fs::copy(sampleFolder() / pathOf(name), target,
+             fs::copy_options::recursive | fs::copy_options::overwrite_existing, error);
+    EXPECT_FALSE(error) << "cannot copy " << name << " of the sample: " << error.message();
 }
 
 bool TempGame::exists(std::string_view below) const {

@@ -18,9 +18,9 @@ public:
     TempGame& operator=(const TempGame&) = delete;
     ~TempGame();
 
-    /// Copies a folder of the sample ("Data\Weapons") here. The sample is `sample` below the working
+    /// Copies a file or folder of the sample ("Data\Weapons") here. The sample is `sample` below the working
     /// directory, or where the environment variable VARROCADE_SAMPLE says.
-    void copyFromSample(std::string_view folder) const;
+    void copyFromSample(std::string_view name) const;
 
     /// The folder, with a backslash at its end.
     [[nodiscard]] const std::string& path() const { return path_; }

@@ -205,6 +205,10 @@ NameCheck takeOpenName(const std::string& name, bool& isDone) {
     if (auto refusal = refusalOfRenaming(workspace, name)) {
         return refusal;
     }
+    // Only the lists of a mod name units.
+    if (workspace.category != Category::Weapons && !workspace.modMode) {
+        return renameFile(workspace, name);
+    }
     const std::string former = openFileName(workspace);
     const RenameRequest request = requestOf(
         workspace.category == Category::Weapons ? RenameKind::Weapon : RenameKind::Unit, former, name);
