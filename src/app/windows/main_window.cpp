@@ -49,7 +49,7 @@ constexpr std::array<ButtonRow, FileButtonCount> FileButtons = {{
     {IDC_DELETE, "Delete..."},
 }};
 
-constexpr Place DetailsButton = {0, 12, 84, 26};
+constexpr WindowPlace DetailsButton = {0, 12, 84, 26};
 constexpr int DetailsButtonMargin = 14;
 /// The timer of the journal of unsaved changes.
 constexpr UINT_PTR JournalTimer = 1;
@@ -71,7 +71,7 @@ void createButton(HWND parent, const ButtonRow& row, DWORD style = BS_PUSHBUTTON
                     application().instance, nullptr);
 }
 
-void move(HWND window, int id, const Place& place) {
+void move(HWND window, int id, const WindowPlace& place) {
     const DrawingObjects& objects = application().drawing;
     SetWindowPos(GetDlgItem(window, id), nullptr, objects.scaled(place.x), objects.scaled(place.y),
                  objects.scaled(place.width), objects.scaled(place.height), SWP_NOZORDER | SWP_NOACTIVATE);
@@ -104,14 +104,14 @@ void layOut(HWND window) {
     move(window, IDC_LIST_NOTICE, listNoticePlace());
     move(window, IDC_LIST_REMEDY, listRemedyPlace());
     const int right = MulDiv(client.right, USER_DEFAULT_SCREEN_DPI, dpi);
-    Place details = DetailsButton;
+    WindowPlace details = DetailsButton;
     const int barWidth = GetSystemMetrics(SM_CXVSCROLL);
     details.x = right - details.width - DetailsButtonMargin - MulDiv(barWidth, USER_DEFAULT_SCREEN_DPI, dpi);
     move(window, IDC_EDIT_DETAILS, details);
-    const Place drawing = picturePlace(client.right, client.bottom, dpi);
+    const WindowPlace drawing = picturePlace(client.right, client.bottom, dpi);
     SetWindowPos(GetDlgItem(window, IDC_DRAWING), nullptr, drawing.x, drawing.y, drawing.width,
                  drawing.height, SWP_NOZORDER | SWP_NOACTIVATE);
-    const Place sheet = sheetPlace(client.right, client.bottom, dpi);
+    const WindowPlace sheet = sheetPlace(client.right, client.bottom, dpi);
     SetWindowPos(GetDlgItem(window, IDC_SHEET), HWND_BOTTOM, sheet.x, sheet.y, sheet.width, sheet.height,
                  SWP_NOACTIVATE);
 }
@@ -385,7 +385,7 @@ HWND createMainWindow() {
     const FrameMetrics metrics{.frame = GetSystemMetrics(SM_CXSIZEFRAME),
                                .caption = GetSystemMetrics(SM_CYCAPTION),
                                .menu = GetSystemMetrics(SM_CYMENU)};
-    const Place place =
+    const WindowPlace place =
         firstWindowPlace(work.right - work.left, work.bottom - work.top, metrics, application().drawing.dpi);
     return CreateWindowExA(0, className.c_str(), title.c_str(), WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
                            place.x, place.y, place.width, place.height, nullptr, nullptr,

@@ -14,7 +14,7 @@ int scaled(int length, int dpi) {
 
 } // namespace
 
-Place firstWindowPlace(int workWidth, int workHeight, const FrameMetrics& metrics, int dpi) {
+WindowPlace firstWindowPlace(int workWidth, int workHeight, const FrameMetrics& metrics, int dpi) {
     const int height = workHeight;
     const int pictureWidth =
         ((height - (2 * metrics.frame + 8) - metrics.caption - metrics.menu) * PictureAspectWidth) /
@@ -23,36 +23,36 @@ Place firstWindowPlace(int workWidth, int workHeight, const FrameMetrics& metric
     return {(workWidth - width) / 2, (workHeight - height) / 2, width, height};
 }
 
-Place fileListPlace(int height) {
+WindowPlace fileListPlace(int height) {
     return {4, 68, 350, std::max(0, height - 102)};
 }
 
-Place filterPlace() {
+WindowPlace filterPlace() {
     return {4, 43, 350, 22};
 }
 
-Place filterBesideBoxPlace() {
+WindowPlace filterBesideBoxPlace() {
     return {4, 43, 222, 22};
 }
 
-Place gameUnitsBoxPlace() {
+WindowPlace gameUnitsBoxPlace() {
     return {232, 43, 122, 22};
 }
 
-Place listNoticePlace() {
+WindowPlace listNoticePlace() {
     return {14, 96, 314, 130};
 }
 
-Place listRemedyPlace() {
+WindowPlace listRemedyPlace() {
     return {106, 234, 130, 28};
 }
 
-std::array<Place, FileButtonCount> fileButtonPlaces(int height) {
+std::array<WindowPlace, FileButtonCount> fileButtonPlaces(int height) {
     const int y = height - 34;
     return {{{8, y, 82, 24}, {94, y, 82, 24}, {180, y, 82, 24}, {266, y, 82, 24}}};
 }
 
-Place picturePlace(int width, int height, int dpi) {
+WindowPlace picturePlace(int width, int height, int dpi) {
     const int left = scaled(ListWidth, dpi);
     const int besideSheet = width - scaled(BandWidth, dpi);
     const int besideLeastSheet = width - left - scaled(LeastSheetWidth, dpi);
@@ -60,8 +60,8 @@ Place picturePlace(int width, int height, int dpi) {
     return {left, 0, std::max({0, besideSheet, narrow}), height};
 }
 
-Place sheetPlace(int width, int height, int dpi) {
-    const Place picture = picturePlace(width, height, dpi);
+WindowPlace sheetPlace(int width, int height, int dpi) {
+    const WindowPlace picture = picturePlace(width, height, dpi);
     const int left = picture.x + picture.width;
     return {left, 0, std::max(0, width - left), height};
 }

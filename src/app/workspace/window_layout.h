@@ -7,12 +7,12 @@
 namespace varrocade {
 
 /// A rectangle by its corner and size.
-struct Place {
+struct WindowPlace {
     int x = 0;
     int y = 0;
     int width = 0;
     int height = 0;
-    bool operator==(const Place&) const = default;
+    bool operator==(const WindowPlace&) const = default;
 };
 
 /// The band of the client area that holds the list and the data sheet; the rest is the picture area.
@@ -32,17 +32,17 @@ struct FrameMetrics {
 
 /// The window at start: as high as the work area, as wide as band and picture area need, centred.
 /// `scale` is the screen's dots per inch.
-Place firstWindowPlace(int workWidth, int workHeight, const FrameMetrics& metrics, int dpi);
+WindowPlace firstWindowPlace(int workWidth, int workHeight, const FrameMetrics& metrics, int dpi);
 
 /// The list box and the filter above it, for a client area of `height`.
-Place fileListPlace(int height);
-Place filterPlace();
+WindowPlace fileListPlace(int height);
+WindowPlace filterPlace();
 /// In mod mode the filter leaves room for the box beside it that shows the game's units.
-Place filterBesideBoxPlace();
-Place gameUnitsBoxPlace();
+WindowPlace filterBesideBoxPlace();
+WindowPlace gameUnitsBoxPlace();
 /// What stands over the list while it is empty: words and the button below them.
-Place listNoticePlace();
-Place listRemedyPlace();
+WindowPlace listNoticePlace();
+WindowPlace listRemedyPlace();
 
 /// The height of the band that names the mod. It lies between the menu and the client area, in which
 /// everything keeps its place.
@@ -50,10 +50,10 @@ inline constexpr int ModBandHeight = 22;
 
 inline constexpr std::size_t FileButtonCount = 4;
 /// The four file buttons below the list, in the order New, Duplicate, Rename, Delete.
-std::array<Place, FileButtonCount> fileButtonPlaces(int height);
+std::array<WindowPlace, FileButtonCount> fileButtonPlaces(int height);
 
 inline constexpr std::size_t CategoryButtonCount = 5;
-inline constexpr std::array<Place, CategoryButtonCount> CategoryButtonPlaces = {{
+inline constexpr std::array<WindowPlace, CategoryButtonCount> CategoryButtonPlaces = {{
     {7, 4, 66, 36},
     {76, 4, 66, 36},
     {145, 4, 66, 36},
@@ -72,7 +72,7 @@ inline constexpr int LeastClientHeight = 360;
 
 /// The picture and the data sheet, in the pixels of the screen, for a client area of such pixels. The sheet
 /// is as wide as the band leaves, the picture has the rest; in a narrow window they share what is there.
-Place picturePlace(int width, int height, int dpi);
-Place sheetPlace(int width, int height, int dpi);
+WindowPlace picturePlace(int width, int height, int dpi);
+WindowPlace sheetPlace(int width, int height, int dpi);
 
 } // namespace varrocade

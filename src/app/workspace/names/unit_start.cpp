@@ -58,7 +58,7 @@ Text firstOfType(std::span<const std::string> weapons, WeaponType type, const We
 }
 
 /// A name without what sets its words apart.
-std::string bareName(std::string_view name) {
+std::string lettersOf(std::string_view name) {
     std::string bare;
     for (const char c : name) {
         if (std::isalnum(static_cast<unsigned char>(c)) != 0) {
@@ -96,14 +96,14 @@ void dressGun(HeavyWeaponRecord& gun, const UnitStart& start,
 } // namespace
 
 std::string pictureOfWeapon(std::string_view weapon, std::span<const std::string> pictures) {
-    const std::string bare = bareName(weapon);
+    const std::string bare = lettersOf(weapon);
     std::string best;
     std::size_t longest = 2; // fewer characters are no name
     for (const std::string& picture : pictures) {
         std::string_view stem = picture;
         stem.remove_prefix(stem.starts_with(PictureBegin) ? PictureBegin.size() : 0);
         stem.remove_suffix(stem.ends_with(GunEnd) ? GunEnd.size() : 0);
-        const std::string name = bareName(stem);
+        const std::string name = lettersOf(stem);
         if (name.size() > longest && bare.find(name) != std::string::npos) {
             longest = name.size();
             best = picture;

@@ -38,34 +38,34 @@ double median(std::vector<double>& values) {
     return *middle;
 }
 
-constexpr ComparedFigure ofField(const FieldInfo& field) {
+constexpr UsualFigure ofField(const FieldInfo& field) {
     return {&field, field.label, field.traits.unit};
 }
 
 namespace figure {
 
-constexpr ComparedFigure Horsepower = ofField(field::Horsepower);
-constexpr ComparedFigure PowerForWeight = {&field::Horsepower, "Power for the weight", "hp/t"};
-constexpr ComparedFigure IdleRevolutions = ofField(field::IdleRevolutions);
-constexpr ComparedFigure RevolutionLimit = ofField(field::RevolutionLimit);
-constexpr ComparedFigure ForwardGears = ofField(field::ForwardGears);
-constexpr ComparedFigure RotateTime = ofField(field::RotateTime);
-constexpr ComparedFigure Rounds = ofField(field::Rounds);
-constexpr ComparedFigure Mass = ofField(field::Mass);
-constexpr ComparedFigure TrailLength = ofField(field::TrailLength);
-constexpr ComparedFigure Speed = ofField(field::AircraftSpeed);
+constexpr UsualFigure Horsepower = ofField(field::Horsepower);
+constexpr UsualFigure PowerForWeight = {&field::Horsepower, "Power for the weight", "hp/t"};
+constexpr UsualFigure IdleRevolutions = ofField(field::IdleRevolutions);
+constexpr UsualFigure RevolutionLimit = ofField(field::RevolutionLimit);
+constexpr UsualFigure ForwardGears = ofField(field::ForwardGears);
+constexpr UsualFigure RotateTime = ofField(field::RotateTime);
+constexpr UsualFigure Rounds = ofField(field::Rounds);
+constexpr UsualFigure Mass = ofField(field::Mass);
+constexpr UsualFigure TrailLength = ofField(field::TrailLength);
+constexpr UsualFigure Speed = ofField(field::AircraftSpeed);
 
-constexpr ComparedFigure Calibre = ofField(weapon_field::Calibre);
-constexpr ComparedFigure BarrelLength = {&weapon_field::BarrelLength, "Barrel length", "calibres"};
-constexpr ComparedFigure Range = ofField(weapon_field::Range);
-constexpr ComparedFigure RateOfFire = ofField(weapon_field::RateOfFire);
-constexpr ComparedFigure Capacity = ofField(weapon_field::Capacity);
-constexpr ComparedFigure ShellSpeed = ofField(weapon_field::Speed);
+constexpr UsualFigure Calibre = ofField(weapon_field::Calibre);
+constexpr UsualFigure BarrelLength = {&weapon_field::BarrelLength, "Barrel length", "calibres"};
+constexpr UsualFigure Range = ofField(weapon_field::Range);
+constexpr UsualFigure RateOfFire = ofField(weapon_field::RateOfFire);
+constexpr UsualFigure Capacity = ofField(weapon_field::Capacity);
+constexpr UsualFigure ShellSpeed = ofField(weapon_field::Speed);
 /// Projectiles of a kind are alike in shape: their masses go with the cube of the calibre, here in
 /// decimetres.
-constexpr ComparedFigure ShellMass = {&weapon_field::Mass, "Mass for the calibre", "kg/dm3"};
-constexpr ComparedFigure Explosive = {&weapon_field::HighExplosive, "Share of high explosive", ""};
-constexpr ComparedFigure Fuse = ofField(weapon_field::ExplodeIn);
+constexpr UsualFigure ShellMass = {&weapon_field::Mass, "Mass for the calibre", "kg/dm3"};
+constexpr UsualFigure Explosive = {&weapon_field::HighExplosive, "Share of high explosive", ""};
+constexpr UsualFigure Fuse = ofField(weapon_field::ExplodeIn);
 
 } // namespace figure
 
@@ -147,7 +147,7 @@ void visitFigures(const WeaponRecord& weapon, Visit& visit) {
     const Holder holder = holderOf(weapon.type);
     const std::string_view type = nameOf(weapon.type);
     const auto ofWeapon = [] { return std::string(); };
-    const auto show = [&](const ComparedFigure& what, double value) {
+    const auto show = [&](const UsualFigure& what, double value) {
         if (what.field->isStoredBy(holder)) {
             visit(what, type, value, ofWeapon);
         }
@@ -164,7 +164,7 @@ void visitFigures(const WeaponRecord& weapon, Visit& visit) {
         const AmmoTypeRecord& ammo = weapon.ammoTypes[i];
         kind.assign(nameOf(ammo.flavour)).append(" ").append(type);
         const auto ofAmmo = [i] { return entryPath(weapon_element::Ammo, i); };
-        const auto showAmmo = [&](const ComparedFigure& what, double value) {
+        const auto showAmmo = [&](const UsualFigure& what, double value) {
             if (what.field->isStoredBy(holderOf(ammo.flavour), holder)) {
                 visit(what, kind, value, ofAmmo);
             }
@@ -189,7 +189,7 @@ void visitFigures(const SquadRecord& unit, Visit& visit) {
 
 template <typename Record>
 void sample(ValueSamples& samples, const Record& record) {
-    auto take = [&](const ComparedFigure& what, std::string_view kind, double value, const auto&) {
+    auto take = [&](const UsualFigure& what, std::string_view kind, double value, const auto&) {
         if (value <= 0) {
             return;
         }
@@ -213,7 +213,7 @@ std::string wordsOfKind(std::string_view kind) {
 template <typename Record, typename Ranges>
 std::vector<UnusualValue> unusualValues(const Record& record, const Ranges& ranges) {
     std::vector<UnusualValue> values;
-    auto look = [&](const ComparedFigure& what, std::string_view kind, double value, const auto& path) {
+    auto look = [&](const UsualFigure& what, std::string_view kind, double value, const auto& path) {
         const auto found = ranges.find(std::pair(&what, kind));
         const bool isKnown = found != ranges.end();
         UsualValues::Range range = isKnown ? found->second : UsualValues::Range{.least = 0, .greatest = 1e30};

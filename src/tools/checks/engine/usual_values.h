@@ -15,7 +15,7 @@
 namespace varrocade {
 
 /// A figure that is compared among units or weapons of a kind: a value, or what two of them come to.
-struct ComparedFigure {
+struct UsualFigure {
     FieldId field;          ///< that is to be mended
     std::string_view label; ///< for people
     std::string_view unit = {};
@@ -33,7 +33,7 @@ struct ByFigureAndKind {
 
 /// The values found so far. Kinds are unit types, weapon types, or flavours and weapon types.
 using ValueSamples =
-    std::map<std::pair<const ComparedFigure*, std::string>, std::vector<float>, ByFigureAndKind>;
+    std::map<std::pair<const UsualFigure*, std::string>, std::vector<float>, ByFigureAndKind>;
 
 void addSamples(ValueSamples& samples, const SquadRecord& unit);
 void addSamples(ValueSamples& samples, const WeaponRecord& weapon);
@@ -41,7 +41,7 @@ void addSamples(ValueSamples& samples, const WeaponRecord& weapon);
 /// A value apart from those of its kind.
 struct UnusualValue {
     std::string path; ///< from the record on
-    const ComparedFigure* figure;
+    const UsualFigure* figure;
     std::string kind; ///< for people
     double value;
     double least; ///< the range that it would have to lie in
@@ -63,7 +63,7 @@ public:
     };
 
 private:
-    std::map<std::pair<const ComparedFigure*, std::string>, Range, ByFigureAndKind> ranges_;
+    std::map<std::pair<const UsualFigure*, std::string>, Range, ByFigureAndKind> ranges_;
 };
 
 } // namespace varrocade
