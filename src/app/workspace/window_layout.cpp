@@ -32,11 +32,11 @@ WindowPlace filterPlace() {
 }
 
 WindowPlace filterBesideBoxPlace() {
-    return {4, 43, 222, 22};
+    return {4, 43, 212, 22};
 }
 
 WindowPlace gameUnitsBoxPlace() {
-    return {232, 43, 122, 22};
+    return {220, 43, 134, 22};
 }
 
 WindowPlace listNoticePlace() {
