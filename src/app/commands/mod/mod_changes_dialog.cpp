@@ -1,6 +1,7 @@
 // "What this mod changes".
 
 #include "app/commands/mod/mod_commands.h"
+#include "app/commands/mod/mod_files_dialog.h"
 #include "app/windows/application.h"
 #include "app/workspace/category_list.h"
 #include "app/workspace/mod/change_rows.h"
@@ -164,18 +165,7 @@ private:
                 names.push_back(one.file->name);
             }
         }
-        if (names.empty()) {
-            return true;
-        }
-        const std::string which = names.size() == 1 ? names.front() : std::to_string(names.size()) + " files";
-        const Answer answer =
-            showMessage({.text = "Are you sure you want to remove " + which +
-                                 " from the mod?\n\nThe game's files of the same names, where there are any, "
-                                 "count again. The mod's are kept in the folder Backups.",
-                         .caption = caption(),
-                         .buttons = MessageButtons::YesNo,
-                         .icon = MessageIcon::Question});
-        return answer == Answer::Yes;
+        return names.empty() || mayRemoveFromMod(names, caption());
     }
 
     void copy(ChangesFormat format) {

@@ -11,6 +11,18 @@
 
 namespace varrocade {
 
+bool mayRemoveFromMod(const std::vector<std::string>& names, const std::string& caption) {
+    const std::string which = names.size() == 1 ? names.front() : std::to_string(names.size()) + " files";
+    const Answer answer =
+        showMessage({.text = "Are you sure you want to remove " + which +
+                             " from the mod?\n\nThe game's files of the same names, where there are any, "
+                             "count again. The mod's are kept in the folder Backups.",
+                     .caption = caption,
+                     .buttons = MessageButtons::YesNo,
+                     .icon = MessageIcon::Question});
+    return answer == Answer::Yes;
+}
+
 namespace {
 
 /// Files of one category with a filter, of which any number can be selected. What is selected and then hidden
@@ -97,16 +109,7 @@ private:
             files_.needs = port().isChecked(IDC_MOD_FILES_NEEDS) ? CopyNeeds::Yes : CopyNeeds::No;
             return true;
         }
-        const std::string which = files_.picked.size() == 1 ? files_.picked.front()
-                                                            : std::to_string(files_.picked.size()) + " files";
-        const Answer answer =
-            showMessage({.text = "Are you sure you want to remove " + which +
-                                 " from the mod?\n\nThe game's files of the same names, where there are any, "
-                                 "count again. The mod's are kept in the folder Backups.",
-                         .caption = caption(),
-                         .buttons = MessageButtons::YesNo,
-                         .icon = MessageIcon::Question});
-        return answer == Answer::Yes;
+        return mayRemoveFromMod(files_.picked, caption());
     }
 
     bool notice(int control, int notification) override {

@@ -23,4 +23,7 @@ struct ModFiles {
 /// Asks for the files; false when the user would rather not.
 bool chooseModFiles(ModFiles& files);
 
+/// Asks whether files are to go from the mod, in a box with that caption.
+bool mayRemoveFromMod(const std::vector<std::string>& names, const std::string& caption);
+
 } // namespace varrocade

@@ -18,29 +18,18 @@ constexpr COLORREF WarningColour = RGB(250, 200, 40);
 /// From the middle of a part's picture, in pixels of 96 dpi: the part's own marks stay in sight.
 constexpr int BesidePart = 12;
 
-Point placeOf(const PictureItem& item) {
-    return item.centre;
-}
-Point placeOf(const PlaceholderItem& item) {
-    return item.centre;
-}
-Point placeOf(const OutlineItem& item) {
-    return item.centre;
-}
-Point placeOf(const LineItem& item) {
-    return item.from;
-}
-Point placeOf(const SectorItem& item) {
-    return item.centre;
-}
-Point placeOf(const MarkItem& item) {
-    return item.centre;
-}
-Point placeOf(const LabelItem& item) {
-    return item.top;
-}
-Point placeOf(const ShapeItem& item) {
-    return item.corners.front();
+/// Where an item of a drawing is, whatever it is.
+template <typename Item>
+Point placeOf(const Item& item) {
+    if constexpr (requires { item.centre; }) {
+        return item.centre;
+    } else if constexpr (requires { item.from; }) {
+        return item.from;
+    } else if constexpr (requires { item.top; }) {
+        return item.top;
+    } else {
+        return item.corners.front();
+    }
 }
 
 } // namespace
