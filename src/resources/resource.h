@@ -531,8 +531,6 @@
 #define IDC_START_ARMS 2300
 #define IDC_START_USUAL 2301
 
-// NOLINTEND(cppcoreguidelines-macro-usage)
-
 #define IDD_PROBLEMS 380
 
 #define IDC_PROBLEMS_SCOPE 1420
@@ -550,3 +548,5 @@
 #define IDM_PROBLEMS 32822
 #define IDM_NEXT_PROBLEM 32823
 #define IDM_PREVIOUS_PROBLEM 32824
+
+// NOLINTEND(cppcoreguidelines-macro-usage)

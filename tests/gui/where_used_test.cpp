@@ -83,7 +83,7 @@ TEST_F(WhereUsedTest, RenamingEverywhereIsShownFirstAndUndoneAsOne) {
     const auto isSound = [](const std::string& choice) { return choice.starts_with("sound: "); };
     const auto found = std::find_if(choices.begin(), choices.end(), isSound);
     ASSERT_NE(found, choices.end());
-    const std::string sound = *found;
+    const std::string& sound = *found;
     used.control(IDC_USED_NAME).choose(sound);
     waitForUses(used, "");
     used.startPress(IDC_USED_RENAME);
