@@ -42,7 +42,7 @@ public:
 
     [[nodiscard]] bool hasReverted() const { return hasReverted_; }
     /// The file to go to, or none.
-    [[nodiscard]] const FileChange* opened() const { return opened_; }
+    [[nodiscard]] const FileChange* fileToOpen() const { return opened_; }
 
 private:
     [[nodiscard]] HWND table() { return GetDlgItem(handle(), IDC_MOD_CHANGE_LIST); }
@@ -204,7 +204,7 @@ void showModChanges() {
         workspace.listener->listOutdated(workspace);
         noticeOutsideChanges(workspace);
     }
-    if (const FileChange* file = dialog.opened()) {
+    if (const FileChange* file = dialog.fileToOpen()) {
         showFile(workspace, file->category, file->name);
     }
 }
