@@ -22,7 +22,10 @@ struct CheckOptions {
     std::vector<std::string> only;
     std::string baseline;
     std::string newBaseline;
+    bool looksIntoPictures = false;
 };
+
+constexpr std::string_view PicturesOption = "--pictures";
 
 constexpr auto FormatWords = std::to_array<std::pair<std::string_view, ReportFormat>>({
     {"text", ReportFormat::Plain},
@@ -92,6 +95,10 @@ std::optional<CheckOptions> checkOptions(Arguments arguments) {
                 return std::nullopt;
             }
             options.folder = argument;
+            continue;
+        }
+        if (argument == PicturesOption) {
+            options.looksIntoPictures = true;
             continue;
         }
         // Both "--format json" and "--format=json".
@@ -172,7 +179,7 @@ int checkCommand(Arguments arguments) {
             return CouldNot;
         }
     }
-    FolderCheck check(folders);
+    FolderCheck check(folders, options->looksIntoPictures);
     if (check.failure()) {
         complain(check.failure()->path + ": " + check.failure()->reason);
         return CouldNot;

@@ -11,12 +11,13 @@ namespace {
 constexpr auto Commands = std::to_array<Command>({
     {"check",
      "FOLDER [--mod FOLDER] [--format text|json|sarif|github] [--severity note|warning|error] [--only KEYS] "
-     "[--baseline FILE | --write-baseline FILE]",
+     "[--baseline FILE | --write-baseline FILE] [--pictures]",
      "tells what is wrong with the files of a game folder, which holds Data, Images and Sounds, or of a mod "
      "for "
      "that game; --only takes the keys of rules, separated by commas; a baseline holds findings that are not "
      "to "
-     "be told again; what the rules are is told in docs/checks.md",
+     "be told again; --pictures takes pictures apart too, which takes longer; what the rules are is told in "
+     "docs/checks.md",
      checkCommand},
     {"rewrite", "[--explain] CATEGORY IN OUT | --explain CATEGORY IN",
      "reads with the category's reader and writes with its writer; CATEGORY is vehicles, atguns, infantry, "

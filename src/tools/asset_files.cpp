@@ -1,7 +1,5 @@
 #include "tools/asset_files.h"
 
-#include "data/format/texts.h"
-
 #include <algorithm>
 #include <iterator>
 #include <utility>
@@ -17,16 +15,19 @@ struct KeyedFile {
     bool isOfMod;
 };
 
-void addFiles(std::vector<KeyedFile>& files, const std::string& base, bool isOfMod, std::string_view folder,
+/// False where the folder is not there: few mods have them all.
+bool addFiles(std::vector<KeyedFile>& files, const std::string& base, bool isOfMod, std::string_view folder,
               std::string_view ending) {
     std::vector<std::string> names;
-    // A folder that is not there holds nothing: few mods have them all.
-    listFiles(base + std::string(folder), ending, names);
+    if (base.empty() || !listFiles(base + std::string(folder), ending, names)) {
+        return false;
+    }
     files.reserve(files.size() + names.size());
     for (std::string& name : names) {
         std::string key = loweredText(name);
         files.push_back({std::move(key), std::move(name), isOfMod});
     }
+    return true;
 }
 
 /// Of a name the mod's file first. A folder of a system that minds letter case may hold two files of one
@@ -40,42 +41,70 @@ bool countsBefore(const KeyedFile& a, const KeyedFile& b) {
 
 } // namespace
 
-const AssetFiles::Listing& AssetFiles::listing(std::string_view folder, std::string_view ending) {
-    std::string key = loweredText(folder);
-    key += loweredText(ending);
-    const auto [place, isNew] = listings_.try_emplace(std::move(key));
-    Listing& result = place->second;
-    if (isNew) {
-        result.folder = folder;
-        std::vector<KeyedFile> files;
-        if (!bases_.mod.empty()) {
-            addFiles(files, bases_.mod, true, folder, ending);
-        }
-        addFiles(files, bases_.program, false, folder, ending);
-        std::sort(files.begin(), files.end(), countsBefore);
-        std::vector<AssetFile> hidden;
-        result.files.reserve(files.size());
-        result.keys.reserve(files.size());
-        for (KeyedFile& file : files) {
-            const bool counts = result.keys.empty() || result.keys.back() != file.key;
-            const std::string& base = file.isOfMod ? bases_.mod : bases_.program;
-            (counts ? result.files : hidden)
-                .push_back({base, result.folder, std::move(file.name), file.isOfMod});
-            if (counts) {
-                result.keys.push_back(std::move(file.key));
-            }
-        }
-        result.files.insert(result.files.end(), std::move_iterator(hidden.begin()),
-                            std::move_iterator(hidden.end()));
-    }
-    return result;
+void AssetFiles::setBases(GameFolders folders) {
+    listings_.clear();
+    weaponFiles_.clear();
+    bases_ = std::move(folders);
 }
 
-const std::vector<AssetFile>& AssetFiles::list(std::string_view folder, std::string_view ending) {
+void AssetFiles::fill(Listing& listing) const {
+    std::vector<KeyedFile> files;
+    const bool isInMod = addFiles(files, bases_.mod, true, listing.folder, listing.ending);
+    const bool isInGame = addFiles(files, bases_.program, false, listing.folder, listing.ending);
+    listing.isThere = isInMod || isInGame;
+    std::sort(files.begin(), files.end(), countsBefore);
+    std::vector<AssetFile> hidden;
+    listing.files.reserve(files.size());
+    const std::string* former = nullptr;
+    for (KeyedFile& file : files) {
+        const bool counts = former == nullptr || *former != file.key;
+        const std::string& base = file.isOfMod ? bases_.mod : bases_.program;
+        (counts ? listing.files : hidden)
+            .push_back({base, listing.folder, std::move(file.name), file.isOfMod});
+        former = &file.key;
+    }
+    listing.counting = listing.files.size();
+    listing.files.insert(listing.files.end(), std::move_iterator(hidden.begin()),
+                         std::move_iterator(hidden.end()));
+    listing.places.reserve(listing.counting);
+    for (std::size_t i = 0; i < listing.counting; ++i) {
+        listing.places.emplace(listing.files[i].stem(), i);
+    }
+}
+
+const AssetFiles::Listing& AssetFiles::listing(std::string_view folder, std::string_view ending) const {
+    const std::scoped_lock guard(guard_);
+    const auto known = std::find_if(listings_.begin(), listings_.end(), [&](const Listing& one) {
+        return equalsIgnoringCase(one.folder, folder) && equalsIgnoringCase(one.ending, ending);
+    });
+    if (known != listings_.end()) {
+        return *known;
+    }
+    Listing& made = listings_.emplace_back();
+    made.folder = folder;
+    made.ending = ending;
+    fill(made);
+    return made;
+}
+
+const std::vector<AssetFile>& AssetFiles::list(std::string_view folder, std::string_view ending) const {
     return listing(folder, ending).files;
 }
 
-const AssetFile* AssetFiles::find(std::string_view folder, std::string_view name, std::string_view ending) {
+std::vector<std::string_view> AssetFiles::stems(std::string_view folder, std::string_view ending) const {
+    const Listing& all = listing(folder, ending);
+    std::vector<std::string_view> names(all.counting);
+    std::transform(all.files.begin(), all.files.begin() + static_cast<std::ptrdiff_t>(all.counting),
+                   names.begin(), [](const AssetFile& file) { return file.stem(); });
+    return names;
+}
+
+bool AssetFiles::hasFolder(std::string_view folder, std::string_view ending) const {
+    return listing(folder, ending).isThere;
+}
+
+const AssetFile* AssetFiles::find(std::string_view folder, std::string_view name,
+                                  std::string_view ending) const {
     const std::size_t separator = name.find_last_of("\\/");
     std::string deeper;
     if (separator != std::string_view::npos) {
@@ -86,22 +115,18 @@ const AssetFile* AssetFiles::find(std::string_view folder, std::string_view name
         name.remove_prefix(separator + 1);
     }
     const Listing& candidates = listing(folder, ending);
-    std::string key = loweredText(name);
-    key += ending;
-    const auto place = std::lower_bound(candidates.keys.begin(), candidates.keys.end(), key);
-    return place == candidates.keys.end() || *place != key
-               ? nullptr
-               : &candidates.files[static_cast<std::size_t>(place - candidates.keys.begin())];
+    const auto place = candidates.places.find(name);
+    return place == candidates.places.end() ? nullptr : &candidates.files[place->second];
 }
 
-const AssetFile* AssetFiles::find(const Reference& reference) {
+const AssetFile* AssetFiles::find(const Reference& reference) const {
     for (const ImageSource& source : reference.folders) {
         if (const AssetFile* file = find(source.folder, reference.name, reference.ending)) {
             return file;
         }
     }
     if (reference.kind == ReferenceKind::Weapon) {
-        const auto file = weaponFiles_.find(loweredText(reference.name));
+        const auto file = weaponFiles_.find(std::string_view(reference.name));
         if (file != weaponFiles_.end()) {
             return find(reference.folders.front().folder, file->second, reference.ending);
         }
@@ -110,7 +135,7 @@ const AssetFile* AssetFiles::find(const Reference& reference) {
 }
 
 void AssetFiles::nameWeapon(std::string_view name, std::string_view fileName) {
-    weaponFiles_.try_emplace(loweredText(name), fileName);
+    weaponFiles_.try_emplace(std::string(name), fileName);
 }
 
 std::vector<GameFile> listAllFiles(const GameFolders& folders, std::vector<FileFailure>& failures) {

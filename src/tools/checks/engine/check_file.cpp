@@ -240,7 +240,7 @@ std::vector<Finding> checkFile(const CheckKnowledge& knowledge, const FileToChec
     return onTree(file, read->tree, [&](const TagTree& tree, FileFindings& out) {
         if (checkText(file, tree, out)) {
             addLeftOut(read->diagnostics, out);
-            checkUnitRecord({read->unit, file.category, file.name, knowledge, out});
+            checkUnitRecord({read->unit, file.category, file.name, knowledge, out, file.looksIntoPictures});
         }
     });
 }

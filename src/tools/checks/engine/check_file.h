@@ -19,6 +19,8 @@ struct FileToCheck {
     std::string_view name = {};    ///< without folder and ".txt"
     std::string_view shown = {};   ///< what the findings call it
     std::string_view content = {}; ///< its bytes
+    /// Whether pictures are taken apart too, which takes longer than all else together.
+    bool looksIntoPictures = false;
 };
 
 /// A unit's file taken apart and read, for those who look at it twice.

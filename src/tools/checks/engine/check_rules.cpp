@@ -85,6 +85,8 @@ constexpr auto Rules = std::to_array<CheckRule>({
      "Mend width and length, or the picture."},
     {ck::WreckSize, Warning, "The picture of the wreck has another size than that of the whole part.",
      "Give both the same size and pivot."},
+    {ck::WreckPivot, Warning, "The wreck is drawn in another place of its picture than the whole part.",
+     "Move it in its picture to where the whole part lies in its own."},
 
     {fk::AmmoWithoutWeapon, Warning, "Ammunition is for no weapon beside it.",
      "Mend the weapon's name, or take the ammunition out."},
@@ -153,6 +155,10 @@ constexpr auto Rules = std::to_array<CheckRule>({
      "Mend the mass, or the explosive: both are kilograms."},
     {ck::UselessValue, Note, "The value has no use in a file of this kind, and saving drops it.",
      "Take it out."},
+
+    {ck::MissingUnit, Error, "An equipment list of the mod names a unit that is not there.",
+     "Write the name of a file of that kind, or take the entry out."},
+    {ck::ModYears, Warning, "The war of the mod ends before it begins.", "Mend the years, or the months."},
 
     {ck::BadSuppression, Warning, "A suppression names no rule, gives no reason or suppresses nothing.",
      "Name the rule's key and give the reason, or take it out."},

@@ -51,6 +51,7 @@ inline constexpr std::string_view FileNationality = "file-nationality";
 inline constexpr std::string_view BadPicture = "bad-picture";
 inline constexpr std::string_view PictureSizeKey = "picture-size";
 inline constexpr std::string_view WreckSize = "wreck-size";
+inline constexpr std::string_view WreckPivot = "wreck-pivot";
 
 // Of weapons, ammunition and crews.
 inline constexpr std::string_view WeaponWithoutAmmo = "weapon-without-ammo";
@@ -83,6 +84,10 @@ inline constexpr std::string_view WeaponOfOthers = "weapon-of-others";
 inline constexpr std::string_view UnknownPeriod = "unknown-period";
 inline constexpr std::string_view UnknownCountry = "unknown-country";
 inline constexpr std::string_view SameName = "same-name";
+
+// Of a mod's settings.
+inline constexpr std::string_view MissingUnit = "missing-unit";
+inline constexpr std::string_view ModYears = "mod-years";
 
 // Of weapon files.
 inline constexpr std::string_view FileName = "file-name";

@@ -1,7 +1,9 @@
 #include "tools/checks/engine/folder_check.h"
 
 #include "data/finding_text.h"
+#include "mod/mod_settings.h"
 #include "platform/file_operations.h"
+#include "tools/checks/rules/mod_file_rules.h"
 
 #include <algorithm>
 #include <atomic>
@@ -16,16 +18,42 @@ std::string shownPath(Category category, std::string_view name) {
            std::string(DataFileEnding);
 }
 
-FolderCheck::FolderCheck(const GameFolders& folders) {
-    list(folders);
+namespace {
+
+/// Calls `work` with each number below `threads`, in a thread each.
+template <typename Work>
+void inThreads(std::size_t threads, Work work) {
+    std::vector<std::thread> workers;
+    workers.reserve(threads);
+    for (std::size_t i = 1; i < threads; ++i) {
+        workers.emplace_back(work, i);
+    }
+    work(std::size_t{0});
+    for (std::thread& worker : workers) {
+        worker.join();
+    }
+}
+
+} // namespace
+
+FolderCheck::FolderCheck(const GameFolders& folders, bool looksIntoPictures)
+    : looksIntoPictures_(looksIntoPictures) {
+    // Listing waits for the disk, and reading the weapons for the processor.
+    constexpr std::size_t lister = 1;
+    inThreads(
+        2, [&](std::size_t thread) { thread == lister ? list(folders) : learnFolders(knowledge_, folders); });
     if (failure_) {
         return;
     }
-    learnFolders(knowledge_, folders);
     std::string content;
     const std::string& base = folders.mod.empty() ? folders.program : folders.mod;
     if (readWholeFile(base + std::string(SuppressionListName), content)) {
         suppressions_ = SuppressionList(content, ofFolder_);
+    }
+    if (readWholeFile(base + std::string(ModFileName), modContent_)) {
+        std::vector<Finding> found = checkModFile(knowledge_, modContent_);
+        std::copy_if(found.begin(), found.end(), std::back_inserter(ofFolder_),
+                     [this](const Finding& finding) { return !suppressions_.covers(finding); });
     }
 }
 
@@ -71,7 +99,7 @@ void FolderCheck::check(CheckedFile& entry) const {
     if (!entry.isChecked || !entry.found.empty()) {
         return;
     }
-    entry.found = checkFile(knowledge_, entry.toCheck(), entry.read.get());
+    entry.found = checkFile(knowledge_, entry.toCheck(looksIntoPictures_), entry.read.get());
     entry.read.reset();
     std::erase_if(entry.found, [this](const Finding& finding) { return suppressions_.covers(finding); });
     if (entry.found.empty()) {
@@ -95,19 +123,6 @@ bool FolderCheck::step() {
         check(files_[checked_++]);
     }
     return !isDone();
-}
-
-template <typename Work>
-void FolderCheck::inThreads(std::size_t threads, Work work) {
-    std::vector<std::thread> workers;
-    workers.reserve(threads);
-    for (std::size_t i = 1; i < threads; ++i) {
-        workers.emplace_back(work, i);
-    }
-    work(std::size_t{0});
-    for (std::thread& worker : workers) {
-        worker.join();
-    }
 }
 
 void FolderCheck::run(std::size_t threads) {
@@ -159,13 +174,17 @@ std::vector<Finding> FolderCheck::findings() const {
 std::vector<Finding> FolderCheck::checkAgain(Category category, std::string_view name,
                                              std::string_view content) const {
     const std::string shown = shownPath(category, name);
-    std::vector<Finding> found =
-        checkFile(knowledge_, {.category = category, .name = name, .shown = shown, .content = content});
+    std::vector<Finding> found = checkFile(
+        knowledge_,
+        {.category = category, .name = name, .shown = shown, .content = content, .looksIntoPictures = true});
     std::erase_if(found, [this](const Finding& finding) { return suppressions_.covers(finding); });
     return found;
 }
 
 std::string_view FolderCheck::contentOf(std::string_view shown) const {
+    if (shown == ModFileName) {
+        return modContent_;
+    }
     const auto found = std::find_if(files_.begin(), files_.end(),
                                     [shown](const CheckedFile& entry) { return entry.shown == shown; });
     return found == files_.end() ? std::string_view() : std::string_view(found->content);

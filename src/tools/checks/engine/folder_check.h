@@ -22,8 +22,9 @@ std::string shownPath(Category category, std::string_view name);
 class FolderCheck {
 public:
     /// Lists the files and loads what the rules know. With a mod, only its files are checked; the game's are
-    /// what they name and are compared with.
-    explicit FolderCheck(const GameFolders& folders);
+    /// what they name and are compared with. Pictures are taken apart only where that is asked for: it takes
+    /// seconds for a hundred vehicles.
+    explicit FolderCheck(const GameFolders& folders, bool looksIntoPictures = false);
     FolderCheck(const FolderCheck&) = delete;
     FolderCheck& operator=(const FolderCheck&) = delete;
 
@@ -52,7 +53,7 @@ public:
             }
         }
     }
-    /// Findings of the list of suppressions, which belong to no data file.
+    /// Findings of the list of suppressions and of the mod's settings, which belong to no data file.
     [[nodiscard]] const std::vector<Finding>& ofFolder() const { return ofFolder_; }
     /// What is found about a file that was changed since, or is changed in memory only.
     [[nodiscard]] std::vector<Finding> checkAgain(Category category, std::string_view name,
@@ -67,20 +68,21 @@ private:
         std::unique_ptr<ReadUnitFile> read = {}; ///< between its survey and its check
         std::vector<Finding> found = {};
 
-        [[nodiscard]] FileToCheck toCheck() const { return {file.category, file.name, shown, content}; }
+        [[nodiscard]] FileToCheck toCheck(bool looksIntoPictures = false) const {
+            return {file.category, file.name, shown, content, looksIntoPictures};
+        }
     };
 
     void list(const GameFolders& folders);
     void survey(CheckedFile& file, UnitSurvey& survey) const;
     void check(CheckedFile& file) const;
     void finishSurvey();
-    template <typename Work>
-    void inThreads(std::size_t threads, Work work);
-
+    bool looksIntoPictures_;
     CheckKnowledge knowledge_;
     SuppressionList suppressions_;
     std::vector<CheckedFile> files_;
-    std::vector<Finding> ofFolder_; ///< of the list of suppressions
+    std::vector<Finding> ofFolder_; ///< of the list of suppressions and of the mod's settings
+    std::string modContent_;
     UnitSurvey survey_{knowledge_};
     std::size_t surveyed_ = 0;
     std::size_t checked_ = 0;

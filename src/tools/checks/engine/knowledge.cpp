@@ -2,11 +2,10 @@
 
 #include "analysis/performance/vehicle_figures.h"
 #include "data/format/texts.h"
-#include "data/unit/image_names.h"
 #include "data/unit_fields.h"
 #include "mod/mod_settings.h"
+#include "pictures/png_codec.h"
 #include "platform/file_operations.h"
-#include "tools/checks/engine/picture_folders.h"
 
 #include <algorithm>
 #include <iterator>
@@ -14,61 +13,50 @@
 
 namespace varrocade {
 
-bool FileIndex::add(const GameFolders& folders, std::string_view folder, std::string_view ending) {
-    bool isListed = false;
-    for (const std::string& base : {folders.mod, folders.program}) {
-        const std::string path = base + std::string(folder);
-        std::vector<std::string> names;
-        if (base.empty() || !listFiles(path, ending, names)) {
-            continue;
-        }
-        isListed = true;
-        Folder& files = folders_[std::string(folder)];
-        for (std::string& name : names) {
-            Entry entry{name.substr(0, name.size() - ending.size()), path + name};
-            files.try_emplace(loweredText(entry.name), std::move(entry));
-        }
-    }
-    return isListed;
-}
-
-const FileIndex::Entry* FileIndex::find(std::string_view folder, std::string_view name) const {
-    const auto files = folders_.find(folder);
-    if (files == folders_.end()) {
-        return nullptr;
-    }
-    const auto found = files->second.find(loweredText(name));
-    return found == files->second.end() ? nullptr : &found->second;
-}
-
-std::vector<std::string_view> FileIndex::namesIn(std::string_view folder) const {
-    std::vector<std::string_view> names;
-    if (const auto files = folders_.find(folder); files != folders_.end()) {
-        for (const auto& [lowered, entry] : files->second) {
-            names.emplace_back(entry.name);
-        }
-    }
-    // The order of the table is the machine's.
-    std::sort(names.begin(), names.end());
-    return names;
-}
-
 const WeaponRecord* CheckKnowledge::findWeapon(std::string_view name) const {
-    const auto found = weapons.find(loweredText(name));
+    const auto found = weapons.find(name);
     return found == weapons.end() ? nullptr : found->second;
 }
 
-std::optional<PictureSize> CheckKnowledge::sizeOf(const std::string& path) const {
+std::optional<PictureSize> CheckKnowledge::sizeOf(const AssetFile& picture) const {
     {
-        const std::scoped_lock guard(sizesGuard_);
-        if (const auto known = sizes_.find(path); known != sizes_.end()) {
+        const std::scoped_lock guard(guard_);
+        if (const auto known = sizes_.find(&picture); known != sizes_.end()) {
             return known->second;
         }
     }
     // Nobody waits while a file is read; at worst two read the same one.
-    const std::optional<PictureSize> size = readPngSize(path);
-    const std::scoped_lock guard(sizesGuard_);
-    return sizes_.try_emplace(path, size).first->second;
+    const std::optional<PictureSize> size = readPngSize(picture.path());
+    const std::scoped_lock guard(guard_);
+    return sizes_.try_emplace(&picture, size).first->second;
+}
+
+namespace {
+
+std::optional<Silhouette> silhouetteOfFile(const AssetFile& file) {
+    std::string bytes;
+    if (!readWholeFile(file.path(), bytes)) {
+        return std::nullopt;
+    }
+    const PngReading reading = readPng(bytes);
+    return reading.failure.empty() ? std::optional(silhouetteOf(reading.picture)) : std::nullopt;
+}
+
+} // namespace
+
+PictureShift CheckKnowledge::shiftOf(const AssetFile& whole, const AssetFile& part) const {
+    const std::pair key(&whole, &part);
+    {
+        const std::scoped_lock guard(guard_);
+        if (const auto known = shifts_.find(key); known != shifts_.end()) {
+            return known->second;
+        }
+    }
+    const std::optional<Silhouette> around = silhouetteOfFile(whole);
+    const std::optional<Silhouette> inside = silhouetteOfFile(part);
+    const PictureShift shift = around && inside ? shiftInto(*around, *inside) : PictureShift{};
+    const std::scoped_lock guard(guard_);
+    return shifts_.try_emplace(key, shift).first->second;
 }
 
 void learnWeapons(CheckKnowledge& knowledge, const WeaponCatalogue& catalogue) {
@@ -77,26 +65,22 @@ void learnWeapons(CheckKnowledge& knowledge, const WeaponCatalogue& catalogue) {
     const auto& entries = catalogue.entries();
     for (const CatalogueEntry& entry : entries) {
         if (entry.holdsWeapon) {
-            knowledge.weapons.try_emplace(loweredText(entry.weapon.fileName), &entry.weapon);
+            knowledge.weapons.try_emplace(entry.weapon.fileName, &entry.weapon);
         }
     }
     for (const CatalogueEntry& entry : entries) {
         if (entry.holdsWeapon) {
-            knowledge.weapons.try_emplace(loweredText(entry.weapon.name), &entry.weapon);
+            knowledge.weapons.try_emplace(entry.weapon.name, &entry.weapon);
         }
     }
     knowledge.knowsWeapons = !knowledge.weapons.empty();
 }
 
 void learnFolders(CheckKnowledge& knowledge, const GameFolders& folders) {
-    knowledge.folders = folders;
+    knowledge.files.setBases(folders);
     knowledge.ownCatalogue.load(folders.program, folders.mod);
     learnWeapons(knowledge, knowledge.ownCatalogue);
     knowledge.masses.emplace(knowledge.ownCatalogue);
-    for (const std::string_view folder : picture_folders::All) {
-        knowledge.pictures.add(folders, folder, ImageEnding);
-    }
-    knowledge.sounds.add(folders, SoundFolder, SoundEnding);
     const std::string& modFolder = folders.mod.empty() ? folders.program : folders.mod;
     if (systemFiles().exists(modFolder + std::string(ModFileName))) {
         knowledge.mod = loadModSettings(modFolder);

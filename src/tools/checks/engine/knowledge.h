@@ -3,10 +3,13 @@
 
 #include "analysis/performance/weapon_mass.h"
 #include "analysis/performance/weight_calibration.h"
+#include "data/format/texts.h"
 #include "data/game_files.h"
 #include "mod/mod_record.h"
 #include "platform/png_size.h"
+#include "tools/asset_files.h"
 #include "tools/checks/engine/usual_values.h"
+#include "tools/pictures/silhouette.h"
 #include "weapons/weapon_catalogue.h"
 
 #include <map>
@@ -17,30 +20,10 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace varrocade {
-
-/// The files of some folders, found by their names with and without regard to letter case.
-class FileIndex {
-public:
-    /// Lists a folder of the game and of the mod, which counts first. False when there is neither.
-    bool add(const GameFolders& folders, std::string_view folder, std::string_view ending);
-
-    struct Entry {
-        std::string name; ///< as the disk has it, without the ending
-        std::string path;
-    };
-    /// The file of a name, letter case aside; null when there is none.
-    [[nodiscard]] const Entry* find(std::string_view folder, std::string_view name) const;
-    /// The names in a folder.
-    [[nodiscard]] std::vector<std::string_view> namesIn(std::string_view folder) const;
-    [[nodiscard]] bool knows(std::string_view folder) const { return folders_.contains(folder); }
-
-private:
-    using Folder = std::unordered_map<std::string, Entry>; ///< by the name in small letters
-    std::map<std::string, Folder, std::less<>> folders_;
-};
 
 /// What units carry for a weapon, as a rule: a flavour that more than half of them have, and how many rounds.
 struct UsualLoad {
@@ -59,14 +42,12 @@ struct KnownUnit {
 
 /// Filled once; rules only read it, from any number of threads.
 struct CheckKnowledge {
-    GameFolders folders = {};
+    AssetFiles files = {};                      ///< pictures and sounds; without folders none is missed
     const WeaponCatalogue* catalogue = nullptr; ///< of whoever keeps it
     WeaponCatalogue ownCatalogue = {};          ///< where nobody else keeps one
-    /// By name in small letters: those of files, and behind them those that weapons give themselves.
-    std::unordered_map<std::string, const WeaponRecord*> weapons = {};
+    /// By the names of files, and behind them those that weapons give themselves.
+    std::unordered_map<std::string_view, const WeaponRecord*, CaselessHash, CaselessEqual> weapons = {};
     bool knowsWeapons = false; ///< without any, no weapon is missed
-    FileIndex pictures = {};
-    FileIndex sounds = {};
     /// Paths of pictures that somebody looked for in vain, where the folders are not listed.
     std::span<const std::string> missingPictures = {};
     /// Where the files of single values are looked for instead, one by one; empty: in the lists.
@@ -82,11 +63,15 @@ struct CheckKnowledge {
 
     [[nodiscard]] const WeaponRecord* findWeapon(std::string_view name) const;
     /// The size of a picture, read once; nothing when the file is no picture.
-    [[nodiscard]] std::optional<PictureSize> sizeOf(const std::string& path) const;
+    [[nodiscard]] std::optional<PictureSize> sizeOf(const AssetFile& picture) const;
+    /// How far a picture of a part would have to move to lie within that of the whole, found once; nothing
+    /// where one of them cannot be read.
+    [[nodiscard]] PictureShift shiftOf(const AssetFile& whole, const AssetFile& part) const;
 
 private:
-    mutable std::mutex sizesGuard_;
-    mutable std::unordered_map<std::string, std::optional<PictureSize>> sizes_;
+    mutable std::mutex guard_; ///< of what is read when it is asked for
+    mutable std::unordered_map<const AssetFile*, std::optional<PictureSize>> sizes_;
+    mutable std::map<std::pair<const AssetFile*, const AssetFile*>, PictureShift> shifts_;
 };
 
 /// Loads weapons, lists pictures and sounds, reads the mod's settings.

@@ -5,6 +5,8 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
+#include <cstdint>
 
 namespace varrocade {
 
@@ -13,11 +15,27 @@ namespace {
 /// Longer names are no names: comparing them would only take time.
 constexpr std::size_t LongestName = 128;
 
+/// A bit for each kind of letter that a name has. A kind that the other lacks takes an edit at least, so that
+/// most names need no table.
+std::uint64_t letterKinds(std::string_view name) {
+    std::uint64_t kinds = 0;
+    for (const char c : name) {
+        kinds |= std::uint64_t{1} << (static_cast<unsigned char>(lowered(c)) % 64U);
+    }
+    return kinds;
+}
+
 } // namespace
 
 std::size_t editDistance(std::string_view a, std::string_view b, std::size_t limit) {
     const std::size_t difference = a.size() > b.size() ? a.size() - b.size() : b.size() - a.size();
     if (difference > limit || a.size() > LongestName || b.size() > LongestName) {
+        return limit + 1;
+    }
+    const std::uint64_t kindsOfA = letterKinds(a);
+    const std::uint64_t kindsOfB = letterKinds(b);
+    const auto lacking = std::max(std::popcount(kindsOfA & ~kindsOfB), std::popcount(kindsOfB & ~kindsOfA));
+    if (static_cast<std::size_t>(lacking) > limit) {
         return limit + 1;
     }
     // Rows of the table: the present one, the one above, and the one above that for swapped letters.

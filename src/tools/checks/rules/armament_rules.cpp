@@ -7,7 +7,7 @@
 #include "weapons/weapon_kinds.h"
 
 #include <algorithm>
-#include <set>
+#include <iterator>
 
 namespace varrocade {
 
@@ -15,11 +15,13 @@ namespace {
 
 namespace ck = check_key;
 
-void checkRounds(const CheckedUnit& checked, const std::vector<AmmoLoadRecord>& loads,
-                 const std::string& path) {
+/// `pathOf()` is the path of what holds the loads, made only where something is found.
+template <typename Path>
+void checkRounds(const CheckedUnit& checked, const std::vector<AmmoLoadRecord>& loads, Path pathOf) {
     for (std::size_t i = 0; i < loads.size(); ++i) {
         if (loads[i].rounds == 0) {
-            checked.out.atValue(path + numbered(element::Ammo, i) + "." + std::string(field::Rounds.element),
+            checked.out.atValue(pathOf() + numbered(element::Ammo, i) + "." +
+                                    std::string(field::Rounds.element),
                                 {.key = ck::NoRounds,
                                  .message = "no rounds for " + quoted(loads[i].weaponType),
                                  .value = "0",
@@ -30,7 +32,11 @@ void checkRounds(const CheckedUnit& checked, const std::vector<AmmoLoadRecord>& 
 
 bool isLoaded(std::string_view weapon, const std::vector<AmmoLoadRecord>& loads) {
     return std::any_of(loads.begin(), loads.end(),
-                       [&](const AmmoLoadRecord& load) { return load.weaponType == weapon; });
+                       [&](const AmmoLoadRecord& load) { return load.weaponType.view() == weapon; });
+}
+
+bool isOneOf(std::string_view name, const std::vector<std::string_view>& names) {
+    return std::find(names.begin(), names.end(), name) != names.end();
 }
 
 void tellUnloaded(const CheckedUnit& checked, std::string_view weapon, const std::string& path) {
@@ -45,39 +51,40 @@ void tellUnloaded(const CheckedUnit& checked, std::string_view weapon, const std
 /// What the men of a squad carry for each other: an assistant the gunner's belts.
 void checkMen(const CheckedUnit& checked, const std::vector<CrewManRecord>& men, const std::string& path,
               bool sharesAmmo) {
-    std::set<std::string_view> carried;
-    std::vector<AmmoLoadRecord> pool;
+    std::vector<std::string_view> carried;
+    std::vector<std::string_view> loaded; // the weapons that somebody has rounds for
     const auto add = [&](const CrewManRecord& man) {
-        carried.insert(man.weapons.begin(), man.weapons.end());
-        pool.insert(pool.end(), man.ammo.begin(), man.ammo.end());
+        carried.insert(carried.end(), man.weapons.begin(), man.weapons.end());
+        std::transform(man.ammo.begin(), man.ammo.end(), std::back_inserter(loaded),
+                       [](const AmmoLoadRecord& load) { return load.weaponType.view(); });
     };
     if (sharesAmmo) {
         std::for_each(men.begin(), men.end(), add);
         if (checked.unit.heavyWeapon) {
             for (const WeaponMountRecord& weapon : checked.unit.heavyWeapon->weapons) {
-                carried.insert(weapon.type);
+                carried.push_back(weapon.type);
             }
         }
     }
     for (std::size_t i = 0; i < men.size(); ++i) {
-        const std::string ofMan = path + numbered(element::Man, i) + ".";
+        const auto ofMan = [&] { return path + numbered(element::Man, i) + "."; };
         if (!sharesAmmo) {
             carried.clear();
-            pool.clear();
+            loaded.clear();
             add(men[i]);
         }
         for (std::size_t k = 0; k < men[i].weapons.size(); ++k) {
-            if (!isLoaded(men[i].weapons[k], pool)) {
-                tellUnloaded(checked, men[i].weapons[k], ofMan + numbered(element::Weapon, k));
+            if (!isOneOf(men[i].weapons[k], loaded)) {
+                tellUnloaded(checked, men[i].weapons[k], ofMan() + numbered(element::Weapon, k));
             }
         }
         for (std::size_t k = 0; k < men[i].ammo.size(); ++k) {
             const AmmoLoadRecord& load = men[i].ammo[k];
             // Grenades are thrown: they are ammunition without a weapon.
-            const bool isThrown = typeOfWeaponName(load.weaponType) == WeaponType::Grenade;
-            if (!isThrown && !load.weaponType.empty() && !carried.contains(load.weaponType.view())) {
+            if (!load.weaponType.empty() && !isOneOf(load.weaponType, carried) &&
+                typeOfWeaponName(load.weaponType) != WeaponType::Grenade) {
                 const NearestName nearest = NearestName(load.weaponType).offerAll(carried);
-                checked.out.atValue(ofMan + numbered(element::Ammo, k) + "." +
+                checked.out.atValue(ofMan() + numbered(element::Ammo, k) + "." +
                                         std::string(field::AmmoFor.element),
                                     {.key = finding_key::AmmoWithoutWeapon,
                                      .message = std::to_string(load.rounds) + " rounds for " +
@@ -105,7 +112,7 @@ void checkArmament(const CheckedUnit& checked) {
                                  std::string(field::MountedType.element));
             }
         }
-        checkRounds(checked, armed.ammo, path);
+        checkRounds(checked, armed.ammo, [&] { return path; });
     });
     checkMen(checked, checked.unit.infantrymen, {}, true);
     if (checked.unit.vehicle) {

@@ -24,13 +24,22 @@ std::string slashed(std::string_view folder) {
     return text;
 }
 
+std::string pictureFile(std::string_view name) {
+    return std::string(name) + std::string(ImageEnding);
+}
+
+/// The name that finds a file, in the letter case of the disk; folders before it stay as they are written.
+std::string nameOnDisk(const AssetFile& file, std::string_view name) {
+    return std::string(name.substr(0, name.find_last_of("\\/") + 1)) + std::string(file.stem());
+}
+
 } // namespace
 
-const FileIndex::Entry* findPicture(const CheckKnowledge& knowledge, std::span<const ImageSource> sources,
-                                    std::string_view name) {
+const AssetFile* findPicture(const CheckKnowledge& knowledge, std::span<const ImageSource> sources,
+                             std::string_view name) {
     for (const ImageSource& source : sources) {
-        if (const FileIndex::Entry* entry = knowledge.pictures.find(source.folder, name)) {
-            return entry;
+        if (const AssetFile* file = knowledge.files.find(source.folder, name, ImageEnding)) {
+            return file;
         }
     }
     return nullptr;
@@ -38,36 +47,38 @@ const FileIndex::Entry* findPicture(const CheckKnowledge& knowledge, std::span<c
 
 void lookUpPicture(const CheckKnowledge& knowledge, std::span<const ImageSource> sources,
                    const FieldPath& path, std::string_view name, FileFindings& out) {
-    bool isKnownFolder = false;
-    for (const ImageSource& source : sources) {
-        isKnownFolder = isKnownFolder || knowledge.pictures.knows(source.folder);
-    }
-    const std::string file = std::string(name) + std::string(ImageEnding);
-    const bool isMissing =
-        std::any_of(knowledge.missingPictures.begin(), knowledge.missingPictures.end(),
-                    [&](const std::string& missing) { return missing.ends_with("\\" + file); });
-    if (name.empty() || (!isKnownFolder && !isMissing)) {
+    if (name.empty()) {
         return;
     }
-    if (const FileIndex::Entry* entry = findPicture(knowledge, sources, name)) {
-        if (entry->name != name) {
+    if (const AssetFile* picture = findPicture(knowledge, sources, name)) {
+        if (const std::string real = nameOnDisk(*picture, name); real != name) {
             out.atValue(path.text(), {.key = ck::PictureCase,
-                                      .message = "the picture " + quoted(file) + " is called " +
-                                                 quoted(entry->name) + " on the disk",
+                                      .message = "the picture " + quoted(pictureFile(name)) + " is called " +
+                                                 quoted(real) + " on the disk",
                                       .value = std::string(name),
-                                      .expected = entry->name,
-                                      .hint = "write " + quoted(entry->name + std::string(ImageEnding)),
-                                      .replacement = entry->name});
-        } else if (!knowledge.sizeOf(entry->path)) {
+                                      .expected = real,
+                                      .hint = "write " + quoted(pictureFile(real)),
+                                      .replacement = real});
+        } else if (!knowledge.sizeOf(*picture)) {
             out.atValue(path.text(), {.key = ck::BadPicture,
-                                      .message = quoted(file) + " is no PNG file",
+                                      .message = quoted(pictureFile(name)) + " is no PNG file",
                                       .value = std::string(name)});
         }
         return;
     }
+    const std::string file = pictureFile(name);
+    const bool isKnownFolder = std::any_of(sources.begin(), sources.end(), [&](const ImageSource& source) {
+        return knowledge.files.hasFolder(source.folder, ImageEnding);
+    });
+    const bool isMissing =
+        std::any_of(knowledge.missingPictures.begin(), knowledge.missingPictures.end(),
+                    [&](const std::string& missing) { return missing.ends_with("\\" + file); });
+    if (!isKnownFolder && !isMissing) {
+        return;
+    }
     NearestName nearest(name);
     for (const ImageSource& source : sources) {
-        nearest.offerAll(knowledge.pictures.namesIn(source.folder));
+        nearest.offerAll(knowledge.files.stems(source.folder, ImageEnding));
     }
     out.atValue(path.text(), {.key = finding_key::MissingPicture,
                               .message = "the picture " + quoted(file) + " is missing",
@@ -79,26 +90,27 @@ void lookUpPicture(const CheckKnowledge& knowledge, std::span<const ImageSource>
 
 void lookUpSound(const CheckKnowledge& knowledge, const FieldPath& path, std::string_view name,
                  FileFindings& out) {
-    if (name.empty() || !knowledge.sounds.knows(SoundFolder)) {
+    if (name.empty() || !knowledge.files.hasFolder(SoundFolder, SoundEnding)) {
         return;
     }
-    const FileIndex::Entry* entry = knowledge.sounds.find(SoundFolder, name);
-    if (entry == nullptr) {
-        const NearestName nearest = NearestName(name).offerAll(knowledge.sounds.namesIn(SoundFolder));
+    const AssetFile* sound = knowledge.files.find(SoundFolder, name, SoundEnding);
+    if (sound == nullptr) {
+        const NearestName nearest =
+            NearestName(name).offerAll(knowledge.files.stems(SoundFolder, SoundEnding));
         out.atValue(path.text(), {.key = finding_key::MissingSound,
                                   .message = "the sound " + quoted(name) + " is missing",
                                   .value = std::string(name),
                                   .expected = "a file in " + slashed(SoundFolder),
                                   .hint = nearest.hint(),
                                   .replacement = nearest.onlyName()});
-    } else if (entry->name != name) {
-        out.atValue(path.text(), {.key = ck::SoundCase,
-                                  .message = "the sound " + quoted(name) + " is called " +
-                                             quoted(entry->name) + " on the disk",
-                                  .value = std::string(name),
-                                  .expected = entry->name,
-                                  .hint = "write " + quoted(entry->name),
-                                  .replacement = entry->name});
+    } else if (const std::string real = nameOnDisk(*sound, name); real != name) {
+        out.atValue(path.text(),
+                    {.key = ck::SoundCase,
+                     .message = "the sound " + quoted(name) + " is called " + quoted(real) + " on the disk",
+                     .value = std::string(name),
+                     .expected = real,
+                     .hint = "write " + quoted(real),
+                     .replacement = real});
     }
 }
 

@@ -17,7 +17,7 @@ void lookUpPicture(const CheckKnowledge& knowledge, std::span<const ImageSource>
 void lookUpSound(const CheckKnowledge& knowledge, const FieldPath& path, std::string_view name,
                  FileFindings& out);
 /// Where a picture lies; null where it is missing.
-const FileIndex::Entry* findPicture(const CheckKnowledge& knowledge, std::span<const ImageSource> sources,
-                                    std::string_view name);
+const AssetFile* findPicture(const CheckKnowledge& knowledge, std::span<const ImageSource> sources,
+                             std::string_view name);
 
 } // namespace varrocade

@@ -19,15 +19,51 @@ std::string sizeText(const PictureSize& size) {
     return std::to_string(size.width) + " x " + std::to_string(size.height);
 }
 
-std::optional<PictureSize> sizeOf(const CheckedUnit& checked, std::span<const ImageSource> sources,
-                                  std::string_view name) {
-    const FileIndex::Entry* entry = name.empty() ? nullptr : findPicture(checked.knowledge, sources, name);
-    return entry == nullptr ? std::nullopt : checked.knowledge.sizeOf(entry->path);
+struct FoundPicture {
+    const AssetFile* file = nullptr;
+    std::optional<PictureSize> size = std::nullopt;
+};
+
+FoundPicture find(const CheckedUnit& checked, std::span<const ImageSource> sources, std::string_view name) {
+    const AssetFile* file = name.empty() ? nullptr : findPicture(checked.knowledge, sources, name);
+    return {file, file == nullptr ? std::nullopt : checked.knowledge.sizeOf(*file)};
+}
+
+/// "12 pixels to the left and 30 up"
+std::string shiftText(const PictureShift& shift) {
+    std::string text;
+    if (shift.x != 0) {
+        text = std::to_string(std::abs(shift.x)) + " pixels to the " + (shift.x < 0 ? "left" : "right");
+    }
+    if (shift.y != 0) {
+        text += (text.empty() ? "" : " and ") + std::to_string(std::abs(shift.y)) +
+                (text.empty() ? " pixels " : " ") + (shift.y < 0 ? "up" : "down");
+    }
+    return text;
+}
+
+/// A wreck of the same size that lies beside its whole jumps all the same.
+void checkPivot(const CheckedUnit& checked, const ComponentRecord& part, const std::string& path,
+                const AssetFile& whole, const AssetFile& wreck) {
+    const PictureShift shift = checked.knowledge.shiftOf(whole, wreck);
+    if (shift == PictureShift{}) {
+        return;
+    }
+    const std::string name = part.destroyedImage.str();
+    checked.out.atValue(
+        path + std::string(field::DestroyedImage.element),
+        {.key = ck::WreckPivot,
+         .message = "the wreck lies beside the " + std::string(elementOf(part.kind)) + " in its picture",
+         .value = name,
+         .expected = "the same place in both pictures",
+         .hint = "move it by about " + shiftText(shift)});
 }
 
 void checkComponent(const CheckedUnit& checked, const ComponentRecord& part, const std::string& path) {
     const bool isHull = part.kind == ComponentKind::Hull;
-    const auto whole = sizeOf(checked, isHull ? image_sources::Hull : image_sources::Turret, part.viewImage);
+    const FoundPicture found =
+        find(checked, isHull ? image_sources::Hull : image_sources::Turret, part.viewImage);
+    const std::optional<PictureSize>& whole = found.size;
     if (!whole) {
         return;
     }
@@ -43,7 +79,8 @@ void checkComponent(const CheckedUnit& checked, const ComponentRecord& part, con
                                  .expected = std::to_string(isWide ? whole->width : whole->height)});
         }
     }
-    const auto wreck = sizeOf(checked, image_sources::Destroyed, part.destroyedImage);
+    const FoundPicture wrecked = find(checked, image_sources::Destroyed, part.destroyedImage);
+    const std::optional<PictureSize>& wreck = wrecked.size;
     if (wreck && *wreck != *whole) {
         checked.out.atValue(path + std::string(field::DestroyedImage.element),
                             {.key = ck::WreckSize,
@@ -52,6 +89,8 @@ void checkComponent(const CheckedUnit& checked, const ComponentRecord& part, con
                                         sizeText(*whole),
                              .value = part.destroyedImage.str(),
                              .expected = sizeText(*whole)});
+    } else if (wreck && checked.looksIntoPictures) {
+        checkPivot(checked, part, path, *found.file, *wrecked.file);
     }
 }
 

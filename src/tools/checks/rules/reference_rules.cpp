@@ -78,14 +78,13 @@ void lookUpFlavour(const CheckedUnit& checked, const AmmoLoadRecord& load, const
 
 /// A uniform is a picture, or one that a mod names. A name like that of a picture means the picture.
 void lookUpUniform(const CheckedUnit& checked, const FieldPlace& place, std::string_view name) {
-    const FileIndex& pictures = checked.knowledge.pictures;
     const std::string_view picture = imageNameOf(name);
     if (findPicture(checked.knowledge, place.field.images, picture) != nullptr || picture != name) {
         lookUpPicture(checked.knowledge, place.field.images, place.path, picture, checked.out);
         return;
     }
     constexpr std::size_t slip = 2;
-    for (const std::string_view known : pictures.namesIn(image_folder::Uniforms)) {
+    for (const std::string_view known : checked.knowledge.files.stems(image_folder::Uniforms, ImageEnding)) {
         if (editDistance(name, known, slip) <= slip) {
             lookUpPicture(checked.knowledge, place.field.images, place.path, picture, checked.out);
             return;
@@ -158,7 +157,7 @@ void lookUp(const CheckedUnit& checked, const FieldPlace& place, std::string_vie
 void lookUpFlag(const CheckedUnit& checked) {
     const std::string_view nationality = checked.unit.nationality;
     const auto names = nationalityNames();
-    if (!checked.knowledge.pictures.knows(image_folder::StaticFlags) ||
+    if (!checked.knowledge.files.hasFolder(image_folder::StaticFlags, ImageEnding) ||
         std::find(names.begin(), names.end(), nationality) == names.end()) {
         return;
     }
@@ -177,7 +176,7 @@ void lookUpFlag(const CheckedUnit& checked) {
 void checkReferences(const CheckedUnit& checked) {
     forEachField(checked.unit, [&](const FieldPlace& place, const auto& value) {
         if constexpr (std::is_convertible_v<decltype(value), std::string_view>) {
-            if (place.isStored() && place.field.kind != FieldKind::Prose) {
+            if (place.field.kind != FieldKind::Prose && place.isStored()) {
                 lookUp(checked, place, value);
             }
         }

@@ -19,6 +19,7 @@ struct CheckedUnit {
     std::string_view fileName; ///< without ".txt"
     const CheckKnowledge& knowledge;
     FileFindings& out;
+    bool looksIntoPictures = false; ///< takes them apart, not only their sizes
 };
 
 /// Weapons, flavours, pictures, sounds, flags that are not there, or in other letter case.

@@ -34,7 +34,7 @@ constexpr auto OlderWords = std::to_array<std::pair<std::string_view, std::strin
 class ValueTextCheck {
 public:
     ValueTextCheck(const TagNode& node, const FieldInfo& field, FileFindings& out)
-        : node_(node), field_(field), out_(out), text_(node.text), label_(field.label) {}
+        : node_(node), field_(field), out_(out), text_(node.text) {}
 
     void run() {
         switch (field_.kind) {
@@ -77,9 +77,11 @@ private:
                             .replacement = std::move(replacement)});
     }
 
+    [[nodiscard]] std::string label() const { return std::string(partOfField_) + std::string(field_.label); }
+
     bool checkGiven() {
         if (text_.empty()) {
-            tell(ck::EmptyValue, tagText(node_.name) + " is empty", label_);
+            tell(ck::EmptyValue, tagText(node_.name) + " is empty", label());
         }
         return !text_.empty();
     }
@@ -110,7 +112,7 @@ private:
         if (!number) {
             const bool isPart = toReal(text) != 0;
             tell(isPart ? ck::NumberCut : ck::NotANumber,
-                 label_ + " " + quoted(text) +
+                 label() + " " + quoted(text) +
                      (isPart ? " is read as " + std::to_string(toInteger(text))
                              : std::string(" is no number")),
                  "a whole number", numberHint(text));
@@ -119,9 +121,10 @@ private:
         const bool isHeld = *number >= field.held.least && *number <= field.held.greatest;
         const NumberRange& range = field.traits.range;
         if (*number < range.least || *number > range.greatest) {
-            tell(ck::OutOfRange, label_ + " " + std::string(trimmed(text)) + " cannot be", rangeText(range));
+            tell(ck::OutOfRange, label() + " " + std::string(trimmed(text)) + " cannot be", rangeText(range));
         } else if (!isHeld) {
-            tell(ck::NumberCut, label_ + " " + std::string(trimmed(text)) + " is more than the game can hold",
+            tell(ck::NumberCut,
+                 label() + " " + std::string(trimmed(text)) + " is more than the game can hold",
                  rangeText(field.held));
         }
     }
@@ -136,11 +139,11 @@ private:
             std::string read;
             appendShortest(read, toReal(text_));
             tell(isPart ? ck::NumberCut : ck::NotANumber,
-                 label_ + " " + quoted(text_) +
+                 label() + " " + quoted(text_) +
                      (isPart ? " is read as " + read : std::string(" is no number")),
                  "a number", numberHint(text_));
         } else if (*number < field_.traits.range.least || *number > field_.traits.range.greatest) {
-            tell(ck::OutOfRange, label_ + " " + std::string(text_) + " cannot be",
+            tell(ck::OutOfRange, label() + " " + std::string(text_) + " cannot be",
                  rangeText(field_.traits.range));
         }
     }
@@ -152,7 +155,7 @@ private:
         const std::size_t at = text_.find('@');
         checkNumber(text_.substr(0, at), field::PlateThickness);
         if (at != std::string_view::npos) {
-            label_ = "the angle of " + std::string(field_.label);
+            partOfField_ = "the angle of ";
             checkNumber(text_.substr(at + 1), field::PlateAngle);
         }
     }
@@ -167,7 +170,7 @@ private:
         }
         const NearestName nearest =
             NearestName(text_).offerAll(std::to_array<std::string_view>({"yes", "no"}));
-        tell(ck::BadFlag, label_ + " " + quoted(text_) + " is neither yes nor no", "yes", nearest.hint(),
+        tell(ck::BadFlag, label() + " " + quoted(text_) + " is neither yes nor no", "yes", nearest.hint(),
              nearest.onlyName());
     }
 
@@ -193,14 +196,14 @@ private:
             return;
         }
         const NearestName nearest = NearestName(text_).offerAll(words);
-        tell(finding_key::UnknownWord, label_ + " " + quoted(text_) + " is not known",
+        tell(finding_key::UnknownWord, label() + " " + quoted(text_) + " is not known",
              "one of " + std::to_string(words.size()) + " words", nearest.hint(), nearest.onlyName());
     }
 
     void checkLength() {
         if (field_.capacity > 0 && text_.size() > field_.capacity) {
             tell(ck::TextCut,
-                 label_ + " has " + std::to_string(text_.size()) + " characters and is cut to " +
+                 label() + " has " + std::to_string(text_.size()) + " characters and is cut to " +
                      std::to_string(field_.capacity),
                  "at most " + std::to_string(field_.capacity) + " characters");
         }
@@ -210,7 +213,7 @@ private:
     const FieldInfo& field_;
     FileFindings& out_;
     std::string_view text_;
-    std::string label_;
+    std::string_view partOfField_ = {}; ///< what stands before the label: "the angle of "
 };
 
 } // namespace
