@@ -2,7 +2,7 @@
 // Which file of a game and its mod answers a name, as the game's system finds it: the mod's before the
 // game's, letter case aside.
 
-#include "data/format/texts.h"
+#include "data/format/caseless.h"
 #include "data/game_files.h"
 #include "tools/references.h"
 

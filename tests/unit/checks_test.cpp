@@ -1,6 +1,7 @@
 // The checks: a planted fault a rule, the sample without a finding, suppressions and reports.
 
 #include "data/unit/enumerations.h"
+#include "pictures/png_codec.h"
 #include "platform/file_operations.h"
 #include "test_support.h"
 #include "tools/checks/engine/check_file.h"
@@ -99,8 +100,8 @@ std::string sortedLines(std::string text) {
     return text;
 }
 
-std::vector<Finding> checked(const TemporaryFolder& folder) {
-    FolderCheck check({.program = folder.path()});
+std::vector<Finding> checked(const TemporaryFolder& folder, bool looksIntoPictures = false) {
+    FolderCheck check({.program = folder.path()}, looksIntoPictures);
     EXPECT_FALSE(check.failure());
     check.run(2);
     return check.findings();
@@ -125,6 +126,57 @@ TEST(Checks, FindWhatIsPlanted) {
                                           .content = row.text});
         EXPECT_EQ(sortedLines(linesOf(found)), sortedLines(row.expected)) << row.heading;
     }
+}
+
+/// A hull as seen from above: solid within a frame, in a picture that goes with the tank.
+std::string hullPicture(int left, int top, int right, int bottom) {
+    Picture picture = emptyPicture({300, 600});
+    for (int y = top; y < bottom; ++y) {
+        for (int x = left; x < right; ++x) {
+            picture.samples[static_cast<std::size_t>(y * 300 + x) * 4 + 3] = 255;
+        }
+    }
+    return writePng(picture);
+}
+
+TEST(Checks, TellOfAWreckThatLiesBesideItsWhole) {
+    const TemporaryFolder folder;
+    writeGame(folder);
+    const std::string pictures = "Images\\Units\\Vehicles\\";
+    folder.write(pictures + "Hulls\\Hull.png", hullPicture(60, 40, 240, 560));
+    struct Case {
+        std::string wreck;
+        std::string_view hint;
+    };
+    for (const Case& row : std::to_array<Case>({
+             {hullPicture(60, 40, 240, 560), ""},
+             {hullPicture(60, 300, 240, 560), ""}, // without its front
+             {hullPicture(20, 10, 290, 590), ""},  // with what was torn off around it
+             {hullPicture(120, 40, 300, 560), "move it by about 60 pixels to the left"},
+             {hullPicture(60, 140, 240, 600), "move it by about 40 pixels up"},
+         })) {
+        folder.write(pictures + "Destroyed\\Wreck.png", row.wreck);
+        const std::vector<Finding> found = checked(folder, true);
+        ASSERT_EQ(found.size(), row.hint.empty() ? 0U : 1U) << row.hint;
+        if (!found.empty()) {
+            EXPECT_EQ(found.front().key, check_key::WreckPivot);
+            EXPECT_EQ(found.front().hint, row.hint);
+        }
+        EXPECT_TRUE(checked(folder).empty()) << "pictures are taken apart only when asked for";
+    }
+}
+
+TEST(Checks, LookAtWhatAModsSettingsName) {
+    const TemporaryFolder folder;
+    writeGame(folder);
+    folder.write("Images\\Flags\\Static\\Ours.png", png(9, 9));
+    folder.write(
+        "Mod.txt",
+        "<mod><years><first>1945</first><last>1940</last></years>\n<nationality><id>NATIONALITY_GERMAN"
+        "</id>\n<flag>ours.png</flag>\n<animated_flag>Our.png</animated_flag>\n<equipment><unit><file>"
+        "German T</file></unit>\n<unit><file>German Z</file></unit>\n<unit><file>German X</file></unit>"
+        " // ok: missing-unit comes later\n</equipment></nationality></mod>");
+    EXPECT_EQ(linesOf(checked(folder)), "");
 }
 
 TEST(Checks, FindNothingInTheSample) {

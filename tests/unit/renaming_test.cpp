@@ -127,10 +127,16 @@ TEST_F(Renaming, InAModLeavesTheGamesFilesAlone) {
     EXPECT_NE(unit.find("<file>German Panzer</file></unit></equipment></nationality></mod> // German Tank"),
               std::string::npos)
         << unit;
+    folder.write("Mod\\Checks.txt", "// Gun\r\nno-rounds Data/Weapons/gun.txt: Data/Weapons/Gun.txt\r\n"
+                                    "no-rounds Data/Weapons/G*.txt: all of them");
     folder.write("Mod\\Data\\Weapons\\Gun.txt", "<weapon><name>Gun</name></weapon>");
     const RenamePlan overriding = plan(RenameKind::Weapon, "Gun", "Cannon 2", true);
     ASSERT_EQ(overriding.remarks.size(), 1U) << "the game's tank counts again and names it";
     EXPECT_TRUE(overriding.remarks.front().ends_with("Vehicles: German Tank")) << overriding.remarks.front();
+    EXPECT_NE(done(overriding)
+                  .find("~ Mod\\Checks.txt: // Gun\r\nno-rounds Data/Weapons/Cannon 2.txt: "
+                        "Data/Weapons/Gun.txt\r\nno-rounds Data/Weapons/G*.txt: all of them"),
+              std::string::npos);
 }
 
 TEST_F(Renaming, SaysWhyNot) {

@@ -2,8 +2,6 @@
 // Characters and texts as the files have them: 8 bits, letters of ASCII.
 
 #include <algorithm>
-#include <cstddef>
-#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -43,23 +41,6 @@ constexpr int compareIgnoringCase(std::string_view a, std::string_view b) {
     }
     return static_cast<int>(a.size() > b.size()) - static_cast<int>(a.size() < b.size());
 }
-
-/// For tables of names whose letter case does not count; looks up without making a text.
-struct CaselessHash {
-    using is_transparent = void;
-    std::size_t operator()(std::string_view text) const {
-        // FNV-1a, 64 bits: names are short.
-        std::uint64_t hash = 0xCBF29CE484222325U;
-        for (const char c : text) {
-            hash = (hash ^ static_cast<unsigned char>(lowered(c))) * 0x100000001B3U;
-        }
-        return static_cast<std::size_t>(hash);
-    }
-};
-struct CaselessEqual {
-    using is_transparent = void;
-    bool operator()(std::string_view a, std::string_view b) const { return equalsIgnoringCase(a, b); }
-};
 
 /// Without the blanks at its ends.
 constexpr std::string_view trimmed(std::string_view text) {

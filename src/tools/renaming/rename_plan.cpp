@@ -7,6 +7,7 @@
 #include "mod/each_mod_field.h"
 #include "mod/mod_settings.h"
 #include "mod/mod_text.h"
+#include "tools/checks/engine/suppressions.h"
 #include "tools/where_used.h"
 #include "weapons/weapon_files.h"
 
@@ -81,6 +82,7 @@ void RenamePlanner::begin() {
         }
     }
     readSettings();
+    readSuppressions();
     std::vector<FileFailure> ignored; // folders that a mod, or a game in the making, need not have
     std::vector<GameFile> all = listAllFiles(request_.folders, ignored);
     if (request_.kind == RenameKind::Unit) {
@@ -171,6 +173,38 @@ void RenamePlanner::readSettings() {
     noteChanges(std::string(ModFileName), edits, &*edited);
     plan_.rewrites.push_back(
         {.path = path, .newPath = path, .before = std::move(content), .after = edited->text});
+}
+
+/// The list beside the data says of which files the checker is not to speak.
+void RenamePlanner::readSuppressions() {
+    const std::string path = plan_.base + std::string(SuppressionListName);
+    std::string content;
+    const bool isOfData = request_.kind == RenameKind::Weapon || request_.kind == RenameKind::Unit;
+    if (!isOfData || !systemFiles().exists(path)) {
+        return;
+    }
+    if (!systemFiles().read(path, content)) {
+        plan_.refusals.push_back(path + " cannot be read, and may name it: " + systemFiles().lastError());
+        return;
+    }
+    RenamedInList renamed{.text = content, .lines = {}};
+    for (const RenameTarget& target : targets_.files) {
+        const auto listed = [this](const std::string& file) {
+            std::string name = below(file);
+            std::replace(name.begin(), name.end(), '\\', '/');
+            return name;
+        };
+        const std::string from = listed(target.path);
+        const std::string to = listed(target.newPath);
+        renamed = renamedInList(renamed.text, from, to);
+        for (const std::size_t line : renamed.lines) {
+            plan_.changes.push_back(
+                {.file = std::string(SuppressionListName), .line = line, .from = from, .to = to});
+        }
+    }
+    if (renamed.text != content) {
+        plan_.rewrites.push_back({.path = path, .newPath = path, .before = content, .after = renamed.text});
+    }
 }
 
 void RenamePlanner::checkWeapon(const WeaponRecord& weapon, const GameFile& file, Edits& edits) {

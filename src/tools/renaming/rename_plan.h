@@ -48,6 +48,7 @@ private:
 
     void begin();
     void readSettings();
+    void readSuppressions();
     void read(const GameFile& file, std::string_view content);
     void finish();
     [[nodiscard]] bool isNamed(const Reference& reference);

@@ -3,7 +3,7 @@
 
 #include "analysis/performance/weapon_mass.h"
 #include "analysis/performance/weight_calibration.h"
-#include "data/format/texts.h"
+#include "data/format/caseless.h"
 #include "data/game_files.h"
 #include "mod/mod_record.h"
 #include "platform/png_size.h"

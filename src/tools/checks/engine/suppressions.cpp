@@ -165,25 +165,59 @@ void applyComments(std::string_view content, const std::string& file, std::vecto
     findings.insert(findings.end(), problems.begin(), problems.end());
 }
 
+namespace {
+
+/// A line of a list, as parts of it. Without a colon all of it is the file.
+struct ListLine {
+    std::string_view key = {}; ///< empty on a line that says nothing
+    std::string_view file = {};
+    std::string_view reason = {};
+};
+
+ListLine listLine(std::string_view line) {
+    line = trimmed(line.substr(0, line.starts_with(CommentSign) ? 0 : line.size()));
+    if (line.empty()) {
+        return {};
+    }
+    const std::string_view key = takeWord(line);
+    const std::size_t colon = std::min(line.find(':'), line.size());
+    return {key, trimmed(line.substr(0, colon)), trimmed(line.substr(std::min(colon + 1, line.size())))};
+}
+
+} // namespace
+
 SuppressionList::SuppressionList(std::string_view content, std::vector<Finding>& problems) {
     const std::string file(SuppressionListName);
-    forEachNumberedLine(content, [&](std::string_view line, std::size_t number) {
-        line = trimmed(line.substr(0, line.starts_with(CommentSign) ? 0 : line.size()));
-        if (line.empty()) {
+    forEachNumberedLine(content, [&](std::string_view text, std::size_t number) {
+        const ListLine line = listLine(text);
+        if (line.key.empty()) {
             return;
         }
-        const std::string_view key = takeWord(line);
-        const std::size_t colon = line.find(':');
-        if (findCheckRule(key) == nullptr) {
+        if (findCheckRule(line.key) == nullptr) {
             problems.push_back(
-                badSuppression(file, number, "there is no rule " + quoted(key), nearestKey(key)));
-        } else if (colon == std::string_view::npos || trimmed(line.substr(colon + 1)).empty()) {
+                badSuppression(file, number, "there is no rule " + quoted(line.key), nearestKey(line.key)));
+        } else if (line.reason.empty()) {
             problems.push_back(
                 badSuppression(file, number, "a suppression without a reason", "write KEY FILE: reason"));
         } else {
-            rows_.push_back({std::string(key), std::string(trimmed(line.substr(0, colon)))});
+            rows_.push_back({std::string(line.key), std::string(line.file)});
         }
     });
+}
+
+RenamedInList renamedInList(std::string_view content, std::string_view from, std::string_view to) {
+    RenamedInList renamed;
+    const char* done = content.data();
+    forEachNumberedLine(content, [&](std::string_view text, std::size_t number) {
+        const ListLine line = listLine(text);
+        if (equalsIgnoringCase(line.file, from)) {
+            renamed.text.append(done, line.file.data()).append(to);
+            done = line.file.data() + line.file.size();
+            renamed.lines.push_back(number);
+        }
+    });
+    renamed.text.append(done, content.data() + content.size());
+    return renamed;
 }
 
 bool SuppressionList::covers(const Finding& finding) const {

@@ -4,6 +4,7 @@
 
 #include "data/finding.h"
 
+#include <cstddef>
 #include <map>
 #include <string>
 #include <string_view>
@@ -36,6 +37,16 @@ private:
     };
     std::vector<Row> rows_;
 };
+
+/// A list in which a file has another name, and the lines that name it.
+struct RenamedInList {
+    std::string text;
+    std::vector<std::size_t> lines; ///< from 1; empty where none does
+};
+
+/// Changes the name of a file, "Data/Weapons/NAME.txt", in a list. A pattern with `*` stays: it may be about
+/// others too.
+RenamedInList renamedInList(std::string_view content, std::string_view from, std::string_view to);
 
 /// Whether a name is one that a pattern with `*` stands for.
 bool matchesPattern(std::string_view name, std::string_view pattern);
