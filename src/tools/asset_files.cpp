@@ -73,9 +73,10 @@ void AssetFiles::fill(Listing& listing) const {
 }
 
 const AssetFiles::Listing& AssetFiles::listing(std::string_view folder, std::string_view ending) const {
+    constexpr CaselessEqual isSame;
     const std::scoped_lock guard(guard_);
     const auto known = std::find_if(listings_.begin(), listings_.end(), [&](const Listing& one) {
-        return equalsIgnoringCase(one.folder, folder) && equalsIgnoringCase(one.ending, ending);
+        return isSame(one.folder, folder) && isSame(one.ending, ending);
     });
     if (known != listings_.end()) {
         return *known;

@@ -170,13 +170,15 @@ TEST(Checks, LookAtWhatAModsSettingsName) {
     const TemporaryFolder folder;
     writeGame(folder);
     folder.write("Images\\Flags\\Static\\Ours.png", png(9, 9));
+    folder.write("Images\\Flags\\Static\\german.png", png(9, 9));
     folder.write(
         "Mod.txt",
         "<mod><years><first>1945</first><last>1940</last></years>\n<nationality><id>NATIONALITY_GERMAN"
         "</id>\n<flag>ours.png</flag>\n<animated_flag>Our.png</animated_flag>\n<equipment><unit><file>"
         "German T</file></unit>\n<unit><file>German Z</file></unit>\n<unit><file>German X</file></unit>"
         " // ok: missing-unit comes later\n</equipment></nationality></mod>");
-    EXPECT_EQ(linesOf(checked(folder)), "");
+    EXPECT_EQ(linesOf(checked(folder)), "1:38 mod-years\n4:16 missing-picture\n6:13 missing-unit\n"
+                                        "10:31 availability-years");
 }
 
 TEST(Checks, FindNothingInTheSample) {

@@ -7,10 +7,11 @@ namespace varrocade {
 
 namespace {
 
-/// What lies inside to this share needs no better place.
-constexpr double WellInside = 0.85;
-/// A place counts as the right one where so much more of the part lies inside.
-constexpr double FarBetter = 0.15;
+/// What lies inside to this share is in its place. Where that can be had nowhere, as with debris around, no
+/// place is the right one.
+constexpr double WellInside = 0.97;
+/// The right place has so much more of the part inside: outlines are uneven.
+constexpr double Better = 0.04;
 
 std::int32_t cellsOf(std::int32_t pixels, std::int32_t cell) {
     return (pixels + cell - 1) / cell;
@@ -79,7 +80,7 @@ PictureShift shiftInto(const Silhouette& whole, const Silhouette& part) {
     if (asItIs >= WellInside) {
         return {};
     }
-    double best = asItIs + FarBetter;
+    double best = std::max(WellInside, asItIs + Better);
     PictureShift found;
     constexpr std::int32_t reach = Silhouette::MostCells / 4;
     for (std::int32_t y = -reach; y <= reach; ++y) {
@@ -87,7 +88,7 @@ PictureShift shiftInto(const Silhouette& whole, const Silhouette& part) {
             const double share = shareInside(whole, cells, x, y);
             const bool isNearer =
                 std::abs(x) + std::abs(y) < (std::abs(found.x) + std::abs(found.y)) / whole.cell;
-            if (share > best || (share == best && found != PictureShift{} && isNearer)) {
+            if (share > best || (share == best && (found == PictureShift{} || isNearer))) {
                 best = share;
                 found = {x * whole.cell, y * whole.cell};
             }
