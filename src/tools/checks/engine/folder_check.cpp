@@ -2,6 +2,7 @@
 
 #include "data/finding_text.h"
 #include "platform/file_operations.h"
+#include "tools/checks/engine/mod_file_check.h"
 
 #include <algorithm>
 #include <atomic>
@@ -27,6 +28,9 @@ FolderCheck::FolderCheck(const GameFolders& folders) {
     if (readWholeFile(base + std::string(SuppressionListName), content)) {
         suppressions_ = SuppressionList(content, ofFolder_);
     }
+    std::vector<Finding> ofMod = checkModFileOf(base);
+    std::erase_if(ofMod, [this](const Finding& finding) { return suppressions_.covers(finding); });
+    std::move(ofMod.begin(), ofMod.end(), std::back_inserter(ofFolder_));
 }
 
 void FolderCheck::list(const GameFolders& folders) {
