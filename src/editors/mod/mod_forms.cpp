@@ -155,7 +155,7 @@ std::optional<FormError> namelessRank(const ModRank& rank) {
 // ---- what is pasted
 
 /// A count as lists of names have it: with or without a mark between its thousands.
-std::int32_t countOf(std::string_view text) {
+std::int32_t censusCount(std::string_view text) {
     constexpr std::string_view marks = ",.' \xA0";
     constexpr std::size_t groupLength = 3;
     const auto digitsAt = [text](std::size_t at) {
@@ -312,7 +312,7 @@ std::vector<ModSurname> surnamesOfText(std::string_view text, std::vector<std::s
         name.remove_prefix(std::min(name.find_first_not_of(blanks), name.size()));
         name = name.substr(0, name.find_last_not_of(blanks) + 1);
         const std::int32_t commonness =
-            tab == std::string::npos ? 1 : countOf(std::string_view(line).substr(tab + 1));
+            tab == std::string::npos ? 1 : censusCount(std::string_view(line).substr(tab + 1));
         if (!name.empty() && !canBeValue(name)) {
             if (leftOut != nullptr) {
                 leftOut->emplace_back(name);

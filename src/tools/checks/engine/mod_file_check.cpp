@@ -23,7 +23,6 @@ namespace ck = check_key;
 
 /// What is far larger than a mod's settings ever are is read, but not looked through.
 constexpr std::size_t LargestModFile = std::size_t{4} << 20U;
-constexpr std::size_t MostFindings = 1000;
 
 constexpr auto StructureKeys =
     std::to_array<std::string_view>({ck::EmptyFile, ck::UnclosedElement, ck::StrayClosingTag, ck::CrossedTags,
@@ -36,10 +35,10 @@ bool hasUnicodeMark(std::string_view content) {
                        [content](std::string_view mark) { return content.starts_with(mark); });
 }
 
-void checkValues(std::span<const TagNode> nodes, FileFindings& out) {
+void checkModValues(std::span<const TagNode> nodes, FileFindings& out) {
     const ElementTable& table = modElements();
     std::vector<std::uint8_t> places(nodes.size(), 0);
-    for (std::size_t i = 1; i < nodes.size() && out.found().size() < MostFindings; ++i) {
+    for (std::size_t i = 1; i < nodes.size(); ++i) {
         const TagNode& node = nodes[i];
         const bool isInForeign = node.parent != 0 && places[node.parent] == 0;
         const ElementRow* row = isInForeign ? nullptr : table.find(places[node.parent], node.name);
@@ -71,9 +70,9 @@ std::vector<Finding> checkModFile(std::string_view content) {
         tree.content().find(tagText(mod_element::Mod)) != std::string::npos) {
         std::vector<TagNode> mended;
         checkStructure(tree.content(), modElements(), out, mended);
-        checkValues(mended, out);
+        checkModValues(mended, out);
     } else if (!isMarked) {
-        checkValues(nodes, out);
+        checkModValues(nodes, out);
     }
     if (!hasSettings && out.empty()) {
         out.atFile({.key = ck::EmptyFile,
