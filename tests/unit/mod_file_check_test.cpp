@@ -25,6 +25,7 @@ TEST(ModFileCheck, TellsWhatIsNotReadAsItIsMeant) {
         {"\xEF\xBB\xBF<mod><name>A</name></mod>", "empty-file 1", true},
         {"<other><name>A</name></other>", "empty-file 1", true},
         {"<mod>\n<years>\n<first>1941</first>\n</mod>", "unclosed-element 2", true},
+        {"<mod>\n<credits>\n<line>A</line> <line>B</line>\n</credits> </mod>", "stray-text 3", true},
         {"<mod>\n<name>A</name>\nstray\n<author>B</author></mod>", "stray-text 3", true},
         {"<mod>\n<years><first_month>99</first_month>\n<last>x</last></years></mod>",
          "out-of-range 2 not-a-number 3", false},
