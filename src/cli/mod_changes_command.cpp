@@ -1,6 +1,8 @@
 #include "cli/command_line.h"
+#include "data/finding_text.h"
 #include "mod/changes/changes_text.h"
 #include "mod/mod_settings.h"
+#include "tools/checks/engine/mod_file_check.h"
 
 #include <optional>
 
@@ -52,6 +54,9 @@ int modChangesCommand(Arguments arguments) {
     const ModChanges changes = findModChanges(call->game, call->mod);
     for (const FileFailure& failure : changes.failures) {
         complain(failure.path + ": " + failure.reason);
+    }
+    for (const Finding& finding : checkModFileOf(call->mod)) {
+        complain(reportLine(finding));
     }
     const std::optional<ModSettings> settings = loadModSettings(call->mod);
     if (!print(changesText(changes, call->format, settings ? settings->name : "Mod")) ||

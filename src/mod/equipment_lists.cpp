@@ -1,6 +1,7 @@
 #include "mod/equipment_lists.h"
 
 #include "data/reading/unit_reader.h"
+#include "data/unit/older_words.h"
 
 #include <algorithm>
 #include <utility>
@@ -12,7 +13,6 @@ namespace {
 constexpr int MonthsOfYear = 12;
 constexpr int MostSingleYears = 12;
 constexpr int YearsOfLongWars = 5;
-constexpr int GreatestShare = 1000;
 constexpr int LongestWar = 300; ///< in years; files may say anything
 constexpr int LastYearOfAll = 9999;
 
@@ -26,11 +26,13 @@ std::vector<ModListedUnit> unitsOfTime(const std::vector<EquipmentSource>& units
                                        std::string_view nationality, int first, int last) {
     std::vector<ModListedUnit> listed;
     for (const EquipmentSource& unit : units) {
-        const int most = unit.nationality == nationality ? mostAvailable(unit.availability, first, last) : 0;
+        const int most = todaysWord(unit.nationality) == todaysWord(nationality)
+                             ? mostAvailable(unit.availability, first, last)
+                             : 0;
         if (most > 0) {
             listed.push_back({.fileName = unit.fileName,
                               .category = std::string(categoryWord(unit.category)),
-                              .share = std::min(most, GreatestShare)});
+                              .share = most});
         }
     }
     return listed;
@@ -68,29 +70,34 @@ int mostAvailable(const std::vector<AvailabilityPoint>& points, int firstMonth, 
     return most;
 }
 
-void listEquipment(ModSettings& settings, const std::vector<EquipmentSource>& units) {
-    const int firstYear = std::clamp(settings.firstYear, -LastYearOfAll, LastYearOfAll);
+std::vector<ModEquipment> equipmentOf(const ModSettings& war, std::string_view nationality,
+                                      const std::vector<EquipmentSource>& units) {
+    const int firstYear = std::clamp(war.firstYear, -LastYearOfAll, LastYearOfAll);
     const int lastYear =
-        std::clamp(settings.lastYear, -LastYearOfAll, std::min(firstYear + LongestWar, LastYearOfAll));
+        std::clamp(war.lastYear, -LastYearOfAll, std::min(firstYear + LongestWar, LastYearOfAll));
     const int step = lastYear - firstYear < MostSingleYears ? 1 : YearsOfLongWars;
-    for (ModNationality& nation : settings.nationalities) {
-        nation.equipment.clear();
-        for (int year = firstYear; year <= lastYear; year += step) {
-            const ModPeriod period{.firstYear = year, .lastYear = std::min(year + step - 1, lastYear)};
-            const int begin = monthCount(year, year == firstYear ? settings.firstMonth : 1);
-            const int end =
-                monthCount(period.lastYear, period.lastYear == lastYear ? settings.lastMonth : MonthsOfYear);
-            std::vector<ModListedUnit> listed = unitsOfTime(units, nation.id, begin, end);
-            const bool goesOn = !nation.equipment.empty() && nation.equipment.back().units == listed &&
-                                nation.equipment.back().period.lastYear == year - 1;
-            if (goesOn) {
-                nation.equipment.back().period.lastYear = period.lastYear;
-                nation.equipment.back().name = nameOfTime(nation.equipment.back().period);
-            } else if (!listed.empty()) {
-                nation.equipment.push_back(
-                    {.name = nameOfTime(period), .period = period, .units = std::move(listed)});
-            }
+    std::vector<ModEquipment> lists;
+    for (int year = firstYear; year <= lastYear; year += step) {
+        const ModPeriod period{.firstYear = year, .lastYear = std::min(year + step - 1, lastYear)};
+        const int begin = monthCount(year, year == firstYear ? war.firstMonth : 1);
+        const int end =
+            monthCount(period.lastYear, period.lastYear == lastYear ? war.lastMonth : MonthsOfYear);
+        std::vector<ModListedUnit> listed = unitsOfTime(units, nationality, begin, end);
+        const bool goesOn =
+            !lists.empty() && lists.back().units == listed && lists.back().period.lastYear == year - 1;
+        if (goesOn) {
+            lists.back().period.lastYear = period.lastYear;
+            lists.back().name = nameOfTime(lists.back().period);
+        } else if (!listed.empty()) {
+            lists.push_back({.name = nameOfTime(period), .period = period, .units = std::move(listed)});
         }
+    }
+    return lists;
+}
+
+void listEquipment(ModSettings& settings, const std::vector<EquipmentSource>& units) {
+    for (ModNationality& nation : settings.nationalities) {
+        nation.equipment = equipmentOf(settings, nation.id, units);
     }
 }
 

@@ -32,9 +32,13 @@ struct EquipmentSource {
     std::vector<AvailabilityPoint> availability;
 };
 
-/// Gives every nationality of the settings new lists of what it had in the mod's war: one for each year, or
-/// for each five years of a war of more than twelve; neighbours that are alike become one. A unit's share is
-/// the greatest number of it in that time.
+/// Lists of what a nationality had in the mod's war: one for each year, or for each five years of a war of
+/// more than twelve; neighbours that are alike become one. A unit's share is the greatest number of it in
+/// that time.
+std::vector<ModEquipment> equipmentOf(const ModSettings& war, std::string_view nationality,
+                                      const std::vector<EquipmentSource>& units);
+
+/// Gives every nationality of the settings such lists in place of those that it has.
 void listEquipment(ModSettings& settings, const std::vector<EquipmentSource>& units);
 
 /// The units of a game; `failures`, where it is given, takes the files that could not be read.

@@ -20,7 +20,9 @@ inline constexpr FieldTraits Month = {.range = {.least = 1, .greatest = 12}, .om
 inline constexpr NumberRange WarYears = {.least = 1900, .greatest = 2100};
 inline constexpr FieldTraits OpenYear = {.range = {.least = 0, .greatest = 2100},
                                          .omitted = Omission::Default};
-inline constexpr FieldTraits Share = {.range = {.least = 1, .greatest = 1000}, .omitted = Omission::Default};
+// Room for the counts of a census.
+inline constexpr FieldTraits Share = {.range = {.least = 1, .greatest = 10'000'000},
+                                      .omitted = Omission::Default};
 
 inline constexpr auto StaticFlagImages = std::to_array<ImageSource>({{image_folder::StaticFlags}});
 inline constexpr auto AnimatedFlagImages = std::to_array<ImageSource>({{image_folder::AnimatedFlags}});

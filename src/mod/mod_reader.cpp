@@ -1,5 +1,6 @@
 // What the elements of a "Mod.txt" set.
 
+#include "data/element_table.h"
 #include "data/tag_rules.h"
 #include "mod/mod_elements.h"
 #include "mod/mod_fields.h"
@@ -99,7 +100,7 @@ using P = ModPlace;
 
 template <const auto& F>
 constexpr ModRule value(ModPlace in) {
-    return {in, F.element, P::Unknown, tag_rules::set<ModReading, F>};
+    return {in, F.element, P::Unknown, tag_rules::set<ModReading, F>, tag_rules::FieldList<F>};
 }
 
 constexpr auto ModRules = std::to_array<ModRule>({
@@ -152,7 +153,7 @@ constexpr auto NationalityRules = std::to_array<ModRule>({
     value<mf::UnitCost>(P::Unit),
 });
 
-ModPlace visitSetting(ModReading& reading, ModPlace parent, const TagNode& node, bool& hasRule) {
+const tag_rules::RuleTable<ModReading>& ruleTable() {
     static const auto table = [] {
         tag_rules::RuleTable<ModReading> rules;
         rules.add(ModRules);
@@ -162,14 +163,23 @@ ModPlace visitSetting(ModReading& reading, ModPlace parent, const TagNode& node,
         rules.add(PeriodRules<P::Equipment>);
         return rules;
     }();
+    return table;
+}
+
+ModPlace visitSetting(ModReading& reading, ModPlace parent, const TagNode& node, bool& hasRule) {
     // Within an element that is not ours, ours mean nothing, nor does a second <mod> further in.
     if ((parent == P::Unknown || node.name == me::Mod) && node.parent != 0) {
         return P::Unknown;
     }
-    return tag_rules::apply(table, reading, parent, node, hasRule);
+    return tag_rules::apply(ruleTable(), reading, parent, node, hasRule);
 }
 
 } // namespace
+
+const ElementTable& modElements() {
+    static const ElementTable table(ruleTable());
+    return table;
+}
 
 ModSettings readModSettings(std::string_view fileContent) {
     ModSettings settings;

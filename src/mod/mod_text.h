@@ -8,6 +8,11 @@
 
 namespace varrocade {
 
+class ElementTable;
+
+/// Which elements mean something where in a "Mod.txt".
+const ElementTable& modElements();
+
 /// Reads the content of a "Mod.txt"; what it does not name keeps its default.
 ModSettings readModSettings(std::string_view fileContent);
 

@@ -1,6 +1,7 @@
 #include "mod/starting_points.h"
 
 #include "data/unit/enumerations.h"
+#include "data/unit/older_words.h"
 #include "mod/mod_text.h"
 
 #include <algorithm>
@@ -51,14 +52,14 @@ std::span<const std::string_view> startingPointNames() {
 void completeNationality(ModNationality& nation) {
     static const ModSettings known = readModSettings(embedded::Nations);
     const auto row = std::find_if(known.nationalities.begin(), known.nationalities.end(),
-                                  [&](const ModNationality& one) { return one.id == nation.id; });
+                                  [&](const ModNationality& one) { return one.id == todaysWord(nation.id); });
     if (row != known.nationalities.end()) {
         fillEmpty(nation.name, row->name);
         fillEmpty(nation.adjective, row->adjective);
         fillEmpty(nation.ranks, row->ranks);
         fillEmpty(nation.surnames, row->surnames);
     }
-    const NationalUniform* uniform = findNationalUniform(nation.id);
+    const NationalUniform* uniform = findNationalUniform(todaysWord(nation.id));
     if (uniform != nullptr && nation.uniforms.empty()) {
         nation.uniforms.push_back({.profileImage = std::string(uniform->profile),
                                    .gameImage = std::string(uniform->game),

@@ -158,10 +158,12 @@ TEST_F(ModWorkTest, AHandWrittenFileKeepsWhatWasNotChanged) {
     nations.press(IDC_ENTRY_UNDO);
     EXPECT_EQ(nations.control(IDC_ENTRY_LIST).listTexts(), std::vector<std::string>{"1. German"});
     finish(nations);
+    const std::string meanwhile = std::string(HandWritten) + "// written meanwhile\r\n";
+    writeFile(userMod.modFolder() + "Mod.txt", meanwhile);
     finish(settings);
     EXPECT_EQ(readFile(userMod.modFolder() + "Mod.txt"),
-              withReplaced(withReplaced(std::string(HandWritten), "<last>1944<", "<last>1945<"),
-                           "<name>Schulz</name>", "<name>Schulz</name><commonness>5</commonness>"));
+              withReplaced(withReplaced(meanwhile, "<last>1944<", "<last>1945<"), "<name>Schulz</name>",
+                           "<name>Schulz</name><commonness>5</commonness>"));
 }
 
 TEST_F(ModWorkTest, EquipmentIsPutTogetherFromTheUnitsThatThereAre) {
@@ -178,7 +180,7 @@ TEST_F(ModWorkTest, EquipmentIsPutTogetherFromTheUnitsThatThereAre) {
     const Window lists = editor->waitForDialog("Russian: equipment lists");
     EXPECT_EQ(lists.control(IDC_ENTRY_LIST).selectedText(), "All (always), 1 unit  (!)");
     lists.startPress(IDC_MOD_UNITS);
-    const Window units = editor->waitForDialog("Units");
+    const Window units = editor->waitForDialog("Russian, All: units");
     expectWellLaidOut(units);
     const Window there = units.control(IDC_MOD_SOURCE_LIST);
     const Window listed = units.control(IDC_MOD_LISTED);

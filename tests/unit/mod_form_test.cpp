@@ -5,6 +5,7 @@
 #include "editors/mod/mod_units.h"
 
 #include "fake_form_port.h"
+#include "mod/starting_points.h"
 #include "resources/resource.h"
 
 #include <gtest/gtest.h>
@@ -63,8 +64,35 @@ TEST(ModForm, NewNationalitiesAreOnesThatAreNotThereYet) {
     }
     EXPECT_EQ(nations[0].id, "NATIONALITY_AMERICAN");
     EXPECT_EQ(nations[0].surnames.size(), 100U);
-    EXPECT_EQ(nations[3].id, "NATIONALITY_AUSTRALIAN");
-    EXPECT_EQ(nationalityShape().line(4, nations[3]), "4. Australia (Australian)");
+    EXPECT_EQ(nations[1].id, "NATIONALITY_ARMENIAN") << "and no older spelling of it";
+    EXPECT_EQ(nations[2].id, "NATIONALITY_AUSTRALIAN");
+    EXPECT_EQ(nationalityShape().line(3, nations[2]), "3. Australia (Australian)");
+
+    ModNationality untouched = nations[2];
+    ModNationality chosen = untouched;
+    for (const char* typed : {"NATIONALITY_FINN", "NATIONALITY_FINNISH", "NATIONALITY_FINLAND"}) {
+        chosen.id = typed;
+        followNationality(chosen, untouched);
+        EXPECT_EQ(chosen.name, typed == std::string_view("NATIONALITY_FINN") ? "Australia" : "Finland")
+            << typed;
+    }
+    chosen.ranks[0].name = "Mine";
+    chosen.id = "NATIONALITY_POLISH";
+    followNationality(chosen, untouched);
+    EXPECT_EQ(chosen.name, "Finland") << "what was edited stays";
+}
+
+TEST(ModForm, AnotherWarLeavesTheModItsDescription) {
+    for (const char* own : {"", "The Second World War, September 1939 to September 1945", "My own war"}) {
+        ModSettings settings{.name = "Mine", .comment = own};
+        startAnew(settings, startingSettings(StartingPoint::FirstWorldWar));
+        EXPECT_EQ(settings.comment, own == std::string_view("My own war")
+                                        ? own
+                                        : "The First World War, July 1914 to November 1918");
+        EXPECT_EQ(settings.name, "Mine");
+        EXPECT_EQ(settings.firstYear, 1914);
+        EXPECT_FALSE(settings.nationalities.empty());
+    }
 }
 
 TEST(ModForm, CreditsAndSurnamesAreLines) {
@@ -75,6 +103,18 @@ TEST(ModForm, CreditsAndSurnamesAreLines) {
     EXPECT_TRUE(refusalOfCredits({"ok", "see http://x"}));
     std::vector<ModSurname> surnames = surnamesOfText("  Smith \nadams\t3\r\n\n<x>\nBrown\t-5\nAdams\t3");
     EXPECT_EQ(surnames, (std::vector<ModSurname>{{"Smith", 1}, {"adams", 3}, {"Brown", 1}, {"Adams", 3}}));
+    Lines leftOut;
+    surnamesOfText("Ok\nNo//pe\t3\n\n<x>", &leftOut);
+    EXPECT_EQ(leftOut, (Lines{"No//pe", "<x>"}));
+    struct Count {
+        const char* text;
+        std::int32_t count;
+    };
+    for (const Count& one : {Count{"2,442,977", 2442977}, Count{" 12.345", 12345}, Count{"880.85", 880},
+                             Count{"0.881", 1}, Count{"1 500 rest", 1500}, Count{"1,2345", 1},
+                             Count{"1234,567", 1234}, Count{"99999999999", 10'000'000}, Count{"", 1}}) {
+        EXPECT_EQ(surnamesOfText(std::string("A\t") + one.text).at(0).commonness, one.count) << one.text;
+    }
     sortSurnames(surnames);
     EXPECT_EQ(surnames, (std::vector<ModSurname>{{"adams", 3}, {"Adams", 3}, {"Brown", 1}, {"Smith", 1}}));
     sortSurnamesByName(surnames);
@@ -135,10 +175,12 @@ TEST(ModForm, EquipmentHasTwoSides) {
     EXPECT_EQ(unitsToOffer(sources, {.words = "", .nationality = "NATIONALITY_FRENCH", .time = year}, listed),
               Places{0});
     listUnits(listed, sources, Places{0, 2}, year);
-    EXPECT_EQ(listed[1], (ModListedUnit{"Tank", "vehicles", 1000, 0})) << "no share is greater";
+    EXPECT_EQ(listed[1], (ModListedUnit{"Tank", "vehicles", 5000, 0}));
     EXPECT_EQ(listed[2].share, 1);
     EXPECT_EQ(unitsToOffer(sources, {}, listed), Places{1});
     EXPECT_EQ(listedCells(sources, listed[0])[0], "tank  (!) there is no such unit");
+    EXPECT_EQ(listedCells(sources, {"Gun", "atguns", 1, 0})[1], "AT Guns");
+    EXPECT_EQ(shownKind("ships"), "ships");
     EXPECT_EQ(commonNumber(listed, Places{1, 2}, &ModListedUnit::share), "");
     EXPECT_EQ(commonNumber(listed, Places{1, 2}, &ModListedUnit::cost), "0");
     unlistUnits(listed, Places{0, 2});

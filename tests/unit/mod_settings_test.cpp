@@ -185,6 +185,31 @@ TEST(ModSettings, SavingKeepsWhatWasThere) {
     EXPECT_EQ(loadModSettings(folder.path()), settings);
     EXPECT_EQ(folder.files().size(), 2U) << "with a backup";
     EXPECT_FALSE(loadModSettings(folder.path() + "None\\"));
+    const std::string opened = folder.read("Mod.txt");
+    EXPECT_TRUE(systemFiles().remove(folder.path() + "Mod.txt"));
+    EXPECT_FALSE(saveModSettings(systemFiles(), backups, folder.path(), settings, opened));
+    EXPECT_EQ(folder.read("Mod.txt"), opened) << "gone meanwhile, and back with its comments";
+}
+
+TEST(ModSettings, ChangesOfTwoPlacesAreJoined) {
+    const ModSettings opened = fullSettings();
+    ModSettings theirs = opened;
+    ModSettings ours = opened;
+    theirs.author = "Them";
+    theirs.nationalities.pop_back();
+    theirs.lastYear = 1944;
+    ours.credits = {"Us"};
+    ours.lastYear = 1944;
+    ModSettings joined = ours;
+    joined.author = theirs.author;
+    joined.nationalities = theirs.nationalities;
+    std::vector<std::string> conflicts;
+    EXPECT_EQ(joinedSettings(opened, theirs, ours, conflicts), joined);
+    EXPECT_TRUE(conflicts.empty()) << "the same on both sides is none";
+    theirs.name = "Theirs";
+    ours.name = joined.name = "Ours";
+    EXPECT_EQ(joinedSettings(opened, theirs, ours, conflicts), joined);
+    EXPECT_EQ(conflicts, std::vector<std::string>{"Name"});
 }
 
 } // namespace

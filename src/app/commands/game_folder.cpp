@@ -30,7 +30,8 @@ struct FreeItemList {
     void operator()(ITEMIDLIST* list) const { CoTaskMemFree(list); }
 };
 
-/// The folder that the user chooses, with a backslash at its end, or empty.
+} // namespace
+
 std::string browseForFolder(const char* title, const std::string& start) {
     std::array<char, MAX_PATH> path{};
     BROWSEINFOA browse{};
@@ -49,8 +50,6 @@ std::string browseForFolder(const char* title, const std::string& start) {
     }
     return folder;
 }
-
-} // namespace
 
 void browseForGameFolder() {
     const std::string& former = theWorkspace().gameFolder;

@@ -48,6 +48,7 @@ private:
     }
 
     void showCredits() {
+        port().mark(IDC_MOD_CREDITS, {});
         // The port shows texts on one line.
         SetDlgItemTextA(handle(), IDC_MOD_CREDITS, creditsText(edit_.settings.credits).c_str());
     }
@@ -99,17 +100,14 @@ private:
             settle();
             return false;
         }
+        if (control == IDC_MOD_CREDITS && notification == EN_CHANGE) {
+            const auto error = refusalOfCredits(typedCredits());
+            port().mark(control, error ? std::string_view(error->message) : std::string_view());
+        }
         return FormDialog::notice(control, notification);
     }
 
-    void summarize() {
-        std::string names;
-        for (const ModNationality& nation : edit_.settings.nationalities) {
-            names += (names.empty() ? "" : ", ") + (nation.name.empty() ? nation.id : nation.name);
-        }
-        port().setText(IDC_MOD_SUMMARY, names.empty() ? "Nationalities: all, as the game has them"
-                                                      : "Nationalities: " + names);
-    }
+    void summarize() { port().setText(IDC_MOD_SUMMARY, nationalitySummary(edit_.settings.nationalities)); }
 
     /// Years, nationalities and equipment of another war. What the mod is called stays.
     void startAnew() {
@@ -129,13 +127,8 @@ private:
         ModSettings start = startingSettings(static_cast<StartingPoint>(chosen));
         listEquipment(start, readEquipmentSources(edit_.folders));
         settle();
-        ModSettings& settings = edit_.settings;
-        settings.firstYear = start.firstYear;
-        settings.firstMonth = start.firstMonth;
-        settings.lastYear = start.lastYear;
-        settings.lastMonth = start.lastMonth;
-        settings.nationalities = std::move(start.nationalities);
-        history_.note(settings);
+        varrocade::startAnew(edit_.settings, std::move(start));
+        history_.note(edit_.settings);
         show();
         summarize();
     }

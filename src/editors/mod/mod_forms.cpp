@@ -5,6 +5,7 @@
 #include "data/format/texts.h"
 #include "data/format/words.h"
 #include "data/unit/enumerations.h"
+#include "data/unit/older_words.h"
 #include "mod/mod_fields.h"
 #include "mod/starting_points.h"
 #include "resources/resource.h"
@@ -151,6 +152,36 @@ std::optional<FormError> namelessRank(const ModRank& rank) {
                : std::nullopt;
 }
 
+// ---- what is pasted
+
+/// A count as lists of names have it: with or without a mark between its thousands.
+std::int32_t censusCount(std::string_view text) {
+    constexpr std::string_view marks = ",.' \xA0";
+    constexpr std::size_t groupLength = 3;
+    const auto digitsAt = [text](std::size_t at) {
+        return std::min(text.find_first_not_of("0123456789", at), text.size()) - at;
+    };
+    std::size_t at = std::min(text.find_first_not_of(" \t"), text.size());
+    std::string digits(text.substr(at, digitsAt(at)));
+    at += digits.size();
+    const bool mayGoOn = !digits.empty() && digits.size() <= groupLength && digits != "0";
+    while (mayGoOn && at < text.size() && marks.find(text[at]) != std::string_view::npos &&
+           digitsAt(at + 1) == groupLength) {
+        digits += text.substr(at + 1, groupLength);
+        at += 1 + groupLength;
+    }
+    return toInteger(digits);
+}
+
+bool isStartingComment(const std::string& comment) {
+    for (std::size_t i = 0; i < startingPointNames().size(); ++i) {
+        if (startingSettings(static_cast<StartingPoint>(i)).comment == comment) {
+            return true;
+        }
+    }
+    return false;
+}
+
 } // namespace
 
 const FormShape<ModSettings>& modShape() {
@@ -195,15 +226,42 @@ const ListShape<ModEquipment>& equipmentShape() {
 ModNationality nextNationality(const std::vector<ModNationality>& nations) {
     ModNationality next;
     for (const std::string_view id : nationalityNames()) {
-        const bool isTaken = std::any_of(nations.begin(), nations.end(),
-                                         [&](const ModNationality& nation) { return nation.id == id; });
-        if (!isTaken) {
+        const bool isTaken = std::any_of(nations.begin(), nations.end(), [&](const ModNationality& nation) {
+            return todaysWord(nation.id) == id;
+        });
+        if (!isTaken && todaysWord(id) == id) {
             next.id = id;
             break;
         }
     }
     completeNationality(next);
     return next;
+}
+
+void followNationality(ModNationality& nation, ModNationality& untouched) {
+    const auto words = nationalityNames();
+    ModNationality same = nation;
+    same.id = untouched.id;
+    if (nation.id == untouched.id || !(same == untouched) ||
+        std::find(words.begin(), words.end(), nation.id) == words.end()) {
+        return;
+    }
+    ModNationality other;
+    other.id = nation.id;
+    completeNationality(other);
+    nation = other;
+    untouched = std::move(other);
+}
+
+void startAnew(ModSettings& settings, ModSettings start) {
+    settings.firstYear = start.firstYear;
+    settings.firstMonth = start.firstMonth;
+    settings.lastYear = start.lastYear;
+    settings.lastMonth = start.lastMonth;
+    settings.nationalities = std::move(start.nationalities);
+    if (settings.comment.empty() || isStartingComment(settings.comment)) {
+        settings.comment = std::move(start.comment);
+    }
 }
 
 std::string creditsText(const std::vector<std::string>& lines) {
@@ -245,7 +303,7 @@ std::optional<FormError> refusalOfCredits(const std::vector<std::string>& lines)
         IDC_MOD_CREDITS};
 }
 
-std::vector<ModSurname> surnamesOfText(std::string_view text) {
+std::vector<ModSurname> surnamesOfText(std::string_view text, std::vector<std::string>* leftOut) {
     constexpr std::string_view blanks = " \t";
     std::vector<ModSurname> surnames;
     for (const std::string& line : creditLines(text)) {
@@ -254,8 +312,12 @@ std::vector<ModSurname> surnamesOfText(std::string_view text) {
         name.remove_prefix(std::min(name.find_first_not_of(blanks), name.size()));
         name = name.substr(0, name.find_last_not_of(blanks) + 1);
         const std::int32_t commonness =
-            tab == std::string::npos ? 1 : toInteger(std::string_view(line).substr(tab + 1));
-        if (!name.empty() && canBeValue(name)) {
+            tab == std::string::npos ? 1 : censusCount(std::string_view(line).substr(tab + 1));
+        if (!name.empty() && !canBeValue(name)) {
+            if (leftOut != nullptr) {
+                leftOut->emplace_back(name);
+            }
+        } else if (!name.empty()) {
             surnames.push_back(
                 {std::string(name), std::clamp(commonness, mf::Share.range.least, mf::Share.range.greatest)});
         }
@@ -293,6 +355,22 @@ void dropDoubles(std::vector<ModSurname>& surnames) {
 
 std::string shownNationality(const ModNationality& nation) {
     return nation.name.empty() ? displayName(nation.id, NationalityPrefix) : nation.name;
+}
+
+std::string nationalitySummary(const std::vector<ModNationality>& nations) {
+    constexpr std::size_t longest = 165; // of two lines of the dialog
+    if (nations.empty()) {
+        return "Nationalities: all, as the game has them";
+    }
+    std::string text = "Nationalities (" + std::to_string(nations.size()) + "): ";
+    for (std::size_t i = 0; i < nations.size(); ++i) {
+        const std::string name = (i == 0 ? "" : ", ") + shownNationality(nations[i]);
+        if (text.size() + name.size() > longest) {
+            return text + " and " + std::to_string(nations.size() - i) + " more";
+        }
+        text += name;
+    }
+    return text;
 }
 
 const std::vector<NamedColour>& namedColours() {

@@ -4,6 +4,7 @@
 
 #include "data/format/texts.h"
 #include "data/format/words.h"
+#include "data/unit/older_words.h"
 #include "editors/form/clipboard_win32.h"
 #include "editors/form/list_dialog_win32.h"
 #include "editors/mod/mod_forms.h"
@@ -13,12 +14,14 @@
 #include "mod/equipment_lists.h"
 #include "mod/mod_fields.h"
 #include "mod/starting_points.h"
+#include "platform/messages.h"
 #include "resources/resource.h"
 #include "view/painting/drawing_objects_win32.h"
 
 #include <algorithm>
 #include <array>
 #include <map>
+#include <optional>
 #include <utility>
 
 namespace varrocade {
@@ -72,7 +75,8 @@ protected:
         for (const PictureField& field : fields_) {
             const std::string given = isShown() ? port().text(field.control) : std::string();
             const std::string name = given.empty() && isShown() ? usualName(field) : given;
-            pictures.push_back({std::string(field.label), picturePath(edit_, field.sources, name)});
+            pictures.push_back(
+                {std::string(field.label), picturePath(edit_, field.sources, name), !given.empty()});
         }
         paintPictures(item, edit_, pictures);
     }
@@ -165,13 +169,31 @@ private:
         if (!takeShown()) {
             return;
         }
-        settle();
-        for (const ModSurname& surname : surnamesOfText(clipboardText(handle()))) {
-            model_.add();
-            surnames_.back() = surname;
+        std::vector<std::string> leftOut;
+        const std::vector<ModSurname> pasted = surnamesOfText(clipboardText(handle()), &leftOut);
+        if (!pasted.empty()) {
+            settle();
+            for (const ModSurname& surname : pasted) {
+                model_.insert(surname);
+            }
+            count();
+            refresh(static_cast<int>(surnames_.size()) - 1);
         }
-        count();
-        refresh(static_cast<int>(surnames_.size()) - 1);
+        tellPasted(pasted.empty(), leftOut);
+    }
+    static void tellPasted(bool isNothing, const std::vector<std::string>& leftOut) {
+        constexpr std::size_t mostTold = 10;
+        std::string text = isNothing ? "There are no surnames on the clipboard, one a line.\n\n" : "";
+        if (!leftOut.empty()) {
+            text += counted(leftOut.size(), "line") +
+                    " left out. A surname cannot begin with \"<\", nor hold \"//\" or \"</\":\n";
+            for (std::size_t i = 0; i < std::min(leftOut.size(), mostTold); ++i) {
+                text += "\n" + leftOut[i];
+            }
+        }
+        if (!text.empty()) {
+            showMessage({.text = text, .caption = "Surnames", .icon = MessageIcon::Information});
+        }
     }
 
     static constexpr UINT CountsChanged = WM_APP + 1;
@@ -183,21 +205,23 @@ private:
 
 class EquipmentDialog final : public ListDialog {
 public:
-    EquipmentDialog(const ModEdit& edit, const std::string& nationality, std::string title,
-                    std::vector<ModEquipment>& lists)
+    EquipmentDialog(const ModEdit& edit, const std::vector<EquipmentSource>& sources,
+                    const ModNationality& nation, std::string title, std::vector<ModEquipment>& lists)
         : ListDialog(
               {.dialogTemplate = IDD_MOD_EQUIPMENT, .caption = "Equipment lists", .title = std::move(title)},
               model_),
-          edit_(edit), lists_(lists), sources_(readEquipmentSources(edit.folders)),
+          edit_(edit), lists_(lists), sources_(sources),
           model_(lists, equipmentShape(), {.next = nullptr, .warn = [this](const ModEquipment& list) {
                                                return hasMissing(list) ? "missing" : "";
                                            }}) {
-        onButton(IDC_MOD_UNITS, [this, &nationality] {
+        onButton(IDC_MOD_UNITS, [this, &nation] {
             if (!isShown() || !takeShown()) {
                 return;
             }
             ModEquipment& list = lists_[shownIndex()];
-            const UnitsOfList from{sources_, nationality, monthsOf(edit_.settings, list.period)};
+            const UnitsOfList from{sources_, nation.id, monthsOf(edit_.settings, list.period),
+                                   shownNationality(nation) + (list.name.empty() ? "" : ", " + list.name) +
+                                       ": units"};
             if (editListedUnits(handle(), from, list.units)) {
                 refreshShown();
             }
@@ -213,7 +237,7 @@ private:
 
     const ModEdit& edit_;
     std::vector<ModEquipment>& lists_;
-    std::vector<EquipmentSource> sources_;
+    const std::vector<EquipmentSource>& sources_;
     VectorListModel<ModEquipment> model_;
 };
 
@@ -227,7 +251,11 @@ public:
                              model_, FlagFields),
           nations_(nations),
           model_(nations, nationalityShape(),
-                 {.next = [this] { return nextNationality(nations_); },
+                 {.next =
+                      [this] {
+                          untouched_ = nextNationality(nations_);
+                          return *untouched_;
+                      },
                   .warn = [this](const ModNationality& nation) { return isDouble(nation) ? "twice" : ""; }}) {
         onButton(IDC_MOD_SIDES, [this] {
             editShown(&ModNationality::allegiances, allegianceShape(), IDD_MOD_SIDES, "Sides", {});
@@ -246,15 +274,15 @@ public:
         });
         onButton(IDC_MOD_EQUIPMENT, [this] {
             editCopy(&ModNationality::equipment, [this](auto& lists) {
-                return EquipmentDialog(this->edit(), nations_[shownIndex()].id, titleOf("Equipment lists"),
-                                       lists)
+                return EquipmentDialog(this->edit(), sources(), nations_[shownIndex()],
+                                       titleOf("Equipment lists"), lists)
                     .run(handle());
             });
         });
         onButton(IDC_MOD_COMPLETE, [this] {
             if (isShown() && takeShown()) {
                 settle();
-                completeNationality(nations_[shownIndex()]);
+                fillIn(nations_[shownIndex()]);
                 refreshShown();
             }
         });
@@ -271,9 +299,17 @@ private:
         return loweredText(id.starts_with(NationalityPrefix) ? id.substr(NationalityPrefix.size()) : id);
     }
     std::string usualName(const PictureField&) override { return usualFlag(nations_[shownIndex()]); }
+    /// Also of one that the list has by an older word.
     [[nodiscard]] bool isDouble(const ModNationality& nation) const {
-        return std::count_if(nations_.begin(), nations_.end(),
-                             [&](const ModNationality& other) { return other.id == nation.id; }) > 1;
+        const std::string_view today = todaysWord(nation.id);
+        std::size_t count = 0;
+        for (const ModNationality& other : nations_) {
+            count += other.id == today || todaysWord(other.id) == today ? 1 : 0;
+            if (count > 1) {
+                return true;
+            }
+        }
+        return false;
     }
     void paint(const DRAWITEMSTRUCT& item) override {
         if (item.CtlID != IDC_ENTRY_LIST) {
@@ -324,6 +360,39 @@ private:
         port().setText(IDC_MOD_SUMMARY, summary);
     }
 
+    /// What was added and not touched yet follows the choice of another nation.
+    bool notice(int control, int notification) override {
+        const bool isTaken = PicturedListDialog::notice(control, notification);
+        if (control == IDC_MOD_NATIONALITY && isShown() && untouched_) {
+            ModNationality& nation = nations_[shownIndex()];
+            const std::string former = untouched_->id;
+            followNationality(nation, *untouched_);
+            if (untouched_->id != former) {
+                // Each of the two texts has both controls read.
+                port().setText(IDC_MOD_NAME, untouched_->name);
+                port().setText(IDC_MOD_ADJECTIVE, untouched_->adjective);
+                nation = *untouched_;
+                showLines();
+                follow();
+            }
+        }
+        return isTaken;
+    }
+
+    /// The game's units, which are read when they are first asked for.
+    const std::vector<EquipmentSource>& sources() {
+        if (!sources_) {
+            sources_ = readEquipmentSources(edit().folders);
+        }
+        return *sources_;
+    }
+    void fillIn(ModNationality& nation) {
+        completeNationality(nation);
+        if (nation.equipment.empty()) {
+            nation.equipment = equipmentOf(edit().settings, nation.id, sources());
+        }
+    }
+
     /// Changes a list of the shown nationality when the dialog ends with OK.
     template <typename List, typename Run>
     void editCopy(List ModNationality::*list, Run run) {
@@ -356,6 +425,8 @@ private:
     }
 
     std::vector<ModNationality>& nations_;
+    std::optional<ModNationality> untouched_; ///< what was added last, as it was filled in
+    std::optional<std::vector<EquipmentSource>> sources_;
     VectorListModel<ModNationality> model_;
 };
 

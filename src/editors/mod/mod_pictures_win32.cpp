@@ -15,12 +15,14 @@ namespace varrocade {
 namespace {
 
 constexpr UINT CaptionFormat = DT_SINGLELINE | DT_CENTER | DT_NOPREFIX | DT_END_ELLIPSIS;
+/// Names have no blanks to be broken at.
+constexpr UINT NameFormat = DT_WORDBREAK | DT_EDITCONTROL | DT_CENTER | DT_NOPREFIX;
 constexpr std::string_view NoPicture = "(none)";
 
-void paintWords(HDC device, RECT area, const DrawingObjects& objects, const std::string& words) {
+void paintWords(HDC device, RECT area, const DrawingObjects& objects, const std::string& words, UINT format) {
     const Selection font(device, objects.smallFont.get());
     SetBkMode(device, TRANSPARENT);
-    DrawTextA(device, words.c_str(), static_cast<int>(words.size()), &area, CaptionFormat);
+    DrawTextA(device, words.c_str(), static_cast<int>(words.size()), &area, format);
 }
 
 int captionHeight(const DrawingObjects& objects) {
@@ -44,10 +46,18 @@ private:
 
     void init() override {
         constexpr int cellWidth = 104;
-        constexpr int cellHeight = 88;
         SendMessageA(list(), LB_SETCOLUMNWIDTH, static_cast<WPARAM>(edit_.drawing.scaled(cellWidth)), 0);
-        SendMessageA(list(), LB_SETITEMHEIGHT, 0, edit_.drawing.scaled(cellHeight));
+        SendMessageA(list(), LB_SETITEMHEIGHT, 0, cellHeight());
         show();
+    }
+
+    /// Three rows, with the bar below them that there is with many.
+    [[nodiscard]] LPARAM cellHeight() {
+        constexpr int rows = 3;
+        RECT area{};
+        GetWindowRect(list(), &area);
+        const int frame = 2 * GetSystemMetrics(SM_CYEDGE) + GetSystemMetrics(SM_CYHSCROLL);
+        return (area.bottom - area.top - frame) / rows;
     }
 
     void show() {
@@ -64,7 +74,11 @@ private:
                      place == fitting.end() ? 0 : static_cast<WPARAM>(place - fitting.begin()) + 1, 0);
         SendMessageA(list(), WM_SETREDRAW, TRUE, 0);
         InvalidateRect(list(), nullptr, TRUE);
+        tellChosen();
     }
+
+    /// The name in full.
+    void tellChosen() { port().setText(IDC_MOD_SUMMARY, nameAt(SendMessageA(list(), LB_GETCURSEL, 0, 0))); }
 
     [[nodiscard]] std::string nameAt(LRESULT row) {
         const LRESULT length = row > 0 ? SendMessageA(list(), LB_GETTEXTLEN, static_cast<WPARAM>(row), 0) : 0;
@@ -84,6 +98,8 @@ private:
     bool notice(int control, int notification) override {
         if (control == IDC_MOD_PICTURES_FILTER && notification == EN_CHANGE) {
             show();
+        } else if (control == IDC_MOD_PICTURES_LIST && notification == LBN_SELCHANGE) {
+            tellChosen();
         } else if (control == IDC_MOD_PICTURES_LIST && notification == LBN_DBLCLK && accept()) {
             end();
         }
@@ -101,13 +117,13 @@ private:
         RECT area = item.rcItem;
         InflateRect(&area, -margin, -margin);
         RECT words = area;
-        words.top = area.bottom = area.bottom - captionHeight(edit_.drawing);
+        words.top = area.bottom = item.rcItem.bottom - 2 * captionHeight(edit_.drawing);
         words.bottom = item.rcItem.bottom;
         if (!name.empty()) {
             paintPictureInto(item.hDC, area, edit_, picturePath(edit_, sources_, name));
         }
         SetTextColor(item.hDC, GetSysColor(isSelected ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT));
-        paintWords(item.hDC, words, edit_.drawing, name.empty() ? std::string(NoPicture) : name);
+        paintWords(item.hDC, words, edit_.drawing, name.empty() ? std::string(NoPicture) : name, NameFormat);
         if ((item.itemState & ODS_FOCUS) != 0) {
             DrawFocusRect(item.hDC, &item.rcItem);
         }
@@ -167,8 +183,9 @@ void paintPictures(const DRAWITEMSTRUCT& item, const ModEdit& edit, std::span<co
             words.bottom = item.rcItem.bottom;
             paintPictureInto(device, area, edit, picture.path);
             SetTextColor(device, colourRef(picture.path.empty() ? FaintInk : TextInk));
+            const std::string_view missing = picture.isNamed ? ": not found" : ": none";
             paintWords(device, words, edit.drawing,
-                       picture.path.empty() ? picture.label + ": none" : picture.label);
+                       picture.label + std::string(picture.path.empty() ? missing : ""), CaptionFormat);
         }
     });
 }

@@ -23,7 +23,8 @@ void paintPictureInto(HDC device, const RECT& area, const ModEdit& edit, const s
 /// What stands below a picture in a dialog.
 struct ShownPicture {
     std::string label;
-    std::string path; ///< empty: it is told that there is none
+    std::string path;     ///< empty: it is told that there is none
+    bool isNamed = false; ///< so that it should be there
 };
 
 /// Paints pictures side by side with their labels below.

@@ -1,6 +1,7 @@
 #include "editors/mod/mod_units.h"
 
 #include "data/format/texts.h"
+#include "data/unit/older_words.h"
 #include "editors/form/form.h"
 #include "mod/mod_fields.h"
 
@@ -18,12 +19,17 @@ bool isSame(const EquipmentSource& source, const ModListedUnit& unit) {
 bool passes(const EquipmentSource& source, const UnitFilter& filter) {
     const std::array<std::string, 1> name = {source.fileName};
     return (!filter.category || *filter.category == source.category) &&
-           (filter.nationality.empty() || filter.nationality == source.nationality) &&
+           (filter.nationality.empty() || todaysWord(filter.nationality) == todaysWord(source.nationality)) &&
            (!filter.time || mostAvailable(source.availability, filter.time->first, filter.time->last) > 0) &&
            !fittingChoices(name, filter.words).empty();
 }
 
 } // namespace
+
+std::string shownKind(std::string_view word) {
+    const std::optional<Category> category = categoryOfWord(word);
+    return std::string(category ? categoryName(*category) : word);
+}
 
 std::vector<std::size_t> unitsToOffer(const std::vector<EquipmentSource>& sources, const UnitFilter& filter,
                                       const std::vector<ModListedUnit>& listed) {
@@ -73,8 +79,9 @@ std::string commonNumber(const std::vector<ModListedUnit>& listed, std::span<con
 
 std::array<std::string, 4> listedCells(const std::vector<EquipmentSource>& sources,
                                        const ModListedUnit& unit) {
-    return {unit.fileName + (isUnitThere(sources, unit) ? "" : "  (!) there is no such unit"), unit.category,
-            std::to_string(unit.share), unit.cost > 0 ? std::to_string(unit.cost) : std::string()};
+    return {unit.fileName + (isUnitThere(sources, unit) ? "" : "  (!) there is no such unit"),
+            shownKind(unit.category), std::to_string(unit.share),
+            unit.cost > 0 ? std::to_string(unit.cost) : std::string()};
 }
 
 } // namespace varrocade

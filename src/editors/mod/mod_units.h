@@ -40,6 +40,9 @@ bool isUnitThere(const std::vector<EquipmentSource>& sources, const ModListedUni
 std::string commonNumber(const std::vector<ModListedUnit>& listed, std::span<const std::size_t> places,
                          std::int32_t ModListedUnit::*member);
 
+/// What a kind of units is called; a word that names none, as it is.
+std::string shownKind(std::string_view word);
+
 /// Name, kind, share and cost of a listed unit; the name of one that is missing says so.
 std::array<std::string, 4> listedCells(const std::vector<EquipmentSource>& sources,
                                        const ModListedUnit& unit);

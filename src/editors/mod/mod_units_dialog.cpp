@@ -22,9 +22,9 @@ namespace varrocade {
 
 namespace {
 
-constexpr std::array<TableColumn, 3> SourceColumns = {{{"Unit", 214}, {"Kind", 66}, {"At most", 56, true}}};
+constexpr std::array<TableColumn, 3> SourceColumns = {{{"Unit", 205}, {"Kind", 62}, {"At most", 56, true}}};
 constexpr std::array<TableColumn, 4> ListedColumns = {
-    {{"Unit", 190}, {"Kind", 66}, {"Share", 48, true}, {"Cost", 48, true}}};
+    {{"Unit", 171}, {"Kind", 58}, {"Share", 48, true}, {"Cost", 46, true}}};
 
 std::vector<std::size_t> chosenRows(HWND table) {
     std::vector<std::size_t> rows;
@@ -38,7 +38,8 @@ std::vector<std::size_t> chosenRows(HWND table) {
 class UnitsDialog final : public DialogFrame {
 public:
     UnitsDialog(const UnitsOfList& from, std::vector<ModListedUnit>& units)
-        : DialogFrame(IDD_MOD_UNITS, "Units"), from_(from), result_(units), units_(units), history_(units) {
+        : DialogFrame(IDD_MOD_UNITS, "Units", from.title), from_(from), result_(units), units_(units),
+          history_(units) {
         onButton(IDC_MOD_UNITS_ADD, [this] { add(); });
         onButton(IDC_MOD_UNITS_REMOVE, [this] { remove(); });
         onButton(IDC_MOD_SOURCE_NATION, [this] { showSources(); });
@@ -55,7 +56,7 @@ private:
         HWND kinds = GetDlgItem(handle(), IDC_MOD_SOURCE_KIND);
         SendMessageA(kinds, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>("All kinds"));
         for (const std::string_view word : unitCategoryWords()) {
-            SendMessageA(kinds, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(std::string(word).c_str()));
+            SendMessageA(kinds, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(shownKind(word).c_str()));
         }
         SendMessageA(kinds, CB_SETCURSEL, 0, 0);
         port().setChecked(IDC_MOD_SOURCE_NATION, true);
@@ -88,7 +89,7 @@ private:
         for (const std::size_t place : offered_) {
             const EquipmentSource& source = from_.sources[place];
             std::array<std::string, 3> cells = {
-                source.fileName, std::string(categoryWord(source.category)),
+                source.fileName, std::string(categoryName(source.category)),
                 std::to_string(mostAvailable(source.availability, from_.time.first, from_.time.last))};
             addTableRow(sources(), cells);
         }

@@ -15,6 +15,7 @@ struct UnitsOfList {
     const std::vector<EquipmentSource>& sources;
     std::string nationality; ///< of the force
     MonthRange time;         ///< of the list
+    std::string title;       ///< of the dialog
 };
 
 /// Opens the dialog of an equipment list's units; true when OK changed them.

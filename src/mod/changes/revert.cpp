@@ -93,11 +93,17 @@ std::optional<FileFailure> revertValueInFile(FileOperations& files, BackupKeeper
         if (!revertValue(weapon, readWeapon(game, name, ignored), path)) {
             return noSuchValue(modPath);
         }
+        if (weapon == readWeapon(game, name, ignored)) {
+            return replaceDataFile(files, backups, folders.mod, modPath, game);
+        }
         return failureOf(saveWeapon(files, backups, folders.mod, name, weapon), modPath);
     }
     SquadRecord unit = readUnit(mod, name, ignored);
     if (!revertValue(unit, readUnit(game, name, ignored), path)) {
         return noSuchValue(modPath);
+    }
+    if (unit == readUnit(game, name, ignored)) {
+        return replaceDataFile(files, backups, folders.mod, modPath, game);
     }
     return failureOf(saveUnit(files, backups, folders.mod, category, unit), modPath);
 }

@@ -24,9 +24,9 @@ namespace varrocade {
 namespace {
 
 constexpr std::array<TableColumn, 3> ChangeColumns = {{
-    {"What", 360},
-    {"The game's", 150},
-    {"The mod's", 150},
+    {"What", 310},
+    {"The game's", 160},
+    {"The mod's", 190},
 }};
 
 /// The changes of the mod as a table of files and their values; each can go back.

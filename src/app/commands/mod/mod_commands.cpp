@@ -1,16 +1,12 @@
 #include "app/commands/mod/mod_commands.h"
 
+#include "app/commands/game_folder.h"
 #include "app/commands/mod/mod_files_dialog.h"
 #include "app/windows/application.h"
 #include "app/workspace/mod_mode.h"
 #include "data/format/words.h"
 #include "platform/messages.h"
 #include "resources/resource.h"
-
-#include <shlobj.h>
-
-#include <array>
-#include <memory>
 
 namespace varrocade {
 
@@ -30,10 +26,6 @@ void tellModWork(const ModWork& work, std::string_view caption, std::string_view
                  .caption = std::string(caption),
                  .icon = work.failures.empty() ? MessageIcon::Information : MessageIcon::Warning});
 }
-
-struct FreeFolderItem {
-    void operator()(ITEMIDLIST* list) const { CoTaskMemFree(list); }
-};
 
 /// Works on the mod of a folder; false, which is told, where there is none.
 bool openModOf(const std::string& folder) {
@@ -98,18 +90,11 @@ void removeFilesFromMod() {
 }
 
 void browseForMod() {
-    std::array<char, MAX_PATH> path{};
-    BROWSEINFOA browse{};
-    browse.hwndOwner = application().window;
-    browse.lpszTitle = "Browse for the folder of a mod, which contains Mod.txt...";
-    browse.ulFlags = BIF_RETURNONLYFSDIRS;
-    const std::unique_ptr<ITEMIDLIST, FreeFolderItem> chosen(SHBrowseForFolderA(&browse));
-    if (!chosen || SHGetPathFromIDListA(chosen.get(), path.data()) == FALSE) {
-        return;
+    const std::string folder = browseForFolder("Browse for the folder of a mod, which contains Mod.txt...",
+                                               theWorkspace().modFolder);
+    if (!folder.empty()) {
+        openModOf(folder);
     }
-    std::string folder = path.data();
-    folder += folder.ends_with('\\') ? "" : "\\";
-    openModOf(folder);
 }
 
 void openRecentMod(std::size_t place) {

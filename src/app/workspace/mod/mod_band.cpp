@@ -6,7 +6,9 @@ ModBand modBand(const Workspace& workspace) {
     if (!workspace.modMode) {
         return {};
     }
-    const std::string& name = workspace.modSettings ? workspace.modSettings->name : std::string();
+    // The window asks for the text at each painting, and a file may hold a name of any length.
+    constexpr std::size_t longest = 255;
+    const std::string name = workspace.modSettings ? workspace.modSettings->name.substr(0, longest) : "";
     ModBand band{.name = "Mod: " + (name.empty() ? "(no name)" : name)};
     const OpenRecord& open = workspace.open;
     if (open.isOpen() && open.base == workspace.programFolder) {

@@ -3,7 +3,7 @@
 #include "data/finding_text.h"
 #include "mod/mod_settings.h"
 #include "platform/file_operations.h"
-#include "tools/checks/rules/mod_file_rules.h"
+#include "tools/checks/engine/mod_file_check.h"
 
 #include <algorithm>
 #include <atomic>
@@ -51,9 +51,9 @@ FolderCheck::FolderCheck(const GameFolders& folders, bool looksIntoPictures)
         suppressions_ = SuppressionList(content, ofFolder_);
     }
     if (readWholeFile(base + std::string(ModFileName), modContent_)) {
-        std::vector<Finding> found = checkModFile(knowledge_, modContent_);
-        std::copy_if(found.begin(), found.end(), std::back_inserter(ofFolder_),
-                     [this](const Finding& finding) { return !suppressions_.covers(finding); });
+        std::vector<Finding> found = checkModFile(modContent_, &knowledge_);
+        std::erase_if(found, [this](const Finding& finding) { return suppressions_.covers(finding); });
+        std::move(found.begin(), found.end(), std::back_inserter(ofFolder_));
     }
 }
 

@@ -146,7 +146,8 @@ private:
     void reportStray(std::size_t begin, std::size_t end) {
         const std::string_view stray = trimmed(text_.substr(begin, end - begin));
         if (stray.empty() && end - begin > 0) {
-            return; // blanks between two tags of a line: nothing is lost that anybody wants
+            reportBlanks(begin, end);
+            return;
         }
         const std::string_view around = nameOf(open_.back());
         out_.atOffset(begin, {.key = ck::StrayText,
@@ -154,6 +155,20 @@ private:
                                          (around.empty() ? std::string("outside of all elements")
                                                          : "beside the elements in " + tagText(around)),
                               .value = std::string(stray)});
+        strayAt_ = begin;
+    }
+
+    /// Blanks between two tags of a line. Before a closing tag nothing is lost with them.
+    void reportBlanks(std::size_t begin, std::size_t end) {
+        if (end + 1 >= text_.size() || text_[end] != '<' || text_[end + 1] == '/' || open_.size() < 2) {
+            return;
+        }
+        const std::string next = tagText(tagAt(text_, end).name);
+        out_.atOffset(begin,
+                      {.key = ck::StrayText,
+                       .message = "a blank stands before " + next + ", so that it and what follows in " +
+                                  tagText(nameOf(open_.back())) + " is not read",
+                       .hint = "take the blank out, or begin a new line"});
         strayAt_ = begin;
     }
 

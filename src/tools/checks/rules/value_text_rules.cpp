@@ -4,6 +4,7 @@
 #include "data/format/numbers.h"
 #include "data/format/texts.h"
 #include "data/unit/enumerations.h"
+#include "data/unit/older_words.h"
 #include "data/unit_fields.h"
 #include "tools/checks/engine/check_rules.h"
 #include "tools/checks/engine/nearest_name.h"
@@ -21,15 +22,6 @@ namespace varrocade {
 namespace {
 
 namespace ck = check_key;
-
-/// Words that files had once, and what they are today.
-constexpr auto OlderWords = std::to_array<std::pair<std::string_view, std::string_view>>({
-    {QualityRaw, QualityUntrained},
-    {"NATIONALITY_ARMENIA", "NATIONALITY_ARMENIAN"},
-    {"NATIONALITY_AZERBAIJAN", "NATIONALITY_AZERBAIJANI"},
-    {"NATIONALITY_FINLAND", "NATIONALITY_FINNISH"},
-    {"NATIONALITY_KUWATI", "NATIONALITY_KUWAITI"},
-});
 
 class ValueTextCheck {
 public:
@@ -178,10 +170,7 @@ private:
         if (!checkGiven()) {
             return;
         }
-        const auto older = std::find_if(OlderWords.begin(), OlderWords.end(),
-                                        [&](const auto& row) { return row.first == text_; });
-        if (older != OlderWords.end()) {
-            const std::string today(older->second);
+        if (const std::string today(todaysWord(text_)); today != text_) {
             tell(ck::OlderSpelling, quoted(text_) + " is an older form", today,
                  "write " + quoted(today) + " today", today);
             return;

@@ -1,16 +1,12 @@
-#include "tools/checks/rules/mod_file_rules.h"
+#include "tools/checks/rules/mod_name_rules.h"
 
 #include "data/category.h"
 #include "data/finding_text.h"
-#include "data/reading/unit_rules.h"
 #include "data/unit/image_names.h"
 #include "mod/each_mod_field.h"
-#include "mod/mod_settings.h"
 #include "mod/mod_text.h"
 #include "tools/checks/engine/check_rules.h"
-#include "tools/checks/engine/file_findings.h"
 #include "tools/checks/engine/nearest_name.h"
-#include "tools/checks/engine/suppressions.h"
 #include "tools/references.h"
 
 #include <optional>
@@ -24,9 +20,9 @@ namespace {
 
 namespace ck = check_key;
 
-class ModFileCheck {
+class ModNameCheck {
 public:
-    ModFileCheck(const CheckKnowledge& knowledge, const TagTree& tree, FileFindings& out)
+    ModNameCheck(const CheckKnowledge& knowledge, const TagTree& tree, FileFindings& out)
         : knowledge_(knowledge), tree_(tree), out_(out) {}
 
     void run(const ModSettings& settings) {
@@ -122,15 +118,9 @@ private:
 
 } // namespace
 
-std::vector<Finding> checkModFile(const CheckKnowledge& knowledge, std::string_view content) {
-    TagTree tree;
-    tree.parse(content);
-    // Findings are told at elements, never by paths, for which alone a table is asked.
-    FileFindings out(ModFileName, tree, content, unit_rules::elements());
-    ModFileCheck(knowledge, tree, out).run(readModSettings(content));
-    std::vector<Finding> found = std::move(out.found());
-    applyComments(content, out.file(), found);
-    return found;
+void checkModNames(const CheckKnowledge& knowledge, const TagTree& tree, std::string_view content,
+                   FileFindings& out) {
+    ModNameCheck(knowledge, tree, out).run(readModSettings(content));
 }
 
 } // namespace varrocade
