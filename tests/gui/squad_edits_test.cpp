@@ -12,6 +12,7 @@
 #include "shared/squad_edits.h"
 
 #include <algorithm>
+#include <set>
 
 namespace varrocade::gui {
 
@@ -111,6 +112,23 @@ protected:
         return controlOf(isAircraft ? aircraftShape() : squadShape(), field);
     }
 
+    /// Ends the dialog of weapons. Ammunition whose weapon is no longer there is for the new one.
+    void takeNewWeapon(std::vector<Window>& dialogs) {
+        const Window weapons = dialogs.back();
+        weapons.startPress(IDOK);
+        EXPECT_TRUE(eventually([&] {
+            for (const Window& open : editor->dialogs()) {
+                if (std::find(dialogs.begin(), dialogs.end(), open) == dialogs.end()) {
+                    open.startPress(IDNO);
+                    return true;
+                }
+            }
+            return !weapons.exists();
+        }));
+        dialogs.pop_back();
+        expectGone(weapons, dialogs.back());
+    }
+
     /// Types a case, saves and takes it back; returns the lines of the file that changed.
     std::string linesChangedBy(const SquadEdit& edit, const std::string& path, const std::string& former) {
         std::vector<Window> dialogs = openForm(edit);
@@ -118,20 +136,7 @@ protected:
         EXPECT_NE(control, 0);
         set(dialogs.back(), control, edit.value);
         if (isOf(edit, " weapon") && edit.field == "type") {
-            // The ammunition of the weapon that is no longer there: it is for the new one.
-            dialogs.back().startPress(IDOK);
-            Window box;
-            EXPECT_TRUE(eventually([&] {
-                const auto open = editor->dialogs();
-                const auto found = std::find_if(open.begin(), open.end(), [&](const Window& each) {
-                    return std::find(dialogs.begin(), dialogs.end(), each) == dialogs.end();
-                });
-                box = found == open.end() ? Window() : *found;
-                return static_cast<bool>(box);
-            }));
-            box.startPress(IDNO);
-            expectGone(dialogs.back(), dialogs[dialogs.size() - 2]);
-            dialogs.pop_back();
+            takeNewWeapon(dialogs);
         }
         while (!dialogs.empty()) {
             finish(dialogs.back());
@@ -148,10 +153,15 @@ protected:
 
 TEST_F(SquadEditsTest, EachFieldOfTheDialogsChangesItsLinesOfTheFile) {
     start();
+    std::set<std::string> tried;
     std::string unit;
     std::string path;
     std::string former;
     for (const SquadEdit& edit : tests::squadEdits(readFile("tests\\golden\\squad_edits.txt"))) {
+        // Each field once where it changes the file, and once where it does not.
+        if (!tried.insert(edit.form + edit.field + (edit.changed.empty() ? "-" : "+")).second) {
+            continue;
+        }
         SCOPED_TRACE(edit.unit + ": " + edit.form + ": " + edit.field + " = " + edit.value);
         if (edit.unit != unit) {
             unit = edit.unit;
