@@ -77,11 +77,18 @@ TEST_F(SquadTest, MenAreAddedCopiedChangedAndUndone) {
     EXPECT_EQ(members.listTexts().size(), 13U);
     details.startPress(IDC_MEMBER_COPY);
     answer({"Squad full", "There are already the maximum number of infantryman allowed per squad"});
-    chooseRows(details, 0, 12);
+    constexpr WPARAM controlA = 1;
+    members.send(WM_CHAR, controlA);
+    EXPECT_EQ(members.send(LB_GETSELCOUNT), 13);
     details.startPress(IDC_MEMBER_EDIT);
     const Window change = editor->waitForDialog("Change Several Men");
     expectWellLaidOut(change);
     change.control(IDC_ARMOUR_CHANGE).choose("yes");
+    change.control(IDC_ARMS_CHANGE).choose("also carry");
+    change.control(IDC_WEAPON_TYPE).choose("WEAPON_SMG_M1_THOMPSON");
+    change.control(IDC_AMMO_CHANGE).choose("carry");
+    EXPECT_EQ(change.control(IDC_AMMO_FOR).text(), "WEAPON_SMG_M1_THOMPSON") << "what they get";
+    EXPECT_EQ(change.control(IDC_ROUNDS).text(), "160");
     change.startPress(IDOK);
     expectGone(change, details);
     finish(details);
@@ -128,6 +135,8 @@ TEST_F(SquadTest, HeavyWeaponStandsAmongTheMen) {
     constexpr std::string_view name = "American Bazooka Team";
     open(InfantryId, name);
     const Window details = openDetails();
+    expectOpens(details, IDC_MEMBER_HEAVY, "Heavy Weapon");
+    EXPECT_EQ(details.control(IDC_MEMBERS).listTexts().size(), 2U) << "what is cancelled is not added";
     details.startPress(IDC_MEMBER_HEAVY);
     const Window heavy = editor->waitForDialog("Heavy Weapon");
     heavy.startPress(IDOK);

@@ -145,6 +145,25 @@ TEST(UnitStart, SuggestsWhatCanBeUsedAtOnce) {
             EXPECT_EQ(unit.infantrymen.empty(), category == Category::Aircraft);
         }
     }
+    struct Case {
+        std::string_view nationality;
+        HeavyWeaponKind kind;
+        std::string_view arms, weapon, picture;
+    };
+    const std::vector<std::string> guns = {"Image-37mm M3 gun", "Image-3in mortar gun", "Image-6pdr gun"};
+    for (const Case& each :
+         {Case{"NATIONALITY_BRITISH", HeavyWeaponKind::AtGun, "WEAPON_RIFLE_LEE_ENFIELD_NO4",
+               "WEAPON_CANNON_57_6PDR_MK2_L43", "Image-6pdr gun"},
+          Case{"NATIONALITY_BRITISH", HeavyWeaponKind::Mortar, "WEAPON_RIFLE_LEE_ENFIELD_NO4",
+               "WEAPON_MORTAR_3IN_ML_MK2", "Image-3in mortar gun"},
+          Case{"NATIONALITY_AMERICAN", HeavyWeaponKind::AtGun, "WEAPON_RIFLE_M16A4",
+               "WEAPON_CANNON_37_M3_L54", "Image-37mm M3 gun"}}) {
+        const UnitStart start =
+            suggestedStart(Category::AtGuns, each.nationality, each.kind, catalogue, guns);
+        EXPECT_EQ(start.arms, each.arms);
+        EXPECT_EQ(start.weapon, each.weapon) << "the nation's own, with a picture";
+        EXPECT_EQ(start.picture, each.picture);
+    }
     const UnitStart mortar =
         suggestedStart(Category::AtGuns, "NATIONALITY_GERMAN", HeavyWeaponKind::Mortar, catalogue, pictures);
     EXPECT_TRUE(mortar.weapon.view().starts_with("WEAPON_MORTAR_"));

@@ -10,6 +10,7 @@
 #include "editors/unit/uniform_form.h"
 #include "editors/unit/unit_lists.h"
 #include "fake_form_port.h"
+#include "shared/squad_edits.h"
 #include "test_support.h"
 
 #include <gtest/gtest.h>
@@ -19,49 +20,18 @@
 namespace varrocade::tests {
 namespace {
 
-std::vector<std::string> crLfLines(std::string_view text) {
-    std::vector<std::string> lines;
-    while (!text.empty()) {
-        lines.emplace_back(takePart(text, "\r\n"));
-    }
-    return lines;
-}
-
-/// The lines that one text has in place of the other's: "  - former", "  + new".
-std::string changedLines(std::string_view former, std::string_view present) {
-    std::vector<std::string> before = crLfLines(former);
-    std::vector<std::string> after = crLfLines(present);
-    const auto [a, b] = std::mismatch(before.begin(), before.end(), after.begin(), after.end());
-    before.erase(before.begin(), a);
-    after.erase(after.begin(), b);
-    while (!before.empty() && !after.empty() && before.back() == after.back()) {
-        before.pop_back();
-        after.pop_back();
-    }
-    std::string text;
-    for (const std::string& line : before) {
-        text += "  - " + line + "\n";
-    }
-    for (const std::string& line : after) {
-        text += "  + " + line + "\n";
-    }
-    return text;
-}
-
-/// Changes the control of one field, named by its element or, without one, by its label.
+/// Changes the control of one field.
 template <typename Record>
 void changeField(const FormShape<Record>& shape, Record& record, std::string_view field,
                  std::string_view value) {
-    const auto row = std::find_if(shape.rows.begin(), shape.rows.end(), [&](const FormRow<Record>& each) {
-        return (each.field->element.empty() ? each.field->label : each.field->element) == field;
-    });
-    ASSERT_NE(row, shape.rows.end());
+    const int control = controlOf(shape, field);
+    ASSERT_NE(control, 0);
     FakeFormPort port;
     fillForm(port, shape, record);
-    port.setText(row->control, value);
-    port.setChecked(row->control, value == "yes");
+    port.setText(control, value);
+    port.setChecked(control, value == "yes");
     updateEnabling(port, shape, record);
-    if (port.disabled.contains(row->control)) {
+    if (port.disabled.contains(control)) {
         fillForm(port, shape, record);
     }
     const auto error = readForm(port, shape, record);
@@ -110,34 +80,20 @@ void changeIn(SquadRecord& unit, std::string_view form, std::string_view field, 
 }
 
 TEST(SquadEdits, ChangeTheLinesOfTheirFieldAndNoOthers) {
-    const std::string cases = goldenText("squad_edits.txt");
-    std::string_view rest = cases;
     const SampleFile* file = nullptr;
-    SquadRecord unit;
-    std::string former;
-    while (!rest.empty()) {
-        std::string_view line = takePart(rest, "\n");
-        const std::string edit(line);
-        SCOPED_TRACE(edit);
-        if (line.starts_with("== ")) {
-            const auto found =
-                std::find_if(sampleFiles().begin(), sampleFiles().end(),
-                             [&](const SampleFile& each) { return edit == "== " + each.name; });
+    for (const SquadEdit& edit : squadEdits(goldenText("squad_edits.txt"))) {
+        SCOPED_TRACE(edit.unit + ": " + edit.form + ": " + edit.field + " = " + edit.value);
+        if (file == nullptr || file->name != edit.unit) {
+            const auto found = std::find_if(sampleFiles().begin(), sampleFiles().end(),
+                                            [&](const SampleFile& each) { return each.name == edit.unit; });
             ASSERT_NE(found, sampleFiles().end());
             file = &*found;
-            unit = readUnitText(file->content);
-            former = rewritten(file->category, file->content);
-            continue;
         }
-        std::string expected;
-        while (rest.starts_with("  ")) {
-            expected += std::string(takePart(rest, "\n")) + "\n";
-        }
-        const std::string_view form = takePart(line, ": ");
-        const std::string_view field = takePart(line, " = ");
-        SquadRecord changed = unit;
-        changeIn(changed, form, field, line);
-        EXPECT_EQ(changedLines(former, unitFileText(file->category, changed).value_or("")), expected);
+        SquadRecord unit = readUnitText(file->content);
+        changeIn(unit, edit.form, edit.field, edit.value);
+        EXPECT_EQ(changedLines(rewritten(file->category, file->content),
+                               unitFileText(file->category, unit).value_or("")),
+                  edit.changed);
     }
 }
 

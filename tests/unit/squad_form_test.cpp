@@ -248,6 +248,12 @@ TEST(SquadNotes, TellWhatIsOddAndNothingOfASquadThatIsNot) {
               "2. man: 1 round for Cannon 75 KWK42 L70, which nobody carries\r\n"
               "3. man: no weapon\r\n"
               "Game image \"uniform_nobody\" is not there");
+    squad.namedUniform = true;
+    squad.uniformName = "uniform_odd";
+    squad.uniformRanks = "ranks_odd";
+    EXPECT_TRUE(noteLines(squadNotes(squad, catalogue, bases))
+                    .ends_with("no weapon\r\nUniform \"uniform_odd\" is not there\r\n"
+                               "Rank Image \"ranks_odd\" is not there"));
     const auto ammo = ammoWeaponsOf(squad, squad.infantrymen[1], catalogue);
     EXPECT_EQ(ammo.front(), "WEAPON_PISTOL_P38");
     EXPECT_EQ(ammo.back(), "WEAPON_LMG_MG34");
@@ -289,6 +295,8 @@ TEST(Rotors, AreMovedInTheDrawingAndShowWhereTheyTurn) {
     rotor.clockwise = false;
     EXPECT_GT(arrow().from.y, arrow().to.y);
     EXPECT_LT(arrow().to.x, -30) << "at the left";
+    rotor.diameter = 0;
+    EXPECT_LT(arrow().to.x, -30) << "as wide as the picture is";
 }
 
 TEST(UniformPictures, ShowWhatIsMeant) {

@@ -154,6 +154,10 @@ TEST(CarriedAmmo, NewOnesAreForWhatHasNone) {
     EXPECT_TRUE(nextAmmunition({}, loads, true, catalogue).weaponType.empty());
     EXPECT_TRUE(nextAmmunition(weapons, {}, false, catalogue).flavour.empty())
         << "files have none of a man's";
+    EXPECT_EQ(usualRounds(catalogue, "WEAPON_LMG_BREN_MK2", WeaponBearer::Man), 240);
+    EXPECT_EQ(usualRounds(catalogue, "WEAPON_LMG_BREN_MK2", WeaponBearer::Aircraft), 1000);
+    EXPECT_EQ(usualRounds(catalogue, "WEAPON_LMG_BREN_MK2", WeaponBearer::Vehicle), 0);
+    EXPECT_EQ(usualRounds(catalogue, "WEAPON_NONE", WeaponBearer::Man), 0);
 }
 
 TEST(CarriedAmmo, GoesWithItsWeaponOrToTheNextOne) {

@@ -3,6 +3,8 @@
 #include "data/unit/image_names.h"
 #include "platform/file_operations.h"
 
+#include <algorithm>
+#include <array>
 #include <set>
 
 namespace varrocade {
@@ -23,6 +25,17 @@ std::vector<std::string> imageChoices(std::span<const std::string> bases,
             }
         }
     }
+    return choices;
+}
+
+std::vector<std::string> partChoices(std::span<const std::string> bases, std::span<const ImageSource> sources,
+                                     std::string_view ending) {
+    static constexpr auto partEndings = std::to_array<std::string_view>({" base", " gun", " rotor"});
+    std::vector<std::string> choices = imageChoices(bases, sources);
+    std::stable_partition(choices.begin(), choices.end(), [ending](std::string_view name) {
+        const auto ends = [name](std::string_view each) { return name.ends_with(each); };
+        return ending.empty() ? std::none_of(partEndings.begin(), partEndings.end(), ends) : ends(ending);
+    });
     return choices;
 }
 

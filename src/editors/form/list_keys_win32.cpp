@@ -14,9 +14,28 @@ namespace varrocade {
 
 namespace {
 
+// What Ctrl with these letters comes to.
+constexpr WPARAM SelectAllKey = 'A' - 'A' + 1;
+constexpr WPARAM RedoKey = 'Y' - 'A' + 1;
+constexpr WPARAM UndoKey = 'Z' - 'A' + 1;
+
+/// Selects all lines of a list that lets several be selected; false where it does not.
+bool selectAll(HWND list) {
+    if ((GetWindowLongA(list, GWL_STYLE) & LBS_EXTENDEDSEL) == 0) {
+        return false;
+    }
+    SendMessageA(list, LB_SETSEL, TRUE, -1);
+    SendMessageA(GetParent(list), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(list), LBN_SELCHANGE),
+                 reinterpret_cast<LPARAM>(list));
+    return true;
+}
+
 /// The system keeps two integers for it: the table's length as its number, and where the table is.
 LRESULT CALLBACK listKeysProcedure(HWND list, UINT message, WPARAM parameter, LPARAM detail, UINT_PTR length,
                                    DWORD_PTR rows) {
+    if (message == WM_CHAR && parameter == SelectAllKey && selectAll(list)) {
+        return 0;
+    }
     if (message != WM_KEYDOWN && message != WM_SYSKEYDOWN) {
         return DefSubclassProc(list, message, parameter, detail);
     }
@@ -37,10 +56,6 @@ LRESULT CALLBACK listKeysProcedure(HWND list, UINT message, WPARAM parameter, LP
     // The system must see that Alt was held for a key, or letting it go would open the window's menu.
     return withAlt ? DefWindowProcA(list, message, parameter, detail) : 0;
 }
-
-// What Ctrl with these letters comes to.
-constexpr WPARAM RedoKey = 'Y' - 'A' + 1;
-constexpr WPARAM UndoKey = 'Z' - 'A' + 1;
 
 LRESULT CALLBACK undoKeysProcedure(HWND control, UINT message, WPARAM parameter, LPARAM detail, UINT_PTR,
                                    DWORD_PTR dialog) {

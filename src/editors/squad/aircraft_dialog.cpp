@@ -1,5 +1,7 @@
 // The "Details" dialog of aircraft, and their rotor blades.
 
+#include "data/unit_fields.h"
+#include "editors/form/image_choices.h"
 #include "editors/form/list_dialog_win32.h"
 #include "editors/squad/rotor_list.h"
 #include "editors/squad/squad_dialogs.h"
@@ -39,7 +41,10 @@ public:
     void restoreImage() { edit_.record.aircraft->image = image_; }
 
 private:
-    void prepare() override { port().setChoices(IDC_AIRCRAFT_SOUND, soundChoices(edit_.imageBases)); }
+    void prepare() override {
+        port().setChoices(IDC_AIRCRAFT_SOUND, soundChoices(edit_.imageBases));
+        port().setChoices(IDC_AIRCRAFT_IMAGE, partChoices(edit_.imageBases, field::AircraftImage.images, {}));
+    }
     /// The drawing shows the picture that the form names.
     void follow() override {
         SquadRecord shown = edit_.record;
@@ -60,10 +65,11 @@ private:
         edit_.record.aircraft->image = shown;
         return false;
     }
-    /// Opens a further dialog, whose step of the history knows nothing of this form.
+    /// Opens a further dialog. It shows the picture of this form, of which its step of the history knows
+    /// nothing.
     void open(const std::function<bool()>& dialog, std::string_view what) {
-        restoreImage();
         if (dialog()) {
+            restoreImage();
             edit_.changed(what);
         }
         follow();
@@ -94,6 +100,9 @@ public:
           edit_(edit) {}
 
 private:
+    void prepare() override {
+        port().setChoices(IDC_VIEW_IMAGE, partChoices(edit_.imageBases, field::RotorImage.images, " rotor"));
+    }
     void preview() override { edit_.redraw(); }
 
     EditContext& edit_;

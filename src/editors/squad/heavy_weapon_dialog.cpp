@@ -1,7 +1,9 @@
 // The "Heavy Weapon" dialog.
 
 #include "data/each_field.h"
+#include "data/unit_fields.h"
 #include "editors/form/form_dialog_win32.h"
+#include "editors/form/image_choices.h"
 #include "editors/squad/heavy_weapon_form.h"
 #include "editors/squad/members.h"
 #include "editors/squad/squad_dialogs.h"
@@ -42,6 +44,10 @@ public:
     }
 
 private:
+    void prepare() override {
+        port().setChoices(IDC_BASE_IMAGE, partChoices(edit_.imageBases, field::BaseImage.images, " base"));
+        port().setChoices(IDC_GUN_IMAGE, partChoices(edit_.imageBases, field::GunImage.images, " gun"));
+    }
     void follow() override {
         const HeavyWeaponKind kind = shownKind(port(), work_);
         const std::string note = kindNote(kind, edit_.record.type);
@@ -77,16 +83,22 @@ private:
 
 } // namespace
 
-bool editHeavyWeapon(HWND owner, EditContext& edit) {
+bool askForHeavyWeapon(HWND owner, EditContext& edit) {
     const SquadRecord former = edit.record;
     HeavyWeaponRecord work = *former.heavyWeapon;
-    if (HeavyWeaponDialog(edit, work).run(owner)) {
+    const bool isTaken = HeavyWeaponDialog(edit, work).run(owner);
+    if (isTaken) {
         edit.record.heavyWeapon = std::move(work);
     } else {
         edit.record = former;
     }
     edit.redraw();
-    return edit.record != former;
+    return isTaken;
+}
+
+bool editHeavyWeapon(HWND owner, EditContext& edit) {
+    const SquadRecord former = edit.record;
+    return askForHeavyWeapon(owner, edit) && edit.record != former;
 }
 
 Armament armamentOf(SquadRecord& unit) {

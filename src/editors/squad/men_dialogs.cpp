@@ -7,6 +7,7 @@
 #include "editors/squad/members.h"
 #include "editors/squad/squad_dialogs.h"
 #include "editors/squad/squad_notes.h"
+#include "editors/unit/carried_ammo.h"
 #include "resources/resource.h"
 
 #include <algorithm>
@@ -72,16 +73,43 @@ private:
         port().setText(IDC_CAPTION_LINE, "For all of the " + std::to_string(men_.size()) + " men chosen:");
         offerWeapons();
         port().setChoices(IDC_FORMER_ARMS, weaponTypesOf(men_));
-        port().setChoices(IDC_AMMO_FOR, ammoWeaponsOf(edit_.record, men_.front(), edit_.catalogue));
     }
     void offerWeapons() {
         port().setChoices(IDC_WEAPON_TYPE, weaponChoices(edit_.catalogue, edit_.record, WeaponBearer::Man,
                                                          port().isChecked(IDC_SHOW_ALL)));
     }
+    /// Ammunition is offered for what they get, too, as much as is usual; what is typed stays.
     void follow() override {
-        if (GetFocus() == nullptr || GetParent(GetFocus()) != GetDlgItem(handle(), IDC_FLAVOUR)) {
+        MenChange shown;
+        readPossible(port(), menChangeShape(), shown);
+        if (!hasKeyboard(IDC_AMMO_FOR)) {
+            suggestAmmunition(shown);
+        }
+        if (!hasKeyboard(IDC_FLAVOUR)) {
             port().setChoices(IDC_FLAVOUR, flavourChoices(edit_.catalogue, port().text(IDC_AMMO_FOR)));
         }
+        if (shown.ammunition == AmmoChange::Give && shown.load.rounds == 0 && !hasKeyboard(IDC_ROUNDS)) {
+            const std::int32_t rounds =
+                usualRounds(edit_.catalogue, port().text(IDC_AMMO_FOR), WeaponBearer::Man);
+            port().setText(IDC_ROUNDS, std::to_string(rounds));
+        }
+    }
+    void suggestAmmunition(const MenChange& shown) {
+        const bool getsArms = shown.arms == ArmsChange::Give || shown.arms == ArmsChange::Exchange;
+        CrewManRecord likeThem = men_.front();
+        if (getsArms && !shown.weapon.empty()) {
+            likeThem.weapons.insert(likeThem.weapons.begin(), shown.weapon);
+        }
+        const auto weapons = ammoWeaponsOf(edit_.record, likeThem, edit_.catalogue);
+        port().setChoices(IDC_AMMO_FOR, weapons);
+        if (shown.ammunition == AmmoChange::Give && shown.load.weaponType.empty() && !weapons.empty()) {
+            port().setText(IDC_AMMO_FOR, weapons.front());
+        }
+    }
+    [[nodiscard]] bool hasKeyboard(int control) const {
+        HWND focus = GetFocus();
+        HWND window = GetDlgItem(handle(), control);
+        return focus != nullptr && (focus == window || GetParent(focus) == window);
     }
 
     EditContext& edit_;
@@ -133,6 +161,9 @@ bool editSeveralMen(HWND owner, EditContext& edit, std::span<const std::size_t> 
         chosen.push_back(edit.record.infantrymen[man]);
     }
     MenChange change;
+    if (const std::vector<std::string> types = weaponTypesOf(chosen); types.size() == 1) {
+        change.formerArms = std::string_view(types.front());
+    }
     const std::vector<CrewManRecord> former = edit.record.infantrymen;
     if (chosen.empty() || !SeveralMenDialog(edit, chosen, change).run(owner)) {
         return false;

@@ -105,7 +105,8 @@ private:
     void deleteChosen();
     void moveChosen(bool upwards);
     void addHeavy();
-    void openHeavy();
+    template <typename Dialog>
+    bool openHeavy(Dialog ask);
 
     EditContext& edit_;
     RecordForm<SquadRecord> form_;
@@ -249,15 +250,16 @@ void SquadDialog::addSeveral() {
     }
 }
 
-void SquadDialog::openHeavy() {
+/// `ask` opens a dialog of the heavy weapon; false where it changed nothing.
+template <typename Dialog>
+bool SquadDialog::openHeavy(Dialog ask) {
     const Text formerType = squad().type;
-    if (editHeavyWeapon(handle(), edit_)) {
-        edit_.changed("Heavy weapon");
-    }
+    const bool isChanged = ask(handle(), edit_);
     if (squad().type != formerType) {
         // It was made to fit the kind there: this form would put the former type back.
         port().setText(IDC_TYPE, squad().type);
     }
+    return isChanged;
 }
 
 void SquadDialog::editChosen() {
@@ -271,8 +273,8 @@ void SquadDialog::editChosen() {
         if (editSeveralMen(handle(), edit_, men)) {
             edit_.changed("Change men");
         }
-    } else if (!places.empty()) {
-        openHeavy();
+    } else if (!places.empty() && openHeavy(editHeavyWeapon)) {
+        edit_.changed("Heavy weapon");
     }
     refreshMembers(places);
 }
@@ -296,10 +298,14 @@ void SquadDialog::moveChosen(bool upwards) {
 }
 
 void SquadDialog::addHeavy() {
+    const SquadRecord former = squad();
     addHeavyWeapon(squad());
-    changedMembers("Add heavy weapon", {heavyPlace(squad())});
-    openHeavy();
-    refreshMembers({heavyPlace(squad())});
+    if (openHeavy(askForHeavyWeapon)) {
+        changedMembers("Add heavy weapon", {heavyPlace(squad())});
+    } else {
+        squad() = former;
+        edit_.redraw();
+    }
 }
 
 } // namespace

@@ -24,6 +24,10 @@ bool editRotors(HWND owner, EditContext& edit);
 /// The heavy weapon of the squad; true when it was changed. The drawing follows at once.
 bool editHeavyWeapon(HWND owner, EditContext& edit);
 
+/// Asks what a heavy weapon is that was just added to the squad; true for OK. Otherwise it is as it was
+/// added.
+bool askForHeavyWeapon(HWND owner, EditContext& edit);
+
 /// Asks what a man is and carries who is not in the squad yet; true for OK.
 bool askForMan(HWND owner, EditContext& edit, CrewManRecord& man);
 

@@ -101,6 +101,8 @@ private:
 
 constexpr auto UniformImages = std::to_array<const Field<SquadRecord, Text>*>(
     {&field::UniformProfile, &field::UniformGame, &field::UniformRanks});
+constexpr auto NamedUniformImages =
+    std::to_array<const Field<SquadRecord, Text>*>({&field::UniformName, &field::UniformRanks});
 constexpr auto HeavyImages = std::to_array<const Field<HeavyWeaponRecord, Text>*>(
     {&field::BaseImage, &field::GunImage, &field::HeavyProfileImage});
 
@@ -148,10 +150,11 @@ std::vector<SquadNote> squadNotes(const SquadRecord& squad, const WeaponCatalogu
         notes.checkWeapons(place, who, weaponTypesOf(std::span(&man, 1)), loaded);
         notes.checkLoads(place, who, man.ammo, carried);
     }
-    if (!squad.namedUniform) {
-        for (const auto* image : UniformImages) {
-            notes.checkPicture(SquadNote::Everybody, *image, image->of(squad));
-        }
+    const std::span<const Field<SquadRecord, Text>* const> images =
+        squad.namedUniform ? std::span<const Field<SquadRecord, Text>* const>(NamedUniformImages)
+                           : UniformImages;
+    for (const auto* image : images) {
+        notes.checkPicture(SquadNote::Everybody, *image, image->of(squad));
     }
     return notes.take();
 }

@@ -63,13 +63,22 @@ constexpr auto HighExplosives =
 
 } // namespace
 
-std::vector<AmmoLoadRecord> usualLoads(const WeaponCatalogue& catalogue, std::string_view weaponType,
-                                       WeaponBearer bearer) {
+std::int32_t usualRounds(const WeaponCatalogue& catalogue, std::string_view weaponType, WeaponBearer bearer) {
     const WeaponRecord* weapon = catalogue.find(weaponType);
     const auto usual = std::find_if(RoundsOfTypes.begin(), RoundsOfTypes.end(), [&](const UsualRounds& row) {
         return weapon != nullptr && row.type == weapon->type;
     });
-    if (usual == RoundsOfTypes.end() || weapon->ammoTypes.empty()) {
+    if (usual == RoundsOfTypes.end() || bearer == WeaponBearer::Vehicle) {
+        return 0;
+    }
+    return bearer == WeaponBearer::Aircraft ? usual->inAir : usual->onGround;
+}
+
+std::vector<AmmoLoadRecord> usualLoads(const WeaponCatalogue& catalogue, std::string_view weaponType,
+                                       WeaponBearer bearer) {
+    const WeaponRecord* weapon = catalogue.find(weaponType);
+    const std::int32_t rounds = usualRounds(catalogue, weaponType, bearer);
+    if (rounds == 0 || weapon->ammoTypes.empty()) {
         return {};
     }
     std::vector<AmmoFlavour> flavours = {weapon->ammoTypes.front().flavour};
@@ -87,9 +96,8 @@ std::vector<AmmoLoadRecord> usualLoads(const WeaponCatalogue& catalogue, std::st
         // The files leave out what goes without saying, but for bombs the reader puts it in again.
         const std::string_view name = nameOf(flavour);
         const bool isLeftOut = isDefaultFlavour(weaponType, name) && name != FlavourBombHe;
-        loads.push_back({.weaponType = weaponType,
-                         .flavour = isLeftOut ? std::string_view() : name,
-                         .rounds = bearer == WeaponBearer::Aircraft ? usual->inAir : usual->onGround});
+        loads.push_back(
+            {.weaponType = weaponType, .flavour = isLeftOut ? std::string_view() : name, .rounds = rounds});
     }
     return loads;
 }

@@ -22,6 +22,10 @@ std::vector<std::string> weaponTypesOf(std::span<const WeaponMountRecord> weapon
 AmmoLoadRecord nextAmmunition(std::span<const std::string> weaponTypes, std::span<const AmmoLoadRecord> loads,
                               bool hasFlavour, const WeaponCatalogue& catalogue);
 
+/// How many rounds of one kind a bearer usually carries for a weapon. 0 for a weapon that the catalogue does
+/// not hold, and for a vehicle, where they depend on its size.
+std::int32_t usualRounds(const WeaponCatalogue& catalogue, std::string_view weaponType, WeaponBearer bearer);
+
 /// What a bearer usually carries for a weapon: some of its first ammunition; a heavy weapon or an aircraft
 /// also of its first high explosive. Nothing for a weapon that the catalogue does not hold.
 std::vector<AmmoLoadRecord> usualLoads(const WeaponCatalogue& catalogue, std::string_view weaponType,

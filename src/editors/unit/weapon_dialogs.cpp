@@ -15,8 +15,14 @@ namespace varrocade {
 
 namespace {
 
-bool editAmmunition(HWND owner, EditContext& edit, std::vector<std::string> weaponTypes, bool hasFlavour,
-                    std::vector<AmmoLoadRecord>& ammo);
+/// What the dialog of ammunition goes by besides the ammunition.
+struct AmmoTerms {
+    std::vector<std::string> weaponTypes; ///< of the weapons that it is carried for
+    WeaponBearer bearer = WeaponBearer::Vehicle;
+    bool hasFlavour = true;
+};
+
+bool editAmmunition(HWND owner, EditContext& edit, AmmoTerms terms, std::vector<AmmoLoadRecord>& ammo);
 
 /// What the files cannot hold of the weapons of this kind of component.
 std::string_view notStoredOf(ComponentKind kind) {
@@ -56,7 +62,7 @@ public:
         onButton(IDC_SHOW_ALL, [this] { offerWeapons(); });
         onButton(IDC_AMMO_BUTTON, [this] {
             if (takeShown()) {
-                editAmmunition(handle(), edit_, weaponTypesOf(weapons_), true, ammo_);
+                editAmmunition(handle(), edit_, {weaponTypesOf(weapons_), terms_.bearer}, ammo_);
             }
         });
     }
@@ -123,26 +129,23 @@ std::size_t firstLoad(const EditContext& edit) {
 
 class AmmunitionDialog final : public ListDialog {
 public:
-    /// `weaponTypes` are those of the weapons that it is carried for, `ammo` the copy that the dialog works
-    /// on.
-    AmmunitionDialog(EditContext& edit, std::vector<std::string> weaponTypes, bool hasFlavour,
-                     std::vector<AmmoLoadRecord>& ammo)
+    /// `ammo` is the copy that the dialog works on.
+    AmmunitionDialog(EditContext& edit, AmmoTerms terms, std::vector<AmmoLoadRecord>& ammo)
         : ListDialog({.dialogTemplate = IDD_AMMUNITION,
                       .caption = "Ammunition",
                       .first = firstLoad(edit),
                       .title = captionOf(edit, "ammunition"),
                       .focus = edit.focus.field},
                      model_),
-          edit_(edit), weaponTypes_(std::move(weaponTypes)), hasFlavour_(hasFlavour), ammo_(ammo),
-          model_(
-              ammo, ammunitionShape(),
-              {.next = [this] { return nextAmmunition(weaponTypes_, ammo_, hasFlavour_, edit_.catalogue); },
-               .warn = [this](const AmmoLoadRecord& load) { return warningOf(load); }}) {}
+          edit_(edit), terms_(std::move(terms)), ammo_(ammo),
+          model_(ammo, ammunitionShape(),
+                 {.next = [this] { return nextLoad(); },
+                  .warn = [this](const AmmoLoadRecord& load) { return warningOf(load); }}) {}
 
 private:
     void prepare() override {
-        port().setChoices(IDC_WEAPON_TYPE, weaponTypes_);
-        if (!hasFlavour_) {
+        port().setChoices(IDC_WEAPON_TYPE, terms_.weaponTypes);
+        if (!terms_.hasFlavour) {
             port().setText(IDC_NOT_STORED,
                            "The flavour of a crew man's ammunition is not stored in the file.");
         }
@@ -154,7 +157,7 @@ private:
             return;
         }
         const AmmoLoadRecord& ammo = ammo_[shownIndex()];
-        port().setEnabled(IDC_FLAVOUR, hasFlavour_ || !ammo.flavour.empty());
+        port().setEnabled(IDC_FLAVOUR, terms_.hasFlavour || !ammo.flavour.empty());
         if (GetFocus() == nullptr || GetParent(GetFocus()) != GetDlgItem(handle(), IDC_FLAVOUR)) {
             port().setChoices(IDC_FLAVOUR, flavourChoices(edit_.catalogue, ammo.weaponType));
         }
@@ -166,20 +169,23 @@ private:
         return unknown + (unknown.empty() || flavour.empty() ? "" : "; ") + flavour;
     }
     [[nodiscard]] std::string warningOf(const AmmoLoadRecord& ammo) const {
-        return ammunitionWarning(ammo, weaponTypes_, edit_.catalogue);
+        return ammunitionWarning(ammo, terms_.weaponTypes, edit_.catalogue);
+    }
+    [[nodiscard]] AmmoLoadRecord nextLoad() const {
+        AmmoLoadRecord load = nextAmmunition(terms_.weaponTypes, ammo_, terms_.hasFlavour, edit_.catalogue);
+        load.rounds = usualRounds(edit_.catalogue, load.weaponType, terms_.bearer);
+        return load;
     }
 
     EditContext& edit_;
-    std::vector<std::string> weaponTypes_;
-    bool hasFlavour_;
+    AmmoTerms terms_;
     std::vector<AmmoLoadRecord>& ammo_;
     VectorListModel<AmmoLoadRecord> model_;
 };
 
-bool editAmmunition(HWND owner, EditContext& edit, std::vector<std::string> weaponTypes, bool hasFlavour,
-                    std::vector<AmmoLoadRecord>& ammo) {
+bool editAmmunition(HWND owner, EditContext& edit, AmmoTerms terms, std::vector<AmmoLoadRecord>& ammo) {
     std::vector<AmmoLoadRecord> copy = ammo;
-    if (!AmmunitionDialog(edit, std::move(weaponTypes), hasFlavour, copy).run(owner)) {
+    if (!AmmunitionDialog(edit, std::move(terms), copy).run(owner)) {
         return false;
     }
     ammo = std::move(copy);
@@ -220,17 +226,17 @@ bool editArmament(HWND owner, EditContext& edit, const Armament& armament) {
 
 bool editArmamentAmmunition(HWND owner, EditContext& edit, const Armament& armament) {
     const std::vector<AmmoLoadRecord> former = armament.ammo;
-    return editAmmunition(owner, edit, weaponTypesOf(armament.weapons), true, armament.ammo) &&
+    return editAmmunition(owner, edit, {weaponTypesOf(armament.weapons), armament.bearer}, armament.ammo) &&
            former != armament.ammo;
 }
 
 bool editSoldierAmmunition(HWND owner, EditContext& edit, CrewManRecord& man,
                            std::vector<std::string> weaponTypes) {
-    return editAmmunition(owner, edit, std::move(weaponTypes), true, man.ammo);
+    return editAmmunition(owner, edit, {std::move(weaponTypes), WeaponBearer::Man}, man.ammo);
 }
 
 bool editComponentAmmunition(HWND owner, EditContext& edit, ComponentRecord& component) {
-    return editAmmunition(owner, edit, weaponTypesOf(component.weapons), true, component.ammo);
+    return editAmmunition(owner, edit, {weaponTypesOf(component.weapons)}, component.ammo);
 }
 
 bool editManAmmunition(HWND owner, EditContext& edit, CrewManRecord& man) {
@@ -238,7 +244,7 @@ bool editManAmmunition(HWND owner, EditContext& edit, CrewManRecord& man) {
     for (const Text& weapon : man.weapons) {
         weaponTypes.push_back(weapon.str());
     }
-    return editAmmunition(owner, edit, std::move(weaponTypes), false, man.ammo);
+    return editAmmunition(owner, edit, {std::move(weaponTypes), WeaponBearer::Man, false}, man.ammo);
 }
 
 } // namespace varrocade

@@ -20,10 +20,11 @@ public:
     PictureStack(const DrawOptions& options, PictureSizes& sizes) : options_(options), sizes_(sizes) {}
 
     /// Puts a picture on the drawing; `width` stretches it to a size in centimetres where that is known.
-    void add(std::string_view name, Point centre, double centimetresPerPixel, UnitPart part, double width = 0,
-             double angle = 0) {
+    /// Returns the width that it has then.
+    double add(std::string_view name, Point centre, double centimetresPerPixel, UnitPart part,
+               double width = 0, double angle = 0) {
         if (name.empty()) {
-            return;
+            return width;
         }
         std::string below(image_folder::Units);
         below += name;
@@ -33,13 +34,14 @@ public:
                 const double scale = width > 0 ? width / size->width : centimetresPerPixel;
                 place(PictureItem{base + below, centre, size->width * scale, size->height * scale, angle,
                                   part});
-                return;
+                return size->width * scale;
             }
         }
         list_.missingPictures.push_back(below);
         const double size = width > 0 ? width : UnknownPictureSize;
         place(PlaceholderItem{"Missing: " + std::string(name) + std::string(ImageEnding), centre, size, size,
                               0, false, part});
+        return size;
     }
 
     /// A sector of traverse that reaches over what has been drawn.
@@ -72,10 +74,10 @@ private:
 
 /// An arrow head where a rotor's blades go to the rear: at its right when it turns clockwise, otherwise at
 /// its left. So the marks of two rotors on one mast stand apart.
-void addTurning(PictureStack& stack, const RotorBladesRecord& rotor, UnitPart part) {
+void addTurning(PictureStack& stack, const RotorBladesRecord& rotor, double diameter, UnitPart part) {
     constexpr double out = 0.35; ///< of the diameter
     constexpr double size = 25;  ///< of the arrow head
-    const double side = rotor.diameter * (rotor.clockwise ? out : -out);
+    const double side = diameter * (rotor.clockwise ? out : -out);
     const Point tip{rotor.offsetX + side, static_cast<double>(rotor.offsetY)};
     stack.line({{tip.x - size, tip.y + size}, tip, Ink::Yellow, part});
     stack.line({{tip.x + size, tip.y + size}, tip, Ink::Yellow, part});
@@ -99,10 +101,12 @@ DrawList drawAircraft(const AircraftRecord& aircraft, const DrawOptions& options
     stack.add(aircraft.image, {}, AirScale, {PartKind::Aircraft});
     for (std::size_t i = 0; i < aircraft.rotorBlades.size(); ++i) {
         const RotorBladesRecord& rotor = aircraft.rotorBlades[i];
-        stack.add(rotor.image, {static_cast<double>(rotor.offsetX), static_cast<double>(rotor.offsetY)},
-                  AirScale, {PartKind::Rotor, 0, i}, rotor.diameter);
+        const UnitPart part{PartKind::Rotor, 0, i};
+        const double diameter =
+            stack.add(rotor.image, {static_cast<double>(rotor.offsetX), static_cast<double>(rotor.offsetY)},
+                      AirScale, part, rotor.diameter);
         if (options.showMarks) {
-            addTurning(stack, rotor, {PartKind::Rotor, 0, i});
+            addTurning(stack, rotor, diameter, part);
         }
     }
     for (std::size_t i = 0; options.showMarks && i < aircraft.weapons.size(); ++i) {

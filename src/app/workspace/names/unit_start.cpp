@@ -4,9 +4,11 @@
 #include "editors/squad/heavy_weapon_form.h"
 #include "editors/squad/members.h"
 #include "editors/unit/carried_ammo.h"
+#include "weapons/weapon_usage.h"
 
 #include <algorithm>
 #include <cctype>
+#include <utility>
 
 namespace varrocade {
 
@@ -49,12 +51,26 @@ WeaponType typeOfKind(HeavyWeaponKind kind) {
     return WeaponType::Cannon;
 }
 
-/// The first of the weapons that is of the type, or none.
-Text firstOfType(std::span<const std::string> weapons, WeaponType type, const WeaponCatalogue& catalogue) {
-    const auto found = std::find_if(weapons.begin(), weapons.end(), [&](const std::string& name) {
-        return catalogue.find(name)->type == type;
-    });
-    return found == weapons.end() ? Text() : Text(std::string_view(*found));
+/// The weapon of the type that is most the nation's own, by the order in which the weapon's file names its
+/// countries; none where there is none. With `pictures` those that have one of them go first.
+Text ownOfType(std::span<const std::string> weapons, WeaponType type, std::string_view nationality,
+               const WeaponCatalogue& catalogue, std::span<const std::string> pictures = {}) {
+    Text own;
+    std::pair<bool, std::size_t> least{true, std::string::npos};
+    for (const std::string& name : weapons) {
+        const WeaponRecord& weapon = *catalogue.find(name);
+        const auto countries = usageWords(weapon.countries);
+        const auto nation = std::find_if(countries.begin(), countries.end(), [&](std::string_view country) {
+            return usesWeapon(nationality, country);
+        });
+        const std::pair<bool, std::size_t> rank{pictureOfWeapon(name, pictures).empty(),
+                                                static_cast<std::size_t>(nation - countries.begin())};
+        if (weapon.type == type && rank < least) {
+            least = rank;
+            own = std::string_view(name);
+        }
+    }
+    return own;
 }
 
 /// A name without what sets its words apart.
@@ -66,6 +82,25 @@ std::string lettersOf(std::string_view name) {
         }
     }
     return bare;
+}
+
+/// How many characters the words of a picture's name have that all stand in a weapon's, calibres without
+/// their unit; 0 where one does not.
+std::size_t lengthOfWords(std::string_view stem, std::string_view weapon) {
+    std::size_t length = 0;
+    while (!stem.empty()) {
+        const std::size_t blank = std::min(stem.find(' '), stem.size());
+        std::string word = lettersOf(stem.substr(0, blank));
+        stem.remove_prefix(std::min(blank + 1, stem.size()));
+        if (word.ends_with("mm")) {
+            word.resize(word.size() - 2);
+        }
+        if (weapon.find(word) == std::string_view::npos) {
+            return 0;
+        }
+        length += word.size();
+    }
+    return length;
 }
 
 std::vector<std::string> weaponsOf(std::string_view nationality, WeaponBearer bearer,
@@ -103,9 +138,8 @@ std::string pictureOfWeapon(std::string_view weapon, std::span<const std::string
         std::string_view stem = picture;
         stem.remove_prefix(stem.starts_with(PictureBegin) ? PictureBegin.size() : 0);
         stem.remove_suffix(stem.ends_with(GunEnd) ? GunEnd.size() : 0);
-        const std::string name = lettersOf(stem);
-        if (name.size() > longest && bare.find(name) != std::string::npos) {
-            longest = name.size();
+        if (const std::size_t length = lengthOfWords(stem, bare); length > longest) {
+            longest = length;
             best = picture;
         }
     }
@@ -133,16 +167,16 @@ UnitStart suggestedStart(Category category, std::string_view nationality, HeavyW
     const bool isGun = category == Category::AtGuns;
     if (isGun || category == Category::Infantry) {
         start.men = isGun ? gunners : riflemen;
-        start.arms =
-            firstOfType(weaponsOf(nationality, WeaponBearer::Man, catalogue), WeaponType::Rifle, catalogue);
+        start.arms = ownOfType(weaponsOf(nationality, WeaponBearer::Man, catalogue), WeaponType::Rifle,
+                               nationality, catalogue);
     }
     if (isGun) {
-        start.weapon =
-            firstOfType(startWeapons(category, nationality, kind, catalogue), typeOfKind(kind), catalogue);
+        start.weapon = ownOfType(startWeapons(category, nationality, kind, catalogue), typeOfKind(kind),
+                                 nationality, catalogue, pictures);
         start.picture = std::string_view(pictureOfWeapon(start.weapon, pictures));
     } else if (category == Category::Aircraft) {
-        start.weapon =
-            firstOfType(startWeapons(category, nationality, kind, catalogue), WeaponType::Hmg, catalogue);
+        start.weapon = ownOfType(startWeapons(category, nationality, kind, catalogue), WeaponType::Hmg,
+                                 nationality, catalogue);
     }
     return start;
 }
