@@ -163,7 +163,7 @@ private:
 /// Tries all filters of all forms quickly, and the most promising ones with all effort.
 std::string smallestOf(std::span<const std::unique_ptr<Encoding>> encodings, const SearchWatch& watch) {
     constexpr std::size_t promising = 3;
-    constexpr std::size_t effort = 10; // times as long as a quick one
+    constexpr std::size_t effort = 20; // times as long as a quick one, about
     const std::size_t all = encodings.size() * FilterCount + promising * effort;
     std::size_t done = 0;
     const auto goesOn = [&](std::size_t work) {
