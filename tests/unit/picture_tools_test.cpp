@@ -153,13 +153,14 @@ TEST_F(PictureTools, OfAWindowAreMadeSmallerBesideItAndNobodyWaitsForADroppedOne
     scaledWidths({.scalesDown = true});
     EXPECT_EQ(job.results()[0][0].content, reduceSet(plan.sets()[0])[0].content);
 
-    const std::string large = plainPng(4000, 4000, RedPixel);
+    const std::string large = plainPng(1500, 1500, RedPixel);
     folder.write("Game\\" + Vehicles + "Hulls\\Small.png", large);
     const auto start = std::chrono::steady_clock::now();
     job.start({game}, {.scalesDown = true});
-    while (job.progress().name.find("Small") == std::string::npos) {
+    while (job.progress().name.find("Small") == std::string::npos || job.progress().share() < 0.01) {
         job.step();
     }
+    EXPECT_LT(job.progress().share(), 0.5) << "of a picture that is nearly all the work";
     job.start({game}, {});
     EXPECT_EQ(job.progress().workTotal, 0U);
     int stops = 0;

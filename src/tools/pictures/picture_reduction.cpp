@@ -179,7 +179,7 @@ bool SetReduction::step() {
     if (isScaling_) {
         scaleNext();
     } else if (next_ < pictures_.size()) {
-        ReducedPicture& picture = pictures_[next_++];
+        ReducedPicture& picture = pictures_[next_];
         if (picture.outcome != ReductionOutcome::Failed) {
             take(picture, recompressedPng(picture.former, watch_), ReductionOutcome::Recompressed,
                  picture.sizeBefore);
@@ -187,6 +187,7 @@ bool SetReduction::step() {
                 picture.reason = notScaled_;
             }
         }
+        ++next_;
     }
     return next_ < pictures_.size();
 }

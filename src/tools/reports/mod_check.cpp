@@ -39,8 +39,9 @@ std::string modCheckSummary(std::size_t found, std::size_t moved) {
         text = moved == 1 ? "One file was moved to the recycle bin. "
                           : std::to_string(moved) + " files were moved to the recycle bin. ";
     }
-    return text + (found > 1    ? std::to_string(found) + " files:"
-                   : found == 1 ? "One file:"
+    const std::string_view left = moved > 0 ? " is left:" : ":";
+    return text + (found > 1    ? std::to_string(found) + " files" + (moved > 0 ? " are left:" : ":")
+                   : found == 1 ? "One file" + std::string(left)
                    : moved > 0  ? "None is left."
                                 : "Nothing was found.");
 }
