@@ -161,8 +161,15 @@ private:
 };
 
 /// Tries all filters of all forms quickly, and the most promising ones with all effort.
-std::string smallestOf(std::span<const std::unique_ptr<Encoding>> encodings) {
+std::string smallestOf(std::span<const std::unique_ptr<Encoding>> encodings, const SearchWatch& watch) {
     constexpr std::size_t promising = 3;
+    constexpr std::size_t effort = 20; // times as long as a quick one, about
+    const std::size_t all = encodings.size() * FilterCount + promising * effort;
+    std::size_t done = 0;
+    const auto goesOn = [&](std::size_t work) {
+        done += work;
+        return !watch || watch(static_cast<double>(done) / static_cast<double>(all));
+    };
     struct Trial {
         std::size_t size;
         std::size_t encoding;
@@ -176,6 +183,9 @@ std::string smallestOf(std::span<const std::unique_ptr<Encoding>> encodings) {
             if (!file.empty()) {
                 trials.push_back({file.size(), i, filter});
             }
+            if (!goesOn(1)) {
+                return {};
+            }
         }
     }
     const auto end = trials.begin() + static_cast<std::ptrdiff_t>(std::min(promising, trials.size()));
@@ -183,12 +193,15 @@ std::string smallestOf(std::span<const std::unique_ptr<Encoding>> encodings) {
                       [](const Trial& a, const Trial& b) { return a.size < b.size; });
     const Compressor best(libdeflate_alloc_compressor(BestLevel));
     std::string smallest;
-    std::for_each(trials.begin(), end, [&](const Trial& trial) {
-        std::string file = encodings[trial.encoding]->write(filterOf(trial.filter), best.get());
+    for (auto trial = trials.begin(); trial != end; ++trial) {
+        std::string file = encodings[trial->encoding]->write(filterOf(trial->filter), best.get());
         if (!file.empty() && (smallest.empty() || file.size() < smallest.size())) {
             smallest = std::move(file);
         }
-    });
+        if (!goesOn(effort)) {
+            return {};
+        }
+    }
     return smallest;
 }
 
@@ -256,6 +269,26 @@ std::unique_ptr<Encoding> withPalette(const RawPixels& pixels, const LodePNGColo
     return std::make_unique<Encoding>(pixels, raw, mode);
 }
 
+/// The chunks that say what the colours are. Many programs write those of the usual colour space, which is
+/// also what a file without them means.
+std::string colourMeaning(std::string_view bytes) {
+    using namespace std::string_view_literals;
+    constexpr auto usual = std::to_array<std::string_view>(
+        {"gAMA\0\0\xB1\x8F"sv,
+         "cHRM\0\0\x7A\x26\0\0\x80\x84\0\0\xFA\0\0\0\x80\xE8\0\0\x75\x30\0\0\xEA\x60\0\0\x3A\x98\0\0\x17\x70"sv});
+    std::string text;
+    for (const PngChunk& chunk : splitPng(bytes).chunks) {
+        constexpr std::size_t lengthSize = 4;
+        const bool isUsual = std::any_of(usual.begin(), usual.end(), [&](std::string_view content) {
+            return chunk.whole.substr(lengthSize).starts_with(content);
+        });
+        for (const std::string_view name : {"gAMA", "cHRM", "iCCP"}) {
+            text += chunk.name == name && !isUsual ? chunk.whole : std::string_view();
+        }
+    }
+    return text;
+}
+
 } // namespace
 
 PngReading readPng(std::string_view bytes) {
@@ -275,19 +308,10 @@ PngReading readPng(std::string_view bytes) {
 }
 
 bool samePngPixels(std::string_view a, std::string_view b) {
-    const auto meaning = [](std::string_view bytes) {
-        std::string text;
-        for (const PngChunk& chunk : splitPng(bytes).chunks) {
-            for (const std::string_view name : {"gAMA", "cHRM", "sRGB", "iCCP"}) {
-                text += chunk.name == name ? chunk.whole : std::string_view();
-            }
-        }
-        return text;
-    };
     const PngReading first = readPng(a);
     const PngReading second = readPng(b);
     return first.failure.empty() && second.failure.empty() && samePixels(first.picture, second.picture) &&
-           meaning(a) == meaning(b);
+           colourMeaning(a) == colourMeaning(b);
 }
 
 std::string writePng(const Picture& picture) {
@@ -296,7 +320,7 @@ std::string writePng(const Picture& picture) {
     return Encoding({picture.samples, picture.size}, mode, mode).write(LFS_MINSUM, compressor.get());
 }
 
-std::string writeSmallestPng(const Picture& picture, PngColourKinds kinds) {
+std::string writeSmallestPng(const Picture& picture, PngColourKinds kinds, const SearchWatch& watch) {
     const RawPixels pixels{picture.samples, picture.size};
     const LodePNGColorMode raw = modeOf(picture);
     LodePNGColorStats stats;
@@ -319,10 +343,10 @@ std::string writeSmallestPng(const Picture& picture, PngColourKinds kinds) {
             encodings.push_back(std::move(palette));
         }
     }
-    return smallestOf(encodings);
+    return smallestOf(encodings, watch);
 }
 
-std::string writeInSameColours(std::string_view bytes, const PngHeader& header) {
+std::string writeInSameColours(std::string_view bytes, const PngHeader& header, const SearchWatch& watch) {
     LodePngState state;
     state->decoder.color_convert = 0;
     std::string failure;
@@ -335,7 +359,7 @@ std::string writeInSameColours(std::string_view bytes, const PngHeader& header) 
                                                   static_cast<unsigned>(header.size.height), &mode);
     std::vector<std::unique_ptr<Encoding>> encodings;
     encodings.push_back(std::make_unique<Encoding>(RawPixels{{pixels.get(), size}, header.size}, mode, mode));
-    return smallestOf(encodings);
+    return smallestOf(encodings, watch);
 }
 
 } // namespace varrocade

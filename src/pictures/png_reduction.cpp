@@ -1,7 +1,6 @@
 #include "pictures/png_reduction.h"
 
 #include "pictures/picture_scaling.h"
-#include "pictures/png_codec.h"
 
 #include <algorithm>
 
@@ -105,22 +104,30 @@ KeepableFile readKeepable(std::string_view bytes) {
 
 } // namespace
 
-PngReduction recompressedPng(std::string_view bytes) {
+PngReduction recompressedPng(std::string_view bytes, const SearchWatch& watch) {
     const KeepableFile file = readKeepable(bytes);
     if (!file.failure.empty()) {
         return {{}, file.failure};
     }
+    const double searches = has(file.chunks, PngChunkUse::OfColours) ? 1 : 2;
+    const auto partOf = [&](double before) {
+        return watch ? SearchWatch([&watch, searches, before](double share) {
+            return watch((before + share) / searches);
+        })
+                     : SearchWatch();
+    };
     std::string smallest;
     const auto consider = [&](std::string candidate) {
         if (candidate.size() < (smallest.empty() ? bytes.size() : smallest.size())) {
             smallest = std::move(candidate);
         }
     };
-    if (const std::string same = writeInSameColours(bytes, file.chunks.header); !same.empty()) {
+    if (const std::string same = writeInSameColours(bytes, file.chunks.header, partOf(0)); !same.empty()) {
         consider(withOtherRows(same, file.chunks));
     }
-    if (!has(file.chunks, PngChunkUse::OfColours)) {
-        if (const std::string other = writeSmallestPng(file.picture, kindsFor(file.chunks)); !other.empty()) {
+    if (searches > 1) {
+        if (const std::string other = writeSmallestPng(file.picture, kindsFor(file.chunks), partOf(1));
+            !other.empty()) {
             consider(withFreeChunks(other, file.chunks));
         }
     }
@@ -131,13 +138,14 @@ PngReduction recompressedPng(std::string_view bytes) {
     return {std::move(smallest), {}};
 }
 
-PngReduction scaledPng(std::string_view bytes, PictureSize size) {
+PngReduction scaledPng(std::string_view bytes, PictureSize size, const SearchWatch& watch) {
     const KeepableFile file = readKeepable(bytes);
     if (!file.failure.empty()) {
         return {{}, file.failure};
     }
     const Picture scaled = scaledPicture(file.picture, size);
-    const std::string pixels = scaled.samples.empty() ? "" : writeSmallestPng(scaled, kindsFor(file.chunks));
+    const std::string pixels =
+        scaled.samples.empty() ? "" : writeSmallestPng(scaled, kindsFor(file.chunks), watch);
     if (pixels.empty()) {
         return {{}, "is too large for the memory"};
     }

@@ -372,6 +372,9 @@
 #define IDC_JOB_FOLDER 1736
 #define IDC_JOB_DETAILS 1737
 #define IDC_JOB_OPEN_FOLDER 1738
+#define IDC_REDUCE_DETAIL 4000
+#define IDC_IMPORT_VALUES 4001
+#define IDC_CHECK_FOLDER 4002
 // Controls of the list of changed files.
 #define IDC_CHANGED_LIST 1232
 #define IDC_SAVE_ALL 1233

@@ -6,13 +6,12 @@ namespace varrocade {
 
 std::optional<std::chrono::seconds> timeToGo(const JobProgress& progress, std::chrono::milliseconds elapsed) {
     constexpr std::chrono::milliseconds leastTime{500};
-    constexpr std::size_t leastShare = 20;
-    if (progress.done == 0 || progress.done >= progress.total || elapsed < leastTime ||
-        progress.done * leastShare < progress.total) {
+    constexpr double leastShare = 0.05;
+    const double share = progress.share();
+    if (share < leastShare || share >= 1 || elapsed < leastTime) {
         return std::nullopt;
     }
-    const double each = static_cast<double>(elapsed.count()) / static_cast<double>(progress.done);
-    const double rest = each * static_cast<double>(progress.total - progress.done);
+    const double rest = static_cast<double>(elapsed.count()) * (1 - share) / share;
     return std::chrono::ceil<std::chrono::seconds>(std::chrono::duration<double, std::milli>(rest));
 }
 

@@ -19,6 +19,14 @@ struct JobProgress {
     std::size_t done = 0;
     std::size_t total = 0; ///< as far as it is known
     std::string name = {}; ///< of what is done next; empty at the end
+    /// The same in a finer measure where things differ much in size; 0 where they do not.
+    std::size_t workDone = 0;
+    std::size_t workTotal = 0;
+
+    [[nodiscard]] double share() const {
+        const std::size_t all = workTotal > 0 ? workTotal : total;
+        return all == 0 ? 0 : static_cast<double>(workTotal > 0 ? workDone : done) / static_cast<double>(all);
+    }
 };
 
 class Job {

@@ -2,13 +2,14 @@
 
 #include "cli/command_line.h"
 #include "made_png.h"
-#include "pictures/png_codec.h"
+#include "pictures/png_reduction.h"
 #include "test_support.h"
 #include "tools/pictures/canvas.h"
 #include "tools/pictures/picture_reduction.h"
 #include "tools/pictures/thumbnails.h"
 
 #include <algorithm>
+#include <chrono>
 #include <map>
 
 #include <gtest/gtest.h>
@@ -128,7 +129,45 @@ TEST_F(PictureTools, WritesASetWholeOrNotAtAll) {
     std::vector<ReducedPicture> rest = reduceSet(
         {{folder.path() + big, "a", {50, 100}, {25, 50}}, {folder.path() + own, "b", {30, 30}, {15, 15}}});
     EXPECT_NE(rest[0].outcome, ReductionOutcome::Scaled);
+    EXPECT_EQ(rest[0].reason, "not scaled, since \"b\" is no PNG file");
     EXPECT_EQ(rest[1].reason, "is no PNG file");
+}
+
+TEST_F(PictureTools, OfAWindowAreMadeSmallerBesideItAndNobodyWaitsForADroppedOne) {
+    otherFolders();
+    hull("Big", 100, 200);
+    hull("Small", 10, 20);
+    vehicle("German Big", tank("Big", 100, "None"));
+    ReductionJob job;
+    job.start({game}, {.scalesDown = true});
+    double share = 0;
+    while (job.step()) {
+        if (const JobProgress progress = job.progress(); progress.workTotal > 0) {
+            EXPECT_GE(progress.share(), share);
+            EXPECT_EQ(progress.total, 2U);
+            share = progress.share();
+        }
+    }
+    EXPECT_EQ(job.progress().share(), 1);
+    ASSERT_EQ(job.results().size(), 2U);
+    scaledWidths({.scalesDown = true});
+    EXPECT_EQ(job.results()[0][0].content, reduceSet(plan.sets()[0])[0].content);
+
+    const std::string large = plainPng(1500, 1500, RedPixel);
+    folder.write("Game\\" + Vehicles + "Hulls\\Small.png", large);
+    const auto start = std::chrono::steady_clock::now();
+    job.start({game}, {.scalesDown = true});
+    while (job.progress().name.find("Small") == std::string::npos || job.progress().share() < 0.01) {
+        job.step();
+    }
+    EXPECT_LT(job.progress().share(), 0.5) << "of a picture that is nearly all the work";
+    job.start({game}, {});
+    EXPECT_EQ(job.progress().workTotal, 0U);
+    int stops = 0;
+    const PngReduction stopped = recompressedPng(large, [&](double) { return ++stops < 2; });
+    EXPECT_EQ(stops, 3) << "the second search is not begun in earnest";
+    EXPECT_TRUE(stopped.content.empty() && stopped.failure.empty());
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(60));
 }
 
 int run(std::initializer_list<std::string> arguments, std::string& printed) {

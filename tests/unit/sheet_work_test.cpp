@@ -108,15 +108,17 @@ TEST(ReductionForm, AsksForWholeSetsAndTellsWhichPixelsChange) {
               (decltype(rows[0].cells){"a.png", "20 x 10 > 10 x 5", "3,000", "1,000", "scaled", "Images\\"}));
     EXPECT_EQ(rows[4].cells[4], "failed: is no PNG file");
     EXPECT_EQ(reductionSummary(sets),
-              "3 of 5 pictures can be smaller: 1,500 bytes in the place of 3,700. 1 failed.");
+              "3 of 5 pictures can be smaller: 1,500 bytes in the place of 3,700, 59 % less. 1 failed.");
+    EXPECT_EQ(reductionSummary({}, {.count = 2, .bytesBefore = 1000, .bytesAfter = 999}),
+              "2 pictures were written: 999 bytes in the place of 1,000, less than 1 % less.");
     EXPECT_EQ(reductionSummary({sets[1]}), "None of 1 picture can be smaller.");
     EXPECT_EQ(setsToWrite(sets, rows), (std::vector<std::size_t>{0, 2}));
     const std::vector<std::size_t> one = setsToWrite(sets, std::span(rows).subspan(1, 2));
     EXPECT_EQ(one, std::vector<std::size_t>{0}) << "with the pictures that it is written with";
-    EXPECT_EQ(
-        reductionQuestion(sets, one),
-        "2 pictures will take 1,100 bytes in the place of 3,200.\n\n2 pictures are scaled: their pixels "
-        "change. What the files hold now is kept in the folder Backups.\n\nWrite them?");
+    EXPECT_EQ(reductionQuestion(sets, one),
+              "2 pictures will take 1,100 bytes in the place of 3,200, 65 % less.\n\n2 pictures are scaled: "
+              "their pixels "
+              "change. What the files hold now is kept in the folder Backups.\n\nWrite them?");
     const std::array<std::size_t, 1> recompressed = {2};
     EXPECT_TRUE(reductionQuestion(sets, recompressed).ends_with("Write it?"));
     EXPECT_NE(reductionQuestion(sets, recompressed).find("No pixel changes. "), std::string::npos);

@@ -129,7 +129,8 @@ TEST(Sheets, ComeBackAsChangesOrAsRefusals) {
          "\"Hull 1 armour Upper front angle [degrees]\" must be a whole number from 0 to 90\n"},
         {"Turret 1 Rotate Left [degrees]", "45", "Turret 1 Rotate Left [degrees]:  > 45\n"},
         {"Turret 1 armour Mantlet [mm]", "120", "Turret 1 armour Mantlet [mm]:  > 120\n"},
-        {"Uniform", "Guards", "Uniform:  > Guards\n2: German Tank: the file would not keep \"Guards\"\n"},
+        {"Uniform", "Guards",
+         "Uniform:  > Guards\n2: German Tank: \"Uniform\": the file would not keep \"Guards\"\n"},
     }};
     for (const Case& c : cases) {
         const std::string sheet =

@@ -40,6 +40,8 @@ private:
         prepareTable(changes, ChangeColumns);
         // Of a table of any length only what is seen is asked for.
         ListView_SetItemCountEx(changes, static_cast<int>(import_.changes().size()), LVSICF_NOINVALIDATEALL);
+        ListView_SetItemState(changes, 0, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
+        showValues();
         HWND notes = GetDlgItem(handle(), IDC_IMPORT_NOTES);
         prepareTable(notes, NoteColumns);
         for (auto& note : importNotes(import_)) {
@@ -58,8 +60,18 @@ private:
         const auto* head = reinterpret_cast<const NMHDR*>(detail);
         if (head->idFrom == IDC_IMPORT_CHANGES && head->code == LVN_GETDISPINFOA) {
             giveCell(reinterpret_cast<NMLVDISPINFOA*>(detail)->item);
+        } else if (head->idFrom == IDC_IMPORT_CHANGES && head->code == LVN_ITEMCHANGED) {
+            showValues();
         }
         return true;
+    }
+
+    /// Long texts, which the table has no room for.
+    void showValues() {
+        const int row = selectedTableRow(GetDlgItem(handle(), IDC_IMPORT_CHANGES));
+        port().setText(IDC_IMPORT_VALUES,
+                       row < 0 ? std::string()
+                               : changedValues(import_.changes()[static_cast<std::size_t>(row)]));
     }
 
     void giveCell(LVITEMA& item) {

@@ -26,6 +26,11 @@ std::array<std::string, SheetChangeHeads.size()> changeCells(const SheetChange& 
     return {std::to_string(change.line), change.unit, change.heading, change.before, change.after};
 }
 
+std::string changedValues(const SheetChange& change) {
+    return std::string(SheetChangeHeads[3]) + ": " + change.before + "\r\n" +
+           std::string(SheetChangeHeads[4]) + ": " + change.after;
+}
+
 std::vector<std::array<std::string, SheetNoteHeads.size()>> importNotes(const SheetImport& import) {
     std::vector<std::array<std::string, SheetNoteHeads.size()>> notes;
     for (const FileFailure& failure : import.failures()) {

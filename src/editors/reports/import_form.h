@@ -16,6 +16,9 @@ inline constexpr std::array<std::string_view, 2> SheetNoteHeads = {"Line", "Refu
 
 std::array<std::string, SheetChangeHeads.size()> changeCells(const SheetChange& change);
 
+/// What a change's file says now and what the sheet says, each on a line of its own.
+std::string changedValues(const SheetChange& change);
+
 /// What the import tells besides the changes, what is refused first.
 std::vector<std::array<std::string, SheetNoteHeads.size()>> importNotes(const SheetImport& import);
 

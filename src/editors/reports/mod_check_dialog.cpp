@@ -3,6 +3,7 @@
 #include "editors/form/clipboard_win32.h"
 #include "editors/form/form_port_win32.h"
 #include "editors/form/table_win32.h"
+#include "editors/reports/result_dialog.h"
 #include "platform/messages.h"
 #include "resources/resource.h"
 
@@ -17,14 +18,15 @@ namespace varrocade {
 namespace {
 
 constexpr std::array<TableColumn, 2> CheckColumns = {{
-    {"File", 420},
-    {"Why", 340},
+    {"File", 370},
+    {"Why", 420},
 }};
 
 struct CheckDialog {
     const ModCheckTools& tools;
     std::vector<ModCheckRow> rows;
     ModCheckOutcome outcome = {};
+    std::size_t moved = 0;
 };
 
 /// The selected rows, in their order.
@@ -66,6 +68,7 @@ void showUsers(HWND dialog, const CheckDialog& context) {
         SendDlgItemMessageA(dialog, IDC_CHECK_USERS, LB_SETCURSEL, 0, 0);
     }
     port.setEnabled(IDC_CHECK_SHOW, chosenUser(dialog, context) != nullptr);
+    port.setEnabled(IDC_CHECK_FOLDER, canMove && selected.size() == 1);
 }
 
 void fillRows(HWND dialog, const CheckDialog& context) {
@@ -75,10 +78,7 @@ void fillRows(HWND dialog, const CheckDialog& context) {
         std::array<std::string, CheckColumns.size()> cells = {row.below, row.reason};
         addTableRow(table, cells);
     }
-    const std::size_t count = context.rows.size();
-    DialogPort(dialog).setText(IDC_CHECK_SUMMARY, count == 0   ? "Nothing was found."
-                                                  : count == 1 ? "One file:"
-                                                               : std::to_string(count) + " files:");
+    DialogPort(dialog).setText(IDC_CHECK_SUMMARY, modCheckSummary(context.rows.size(), context.moved));
     ListView_SetItemState(table, 0, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
     showUsers(dialog, context);
 }
@@ -99,7 +99,8 @@ void moveSelected(HWND dialog, CheckDialog& context) {
     }
     const std::vector<FileFailure> failures =
         recycleModFiles(context.tools.files, context.tools.modFolder, paths);
-    context.outcome.hasMoved = context.outcome.hasMoved || failures.size() < paths.size();
+    context.moved += paths.size() - failures.size();
+    context.outcome.hasMoved = context.moved > 0;
     std::erase_if(context.rows, [&](const ModCheckRow& row) {
         return std::find(paths.begin(), paths.end(), row.path) != paths.end() &&
                std::none_of(failures.begin(), failures.end(),
@@ -122,6 +123,13 @@ void showUser(HWND dialog, CheckDialog& context) {
     }
 }
 
+void openFolderOf(HWND dialog, const CheckDialog& context) {
+    if (const std::vector<std::size_t> selected = selectedRows(dialog); selected.size() == 1) {
+        const std::string& path = context.rows[selected.front()].path;
+        openFolder(dialog, path.substr(0, path.rfind('\\') + 1), "Open folder");
+    }
+}
+
 void copyRows(HWND dialog, const CheckDialog& context) {
     std::string text;
     for (const ModCheckRow& row : context.rows) {
@@ -138,6 +146,9 @@ void onCheckCommand(HWND dialog, CheckDialog& context, int control, int notifica
     switch (control) {
     case IDC_CHECK_RECYCLE:
         moveSelected(dialog, context);
+        break;
+    case IDC_CHECK_FOLDER:
+        openFolderOf(dialog, context);
         break;
     case IDC_CHECK_SHOW:
         showUser(dialog, context);

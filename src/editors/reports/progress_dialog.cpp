@@ -26,8 +26,9 @@ void showProgress(HWND dialog, const ProgressDialog& context) {
                                    (progress.name.empty() ? "" : ": ") + progress.name);
     port.setText(IDC_JOB_TIME, timeToGoText(progress, std::chrono::duration_cast<std::chrono::milliseconds>(
                                                           std::chrono::steady_clock::now() - context.start)));
-    SendDlgItemMessageA(dialog, IDC_JOB_BAR, PBM_SETRANGE32, 0, static_cast<LPARAM>(progress.total));
-    SendDlgItemMessageA(dialog, IDC_JOB_BAR, PBM_SETPOS, progress.done, 0);
+    constexpr int whole = 1000;
+    SendDlgItemMessageA(dialog, IDC_JOB_BAR, PBM_SETRANGE32, 0, whole);
+    SendDlgItemMessageA(dialog, IDC_JOB_BAR, PBM_SETPOS, static_cast<WPARAM>(whole * progress.share()), 0);
 }
 
 /// A part of the work that nobody feels.

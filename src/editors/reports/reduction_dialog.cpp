@@ -21,11 +21,11 @@ namespace varrocade {
 namespace {
 
 constexpr std::array<TableColumn, ReductionHeads.size()> ReductionColumns = {{
-    {ReductionHeads[0], 270},
-    {ReductionHeads[1], 130},
-    {ReductionHeads[2], 70, true},
-    {ReductionHeads[3], 70, true},
-    {ReductionHeads[4], 84},
+    {ReductionHeads[0], 240},
+    {ReductionHeads[1], 134},
+    {ReductionHeads[2], 76, true},
+    {ReductionHeads[3], 76, true},
+    {ReductionHeads[4], 92},
     {ReductionHeads[5], 200},
 }};
 
@@ -50,7 +50,7 @@ public:
         return true;
     }
 
-    [[nodiscard]] bool hasWritten() const { return hasWritten_; }
+    [[nodiscard]] bool hasWritten() const { return written_.count > 0; }
 
 private:
     void init() override {
@@ -85,7 +85,7 @@ private:
     PictureDecoder decoder_;
     Pixmap before_;
     Pixmap after_;
-    bool hasWritten_ = false;
+    WrittenPictures written_;
 };
 
 void ReductionDialog::list() {
@@ -94,7 +94,7 @@ void ReductionDialog::list() {
     for (ReductionRow& row : rows_) {
         addTableRow(table(), row.cells);
     }
-    port().setText(IDC_REDUCE_SUMMARY, reductionSummary(sets_));
+    port().setText(IDC_REDUCE_SUMMARY, reductionSummary(sets_, written_));
     port().setEnabled(IDOK, !setsToWrite(sets_, rows_).empty());
     ListView_SetItemState(table(), 0, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
     followSelection();
@@ -149,7 +149,13 @@ void ReductionDialog::write(const std::vector<ReductionRow>& rows) {
             return !each.content.empty() && each.outcome == ReductionOutcome::Failed;
         });
         isGone[chosen[i]] = isWritten;
-        hasWritten_ = hasWritten_ || isWritten;
+        for (const ReducedPicture& picture : set) {
+            if (isWritten && !picture.content.empty()) {
+                ++written_.count;
+                written_.bytesBefore += picture.bytesBefore;
+                written_.bytesAfter += picture.bytesAfter;
+            }
+        }
     }
     ReducedSets left;
     for (std::size_t i = 0; i < sets_.size(); ++i) {
@@ -189,6 +195,7 @@ void ReductionDialog::followSelection() {
         beforeText = pictureCaption("Now", picture.sizeBefore, picture.bytesBefore);
         afterText = pictureCaption("Then", picture.sizeAfter, picture.bytesAfter);
     }
+    port().setText(IDC_REDUCE_DETAIL, selected.size() == 1 ? reductionDetail(selected[0]) : std::string());
     port().setText(IDC_REDUCE_BEFORE_TEXT, beforeText);
     port().setText(IDC_REDUCE_AFTER_TEXT, afterText);
     InvalidateRect(GetDlgItem(handle(), IDC_REDUCE_BEFORE), nullptr, FALSE);

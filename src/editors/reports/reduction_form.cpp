@@ -37,6 +37,14 @@ struct ReductionSum {
     }
 };
 
+/// "1,200 bytes in the place of 4,800, 75 % less"
+std::string bytesText(std::size_t before, std::size_t after) {
+    constexpr std::size_t whole = 100;
+    const std::size_t percent = before == 0 ? 0 : (before - after) * whole / before;
+    return countOf(after) + " bytes in the place of " + countOf(before) + ", " +
+           (percent == 0 ? "less than 1" : std::to_string(percent)) + " % less";
+}
+
 std::string pixelsText(const ReducedPicture& picture) {
     const auto text = [](PictureSize size) {
         return std::to_string(size.width) + " x " + std::to_string(size.height);
@@ -66,25 +74,33 @@ std::vector<ReductionRow> reductionRows(const ReducedSets& sets) {
     return rows;
 }
 
-std::string reductionSummary(const ReducedSets& sets) {
+std::string reductionSummary(const ReducedSets& sets, const WrittenPictures& written) {
     ReductionSum sum;
     for (const auto& set : sets) {
         std::for_each(set.begin(), set.end(), [&](const ReducedPicture& each) { sum.add(each); });
     }
     std::string text;
-    if (sum.all == 0) {
-        text = "There is no picture.";
-    } else if (sum.written == 0) {
-        text = "None of " + picturesText(sum.all) + " can be smaller.";
-    } else {
-        text = countOf(sum.written) + " of " + picturesText(sum.all) +
-               " can be smaller: " + countOf(sum.bytesAfter) + " bytes in the place of " +
-               countOf(sum.bytesBefore) + ".";
+    if (written.count > 0) {
+        text = picturesText(written.count) + (written.count == 1 ? " was" : " were") +
+               " written: " + bytesText(written.bytesBefore, written.bytesAfter) + ".";
+    }
+    if (sum.all > 0 || written.count == 0) {
+        text += text.empty() ? "" : " ";
+        text += sum.all == 0 ? "There is no picture."
+                : sum.written == 0
+                    ? "None of " + picturesText(sum.all) + " can be smaller."
+                    : countOf(sum.written) + " of " + picturesText(sum.all) +
+                          " can be smaller: " + bytesText(sum.bytesBefore, sum.bytesAfter) + ".";
     }
     if (sum.failed > 0) {
         text += " " + countOf(sum.failed) + " failed.";
     }
     return text;
+}
+
+std::string reductionDetail(const ReductionRow& row) {
+    const auto& [name, pixels, before, after, result, folder] = row.cells;
+    return folder + name + ": " + result;
 }
 
 std::string pictureCaption(std::string_view when, PictureSize size, std::size_t bytes) {
@@ -111,8 +127,8 @@ std::string reductionQuestion(const ReducedSets& sets, std::span<const std::size
         std::for_each(sets[place].begin(), sets[place].end(),
                       [&](const ReducedPicture& each) { sum.add(each); });
     }
-    std::string text = picturesText(sum.written) + " will take " + countOf(sum.bytesAfter) +
-                       " bytes in the place of " + countOf(sum.bytesBefore) + ".\n\n";
+    std::string text =
+        picturesText(sum.written) + " will take " + bytesText(sum.bytesBefore, sum.bytesAfter) + ".\n\n";
     if (sum.scaled == 0) {
         text += "No pixel changes. ";
     } else {

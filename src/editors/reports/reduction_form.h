@@ -25,8 +25,18 @@ struct ReductionRow {
 };
 std::vector<ReductionRow> reductionRows(const ReducedSets& sets);
 
-/// "9 of 12 pictures can be smaller: 1,200 bytes in the place of 4,800."
-std::string reductionSummary(const ReducedSets& sets);
+/// What was written since the window opened.
+struct WrittenPictures {
+    std::size_t count = 0;
+    std::size_t bytesBefore = 0;
+    std::size_t bytesAfter = 0;
+};
+
+/// "9 of 12 pictures can be smaller: 1,200 bytes in the place of 4,800, 75 % less."
+std::string reductionSummary(const ReducedSets& sets, const WrittenPictures& written = {});
+
+/// The path of a row's picture and all that is to be said of it, which its columns have no room for.
+std::string reductionDetail(const ReductionRow& row);
 
 /// What a picture is before or after, for the line above it: "Now: 400 x 900 pixels, 12,345 bytes".
 std::string pictureCaption(std::string_view when, PictureSize size, std::size_t bytes);

@@ -26,7 +26,7 @@ class ResultDialog final : public DialogFrame {
 public:
     explicit ResultDialog(const JobResult& result)
         : DialogFrame(IDD_JOB_RESULT, result.caption, result.caption), result_(result) {
-        onButton(IDC_JOB_OPEN_FOLDER, [this] { openFolder(); });
+        onButton(IDC_JOB_OPEN_FOLDER, [this] { openFolder(handle(), result_.folder, this->caption()); });
     }
 
 private:
@@ -35,25 +35,26 @@ private:
         port().setText(IDC_JOB_FOLDER, result_.folder);
         port().setText(IDC_JOB_DETAILS, withReturns(result_.details));
     }
+    /// Not the text, which would be selected.
+    int firstFocus() override { return IDOK; }
     bool accept() override { return true; }
     bool notice(int, int) override { return true; }
-
-    void openFolder() {
-        // Above 32 it has worked.
-        constexpr INT_PTR greatestFailure = 32;
-        const HINSTANCE opened =
-            ShellExecuteA(handle(), "open", result_.folder.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
-        if (reinterpret_cast<INT_PTR>(opened) <= greatestFailure) {
-            showMessage({.text = result_.folder + "\n\nThe system could not open this folder",
-                         .caption = caption(),
-                         .icon = MessageIcon::Warning});
-        }
-    }
 
     const JobResult& result_;
 };
 
 } // namespace
+
+void openFolder(HWND owner, const std::string& folder, const std::string& caption) {
+    // Above 32 it has worked.
+    constexpr INT_PTR greatestFailure = 32;
+    const HINSTANCE opened = ShellExecuteA(owner, "open", folder.c_str(), nullptr, nullptr, SW_SHOWNORMAL);
+    if (reinterpret_cast<INT_PTR>(opened) <= greatestFailure) {
+        showMessage({.text = folder + "\n\nThe system could not open this folder",
+                     .caption = caption,
+                     .icon = MessageIcon::Warning});
+    }
+}
 
 void showJobResult(HWND owner, const JobResult& result) {
     ResultDialog(result).run(owner);

@@ -19,6 +19,9 @@ struct JobResult {
 
 void showJobResult(HWND owner, const JobResult& result);
 
+/// Has the system show a folder, and tells in a box where it does not.
+void openFolder(HWND owner, const std::string& folder, const std::string& caption);
+
 /// Each failure on a line of its own.
 std::string failureLines(const std::vector<FileFailure>& failures);
 

@@ -9,7 +9,11 @@
 
 #include <algorithm>
 #include <array>
+#include <chrono>
+#include <condition_variable>
 #include <iterator>
+#include <mutex>
+#include <thread>
 #include <unordered_set>
 #include <utility>
 
@@ -155,10 +159,10 @@ void take(ReducedPicture& picture, PngReduction reduction, ReductionOutcome outc
 
 } // namespace
 
-SetReduction::SetReduction(const ReductionSet& set)
-    : set_(&set), isScaling_(std::any_of(set.begin(), set.end(), [](const PictureToReduce& each) {
-          return each.wanted != each.size;
-      })) {
+SetReduction::SetReduction(const ReductionSet& set, SearchWatch watch)
+    : set_(&set), watch_(std::move(watch)),
+      isScaling_(std::any_of(set.begin(), set.end(),
+                             [](const PictureToReduce& each) { return each.wanted != each.size; })) {
     pictures_.reserve(set.size());
 }
 
@@ -175,11 +179,15 @@ bool SetReduction::step() {
     if (isScaling_) {
         scaleNext();
     } else if (next_ < pictures_.size()) {
-        ReducedPicture& picture = pictures_[next_++];
+        ReducedPicture& picture = pictures_[next_];
         if (picture.outcome != ReductionOutcome::Failed) {
-            take(picture, recompressedPng(picture.former), ReductionOutcome::Recompressed,
+            take(picture, recompressedPng(picture.former, watch_), ReductionOutcome::Recompressed,
                  picture.sizeBefore);
+            if (picture.outcome != ReductionOutcome::Failed) {
+                picture.reason = notScaled_;
+            }
         }
+        ++next_;
     }
     return next_ < pictures_.size();
 }
@@ -189,10 +197,12 @@ void SetReduction::scaleNext() {
     ReducedPicture scaled = pictures_[next_];
     if (scaled.outcome != ReductionOutcome::Failed) {
         const PictureSize wanted = (*set_)[next_].wanted;
-        take(scaled, scaledPng(scaled.former, wanted), ReductionOutcome::Scaled, wanted);
+        take(scaled, scaledPng(scaled.former, wanted, watch_), ReductionOutcome::Scaled, wanted);
     }
     if (scaled.outcome != ReductionOutcome::Scaled) {
         isScaling_ = false;
+        notScaled_ = "not scaled, since \"" + scaled.below.substr(scaled.below.rfind('\\') + 1) + "\" " +
+                     (scaled.reason.empty() ? "would become no smaller" : scaled.reason);
         scaled_.clear();
         next_ = 0;
         return;
@@ -211,50 +221,120 @@ std::vector<ReducedPicture> reduceSet(const ReductionSet& set) {
     return std::move(reduction.pictures());
 }
 
+/// What the job's thread works on. Whoever comes last of the two gives it back.
+struct ReductionJob::Work {
+    std::vector<ReductionSet> sets;
+    std::mutex lock; ///< of what follows
+    std::condition_variable ended;
+    std::vector<std::vector<ReducedPicture>> results = {};
+    JobProgress progress = {};
+    bool isUnwanted = false;
+    bool isDone = false;
+};
+
 void ReductionJob::start(const GameFolders& folders, const ReductionOptions& options,
                          std::optional<SquadRecord> open) {
+    abandon();
     plan_.start(folders, options, std::move(open));
-    isPlanned_ = false;
-    present_.reset();
-    donePictures_ = allPictures_ = 0;
     results_.clear();
 }
 
-void ReductionJob::beginSet() {
-    if (results_.size() < plan_.sets().size()) {
-        present_.emplace(plan_.sets()[results_.size()]);
+void ReductionJob::abandon() {
+    if (work_) {
+        const std::lock_guard guard(work_->lock);
+        work_->isUnwanted = true;
     }
+    work_.reset();
 }
 
-bool ReductionJob::step() {
-    if (!isPlanned_) {
-        isPlanned_ = !plan_.step();
-        if (isPlanned_) {
-            for (const ReductionSet& set : plan_.sets()) {
-                allPictures_ += set.size();
-            }
-            beginSet();
+namespace {
+
+std::size_t pixelsOf(const PictureToReduce& picture) {
+    return static_cast<std::size_t>(picture.wanted.width) * static_cast<std::size_t>(picture.wanted.height);
+}
+
+} // namespace
+
+void ReductionJob::beginWork() {
+    work_ = std::make_shared<Work>();
+    work_->sets = plan_.sets();
+    for (const ReductionSet& set : work_->sets) {
+        for (const PictureToReduce& picture : set) {
+            ++work_->progress.total;
+            work_->progress.workTotal += pixelsOf(picture);
         }
-    } else if (present_ && !present_->step()) {
-        for (ReducedPicture& picture : present_->pictures()) {
-            if (picture.content.empty()) {
+    }
+    std::thread(reduceAll, work_).detach();
+}
+
+/// On the job's thread.
+void ReductionJob::reduceAll(const std::shared_ptr<Work>& work) {
+    JobProgress before = work->progress; // with the sets that are done
+    for (const ReductionSet& set : work->sets) {
+        std::optional<SetReduction> reduction;
+        const auto goesOn = [&](double share) {
+            JobProgress now = before;
+            const std::size_t done = reduction->done();
+            now.done += done;
+            now.name = reduction->nextName();
+            for (std::size_t i = 0; i < done; ++i) {
+                now.workDone += pixelsOf(set[i]);
+            }
+            if (done < set.size()) {
+                now.workDone += static_cast<std::size_t>(share * static_cast<double>(pixelsOf(set[done])));
+            }
+            const std::lock_guard guard(work->lock);
+            work->progress = std::move(now);
+            return !work->isUnwanted;
+        };
+        reduction.emplace(set, goesOn);
+        bool isMore = true;
+        while (isMore) {
+            if (!goesOn(0)) {
+                return;
+            }
+            isMore = reduction->step();
+        }
+        before.done += set.size();
+        for (std::size_t i = 0; i < set.size(); ++i) {
+            before.workDone += pixelsOf(set[i]);
+            if (ReducedPicture& picture = reduction->pictures()[i]; picture.content.empty()) {
                 picture.former = {};
             }
         }
-        donePictures_ += present_->pictures().size();
-        results_.push_back(std::move(present_->pictures()));
-        present_.reset();
-        beginSet();
+        const std::lock_guard guard(work->lock);
+        work->results.push_back(std::move(reduction->pictures()));
     }
-    return !isPlanned_ || present_;
+    const std::lock_guard guard(work->lock);
+    before.name.clear();
+    work->progress = std::move(before);
+    work->isDone = true;
+    work->ended.notify_one();
+}
+
+bool ReductionJob::step() {
+    if (!work_) {
+        if (!plan_.step()) {
+            beginWork();
+        }
+        return true;
+    }
+    // Whoever drives the job in a loop need not spin.
+    constexpr std::chrono::milliseconds patience{10};
+    std::unique_lock guard(work_->lock);
+    if (!work_->ended.wait_for(guard, patience, [this] { return work_->isDone; })) {
+        return true;
+    }
+    results_ = std::move(work_->results);
+    return false;
 }
 
 JobProgress ReductionJob::progress() const {
-    if (!isPlanned_) {
+    if (!work_) {
         return plan_.progress();
     }
-    return {donePictures_ + (present_ ? present_->done() : 0), allPictures_,
-            present_ ? present_->nextName() : std::string()};
+    const std::lock_guard guard(work_->lock);
+    return work_->progress;
 }
 
 std::optional<FileFailure> writeReducedSet(FileOperations& files, BackupKeeper& backups,

@@ -2,6 +2,7 @@
 // "Reduce image sizes": which pictures of a game or mod are made smaller, and doing it.
 
 #include "data/game_files.h"
+#include "pictures/png_codec.h"
 #include "platform/backups.h"
 #include "tools/job.h"
 #include "tools/pictures/picture_sets.h"
@@ -91,44 +92,53 @@ std::vector<ReducedPicture> reduceSet(const ReductionSet& set);
 /// The same in steps of a picture.
 class SetReduction {
 public:
-    explicit SetReduction(const ReductionSet& set);
+    explicit SetReduction(const ReductionSet& set, SearchWatch watch = {});
     /// False when nothing is left to do.
     bool step();
     [[nodiscard]] std::vector<ReducedPicture>& pictures() { return pictures_; }
-    /// How many pictures are done, at least.
-    [[nodiscard]] std::size_t done() const { return isScaling_ ? 0 : next_; }
+    /// How many pictures are done. Where one cannot be scaled, they begin anew.
+    [[nodiscard]] std::size_t done() const { return next_; }
     [[nodiscard]] const std::string& nextName() const;
 
 private:
     void scaleNext();
 
     const ReductionSet* set_;
+    SearchWatch watch_; ///< of the picture at hand
     std::vector<ReducedPicture> pictures_;
     std::vector<ReducedPicture> scaled_; ///< counts once all are scaled
     bool isScaling_;
+    std::string notScaled_; ///< why
     std::size_t next_ = 0;
 };
 
-/// Plans and makes smaller in steps of a file or a picture, for a window; nothing is written.
+/// Plans in steps of a file, then makes the pictures smaller on a thread of its own, for a window: a large
+/// picture takes seconds. Nothing is written. A job that is dropped does not wait for the thread, which ends
+/// by itself after the next file that it tries.
 class ReductionJob : public Job {
 public:
+    ReductionJob() = default;
+    ReductionJob(const ReductionJob&) = delete;
+    ReductionJob& operator=(const ReductionJob&) = delete;
+    ~ReductionJob() override { abandon(); }
+
     void start(const GameFolders& folders, const ReductionOptions& options,
                std::optional<SquadRecord> open = std::nullopt);
     bool step() override;
     [[nodiscard]] JobProgress progress() const override;
     /// Units that could not be read; pictures tell in `results`.
     [[nodiscard]] std::vector<FileFailure> failures() const override { return plan_.failures(); }
-    /// The sets that are done so far.
+    /// The sets, once all is done.
     [[nodiscard]] std::vector<std::vector<ReducedPicture>>& results() { return results_; }
 
 private:
-    void beginSet();
+    struct Work;
+    static void reduceAll(const std::shared_ptr<Work>& work);
+    void beginWork();
+    void abandon();
 
     ReductionPlan plan_;
-    bool isPlanned_ = false;
-    std::optional<SetReduction> present_; ///< the set at hand
-    std::size_t donePictures_ = 0;        ///< of the sets that are done
-    std::size_t allPictures_ = 0;
+    std::shared_ptr<Work> work_; ///< shared with the thread
     std::vector<std::vector<ReducedPicture>> results_;
 };
 

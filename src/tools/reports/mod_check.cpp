@@ -33,6 +33,19 @@ ReferenceUser userOfFile(Category category, const AssetFile& file) {
     return {std::move(name), std::move(data)};
 }
 
+std::string modCheckSummary(std::size_t found, std::size_t moved) {
+    std::string text;
+    if (moved > 0) {
+        text = moved == 1 ? "One file was moved to the recycle bin. "
+                          : std::to_string(moved) + " files were moved to the recycle bin. ";
+    }
+    const std::string_view left = moved > 0 ? " is left:" : ":";
+    return text + (found > 1    ? std::to_string(found) + " files" + (moved > 0 ? " are left:" : ":")
+                   : found == 1 ? "One file" + std::string(left)
+                   : moved > 0  ? "None is left."
+                                : "Nothing was found.");
+}
+
 std::string recycleQuestion(const std::vector<ModCheckRow>& rows) {
     constexpr std::size_t most = 15;
     std::string text = rows.size() == 1 ? "This file would be moved to the recycle bin:\n"

@@ -27,6 +27,9 @@ public:
 /// A data file as somebody to look at.
 ReferenceUser userOfFile(Category category, const AssetFile& file);
 
+/// "3 files:" or that there is none, and how many were moved away.
+std::string modCheckSummary(std::size_t found, std::size_t moved);
+
 /// What is asked before files go: how many, and which, as far as a box has room.
 std::string recycleQuestion(const std::vector<ModCheckRow>& rows);
 

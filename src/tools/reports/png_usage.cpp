@@ -22,8 +22,7 @@ std::vector<ReportFile> PngUsage::files() {
             }
             const std::vector<std::size_t>* users = scan_.usersOf(file);
             std::string& list = users == nullptr ? unused : used;
-            list += file.below();
-            list += LineEnd;
+            list.append(file.folder).append(file.name).append(LineEnd);
             if (users != nullptr) {
                 appendUsers(used, scan_, *users);
             }

@@ -72,6 +72,9 @@ void ReferenceScan::list() {
     std::stable_partition(all.begin(), all.end(),
                           [](const GameFile& file) { return file.category == Category::Weapons; });
     users_.reserve(all.size() + 2);
+    // A unit has some pictures of its own.
+    constexpr std::size_t filesAUnit = 4;
+    usages_.reserve(filesAUnit * all.size());
     users_.push_back({.name = "the game"});
     forEachGameReference([this](const Reference& reference) {
         // What the game would take if there were one is not missing.
@@ -90,7 +93,9 @@ void ReferenceScan::list() {
 }
 
 void ReferenceScan::read(const GameFile& file, std::string_view content) {
-    users_.push_back({std::string(categoryName(file.category)) + ": " + file.name, file});
+    std::string name(categoryName(file.category));
+    name.append(": ").append(file.name);
+    users_.push_back({std::move(name), file});
     Diagnostics diagnostics;
     if (file.category == Category::Weapons) {
         const WeaponRecord weapon = readWeapon(content, file.name, diagnostics);
@@ -137,7 +142,7 @@ std::vector<MissingFile> ReferenceScan::missing() const {
 
 void appendUsers(std::string& text, const ReferenceScan& scan, const std::vector<std::size_t>& users) {
     for (const std::size_t user : users) {
-        text += "\t" + scan.users()[user].name + "\r\n";
+        text.append(1, '\t').append(scan.users()[user].name).append("\r\n");
     }
 }
 

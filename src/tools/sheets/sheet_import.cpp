@@ -230,8 +230,14 @@ void SheetImport::keepChanges(Row& row, const Record& before, const Record& afte
         return;
     }
     if (const CellValue* lost = lostValue(*category_, before, after, row.changed)) {
-        tell(Severity::Error, line, name + ": the file would not keep " + quoted(lost->second), lost->first,
-             lost->second);
+        // The changes of this row are the last ones.
+        const auto place = static_cast<std::size_t>(lost - row.changed.data());
+        const std::string& heading = changes_[changes_.size() - row.changed.size() + place].heading;
+        const bool hasLines = lost->second.find_first_of("\r\n") != std::string::npos;
+        tell(Severity::Error, line,
+             name + ": \"" + heading + "\": the file would not keep " +
+                 (hasLines ? "the line ends in " : "") + quoted(lost->second),
+             lost->first, lost->second);
     }
     for (const Finding& finding : newFindings(before, after)) {
         tell(Severity::Error, line, name + ": " + finding.message, finding.field, finding.value);

@@ -10,7 +10,7 @@ namespace varrocade {
 
 namespace {
 
-constexpr char Mark = '\'';
+constexpr char TextMark = '\'';
 constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
 constexpr unsigned char FirstNotAscii = 0x80;
 
@@ -62,7 +62,7 @@ std::optional<std::uint32_t> takeCharacter(std::string_view& text) {
     return character;
 }
 
-bool isUtf8(std::string_view text) {
+bool isWholeUtf8(std::string_view text) {
     while (!text.empty()) {
         if (!takeCharacter(text)) {
             return false;
@@ -158,10 +158,6 @@ char separatorOf(std::string_view text) {
     return place == std::string_view::npos ? '\t' : first[place];
 }
 
-} // namespace
-
-namespace {
-
 constexpr bool separates(char c) {
     return c == '\t' || c == '"' || c == '\r' || c == '\n';
 }
@@ -195,7 +191,7 @@ bool needsMark(std::string_view text) {
 
 void appendTextCell(std::string& out, std::string_view text) {
     if (needsMark(text)) {
-        std::string marked(1, Mark);
+        std::string marked(1, TextMark);
         marked += text;
         appendPlainCell(out, marked);
     } else {
@@ -204,7 +200,7 @@ void appendTextCell(std::string& out, std::string_view text) {
 }
 
 std::string_view withoutMark(std::string_view cell) {
-    return cell.starts_with(Mark) ? cell.substr(1) : cell;
+    return cell.starts_with(TextMark) ? cell.substr(1) : cell;
 }
 
 std::string sheetFile(std::string table) {
@@ -255,7 +251,7 @@ Spreadsheet readTable(std::string_view file) {
     if (file.starts_with(ByteOrderMark)) {
         file.remove_prefix(ByteOrderMark.size());
     }
-    table.isUtf8 = isUtf8(file);
+    table.isUtf8 = isWholeUtf8(file);
     TableReader reader(file, separatorOf(file));
     if (!reader.isAtEnd()) {
         table.headings = reader.row().cells;

@@ -66,8 +66,9 @@ void generateThumbnails() {
     }
     std::string details;
     for (const PlannedSheet& sheet : job.sheets()) {
-        details +=
-            isDone ? sheetFile(sheet) + ": " + std::to_string(sheet.count) + " vehicles\n" : std::string();
+        details += isDone ? sheetFile(sheet) + ": " + std::to_string(sheet.count) +
+                                (sheet.count == 1 ? " vehicle\n" : " vehicles\n")
+                          : std::string();
     }
     if (const std::vector<FileFailure> failures = job.failures(); !failures.empty()) {
         details += "\nThese failed:\n" + failureLines(failures);
