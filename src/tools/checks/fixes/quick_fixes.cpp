@@ -26,7 +26,7 @@ struct TextEdit {
 };
 
 /// From the last one of the file to the first: so each leaves the places of the others.
-using TextEdits = std::vector<TextEdit>;
+using FixEdits = std::vector<TextEdit>;
 
 std::size_t offsetOf(std::string_view content, const Finding& finding) {
     const LineIndex lines(content);
@@ -52,8 +52,8 @@ std::string tagged(std::string_view name, std::string_view text) {
 }
 
 /// Behind the weapon, as lines of their own where the weapon has one.
-TextEdits ammunitionEdits(std::string_view content, std::size_t at, const Finding& finding,
-                          const std::vector<UsualLoad>& loads) {
+FixEdits ammunitionEdits(std::string_view content, std::size_t at, const Finding& finding,
+                         const std::vector<UsualLoad>& loads) {
     const std::string opening = "<" + std::string(element::Weapon) + ">";
     const std::string closing = "</" + std::string(element::Weapon) + ">";
     const std::size_t begin = content.rfind(opening, at);
@@ -86,7 +86,7 @@ TextEdits ammunitionEdits(std::string_view content, std::size_t at, const Findin
 }
 
 /// An element's name, in both of its tags.
-TextEdits renameEdits(std::string_view content, std::size_t at, const Finding& finding) {
+FixEdits renameEdits(std::string_view content, std::size_t at, const Finding& finding) {
     const std::string opening = tagText(finding.value);
     const std::string closing = "</" + finding.value + ">";
     const std::size_t end = content.find(closing, at);
@@ -97,7 +97,7 @@ TextEdits renameEdits(std::string_view content, std::size_t at, const Finding& f
             {at, opening.size(), "<" + finding.replacement + ">"}};
 }
 
-TextEdits valueEdits(std::string_view content, std::size_t at, const Finding& finding) {
+FixEdits valueEdits(std::string_view content, std::size_t at, const Finding& finding) {
     const bool isTag = finding.value.starts_with('<');
     const std::size_t end = isTag ? at + finding.value.size() : content.find('<', at);
     const std::size_t found = content.substr(0, end).find(finding.value, at);
@@ -107,7 +107,7 @@ TextEdits valueEdits(std::string_view content, std::size_t at, const Finding& fi
     return {{found, finding.value.size(), finding.replacement}};
 }
 
-TextEdits editsFor(const CheckKnowledge& knowledge, std::string_view content, const Finding& finding) {
+FixEdits editsFor(const CheckKnowledge& knowledge, std::string_view content, const Finding& finding) {
     if (quickFixName(knowledge, finding).empty()) {
         return {};
     }
@@ -188,7 +188,7 @@ FixedText fixText(const CheckKnowledge& knowledge, Category category, std::strin
     std::vector<Finding> present = check(content);
     for (const Finding* finding : fromBehind) {
         std::string text = result.text;
-        const TextEdits edits = editsFor(knowledge, text, *finding);
+        const FixEdits edits = editsFor(knowledge, text, *finding);
         for (const TextEdit& edit : edits) {
             text.replace(edit.begin, edit.length, edit.text);
         }
