@@ -5,6 +5,7 @@
 #include "view/drawing/traverse.h"
 #include "view/painting/paint_device.h"
 
+#include <algorithm>
 #include <cmath>
 #include <string>
 #include <variant>
@@ -175,16 +176,21 @@ public:
         if (items.empty()) {
             return;
         }
+        // Lines only tell more of what they stand beside: where a part has a picture or a mark, that is it.
+        const auto body = std::find_if(items.rbegin(), items.rend(), [](const DrawItem* item) {
+            return !std::holds_alternative<LineItem>(*item);
+        });
+        const DrawItem& shown = body == items.rend() ? *items.back() : **body;
         // Dark on a wider light line can be seen on every ground.
         const GdiObject<HPEN> light(CreatePen(PS_SOLID, objects_.scaled(4), RGB(255, 255, 255)));
         const GdiObject<HPEN> dark(CreatePen(PS_SOLID, objects_.scaled(2), GetSysColor(COLOR_HIGHLIGHT)));
         const Selection brush(device_, GetStockObject(NULL_BRUSH));
         for (const HPEN pen : {light.get(), dark.get()}) {
             const Selection selectedPen(device_, pen);
-            std::visit([this](const auto& item) { surround(item); }, *items.back());
+            std::visit([this](const auto& item) { surround(item); }, shown);
         }
         if (!view.caption.empty()) {
-            std::visit([&](const auto& item) { caption(view.caption, pixel(placeOf(item))); }, *items.back());
+            std::visit([&](const auto& item) { caption(view.caption, pixel(placeOf(item))); }, shown);
         }
     }
 
