@@ -63,8 +63,9 @@ TEST_F(FailureTest, FileThatVanished) {
         // Another file vanishes, then the one that is open.
         for (const std::size_t gone : {1U, 2U}) {
             const std::string file = dataFile(all[gone], category.name);
+            const int place = list().indexOf(all[gone]);
             game.remove(file);
-            list().startChoosing(all[gone]);
+            list().startChoosing(place);
             // The editor may have noticed by itself, and the file has left the list.
             const auto isListed = [&] {
                 const std::vector<std::string> left = entries();

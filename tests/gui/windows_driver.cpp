@@ -161,7 +161,11 @@ void Window::choose(std::string_view text) const {
 }
 
 void Window::startChoosing(std::string_view text) const {
-    send(isComboBox() ? CB_SETCURSEL : LB_SETCURSEL, static_cast<WPARAM>(indexOf(text)));
+    startChoosing(indexOf(text));
+}
+
+void Window::startChoosing(int index) const {
+    send(isComboBox() ? CB_SETCURSEL : LB_SETCURSEL, static_cast<WPARAM>(index));
     Window(GetParent(handle_)).post(WM_COMMAND, selectionNotice(), reinterpret_cast<LPARAM>(handle_));
 }
 

@@ -80,11 +80,14 @@ public:
     [[nodiscard]] std::vector<std::string> choices() const;
     /// The text of the selected entry of a list box, or empty.
     [[nodiscard]] std::string selectedText() const;
+    /// The place of an entry, which must be there.
+    [[nodiscard]] int indexOf(std::string_view text) const;
     /// Selects an entry of a list box or a drop-down list and tells the parent, as a click does.
     void choose(int index) const;
     void choose(std::string_view text) const;
     /// The same without waiting, where it opens a box.
     void startChoosing(std::string_view text) const;
+    void startChoosing(int index) const;
 
     /// Selects rows of a table, from the first to the last one, and no others.
     void selectRows(int first, int last) const;
@@ -93,7 +96,6 @@ private:
     [[nodiscard]] std::vector<std::string> texts(UINT countMessage, UINT lengthMessage,
                                                  UINT textMessage) const;
     [[nodiscard]] bool isComboBox() const { return className() == "ComboBox"; }
-    [[nodiscard]] int indexOf(std::string_view text) const;
     /// The parameter with which this control tells its parent that another entry is selected.
     [[nodiscard]] WPARAM selectionNotice() const;
 
