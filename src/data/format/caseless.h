@@ -12,7 +12,7 @@
 namespace varrocade {
 
 struct CaselessHash {
-    using is_transparent = void;
+    using is_transparent = void; // NOLINT(readability-identifier-naming): the library's own name
     std::size_t operator()(std::string_view text) const {
         // Eight letters at once. The bit that tells small from capital letters is set in all bytes: that
         // makes a few other characters alike too, which only a comparison has to tell apart.
@@ -29,7 +29,7 @@ struct CaselessHash {
 };
 
 struct CaselessEqual {
-    using is_transparent = void;
+    using is_transparent = void; // NOLINT(readability-identifier-naming): the library's own name
     bool operator()(std::string_view a, std::string_view b) const {
         // Names are mostly written as the file has them.
         return a == b || (a.size() == b.size() && equalsIgnoringCase(a, b));
