@@ -16,13 +16,13 @@ struct CaselessHash {
     std::size_t operator()(std::string_view text) const {
         // Eight letters at once. The bit that tells small from capital letters is set in all bytes: that
         // makes a few other characters alike too, which only a comparison has to tell apart.
-        constexpr std::uint64_t small = 0x2020202020202020U;
+        constexpr std::uint64_t smallLetters = 0x2020202020202020U;
         constexpr std::uint64_t spread = 0x9E3779B97F4A7C15U;
         std::uint64_t hash = text.size();
         for (; !text.empty(); text.remove_prefix(std::min(text.size(), sizeof hash))) {
             std::uint64_t word = 0;
             std::memcpy(&word, text.data(), std::min(text.size(), sizeof word));
-            hash = ((hash << 5U | hash >> 59U) ^ (word | small)) * spread;
+            hash = ((hash << 5U | hash >> 59U) ^ (word | smallLetters)) * spread;
         }
         return static_cast<std::size_t>(hash ^ hash >> 32U);
     }
