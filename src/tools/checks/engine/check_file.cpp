@@ -213,6 +213,8 @@ std::string pathOfFinding(Category category, std::string_view content, const Fin
 }
 
 void readForCheck(const FileToCheck& file, ReadUnitFile& into) {
+    into.unit = {};
+    into.diagnostics.clear();
     into.unit.fileName = file.name;
     into.tree.parse(file.content);
     ReaderFindings ofReader(into.diagnostics, file.name, into.tree, file.content);

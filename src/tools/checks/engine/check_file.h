@@ -23,13 +23,15 @@ struct FileToCheck {
     bool looksIntoPictures = false;
 };
 
-/// A unit's file taken apart and read, for those who look at it twice.
+/// A unit's file taken apart and read, for those who look at it twice; one after the other for those who look
+/// at many.
 struct ReadUnitFile {
     TagTree tree;
     SquadRecord unit;
     Diagnostics diagnostics; ///< of the reader
 };
 
+/// What `into` held before is dropped.
 void readForCheck(const FileToCheck& file, ReadUnitFile& into);
 
 /// Everything about a unit's or weapon's file, by its lines: what its text is like, and, where that can be

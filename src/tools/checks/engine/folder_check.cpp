@@ -78,88 +78,115 @@ void FolderCheck::list(const GameFolders& folders) {
     }
 }
 
-void FolderCheck::survey(CheckedFile& entry, UnitSurvey& survey) const {
-    if (!readWholeFile(entry.file.path, entry.content)) {
-        Finding finding = cannotRead({entry.shown, systemFiles().lastError()});
-        finding.file = entry.shown;
-        finding.line = 1;
-        finding.column = 1;
-        entry.found.push_back(std::move(finding));
+/// A file that cannot be read has that as its one finding.
+bool FolderCheck::read(CheckedFile& entry, std::string& content) const {
+    if (readWholeFile(entry.file.path, content)) {
+        return true;
+    }
+    Finding finding = cannotRead({entry.shown, systemFiles().lastError()});
+    finding.file = entry.shown;
+    finding.line = 1;
+    finding.column = 1;
+    entry.found.assign(1, std::move(finding));
+    return false;
+}
+
+void FolderCheck::look(std::size_t number, Desk& desk, UnitSurvey& survey) {
+    CheckedFile& entry = files_[number];
+    if (!read(entry, desk.content)) {
         return;
     }
     if (entry.file.category != Category::Weapons) {
-        auto read = std::make_unique<ReadUnitFile>();
-        readForCheck(entry.toCheck(), *read);
-        survey.add(entry.file.category, entry.shown, read->unit);
-        entry.read = entry.isChecked ? std::move(read) : nullptr;
+        readForCheck(toCheck(entry, desk), desk.read);
+        survey.add(static_cast<std::uint32_t>(number), entry.file.category, entry.shown, desk.read.unit);
+    }
+    check(entry, desk);
+}
+
+void FolderCheck::lookAgain(std::size_t number, Desk& desk) {
+    CheckedFile& entry = files_[number];
+    if (entry.isChecked && read(entry, desk.content)) {
+        readForCheck(toCheck(entry, desk), desk.read);
+        check(entry, desk);
     }
 }
 
-void FolderCheck::check(CheckedFile& entry) const {
-    if (!entry.isChecked || !entry.found.empty()) {
+FileToCheck FolderCheck::toCheck(const CheckedFile& entry, const Desk& desk) const {
+    return {entry.file.category, entry.file.name, entry.shown, desk.content, looksIntoPictures_};
+}
+
+/// Checks what lies on the desk.
+void FolderCheck::check(CheckedFile& entry, Desk& desk) const {
+    if (!entry.isChecked) {
         return;
     }
-    entry.found = checkFile(knowledge_, entry.toCheck(looksIntoPictures_), entry.read.get());
-    entry.read.reset();
+    const bool isWeapon = entry.file.category == Category::Weapons;
+    entry.found = checkFile(knowledge_, toCheck(entry, desk), isWeapon ? nullptr : &desk.read);
     std::erase_if(entry.found, [this](const Finding& finding) { return suppressions_.covers(finding); });
-    if (entry.found.empty()) {
-        entry.content = {};
-    }
+    entry.content = entry.found.empty() ? std::string() : desk.content;
 }
 
 void FolderCheck::finishSurvey() {
-    survey_.finish(knowledge_);
+    outstanding_ = survey_.finish(knowledge_);
 }
 
 bool FolderCheck::step() {
-    if (surveyed_ < files_.size()) {
-        survey(files_[surveyed_++], survey_);
-        if (surveyed_ == files_.size()) {
+    if (looked_ < files_.size()) {
+        look(looked_++, desk_, survey_);
+        if (looked_ == files_.size()) {
             finishSurvey();
         }
         return true;
     }
-    if (checked_ < files_.size()) {
-        check(files_[checked_++]);
+    if (lookedAgain_ < outstanding_.size()) {
+        lookAgain(outstanding_[lookedAgain_++], desk_);
     }
     return !isDone();
 }
 
-void FolderCheck::run(std::size_t threads) {
-    constexpr std::size_t filesPerTurn = 16;
-    const std::size_t cores = std::max(1U, std::thread::hardware_concurrency());
-    const std::size_t most = files_.size() / filesPerTurn + 1;
-    threads = std::min(threads == 0 ? cores : threads, most);
-    std::atomic<std::size_t> next = surveyed_;
-    const auto share = [&](auto visit) {
-        for (std::size_t from = next.fetch_add(filesPerTurn); from < files_.size();
-             from = next.fetch_add(filesPerTurn)) {
-            for (std::size_t i = from; i < std::min(from + filesPerTurn, files_.size()); ++i) {
-                visit(files_[i]);
+namespace {
+
+/// Calls `visit(thread, i)` with each number from `from` below `count`, on so many threads.
+template <typename Visit>
+void share(std::size_t threads, std::size_t from, std::size_t count, Visit visit) {
+    constexpr std::size_t perTurn = 16;
+    std::atomic<std::size_t> next = from;
+    inThreads(std::min(threads, (count - from) / perTurn + 1), [&](std::size_t thread) {
+        for (std::size_t begin = next.fetch_add(perTurn); begin < count; begin = next.fetch_add(perTurn)) {
+            for (std::size_t i = begin; i < std::min(begin + perTurn, count); ++i) {
+                visit(thread, i);
             }
         }
-    };
-    if (surveyed_ < files_.size()) {
+    });
+}
+
+} // namespace
+
+void FolderCheck::run(std::size_t threads) {
+    threads = threads == 0 ? std::max(1U, std::thread::hardware_concurrency()) : threads;
+    std::vector<Desk> desks(threads);
+    if (looked_ < files_.size()) {
         std::vector<UnitSurvey> surveys(threads, UnitSurvey(knowledge_));
-        inThreads(threads, [&](std::size_t thread) {
-            share([&](CheckedFile& file) { survey(file, surveys[thread]); });
-        });
+        share(threads, looked_, files_.size(),
+              [&](std::size_t thread, std::size_t i) { look(i, desks[thread], surveys[thread]); });
         for (UnitSurvey& one : surveys) {
             survey_.join(std::move(one));
         }
-        surveyed_ = files_.size();
+        looked_ = files_.size();
         finishSurvey();
     }
-    next = checked_;
-    inThreads(threads, [&](std::size_t) { share([&](CheckedFile& file) { check(file); }); });
-    checked_ = files_.size();
+    share(threads, lookedAgain_, outstanding_.size(),
+          [&](std::size_t thread, std::size_t i) { lookAgain(outstanding_[i], desks[thread]); });
+    lookedAgain_ = outstanding_.size();
 }
 
 WalkProgress FolderCheck::progress() const {
-    const std::size_t done = surveyed_ + checked_;
-    const std::size_t at = surveyed_ < files_.size() ? surveyed_ : checked_;
-    return {.done = done,
-            .total = 2 * files_.size(),
+    const bool isFirstLook = looked_ < files_.size();
+    const std::size_t at = isFirstLook                          ? looked_
+                           : lookedAgain_ < outstanding_.size() ? outstanding_[lookedAgain_]
+                                                                : files_.size();
+    return {.done = looked_ + lookedAgain_,
+            .total = files_.size() + outstanding_.size(),
             .name = at < files_.size() ? std::string_view(files_[at].file.name) : std::string_view()};
 }
 

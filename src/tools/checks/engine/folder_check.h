@@ -1,5 +1,6 @@
 #pragma once
-// Checking all files of a game or mod: first what is usual among them, then each.
+// Checking all files of a game or mod: each as soon as it is read, and those that stand out among all of them
+// once more.
 
 #include "data/finding.h"
 #include "data/game_files.h"
@@ -8,6 +9,7 @@
 #include "tools/checks/engine/suppressions.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -34,7 +36,9 @@ public:
     void run(std::size_t threads = 0);
 
     [[nodiscard]] WalkProgress progress() const;
-    [[nodiscard]] bool isDone() const { return checked_ == files_.size(); }
+    [[nodiscard]] bool isDone() const {
+        return looked_ == files_.size() && lookedAgain_ == outstanding_.size();
+    }
 
     /// What was found so far, in the order of the files and their lines.
     [[nodiscard]] std::vector<Finding> findings() const;
@@ -63,19 +67,22 @@ private:
     struct CheckedFile {
         GameFile file;
         std::string shown;
-        std::string content = {};
-        bool isChecked = true;                   ///< otherwise it is only compared with
-        std::unique_ptr<ReadUnitFile> read = {}; ///< between its survey and its check
+        std::string content = {}; ///< of a file with findings
+        bool isChecked = true;    ///< otherwise it is only compared with
         std::vector<Finding> found = {};
-
-        [[nodiscard]] FileToCheck toCheck(bool looksIntoPictures = false) const {
-            return {file.category, file.name, shown, content, looksIntoPictures};
-        }
+    };
+    /// What a thread uses again for one file after the other.
+    struct Desk {
+        std::string content;
+        ReadUnitFile read;
     };
 
     void list(const GameFolders& folders);
-    void survey(CheckedFile& file, UnitSurvey& survey) const;
-    void check(CheckedFile& file) const;
+    bool read(CheckedFile& file, std::string& content) const;
+    void look(std::size_t number, Desk& desk, UnitSurvey& survey);
+    void lookAgain(std::size_t number, Desk& desk);
+    void check(CheckedFile& file, Desk& desk) const;
+    [[nodiscard]] FileToCheck toCheck(const CheckedFile& file, const Desk& desk) const;
     void finishSurvey();
     bool looksIntoPictures_;
     CheckKnowledge knowledge_;
@@ -84,8 +91,11 @@ private:
     std::vector<Finding> ofFolder_; ///< of the list of suppressions and of the mod's settings
     std::string modContent_;
     UnitSurvey survey_{knowledge_};
-    std::size_t surveyed_ = 0;
-    std::size_t checked_ = 0;
+    std::size_t looked_ = 0; ///< how many of the files were looked at
+    /// The files that may have more findings by what is usual among all of them.
+    std::vector<std::uint32_t> outstanding_;
+    std::size_t lookedAgain_ = 0; ///< how many of those
+    Desk desk_;
     std::optional<FileFailure> failure_;
 };
 

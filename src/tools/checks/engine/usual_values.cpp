@@ -32,10 +32,11 @@ constexpr double OfNormal = 1.4826;
 constexpr double LeastPower = 1.5;
 constexpr double GreatestPower = 60.0;
 
-double median(std::vector<double>& values) {
-    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
-    std::nth_element(values.begin(), middle, values.end());
-    return *middle;
+/// The value that would stand in this place if they were sorted.
+double ranked(std::vector<double>& values, std::size_t place) {
+    const auto at = values.begin() + static_cast<std::ptrdiff_t>(place);
+    std::nth_element(values.begin(), at, values.end());
+    return *at;
 }
 
 constexpr UsualFigure ofField(const FieldInfo& field) {
@@ -188,16 +189,16 @@ void visitFigures(const SquadRecord& unit, Visit& visit) {
 }
 
 template <typename Record>
-void sample(ValueSamples& samples, const Record& record) {
+void sample(ValueSamples& samples, const Record& record, std::uint32_t owner) {
     auto take = [&](const UsualFigure& what, std::string_view kind, double value, const auto&) {
         if (value <= 0) {
             return;
         }
         auto found = samples.find(std::pair(&what, kind));
         if (found == samples.end()) {
-            found = samples.emplace(std::pair(&what, std::string(kind)), std::vector<float>()).first;
+            found = samples.emplace(std::pair(&what, std::string(kind)), std::vector<ValueSample>()).first;
         }
-        found->second.push_back(static_cast<float>(value));
+        found->second.push_back({static_cast<float>(value), owner});
     };
     visitFigures(record, take);
 }
@@ -210,17 +211,12 @@ std::string wordsOfKind(std::string_view kind) {
     return displayName(kind, kind.starts_with(WeaponPrefix) ? WeaponPrefix : "TYPE_");
 }
 
-template <typename Record, typename Ranges>
-std::vector<UnusualValue> unusualValues(const Record& record, const Ranges& ranges) {
+/// `rangeOf` tells the range of a figure and a kind.
+template <typename Record, typename RangeOf>
+std::vector<UnusualValue> unusualValues(const Record& record, RangeOf rangeOf) {
     std::vector<UnusualValue> values;
     auto look = [&](const UsualFigure& what, std::string_view kind, double value, const auto& path) {
-        const auto found = ranges.find(std::pair(&what, kind));
-        const bool isKnown = found != ranges.end();
-        UsualValues::Range range = isKnown ? found->second : UsualValues::Range{.least = 0, .greatest = 1e30};
-        if (&what == &figure::PowerForWeight) {
-            range = {.least = std::max(range.least, LeastPower),
-                     .greatest = std::min(range.greatest, GreatestPower)};
-        }
+        const UsualValues::Range range = rangeOf(what, kind);
         if (value <= 0 || (value >= range.least && value <= range.greatest)) {
             return;
         }
@@ -238,44 +234,72 @@ std::vector<UnusualValue> unusualValues(const Record& record, const Ranges& rang
 
 } // namespace
 
-void addSamples(ValueSamples& samples, const SquadRecord& unit) {
-    sample(samples, unit);
+void addSamples(ValueSamples& samples, const SquadRecord& unit, std::uint32_t owner) {
+    sample(samples, unit, owner);
 }
 
 void addSamples(ValueSamples& samples, const WeaponRecord& weapon) {
-    sample(samples, weapon);
+    sample(samples, weapon, 0);
 }
 
-UsualValues::UsualValues(const ValueSamples& samples) {
+void UsualValues::learn(const ValueSamples& samples) {
     for (const auto& [key, found] : samples) {
         if (found.size() < LeastValues) {
             continue;
         }
         std::vector<double> logarithms(found.size());
         std::transform(found.begin(), found.end(), logarithms.begin(),
-                       [](float value) { return std::log(double{value}); });
-        std::vector<double> sorted = logarithms;
-        std::sort(sorted.begin(), sorted.end());
-        const double middle = median(logarithms);
+                       [](const ValueSample& sample) { return std::log(double{sample.value}); });
+        // The outermost value may be the faulty one: the next counts as the nearest other.
+        const double nextToLeast = ranked(logarithms, 1);
+        const double nextToGreatest = ranked(logarithms, logarithms.size() - 2);
+        const double middle = ranked(logarithms, logarithms.size() / 2);
         for (double& value : logarithms) {
             value = std::abs(value - middle);
         }
-        const double deviation = OfNormal * median(logarithms);
+        const double deviation = OfNormal * ranked(logarithms, logarithms.size() / 2);
         const double spread = Deviations * std::max(deviation, LeastSpread);
-        // The outermost value may be the faulty one: the next counts as the nearest other.
         const double margin = std::log(deviation > 0 ? BeyondOthers : BeyondAlike);
-        const double least = std::min(middle - spread, sorted[1] - margin);
-        const double greatest = std::max(middle + spread, sorted[sorted.size() - 2] + margin);
+        const double least = std::min(middle - spread, nextToLeast - margin);
+        const double greatest = std::max(middle + spread, nextToGreatest + margin);
         ranges_[key] = {.least = std::exp(least), .greatest = std::exp(greatest)};
     }
 }
 
+UsualValues::Range UsualValues::rangeOf(const UsualFigure& what, std::string_view kind) const {
+    const auto found = ranges_.find(std::pair(&what, kind));
+    Range range = found != ranges_.end() ? found->second : Range{.least = 0, .greatest = 1e30};
+    if (&what == &figure::PowerForWeight) {
+        range = {.least = std::max(range.least, LeastPower),
+                 .greatest = std::min(range.greatest, GreatestPower)};
+    }
+    return range;
+}
+
+std::vector<std::uint32_t> UsualValues::ownersOfUnusual(const ValueSamples& samples) const {
+    constexpr double rounding = 1e-6;
+    std::vector<std::uint32_t> owners;
+    for (const auto& [key, found] : samples) {
+        const Range range = rangeOf(*key.first, key.second);
+        const double least = range.least * (1 + rounding);
+        const double greatest = range.greatest * (1 - rounding);
+        for (const ValueSample& sample : found) {
+            if (double{sample.value} < least || double{sample.value} > greatest) {
+                owners.push_back(sample.owner);
+            }
+        }
+    }
+    return owners;
+}
+
 std::vector<UnusualValue> UsualValues::unusual(const SquadRecord& unit) const {
-    return unusualValues(unit, ranges_);
+    return unusualValues(
+        unit, [this](const UsualFigure& what, std::string_view kind) { return rangeOf(what, kind); });
 }
 
 std::vector<UnusualValue> UsualValues::unusual(const WeaponRecord& weapon) const {
-    return unusualValues(weapon, ranges_);
+    return unusualValues(
+        weapon, [this](const UsualFigure& what, std::string_view kind) { return rangeOf(what, kind); });
 }
 
 } // namespace varrocade

@@ -5,6 +5,7 @@
 #include "data/unit/unit_record.h"
 #include "weapons/weapon_record.h"
 
+#include <cstdint>
 #include <functional>
 #include <map>
 #include <string>
@@ -31,11 +32,17 @@ struct ByFigureAndKind {
     }
 };
 
+/// A value and whose it is, by the number that the caller has for that.
+struct ValueSample {
+    float value = 0;
+    std::uint32_t owner = 0;
+};
+
 /// The values found so far. Kinds are unit types, weapon types, or flavours and weapon types.
 using ValueSamples =
-    std::map<std::pair<const UsualFigure*, std::string>, std::vector<float>, ByFigureAndKind>;
+    std::map<std::pair<const UsualFigure*, std::string>, std::vector<ValueSample>, ByFigureAndKind>;
 
-void addSamples(ValueSamples& samples, const SquadRecord& unit);
+void addSamples(ValueSamples& samples, const SquadRecord& unit, std::uint32_t owner);
 void addSamples(ValueSamples& samples, const WeaponRecord& weapon);
 
 /// A value apart from those of its kind.
@@ -51,11 +58,14 @@ struct UnusualValue {
 /// The ranges that the values of each kind lie in.
 class UsualValues {
 public:
-    UsualValues() = default;
-    explicit UsualValues(const ValueSamples& samples);
+    /// Learns the ranges of all kinds that there are samples of.
+    void learn(const ValueSamples& samples);
 
     [[nodiscard]] std::vector<UnusualValue> unusual(const SquadRecord& unit) const;
     [[nodiscard]] std::vector<UnusualValue> unusual(const WeaponRecord& weapon) const;
+    /// The owners of samples that lie apart, some of them several times: all that `unusual` has something to
+    /// say about. Samples are rounded, so that one on the border may be none after all.
+    [[nodiscard]] std::vector<std::uint32_t> ownersOfUnusual(const ValueSamples& samples) const;
 
     struct Range {
         double least = 0;
@@ -63,6 +73,8 @@ public:
     };
 
 private:
+    [[nodiscard]] Range rangeOf(const UsualFigure& what, std::string_view kind) const;
+
     std::map<std::pair<const UsualFigure*, std::string>, Range, ByFigureAndKind> ranges_;
 };
 
