@@ -10,6 +10,7 @@
 #include "tools/checks/rules/structure_rules.h"
 #include "tools/checks/rules/unit_rules.h"
 #include "tools/checks/rules/weapon_file_rules.h"
+#include "weapons/weapon_files.h"
 #include "weapons/weapon_rules.h"
 
 #include <algorithm>
@@ -144,15 +145,6 @@ void addLeftOut(const Diagnostics& diagnostics, FileFindings& out) {
     }
 }
 
-void checkWeaponTree(const CheckKnowledge& knowledge, const FileToCheck& file, const TagTree& tree,
-                     FileFindings& out) {
-    Diagnostics diagnostics;
-    ReaderFindings ofReader(diagnostics, file.name, tree, file.content);
-    const WeaponRecord weapon = weapon_rules::readTree(tree, file.name, &ofReader, nullptr);
-    addLeftOut(diagnostics, out);
-    checkWeaponRecord({weapon, file.name, knowledge, out});
-}
-
 std::vector<Finding> tooLarge(const FileToCheck& file) {
     return {{.key = ck::LongLine,
              .severity = Severity::Error,
@@ -228,11 +220,10 @@ std::vector<Finding> checkFile(const CheckKnowledge& knowledge, const FileToChec
         return tooLarge(file);
     }
     if (file.category == Category::Weapons) {
-        return withTree(file, [&](const TagTree& tree, FileFindings& out) {
-            if (checkText(file, tree, out)) {
-                checkWeaponTree(knowledge, file, tree, out);
-            }
-        });
+        TagTree tree;
+        Diagnostics diagnostics;
+        const WeaponRecord weapon = readWeapon(tree, file.content, file.name, diagnostics);
+        return checkWeaponFile(knowledge, file, {tree, weapon, diagnostics});
     }
     if (read == nullptr) {
         ReadUnitFile own;
@@ -243,6 +234,19 @@ std::vector<Finding> checkFile(const CheckKnowledge& knowledge, const FileToChec
         if (checkText(file, tree, out)) {
             addLeftOut(read->diagnostics, out);
             checkUnitRecord({read->unit, file.category, file.name, knowledge, out, file.looksIntoPictures});
+        }
+    });
+}
+
+std::vector<Finding> checkWeaponFile(const CheckKnowledge& knowledge, const FileToCheck& file,
+                                     const ReadWeaponFile& read) {
+    if (file.content.size() > LargestFile) {
+        return tooLarge(file);
+    }
+    return onTree(file, read.tree, [&](const TagTree& tree, FileFindings& out) {
+        if (checkText(file, tree, out)) {
+            addLeftOut(read.diagnostics, out);
+            checkWeaponRecord({read.weapon, file.name, knowledge, out});
         }
     });
 }

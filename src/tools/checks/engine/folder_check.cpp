@@ -34,14 +34,26 @@ void inThreads(std::size_t threads, Work work) {
     }
 }
 
+/// Calls `visit(thread, i)` with each number from `from` on below `count`, in so many threads.
+template <typename Visit>
+void share(std::size_t threads, std::size_t from, std::size_t count, Visit visit) {
+    constexpr std::size_t perTurn = 16;
+    std::atomic<std::size_t> next = from;
+    inThreads(std::min(threads, (count - from) / perTurn + 1), [&](std::size_t thread) {
+        for (std::size_t begin = next.fetch_add(perTurn); begin < count; begin = next.fetch_add(perTurn)) {
+            for (std::size_t i = begin; i < std::min(begin + perTurn, count); ++i) {
+                visit(thread, i);
+            }
+        }
+    });
+}
+
 } // namespace
 
 FolderCheck::FolderCheck(const GameFolders& folders, bool looksIntoPictures)
     : looksIntoPictures_(looksIntoPictures) {
-    // Listing waits for the disk, and reading the weapons for the processor.
-    constexpr std::size_t lister = 1;
-    inThreads(
-        2, [&](std::size_t thread) { thread == lister ? list(folders) : learnFolders(knowledge_, folders); });
+    learnFolders(knowledge_, folders);
+    list(folders);
     if (failure_) {
         return;
     }
@@ -64,6 +76,11 @@ void FolderCheck::list(const GameFolders& folders) {
         missing += list.failures.empty() ? 0 : 1;
         if (!list.failures.empty() && !failure_) {
             failure_ = list.failures.front();
+        }
+        if (category == Category::Weapons) {
+            firstWeapon_ = files_.size();
+            weapons_.resize(list.files.size());
+            hiddenWeapons_ = std::move(list.hidden);
         }
         for (GameFile& file : list.files) {
             CheckedFile& entry = files_.emplace_back();
@@ -91,23 +108,32 @@ bool FolderCheck::read(CheckedFile& entry, std::string& content) const {
     return false;
 }
 
-void FolderCheck::look(std::size_t number, Desk& desk, UnitSurvey& survey) {
-    CheckedFile& entry = files_[number];
+void FolderCheck::lookAtWeapon(CheckedFile& entry, Desk& desk, CatalogueReading& weapon) const {
     if (!read(entry, desk.content)) {
+        weapon = unreadForCatalogue({entry.file.path, systemFiles().lastError()});
         return;
     }
-    if (entry.file.category != Category::Weapons) {
-        readForCheck(toCheck(entry, desk), desk.read);
-        survey.add(static_cast<std::uint32_t>(number), entry.file.category, entry.shown, desk.read.unit);
-    }
-    check(entry, desk);
+    weapon = readForCatalogue(entry.file, desk.content, desk.unit.tree);
+    checkWeapon(entry, desk, weapon);
 }
 
-void FolderCheck::lookAgain(std::size_t number, Desk& desk) {
-    CheckedFile& entry = files_[number];
-    if (entry.isChecked && read(entry, desk.content)) {
-        readForCheck(toCheck(entry, desk), desk.read);
-        check(entry, desk);
+void FolderCheck::lookAtUnit(CheckedFile& entry, Desk& desk, std::uint32_t number, UnitSurvey& survey) const {
+    if (read(entry, desk.content)) {
+        readForCheck(toCheck(entry, desk), desk.unit);
+        survey.add(number, entry.file.category, entry.shown, desk.unit.unit);
+        checkUnit(entry, desk);
+    }
+}
+
+void FolderCheck::lookAgain(CheckedFile& entry, Desk& desk) const {
+    if (!entry.isChecked || !read(entry, desk.content)) {
+        return;
+    }
+    if (entry.file.category == Category::Weapons) {
+        checkWeapon(entry, desk, readForCatalogue(entry.file, desk.content, desk.unit.tree));
+    } else {
+        readForCheck(toCheck(entry, desk), desk.unit);
+        checkUnit(entry, desk);
     }
 }
 
@@ -115,79 +141,115 @@ FileToCheck FolderCheck::toCheck(const CheckedFile& entry, const Desk& desk) con
     return {entry.file.category, entry.file.name, entry.shown, desk.content, looksIntoPictures_};
 }
 
-/// Checks what lies on the desk.
-void FolderCheck::check(CheckedFile& entry, Desk& desk) const {
-    if (!entry.isChecked) {
-        return;
+void FolderCheck::checkUnit(CheckedFile& entry, const Desk& desk) const {
+    if (entry.isChecked) {
+        keep(entry, desk, checkFile(knowledge_, toCheck(entry, desk), &desk.unit));
     }
-    const bool isWeapon = entry.file.category == Category::Weapons;
-    entry.found = checkFile(knowledge_, toCheck(entry, desk), isWeapon ? nullptr : &desk.read);
-    std::erase_if(entry.found, [this](const Finding& finding) { return suppressions_.covers(finding); });
-    entry.content = entry.found.empty() ? std::string() : desk.content;
 }
 
-void FolderCheck::finishSurvey() {
-    outstanding_ = survey_.finish(knowledge_);
+void FolderCheck::checkWeapon(CheckedFile& entry, const Desk& desk, const CatalogueReading& reading) const {
+    if (entry.isChecked) {
+        const ReadWeaponFile read{desk.unit.tree, reading.entry.weapon, reading.problems};
+        keep(entry, desk, checkWeaponFile(knowledge_, toCheck(entry, desk), read));
+    }
+}
+
+void FolderCheck::keep(CheckedFile& entry, const Desk& desk, std::vector<Finding> found) const {
+    std::erase_if(found, [this](const Finding& finding) { return suppressions_.covers(finding); });
+    entry.content = found.empty() ? std::string() : desk.content;
+    entry.found = std::move(found);
+}
+
+void FolderCheck::finishWeapons() {
+    knowledge_.ownCatalogue.take(knowledge_.files.bases(), std::move(weapons_), std::move(hiddenWeapons_));
+    for (const CatalogueEntry* weapon : learnOwnWeapons(knowledge_)) {
+        const auto file =
+            std::find_if(files_.begin() + static_cast<std::ptrdiff_t>(firstWeapon_), files_.end(),
+                         [weapon](const CheckedFile& entry) { return entry.file.path == weapon->path; });
+        if (file != files_.end()) {
+            outstanding_.push_back(static_cast<std::uint32_t>(file - files_.begin()));
+        }
+    }
+}
+
+void FolderCheck::finishUnits() {
+    const std::vector<std::uint32_t> units = survey_.finish(knowledge_);
+    outstanding_.insert(outstanding_.end(), units.begin(), units.end());
+    // Some are there twice.
+    std::sort(outstanding_.begin(), outstanding_.end());
+    outstanding_.erase(std::unique(outstanding_.begin(), outstanding_.end()), outstanding_.end());
+}
+
+std::size_t FolderCheck::count() const {
+    switch (stage_) {
+    case Stage::Weapons:
+        return files_.size() - firstWeapon_;
+    case Stage::Units:
+        return firstWeapon_;
+    case Stage::Outstanding:
+        return outstanding_.size();
+    case Stage::Done:
+        break;
+    }
+    return 0;
+}
+
+/// The place among the files of what a stage looks at.
+std::size_t FolderCheck::placeOf(std::size_t i) const {
+    return stage_ == Stage::Weapons ? firstWeapon_ + i : stage_ == Stage::Units ? i : outstanding_[i];
+}
+
+void FolderCheck::look(std::size_t i, Desk& desk, UnitSurvey& survey) {
+    CheckedFile& entry = files_[placeOf(i)];
+    if (stage_ == Stage::Weapons) {
+        lookAtWeapon(entry, desk, weapons_[i]);
+    } else if (stage_ == Stage::Units) {
+        lookAtUnit(entry, desk, static_cast<std::uint32_t>(i), survey);
+    } else {
+        lookAgain(entry, desk);
+    }
+}
+
+void FolderCheck::endStage() {
+    if (stage_ == Stage::Weapons) {
+        finishWeapons();
+    } else if (stage_ == Stage::Units) {
+        finishUnits();
+    }
+    done_ += at_;
+    at_ = 0;
+    stage_ = static_cast<Stage>(static_cast<unsigned>(stage_) + 1);
 }
 
 bool FolderCheck::step() {
-    if (looked_ < files_.size()) {
-        look(looked_++, desk_, survey_);
-        if (looked_ == files_.size()) {
-            finishSurvey();
-        }
-        return true;
+    if (at_ < count()) {
+        look(at_++, desk_, survey_);
     }
-    if (lookedAgain_ < outstanding_.size()) {
-        lookAgain(outstanding_[lookedAgain_++], desk_);
+    while (!isDone() && at_ == count()) {
+        endStage();
     }
     return !isDone();
 }
 
-namespace {
-
-/// Calls `visit(thread, i)` with each number from `from` below `count`, on so many threads.
-template <typename Visit>
-void share(std::size_t threads, std::size_t from, std::size_t count, Visit visit) {
-    constexpr std::size_t perTurn = 16;
-    std::atomic<std::size_t> next = from;
-    inThreads(std::min(threads, (count - from) / perTurn + 1), [&](std::size_t thread) {
-        for (std::size_t begin = next.fetch_add(perTurn); begin < count; begin = next.fetch_add(perTurn)) {
-            for (std::size_t i = begin; i < std::min(begin + perTurn, count); ++i) {
-                visit(thread, i);
-            }
-        }
-    });
-}
-
-} // namespace
-
 void FolderCheck::run(std::size_t threads) {
     threads = threads == 0 ? std::max(1U, std::thread::hardware_concurrency()) : threads;
     std::vector<Desk> desks(threads);
-    if (looked_ < files_.size()) {
+    while (!isDone()) {
         std::vector<UnitSurvey> surveys(threads, UnitSurvey(knowledge_));
-        share(threads, looked_, files_.size(),
+        share(threads, at_, count(),
               [&](std::size_t thread, std::size_t i) { look(i, desks[thread], surveys[thread]); });
         for (UnitSurvey& one : surveys) {
             survey_.join(std::move(one));
         }
-        looked_ = files_.size();
-        finishSurvey();
+        at_ = count();
+        endStage();
     }
-    share(threads, lookedAgain_, outstanding_.size(),
-          [&](std::size_t thread, std::size_t i) { lookAgain(outstanding_[i], desks[thread]); });
-    lookedAgain_ = outstanding_.size();
 }
 
 WalkProgress FolderCheck::progress() const {
-    const bool isFirstLook = looked_ < files_.size();
-    const std::size_t at = isFirstLook                          ? looked_
-                           : lookedAgain_ < outstanding_.size() ? outstanding_[lookedAgain_]
-                                                                : files_.size();
-    return {.done = looked_ + lookedAgain_,
+    return {.done = done_ + at_,
             .total = files_.size() + outstanding_.size(),
-            .name = at < files_.size() ? std::string_view(files_[at].file.name) : std::string_view()};
+            .name = at_ < count() ? std::string_view(files_[placeOf(at_)].file.name) : std::string_view()};
 }
 
 std::vector<Finding> FolderCheck::findings() const {

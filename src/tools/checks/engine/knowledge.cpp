@@ -79,20 +79,28 @@ void learnWeapons(CheckKnowledge& knowledge, const WeaponCatalogue& catalogue) {
 
 void learnFolders(CheckKnowledge& knowledge, const GameFolders& folders) {
     knowledge.files.setBases(folders);
-    knowledge.ownCatalogue.load(folders.program, folders.mod);
-    learnWeapons(knowledge, knowledge.ownCatalogue);
-    knowledge.masses.emplace(knowledge.ownCatalogue);
-    ValueSamples samples;
-    for (const CatalogueEntry& entry : knowledge.ownCatalogue.entries()) {
-        if (entry.holdsWeapon) {
-            addSamples(samples, entry.weapon);
-        }
-    }
-    knowledge.usual.learn(samples);
     const std::string& modFolder = folders.mod.empty() ? folders.program : folders.mod;
     if (systemFiles().exists(modFolder + std::string(ModFileName))) {
         knowledge.mod = loadModSettings(modFolder);
     }
+}
+
+std::vector<const CatalogueEntry*> learnOwnWeapons(CheckKnowledge& knowledge) {
+    learnWeapons(knowledge, knowledge.ownCatalogue);
+    knowledge.masses.emplace(knowledge.ownCatalogue);
+    const std::vector<CatalogueEntry>& entries = knowledge.ownCatalogue.entries();
+    ValueSamples samples;
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+        if (entries[i].holdsWeapon) {
+            addSamples(samples, entries[i].weapon, static_cast<std::uint32_t>(i));
+        }
+    }
+    knowledge.usual.learn(samples);
+    std::vector<const CatalogueEntry*> outstanding;
+    for (const std::uint32_t owner : knowledge.usual.ownersOfUnusual(samples)) {
+        outstanding.push_back(&entries[owner]);
+    }
+    return outstanding;
 }
 
 void UnitSurvey::addLoads(const SquadRecord& unit) {

@@ -77,8 +77,12 @@ private:
     mutable std::map<std::pair<const AssetFile*, const AssetFile*>, PictureShift> shifts_;
 };
 
-/// Loads weapons, lists pictures and sounds, reads the mod's settings.
+/// Where pictures and sounds are, and the mod's settings.
 void learnFolders(CheckKnowledge& knowledge, const GameFolders& folders);
+
+/// Takes the weapons of the knowledge's own catalogue for those of the game, and learns what they weigh and
+/// what is usual among them. Gives back those that stand out.
+std::vector<const CatalogueEntry*> learnOwnWeapons(CheckKnowledge& knowledge);
 
 /// Takes the weapons of a catalogue for those of the game; it must live as long as the knowledge.
 void learnWeapons(CheckKnowledge& knowledge, const WeaponCatalogue& catalogue);

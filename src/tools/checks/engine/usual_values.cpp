@@ -238,8 +238,8 @@ void addSamples(ValueSamples& samples, const SquadRecord& unit, std::uint32_t ow
     sample(samples, unit, owner);
 }
 
-void addSamples(ValueSamples& samples, const WeaponRecord& weapon) {
-    sample(samples, weapon, 0);
+void addSamples(ValueSamples& samples, const WeaponRecord& weapon, std::uint32_t owner) {
+    sample(samples, weapon, owner);
 }
 
 void UsualValues::learn(const ValueSamples& samples) {

@@ -43,7 +43,7 @@ using ValueSamples =
     std::map<std::pair<const UsualFigure*, std::string>, std::vector<ValueSample>, ByFigureAndKind>;
 
 void addSamples(ValueSamples& samples, const SquadRecord& unit, std::uint32_t owner);
-void addSamples(ValueSamples& samples, const WeaponRecord& weapon);
+void addSamples(ValueSamples& samples, const WeaponRecord& weapon, std::uint32_t owner);
 
 /// A value apart from those of its kind.
 struct UnusualValue {

@@ -40,11 +40,12 @@ void checkAvailability(const CheckedUnit& checked) {
     const bool isOver = std::all_of(points.begin(), points.end(),
                                     [&](const AvailabilityPoint& point) { return point.year < first; }) &&
                         points.back().number == 0;
+    const RulePath unit;
     for (std::size_t i = 0; i < points.size(); ++i) {
-        const std::string path = numbered(element::Availability, i) + ".";
+        const RulePath path(unit, element::Availability, i + 1);
         if (i > 0 && monthsOf(points[i]) <= monthsOf(points[i - 1])) {
             const bool isYear = points[i].year < points[i - 1].year;
-            checked.out.atValue(path + std::string(isYear ? field::Year.element : field::Month.element),
+            checked.out.atValue(isYear ? path.to(field::Year) : path.to(field::Month),
                                 {.key = ck::AvailabilityOrder,
                                  .message = dateText(points[i]) + " stands behind " + dateText(points[i - 1]),
                                  .value = std::to_string(isYear ? points[i].year : points[i].month),
@@ -52,7 +53,7 @@ void checkAvailability(const CheckedUnit& checked) {
         }
         const bool isEarly = points[i].year < FirstYear || (isOver && i + 1 == points.size());
         if (isEarly || points[i].year > std::min(last, LastYear)) {
-            checked.out.atValue(path + std::string(field::Year.element),
+            checked.out.atValue(path.to(field::Year),
                                 {.key = ck::AvailabilityYears,
                                  .message = std::to_string(points[i].year) +
                                             " lies outside of the years of the " +
