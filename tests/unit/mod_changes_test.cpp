@@ -19,7 +19,7 @@
 namespace varrocade::tests {
 namespace {
 
-/// Every letter of more than one byte in UTF-8 has such a byte, and no letter of the surnames is one in 8 bits.
+/// Every letter of several bytes in UTF-8 has such a byte; in 8 bits no letter of the surnames is one.
 bool isOfUtf8(char byte) {
     return static_cast<unsigned char>(byte) >= 0x80 && static_cast<unsigned char>(byte) < 0xC0;
 }
