@@ -190,6 +190,38 @@ TEST(Checks, FindNothingInTheSample) {
               "0 errors, 0 warnings, 0 notes\n");
 }
 
+/// What is usual is learnt by all threads together: who read what must not show.
+TEST(Checks, FindTheSameInAnyNumberOfThreads) {
+    const TemporaryFolder folder;
+    writeGame(folder);
+    for (int i = 0; i < 120; ++i) {
+        const std::string name = "German T" + std::to_string(i);
+        const std::string weight = i == 70 ? "900000" : std::to_string(20000 + 50 * i);
+        folder.write("Data\\Vehicles\\" + name + ".txt",
+                     withLine(Tank, "<weight>", "\t\t\t<weight>" + weight + "</weight>"));
+    }
+    std::vector<std::string> reports;
+    for (const std::size_t threads : {1U, 2U, 3U}) {
+        FolderCheck check({.program = folder.path()});
+        check.run(threads);
+        reports.push_back(checkReportJson(check.findings()));
+    }
+    EXPECT_NE(reports[0].find("vehicle-weight"), std::string::npos);
+    EXPECT_NE(reports[0].find("is also the name of Data/Vehicles/German T.txt"), std::string::npos);
+    EXPECT_EQ(reports[0], reports[1]);
+    EXPECT_EQ(reports[0], reports[2]);
+    FolderCheck inSteps({.program = folder.path()});
+    while (inSteps.step()) {
+    }
+    EXPECT_EQ(reports[0], checkReportJson(inSteps.findings()));
+}
+
+TEST(Checks, FindNothingInAFileOfUtf16ButThat) {
+    const std::vector<Finding> found =
+        checkFileText({.category = Category::Weapons, .content = std::string("\xFF\xFE<\0w\0>\0", 8)});
+    EXPECT_EQ(linesOf(found), "1:1 empty-file");
+}
+
 TEST(Checks, AreAllOnTheirPage) {
     std::string page;
     ASSERT_TRUE(readWholeFile("docs\\checks.md", page));

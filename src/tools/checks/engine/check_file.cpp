@@ -44,6 +44,7 @@ void dropEchoes(std::vector<Finding>& found) {
         {finding_key::AmmoWithoutWeapon, finding_key::UnknownWeapon},
         {finding_key::AmmoWithoutWeapon, ck::EmptyValue},
         {ck::EmptyValue, ck::BrokenTag},
+        {finding_key::UnknownElement, ck::BrokenTag},
         {ck::WeaponWithoutAmmo, finding_key::UnknownWeapon},
         {ck::NoRounds, ck::NotANumber},
         {ck::NoRounds, ck::EmptyValue},
@@ -96,6 +97,12 @@ std::vector<Finding> sorted(FileFindings& out) {
 
 /// What the text is like; whether it can be read as it is meant.
 bool checkText(const FileToCheck& file, const TagTree& tree, FileFindings& out) {
+    if (hasWideMark(file.content)) {
+        out.atFile({.key = ck::EmptyFile,
+                    .message = "the file is written in UTF-16, so that the game sees no element in it",
+                    .hint = "save it as ANSI text"});
+        return false;
+    }
     if (hasForeignBytes(file.content)) {
         checkCharacters(file.content, out);
     }

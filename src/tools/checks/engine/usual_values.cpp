@@ -39,34 +39,18 @@ double ranked(std::vector<double>& values, std::size_t place) {
     return *at;
 }
 
-constexpr UsualFigure ofField(const FieldInfo& field) {
-    return {&field, field.label, field.traits.unit};
-}
-
 namespace figure {
 
-constexpr UsualFigure Horsepower = ofField(field::Horsepower);
+constexpr UsualFigure Horsepower = figureOf(field::Horsepower);
 constexpr UsualFigure PowerForWeight = {&field::Horsepower, "Power for the weight", "hp/t"};
-constexpr UsualFigure IdleRevolutions = ofField(field::IdleRevolutions);
-constexpr UsualFigure RevolutionLimit = ofField(field::RevolutionLimit);
-constexpr UsualFigure ForwardGears = ofField(field::ForwardGears);
-constexpr UsualFigure RotateTime = ofField(field::RotateTime);
-constexpr UsualFigure Rounds = ofField(field::Rounds);
-constexpr UsualFigure Mass = ofField(field::Mass);
-constexpr UsualFigure TrailLength = ofField(field::TrailLength);
-constexpr UsualFigure Speed = ofField(field::AircraftSpeed);
-
-constexpr UsualFigure Calibre = ofField(weapon_field::Calibre);
-constexpr UsualFigure BarrelLength = {&weapon_field::BarrelLength, "Barrel length", "calibres"};
-constexpr UsualFigure Range = ofField(weapon_field::Range);
-constexpr UsualFigure RateOfFire = ofField(weapon_field::RateOfFire);
-constexpr UsualFigure Capacity = ofField(weapon_field::Capacity);
-constexpr UsualFigure ShellSpeed = ofField(weapon_field::Speed);
-/// Projectiles of a kind are alike in shape: their masses go with the cube of the calibre, here in
-/// decimetres.
-constexpr UsualFigure ShellMass = {&weapon_field::Mass, "Mass for the calibre", "kg/dm3"};
-constexpr UsualFigure Explosive = {&weapon_field::HighExplosive, "Share of high explosive", ""};
-constexpr UsualFigure Fuse = ofField(weapon_field::ExplodeIn);
+constexpr UsualFigure IdleRevolutions = figureOf(field::IdleRevolutions);
+constexpr UsualFigure RevolutionLimit = figureOf(field::RevolutionLimit);
+constexpr UsualFigure ForwardGears = figureOf(field::ForwardGears);
+constexpr UsualFigure RotateTime = figureOf(field::RotateTime);
+constexpr UsualFigure Rounds = figureOf(field::Rounds);
+constexpr UsualFigure Mass = figureOf(field::Mass);
+constexpr UsualFigure TrailLength = figureOf(field::TrailLength);
+constexpr UsualFigure Speed = figureOf(field::AircraftSpeed);
 
 } // namespace figure
 
@@ -148,38 +132,21 @@ void visitFigures(const WeaponRecord& weapon, Visit& visit) {
     const Holder holder = holderOf(weapon.type);
     const std::string_view type = nameOf(weapon.type);
     const auto ofWeapon = [] { return std::string(); };
-    const auto show = [&](const UsualFigure& what, double value) {
-        if (what.field->isStoredBy(holder)) {
-            visit(what, type, value, ofWeapon);
+    for (const ComparedFigure& compared : figuresOfWeapons()) {
+        if (compared.figure.field->isStoredBy(holder)) {
+            visit(compared.figure, type, compared.value(weapon, {}), ofWeapon);
         }
-    };
-    show(figure::Calibre, weapon.calibre);
-    if (weapon.calibre > 0) {
-        show(figure::BarrelLength, weapon.barrelLength / double{weapon.calibre});
     }
-    show(figure::Range, weapon.range);
-    show(figure::RateOfFire, weapon.rateOfFire);
-    show(figure::Capacity, weapon.magazineCapacity);
     std::string kind;
     for (std::size_t i = 0; i < weapon.ammoTypes.size(); ++i) {
         const AmmoTypeRecord& ammo = weapon.ammoTypes[i];
         kind.assign(nameOf(ammo.flavour)).append(" ").append(type);
         const auto ofAmmo = [i] { return entryPath(weapon_element::Ammo, i); };
-        const auto showAmmo = [&](const UsualFigure& what, double value) {
-            if (what.field->isStoredBy(holderOf(ammo.flavour), holder)) {
-                visit(what, kind, value, ofAmmo);
+        for (const ComparedFigure& compared : figuresOfAmmunition()) {
+            if (compared.figure.field->isStoredBy(holderOf(ammo.flavour), holder)) {
+                visit(compared.figure, kind, compared.value(weapon, ammo), ofAmmo);
             }
-        };
-        constexpr double decimetre = 100; // millimetres
-        const double calibre = weapon.calibre / decimetre;
-        showAmmo(figure::ShellSpeed, ammo.speed);
-        if (calibre > 0) {
-            showAmmo(figure::ShellMass, ammo.mass / (calibre * calibre * calibre));
         }
-        if (ammo.mass > 0) {
-            showAmmo(figure::Explosive, double{ammo.highExplosive} / ammo.mass);
-        }
-        showAmmo(figure::Fuse, ammo.explodeIn);
     }
 }
 

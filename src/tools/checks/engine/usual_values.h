@@ -1,7 +1,7 @@
 #pragma once
 // What is usual: the values of all units or weapons of a kind, and which lie apart from all others.
 
-#include "data/field.h"
+#include "analysis/compared_figures.h"
 #include "data/unit/unit_record.h"
 #include "weapons/weapon_record.h"
 
@@ -14,13 +14,6 @@
 #include <vector>
 
 namespace varrocade {
-
-/// A figure that is compared among units or weapons of a kind: a value, or what two of them come to.
-struct UsualFigure {
-    FieldId field;          ///< that is to be mended
-    std::string_view label; ///< for people
-    std::string_view unit = {};
-};
 
 /// Figures and kinds are few; values are told by both.
 struct ByFigureAndKind {

@@ -3,7 +3,9 @@
 #include "tools/checks/rules/unit_rules.h"
 
 #include <algorithm>
+#include <span>
 #include <string>
+#include <vector>
 
 namespace varrocade {
 
@@ -21,6 +23,14 @@ std::int32_t monthsOf(const AvailabilityPoint& point) {
 
 std::string dateText(const AvailabilityPoint& point) {
     return std::to_string(point.month) + "/" + std::to_string(point.year);
+}
+
+/// What stands twice cannot be put in order: one of the two is wrong.
+bool hasDistinctDates(std::span<const AvailabilityPoint> points) {
+    std::vector<std::int32_t> dates(points.size());
+    std::transform(points.begin(), points.end(), dates.begin(), monthsOf);
+    std::sort(dates.begin(), dates.end());
+    return std::adjacent_find(dates.begin(), dates.end()) == dates.end();
 }
 
 } // namespace
@@ -41,6 +51,7 @@ void checkAvailability(const CheckedUnit& checked) {
                                     [&](const AvailabilityPoint& point) { return point.year < first; }) &&
                         points.back().number == 0;
     const RulePath unit;
+    const bool isSortable = hasDistinctDates(points);
     for (std::size_t i = 0; i < points.size(); ++i) {
         const RulePath path(unit, element::Availability, i + 1);
         if (i > 0 && monthsOf(points[i]) <= monthsOf(points[i - 1])) {
@@ -49,7 +60,8 @@ void checkAvailability(const CheckedUnit& checked) {
                                 {.key = ck::AvailabilityOrder,
                                  .message = dateText(points[i]) + " stands behind " + dateText(points[i - 1]),
                                  .value = std::to_string(isYear ? points[i].year : points[i].month),
-                                 .expected = "a date after " + dateText(points[i - 1])});
+                                 .expected = "a date after " + dateText(points[i - 1]),
+                                 .hint = isSortable ? "sort the points" : ""});
         }
         const bool isEarly = points[i].year < FirstYear || (isOver && i + 1 == points.size());
         if (isEarly || points[i].year > std::min(last, LastYear)) {
