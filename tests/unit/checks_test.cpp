@@ -222,6 +222,21 @@ TEST(Checks, FindNothingInAFileOfUtf16ButThat) {
     EXPECT_EQ(linesOf(found), "1:1 empty-file");
 }
 
+TEST(Checks, TellOfACalibreThatNoMassGoesWith) {
+    FolderCheck check({.program = SampleBase});
+    check.run();
+    std::string content;
+    ASSERT_TRUE(
+        readWholeFile(std::string(SampleBase) + "Data\\Weapons\\WEAPON_CANNON_75_KWK42_L70.txt", content));
+    const auto found = [&](std::string_view line) {
+        return linesOf(check.checkAgain(Category::Weapons, "WEAPON_CANNON_75_KWK42_L70",
+                                        withLine(content, "<calibre>", line)));
+    };
+    EXPECT_EQ(found("\t\t<calibre>75</calibre>"), "");
+    EXPECT_EQ(found("\t\t<calibre>750</calibre>"),
+              "7:12 unusual-value\n25:65 unusual-value\n26:65 unusual-value\n27:62 unusual-value");
+}
+
 TEST(Checks, AreAllOnTheirPage) {
     std::string page;
     ASSERT_TRUE(readWholeFile("docs\\checks.md", page));

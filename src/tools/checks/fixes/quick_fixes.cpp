@@ -215,7 +215,7 @@ std::string quickFixName(const CheckKnowledge& knowledge, const Finding& finding
         return text + " for " + quoted(finding.value);
     }
     if (finding.key == ck::AvailabilityOrder) {
-        // Only where no date stands twice does the rule say how to mend it.
+        // The rule says so only where sorting is all that is to be done.
         return finding.hint.empty() ? "" : "Sort the points of availability by their dates";
     }
     if (finding.replacement.empty() || finding.value.empty() || finding.replacement == finding.value) {

@@ -25,8 +25,14 @@ std::string dateText(const AvailabilityPoint& point) {
     return std::to_string(point.month) + "/" + std::to_string(point.year);
 }
 
-/// What stands twice cannot be put in order: one of the two is wrong.
-bool hasDistinctDates(std::span<const AvailabilityPoint> points) {
+/// Whether sorting is all that is to be done: of a date that stands twice, or that is none, a part is wrong.
+bool isSortable(std::span<const AvailabilityPoint> points) {
+    constexpr std::uint8_t lastMonth = 12;
+    if (std::any_of(points.begin(), points.end(), [](const AvailabilityPoint& point) {
+            return point.month == 0 || point.month > lastMonth;
+        })) {
+        return false;
+    }
     std::vector<std::int32_t> dates(points.size());
     std::transform(points.begin(), points.end(), dates.begin(), monthsOf);
     std::sort(dates.begin(), dates.end());
@@ -51,7 +57,7 @@ void checkAvailability(const CheckedUnit& checked) {
                                     [&](const AvailabilityPoint& point) { return point.year < first; }) &&
                         points.back().number == 0;
     const RulePath unit;
-    const bool isSortable = hasDistinctDates(points);
+    const bool canSort = isSortable(points);
     for (std::size_t i = 0; i < points.size(); ++i) {
         const RulePath path(unit, element::Availability, i + 1);
         if (i > 0 && monthsOf(points[i]) <= monthsOf(points[i - 1])) {
@@ -61,7 +67,7 @@ void checkAvailability(const CheckedUnit& checked) {
                                  .message = dateText(points[i]) + " stands behind " + dateText(points[i - 1]),
                                  .value = std::to_string(isYear ? points[i].year : points[i].month),
                                  .expected = "a date after " + dateText(points[i - 1]),
-                                 .hint = isSortable ? "sort the points" : ""});
+                                 .hint = canSort ? "sort the points" : ""});
         }
         const bool isEarly = points[i].year < FirstYear || (isOver && i + 1 == points.size());
         if (isEarly || points[i].year > std::min(last, LastYear)) {
