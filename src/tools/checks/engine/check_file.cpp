@@ -35,6 +35,7 @@ void dropEchoes(std::vector<Finding>& found) {
     struct Echo {
         std::string_view key;
         std::string_view of;
+        bool isAtSamePlace = false; ///< otherwise anywhere on its line
     };
     constexpr auto echoes = std::to_array<Echo>({
         {ck::UnclosedElement, ck::CommentInValue},
@@ -44,7 +45,7 @@ void dropEchoes(std::vector<Finding>& found) {
         {finding_key::AmmoWithoutWeapon, finding_key::UnknownWeapon},
         {finding_key::AmmoWithoutWeapon, ck::EmptyValue},
         {ck::EmptyValue, ck::BrokenTag},
-        {finding_key::UnknownElement, ck::BrokenTag},
+        {finding_key::UnknownElement, ck::BrokenTag, true},
         {ck::WeaponWithoutAmmo, finding_key::UnknownWeapon},
         {ck::NoRounds, ck::NotANumber},
         {ck::NoRounds, ck::EmptyValue},
@@ -70,7 +71,8 @@ void dropEchoes(std::vector<Finding>& found) {
         return std::any_of(all.begin(), all.end(), [&](const Finding& other) {
             return other.line == finding.line &&
                    std::any_of(echoes.begin(), echoes.end(), [&](const Echo& row) {
-                       return row.key == finding.key && row.of == other.key;
+                       return row.key == finding.key && row.of == other.key &&
+                              (!row.isAtSamePlace || other.column == finding.column);
                    });
         });
     });
