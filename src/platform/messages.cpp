@@ -40,8 +40,10 @@ void showCouldNotLoad(const std::string& path) {
                  .icon = MessageIcon::Warning});
 }
 
-void showCouldNotSave(const std::string& path) {
-    showMessage({.text = path, .caption = "Couldn't save file", .icon = MessageIcon::Warning});
+void showCouldNotSave(const std::string& path, const std::string& reason) {
+    showMessage({.text = reason.empty() ? path : path + "\n\n" + reason,
+                 .caption = "Couldn't save file",
+                 .icon = MessageIcon::Warning});
 }
 
 } // namespace varrocade

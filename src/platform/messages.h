@@ -31,8 +31,8 @@ MessageHandler setMessageHandler(MessageHandler handler);
 /// "Couldn't load file": the path with the hint that most such failures come from.
 void showCouldNotLoad(const std::string& path);
 
-/// "Couldn't save file" with the full path.
-void showCouldNotSave(const std::string& path);
+/// "Couldn't save file" with the full path, and with the reason where one is given.
+void showCouldNotSave(const std::string& path, const std::string& reason = {});
 
 /// Writes one line (a line feed is added) to the debugger, or to standard error where there is none.
 void debugLine(std::string_view line);

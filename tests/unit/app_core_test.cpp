@@ -35,6 +35,9 @@ TEST(WindowLayout, FirstPlaceFollowsTheWorkArea) {
     // ((1000 - 16 - 22 - 20) * 350) / 650 + 2 * (4 + 483), centred.
     const WindowPlace place = firstWindowPlace(1600, 1000, {.frame = 4, .caption = 22, .menu = 20}, 96);
     EXPECT_EQ(place, (WindowPlace{(1600 - 1481) / 2, 0, 1481, 1000}));
+    // A small screen with large texts.
+    EXPECT_EQ(firstWindowPlace(1500, 1000, {.frame = 4, .caption = 22, .menu = 20}, 192),
+              (WindowPlace{0, 0, 1500, 1000}));
     EXPECT_EQ(fileListPlace(900), (WindowPlace{4, 68, 350, 798}));
     EXPECT_EQ(fileButtonPlaces(900)[3], (WindowPlace{266, 866, 82, 24}));
     EXPECT_EQ(picturePlace(1473, 900, 96).width, 507);

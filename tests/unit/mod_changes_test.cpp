@@ -1,6 +1,7 @@
 // What new mods begin with, and what a mod changes of its game.
 
 #include "app/workspace/mod/change_rows.h"
+#include "data/format/texts.h"
 #include "data/unit/enumerations.h"
 #include "mod/changes/changes_text.h"
 #include "mod/changes/revert.h"
@@ -12,10 +13,16 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdint>
 #include <set>
 
 namespace varrocade::tests {
 namespace {
+
+/// Every letter of several bytes in UTF-8 has such a byte; in 8 bits no letter of the surnames is one.
+bool isOfUtf8(char byte) {
+    return static_cast<unsigned char>(byte) >= 0x80 && static_cast<unsigned char>(byte) < 0xC0;
+}
 
 TEST(StartingPoints, KnowWhoFoughtAndWithWhom) {
     for (std::size_t i = 0; i < startingPointNames().size(); ++i) {
@@ -28,8 +35,12 @@ TEST(StartingPoints, KnowWhoFoughtAndWithWhom) {
             EXPECT_TRUE(ids.insert(nation.id).second) << nation.id;
             EXPECT_FALSE(nation.name.empty() || nation.adjective.empty()) << nation.id;
             std::set<std::string> surnames;
+            std::int32_t before = 1000; // of the first name, or more than its class
             for (const ModSurname& surname : nation.surnames) {
-                EXPECT_TRUE(surnames.insert(surname.name).second) << surname.name;
+                EXPECT_TRUE(surnames.insert(loweredText(surname.name)).second) << nation.id << surname.name;
+                EXPECT_LE(surname.commonness, before) << nation.id << ' ' << surname.name;
+                EXPECT_TRUE(std::none_of(surname.name.begin(), surname.name.end(), isOfUtf8)) << surname.name;
+                before = surname.commonness;
             }
             EXPECT_GE(surnames.size(), i == 0 ? 100U : 40U) << nation.id;
             EXPECT_GE(nation.ranks.size(), 14U) << nation.id;

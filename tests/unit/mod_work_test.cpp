@@ -77,9 +77,10 @@ TEST_F(ModWorkTest, OpensModsOfAnyFolder) {
     EXPECT_TRUE(openOtherMod(workspace, folder.path() + "Elsewhere\\"));
     EXPECT_EQ(workspace.modSettings.value_or(ModSettings()).name, "Other");
     EXPECT_TRUE(workspace.list.all.empty());
-    EXPECT_TRUE(openOtherMod(workspace, folder.path() + "Game\\Mod\\"));
-    EXPECT_TRUE(openOtherMod(workspace, folder.path() + "Elsewhere\\"));
     const Names both = {folder.path() + "Elsewhere\\", folder.path() + "Game\\Mod\\"};
+    EXPECT_EQ(workspace.otherMods, both) << "the usual mod, which was left, too";
+    EXPECT_TRUE(openOtherMod(workspace, both[1]));
+    EXPECT_TRUE(openOtherMod(workspace, both[0]));
     EXPECT_EQ(workspace.otherMods, both);
     showGameUnits(workspace, true);
     Workspace next;

@@ -19,7 +19,10 @@ WindowPlace firstWindowPlace(int workWidth, int workHeight, const FrameMetrics& 
     const int pictureWidth =
         ((height - (2 * metrics.frame + 8) - metrics.caption - metrics.menu) * PictureAspectWidth) /
         PictureAspectHeight;
-    const int width = pictureWidth + 2 * (metrics.frame + scaled(BandWidth / 2, dpi));
+    const auto widthAt = [&](int bandDpi) {
+        return pictureWidth + 2 * (metrics.frame + scaled(BandWidth / 2, bandDpi));
+    };
+    const int width = std::max(widthAt(PlainDpi), std::min(widthAt(dpi), workWidth));
     return {(workWidth - width) / 2, (workHeight - height) / 2, width, height};
 }
 

@@ -30,8 +30,8 @@ struct FrameMetrics {
     int menu = 0;    ///< height of the menu bar
 };
 
-/// The window at start: as high as the work area, as wide as band and picture area need, centred.
-/// `scale` is the screen's dots per inch.
+/// The window at start: as high as the work area, as wide as band and picture area need, centred. The
+/// band grows with `dpi`, the screen's dots per inch, as far as the work area is wide.
 WindowPlace firstWindowPlace(int workWidth, int workHeight, const FrameMetrics& metrics, int dpi);
 
 /// The list box and the filter above it, for a client area of `height`.

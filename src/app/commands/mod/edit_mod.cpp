@@ -57,7 +57,7 @@ bool saveSettings(const OpenedMod& opened, const ModSettings& settings) {
     if (const auto failure =
             saveModSettings(*workspace.files, workspace.backups, workspace.modFolder, joined, opened.text)) {
         debugLine("ERROR: " + failure->path + ": " + failure->reason);
-        showCouldNotSave(failure->path);
+        showCouldNotSave(failure->path, failure->reason);
         return false;
     }
     workspace.modSettings = std::move(joined);

@@ -168,11 +168,16 @@ bool openOtherMod(Workspace& workspace, const std::string& folder) {
         return false;
     }
     closeRecord(workspace);
+    // The one that is left may be the usual mod, to which nothing else leads back from here.
+    const std::string left = workspace.modMode ? workspace.modFolder : std::string();
     enterMod(workspace, folder);
     workspace.listener->recordOpened();
     workspace.rememberedSelections.fill({});
-    dropFolder(workspace.otherMods, folder);
-    workspace.otherMods.insert(workspace.otherMods.begin(), folder);
+    for (const std::string& latest : {left, folder}) {
+        dropFolder(workspace.otherMods, latest);
+        workspace.otherMods.insert(workspace.otherMods.begin(), latest);
+    }
+    dropFolder(workspace.otherMods, {});
     workspace.otherMods.resize(std::min(workspace.otherMods.size(), MostOtherMods));
     keepModMemory(workspace);
     return true;
