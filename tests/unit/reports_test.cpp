@@ -118,8 +118,9 @@ TEST(Reports, NameUsersInOneOrderForAnyNumberOfThreads) {
         const std::string missing = i == 0 ? "GONE" : i % 2 == 0 ? "gone" : "Gone";
         folder.write(
             "Data\\Vehicles\\" + std::to_string(10 + i) + ".txt",
-            "<squad><vehicle><hull><image_view>" + picture + ".png</image_view></hull><turret><image_view>" +
-                missing +
+            "<squad><description><nationality>NATIONALITY_DUTCH</nationality></"
+            "description><vehicle><hull><image_view>" +
+                picture + ".png</image_view></hull><turret><image_view>" + missing +
                 ".png</image_view><weapon><type>WEAPON_KWK</type></weapon></turret></vehicle></squad>");
     }
     folder.write("Data\\Weapons\\Kwk.txt", Gun);
