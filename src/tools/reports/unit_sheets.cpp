@@ -53,6 +53,7 @@ void UnitSheets::run(unsigned threads) {
         return;
     }
     isListed_ = true;
+    threads_ = threads;
     const std::vector<GameFile> files = listOwnFiles(folders_, failures_);
     std::vector<FileShare> shares = shareFiles(files, threads);
     std::vector<SheetBuilder> parts;
@@ -84,11 +85,11 @@ std::vector<FileFailure> UnitSheets::failures() const {
 }
 
 std::vector<ReportFile> UnitSheets::files() {
-    std::vector<ReportFile> files;
-    files.reserve(std::size(AllCategories));
-    for (const Category category : AllCategories) {
-        files.push_back({sheetFileName(category), sheets_.at(static_cast<std::size_t>(category)).file()});
-    }
+    std::vector<ReportFile> files(sheets_.size());
+    const auto make = [&](std::size_t category) {
+        files[category] = {sheetFileName(static_cast<Category>(category)), sheets_[category].file()};
+    };
+    forEachInParallel(files.size(), make, threads_);
     return files;
 }
 

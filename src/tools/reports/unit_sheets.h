@@ -27,6 +27,7 @@ private:
     GameFolders folders_;
     GameFileWalk walk_;
     bool isListed_ = false;
+    unsigned threads_ = 1;              ///< that the work was shared among
     std::size_t readInThreads_ = 0;     ///< how many files, which the walk knows nothing of
     std::vector<FileFailure> failures_; ///< of the listing and of what was read in threads
     std::vector<SheetBuilder> sheets_;  ///< one a category
