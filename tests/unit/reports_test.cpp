@@ -111,31 +111,32 @@ TEST(Reports, FindWhatAModDoesNotNeed) {
 }
 
 TEST(Reports, NameUsersInOneOrderForAnyNumberOfThreads) {
-    // A picture is named in several spellings, one that is missing first in capitals.
     const TemporaryFolder folder;
-    for (std::size_t i = 0; i < 12; ++i) {
-        const std::string picture = i % 3 == 0 ? "TIGER" : i % 3 == 1 ? "tiger" : "Tiger";
-        const std::string missing = i == 0 ? "GONE" : i % 2 == 0 ? "gone" : "Gone";
-        folder.write(
-            "Data\\Vehicles\\" + std::to_string(10 + i) + ".txt",
-            "<squad><description><nationality>NATIONALITY_DUTCH</nationality></"
-            "description><vehicle><hull><image_view>" +
-                picture + ".png</image_view></hull><turret><image_view>" + missing +
-                ".png</image_view><weapon><type>WEAPON_KWK</type></weapon></turret></vehicle></squad>");
+    const auto write = [&](const std::string& name, const std::string& hull, const std::string& turret) {
+        folder.write("Data\\" + name + ".txt",
+                     "<squad><description><nationality>NATIONALITY_DUTCH</nationality></description><vehicle>"
+                     "<hull><image_view>" +
+                         hull + "</image_view></hull><turret><image_view>" + turret +
+                         "</image_view><weapon><type>WEAPON_KWK</type></weapon></turret></vehicle></squad>");
+    };
+    std::string users;
+    for (const std::string name : {"10", "11", "12", "13", "14", "15"}) {
+        // A picture may be named in any letter case.
+        write("Vehicles\\" + name, name < "13" ? "TIGER.png" : "tiger.png", name == "15" ? "GONE.png" : "");
+        users += "\tVehicles: " + name + "\r\n";
     }
+    // One that is missing is called as the first one calls it, whichever thread reads that one.
+    write("AT Guns\\20", "", "gone.png");
+    write("AT Guns\\21", "", "Gone.png");
     folder.write("Data\\Weapons\\Kwk.txt", Gun);
     folder.write("Images\\Units\\Vehicles\\Hulls\\Tiger.png", "");
     for (const unsigned threads : {1U, 2U, 5U}) {
         PngUsage usage({.program = folder.path()});
         usage.run(threads);
-        std::string names;
-        for (std::size_t i = 0; i < 12; ++i) {
-            names += "\tVehicles: " + std::to_string(10 + i) + "\r\n";
-        }
-        EXPECT_EQ(usage.files()[1].content, "Images\\Units\\Vehicles\\Hulls\\Tiger.png\r\n" + names +
-                                                "\r\nNamed, but not there:\r\n"
-                                                "Images\\Units\\Vehicles\\Turrets\\GONE.png\r\n" +
-                                                names)
+        EXPECT_EQ(usage.files()[1].content,
+                  "Images\\Units\\Vehicles\\Hulls\\Tiger.png\r\n" + users +
+                      "\r\nNamed, but not there:\r\nImages\\Units\\Vehicles\\Turrets\\GONE.png\r\n"
+                      "\tVehicles: 15\r\n\tAT Guns: 20\r\n\tAT Guns: 21\r\n")
             << threads;
         UnusedFiles unused({.program = folder.path() + "none\\", .mod = folder.path()});
         unused.run(threads);
