@@ -160,6 +160,7 @@ TEST_F(ToolsTest, SheetIsShownWrittenAndUndone) {
     const Window imported = editor->waitForDialog("Imported spreadsheet");
     EXPECT_EQ(imported.control(IDC_JOB_SUMMARY).text(),
               "1 value of 1 file was changed. What the files held before is in the folder:");
+    expectWellLaidOut(imported);
     finish(imported);
     EXPECT_TRUE(eventually([&] { return (menuState(IDM_UNDO) & MF_GRAYED) == 0; }));
     EXPECT_EQ(weightInFile(), "57000");

@@ -57,6 +57,7 @@ void UnitSheets::run(unsigned threads) {
     const std::vector<GameFile> files = listOwnFiles(folders_, failures_);
     std::vector<FileShare> shares = shareFiles(files, threads);
     std::vector<SheetBuilder> parts;
+    parts.reserve(shares.size());
     for (const FileShare& share : shares) {
         parts.emplace_back(categoryName(share.category));
     }
