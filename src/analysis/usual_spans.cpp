@@ -1,5 +1,6 @@
 #include "analysis/usual_spans.h"
 
+#include "analysis/compared_figures.h"
 #include "data/format/numbers.h"
 #include "data/format/texts.h"
 #include "data/unit/enumerations.h"
@@ -7,7 +8,6 @@
 #include "weapons/weapon_fields.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 
 namespace varrocade {
@@ -17,54 +17,6 @@ namespace {
 /// Values within this factor of the usual span are no news.
 constexpr double Tolerance = 1.25;
 constexpr double GramsPerKilogram = 1000;
-
-double cubed(double value) {
-    return value * value * value;
-}
-
-/// A figure of a weapon, or of ammunition fired from it, that is compared among its kind. `value` is 0 where
-/// there is none. `scale` brings the value to what is shown, in the unit of the field.
-struct ComparedFigure {
-    const FieldInfo* field; ///< that it is about: what the weapon's file does not carry counts for nothing
-    std::string_view label;
-    std::string_view unit;
-    double (*value)(const WeaponRecord&, const AmmoTypeRecord&);
-    double (*scale)(const WeaponRecord&, const AmmoTypeRecord&);
-};
-
-double one(const WeaponRecord&, const AmmoTypeRecord&) {
-    return 1;
-}
-
-/// Of ammunition, by its flavour. Projectiles of a kind are alike in shape: their masses go with the cube of
-/// the calibre.
-constexpr auto AmmoFigures = std::to_array<ComparedFigure>({
-    {&weapon_field::Speed, weapon_field::Speed.label, weapon_field::Speed.traits.unit,
-     [](const WeaponRecord&, const AmmoTypeRecord& ammo) { return double{ammo.speed}; }, one},
-    {&weapon_field::Mass, "Mass for the calibre", weapon_field::Mass.traits.unit,
-     [](const WeaponRecord& weapon, const AmmoTypeRecord& ammo) {
-         return weapon.calibre > 0 ? double{ammo.mass} / cubed(double{weapon.calibre}) : 0.0;
-     },
-     [](const WeaponRecord& weapon, const AmmoTypeRecord&) { return cubed(double{weapon.calibre}); }},
-    {&weapon_field::HighExplosive, "Share of high explosive", "%",
-     [](const WeaponRecord&, const AmmoTypeRecord& ammo) { return explosiveShare(ammo); },
-     [](const WeaponRecord&, const AmmoTypeRecord&) { return 100.0; }},
-});
-
-/// Of the weapon itself, by its type.
-constexpr auto WeaponFigures = std::to_array<ComparedFigure>({
-    {&weapon_field::Calibre, weapon_field::Calibre.label, weapon_field::Calibre.traits.unit,
-     [](const WeaponRecord& weapon, const AmmoTypeRecord&) { return double{weapon.calibre}; }, one},
-    {&weapon_field::BarrelLength, weapon_field::BarrelLength.label, weapon_field::BarrelLength.traits.unit,
-     [](const WeaponRecord& weapon, const AmmoTypeRecord&) {
-         return weapon.calibre > 0 ? weapon.barrelLength / double{weapon.calibre} : 0.0;
-     },
-     [](const WeaponRecord& weapon, const AmmoTypeRecord&) { return double{weapon.calibre}; }},
-    {&weapon_field::Range, weapon_field::Range.label, weapon_field::Range.traits.unit,
-     [](const WeaponRecord& weapon, const AmmoTypeRecord&) { return 1.0 * weapon.range; }, one},
-    {&weapon_field::RateOfFire, weapon_field::RateOfFire.label, weapon_field::RateOfFire.traits.unit,
-     [](const WeaponRecord& weapon, const AmmoTypeRecord&) { return 1.0 * weapon.rateOfFire; }, one},
-});
 
 std::string figureText(double value) {
     std::string text;
@@ -119,9 +71,9 @@ void note(std::vector<std::string>& notes, const ComparedFigure& figure, const W
         return;
     }
     const double scale = figure.scale(weapon, ammo);
-    notes.push_back(std::string(figure.label) + " " + spanText(value * scale, value * scale, figure.unit) +
-                    ": usual for " + kind + " is " +
-                    spanText(span->least * scale, span->greatest * scale, figure.unit));
+    notes.push_back(std::string(figure.figure.label) + " " +
+                    spanText(value * scale, value * scale, figure.shownUnit) + ": usual for " + kind +
+                    " is " + spanText(span->least * scale, span->greatest * scale, figure.shownUnit));
 }
 
 } // namespace
@@ -144,16 +96,12 @@ double muzzleEnergy(const AmmoTypeRecord& ammo) {
     return double{ammo.mass} * ammo.speed * ammo.speed / 2 / joulesPerKilojoule;
 }
 
-double explosiveShare(const AmmoTypeRecord& ammo) {
-    return ammo.mass > 0 ? double{ammo.highExplosive} / ammo.mass : 0.0;
-}
-
 std::vector<std::string> unusualFigures(const WeaponRecord& weapon, std::size_t ammo,
                                         std::span<const CatalogueEntry> others) {
     std::vector<std::string> notes;
     const Holder holder = holderOf(weapon.type);
-    for (const ComparedFigure& figure : WeaponFigures) {
-        if (!figure.field->isStoredBy(holder)) {
+    for (const ComparedFigure& figure : figuresOfWeapons()) {
+        if (!figure.isNoted || !figure.figure.field->isStoredBy(holder)) {
             continue;
         }
         auto values =
@@ -166,8 +114,8 @@ std::vector<std::string> unusualFigures(const WeaponRecord& weapon, std::size_t 
         return notes;
     }
     const AmmoTypeRecord& chosen = weapon.ammoTypes[ammo];
-    for (const ComparedFigure& figure : AmmoFigures) {
-        if (!figure.field->isStoredBy(holderOf(chosen.flavour), holder)) {
+    for (const ComparedFigure& figure : figuresOfAmmunition()) {
+        if (!figure.isNoted || !figure.figure.field->isStoredBy(holderOf(chosen.flavour), holder)) {
             continue;
         }
         auto values = valuesOf(figure, weapon, others, true,

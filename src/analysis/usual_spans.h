@@ -31,9 +31,6 @@ bool isUnusual(double value, const UsualSpan& span);
 /// The energy of a projectile at the muzzle in kilojoules: half its mass times the square of its speed.
 double muzzleEnergy(const AmmoTypeRecord& ammo);
 
-/// The share of a projectile's mass that is high explosive, from 0 to 1; 0 without a mass.
-double explosiveShare(const AmmoTypeRecord& ammo);
-
 /// Notes on what is out of the ordinary in a weapon and in one of its ammunition types, a sentence each:
 /// "Speed 9350 m/s: usual for APCBC is 457 to 1000 m/s". The weapon's own entry of the catalogue,
 /// by its file name, does not count. `ammo` may be beyond the list: then there is none to look at.

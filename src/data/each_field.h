@@ -87,38 +87,20 @@ Holder holderOf(const SquadRecord& unit);
 
 namespace each_field {
 
-/// The steps from the record to where the walk is.
-class Steps {
-public:
-    void add(std::string_view name, std::size_t number) {
-        const FieldPath::Step* around = last();
-        steps_.at(count_) = {around, name, number};
-        ++count_;
-    }
-    void removeLast() { --count_; }
-    [[nodiscard]] FieldPath path() const { return FieldPath(last()); }
-
-private:
-    [[nodiscard]] const FieldPath::Step* last() const {
-        return count_ == 0 ? nullptr : &steps_.at(count_ - 1);
-    }
-
-    std::array<FieldPath::Step, FieldPath::MostSteps> steps_ = {};
-    std::size_t count_ = 0;
-};
-
-/// Adds a step for as long as the object lives.
+/// A step of the way for as long as the object lives.
 class Descent {
 public:
-    Descent(Steps& steps, std::string_view name, std::size_t number = 0) : steps_(steps) {
-        steps.add(name, number);
+    Descent(const FieldPath::Step*& last, std::string_view name, std::size_t number = 0)
+        : last_(last), step_{last, name, number} {
+        last = &step_;
     }
-    ~Descent() { steps_.removeLast(); }
+    ~Descent() { last_ = step_.around; }
     Descent(const Descent&) = delete;
     Descent& operator=(const Descent&) = delete;
 
 private:
-    Steps& steps_;
+    const FieldPath::Step*& last_;
+    FieldPath::Step step_;
 };
 
 /// The walk over a record and what it holds. `Visit` takes a `FieldPlace` and a reference to the value.
@@ -133,18 +115,18 @@ public:
         values(unit, file);
         list(unit.availability, element::Availability, file);
         if (unit.vehicle) {
-            const Descent step(steps_, element::Vehicle);
+            const Descent step(last_, element::Vehicle);
             vehicle(*unit.vehicle, file);
         }
         men(unit.infantrymen, Holder::Infantryman);
         if (unit.heavyWeapon) {
-            const Descent step(steps_, elementOf(unit.heavyWeapon->kind));
+            const Descent step(last_, elementOf(unit.heavyWeapon->kind));
             const Holder holder = holderOf(unit.heavyWeapon->kind);
             values(*unit.heavyWeapon, holder);
             armament(*unit.heavyWeapon, holder);
         }
         if (unit.aircraft) {
-            const Descent step(steps_, element::Aircraft);
+            const Descent step(last_, element::Aircraft);
             values(*unit.aircraft, Holder::AircraftFile);
             armament(*unit.aircraft, Holder::AircraftFile);
             list(unit.aircraft->rotorBlades, element::RotorBlades, Holder::AircraftFile);
@@ -165,7 +147,7 @@ public:
     /// The fields of an entry of a list.
     template <typename Record>
     void entry(Record& record, std::string_view name, std::size_t number, Holder holder, Holder around) {
-        const Descent step(steps_, name, number);
+        const Descent step(last_, name, number);
         values(record, holder, around);
     }
 
@@ -175,12 +157,12 @@ private:
         auto& value = field.of(record);
         if constexpr (std::is_same_v<const FieldType, decltype(field::PersonalWeapons)>) {
             for (std::size_t i = 0; i < value.size(); ++i) {
-                const Descent step(steps_, element::Weapon, i + 1);
-                visit_(FieldPlace{steps_.path(), field, holder, around}, value[i]);
+                const FieldPath::Step step{last_, element::Weapon, i + 1};
+                visit_(FieldPlace{FieldPath(&step), field, holder, around}, value[i]);
             }
         } else {
-            const Descent step(steps_, field.element);
-            visit_(FieldPlace{steps_.path(), field, holder, around}, value);
+            const FieldPath::Step step{last_, field.element};
+            visit_(FieldPlace{FieldPath(&step), field, holder, around}, value);
         }
     }
 
@@ -200,7 +182,7 @@ private:
     template <typename Men>
     void men(Men& men, Holder holder) {
         for (std::size_t i = 0; i < men.size(); ++i) {
-            const Descent step(steps_, element::Man, i + 1);
+            const Descent step(last_, element::Man, i + 1);
             values(men[i], holder);
             list(men[i].ammo, element::Ammo, holder);
         }
@@ -213,11 +195,11 @@ private:
         std::array<std::size_t, 4> counts{};
         for (auto& component : vehicle.components) {
             const std::size_t number = ++counts.at(static_cast<std::size_t>(component.kind));
-            const Descent step(steps_, elementOf(component.kind), number);
+            const Descent step(last_, elementOf(component.kind), number);
             const Holder holder = holderOf(component.kind);
             values(component, holder);
             {
-                const Descent armour(steps_, element::Armour);
+                const Descent armour(last_, element::Armour);
                 values(component.armour, holder);
             }
             list(component.smokeDischargers, element::SmokeDischarger, holder);
@@ -227,7 +209,7 @@ private:
     }
 
     Visit& visit_;
-    Steps steps_;
+    const FieldPath::Step* last_ = nullptr; ///< on the way to where the walk is
 };
 
 } // namespace each_field

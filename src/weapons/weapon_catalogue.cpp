@@ -67,6 +67,29 @@ bool isUntouched(const WeaponRecord& weapon) {
 
 } // namespace
 
+CatalogueReading readForCatalogue(const GameFile& file, std::string_view content, TagTree& tree) {
+    CatalogueReading reading{{.path = file.path}};
+    CatalogueEntry& entry = reading.entry;
+    entry.weapon = readWeapon(tree, content, file.name, reading.problems);
+    for (Finding& finding : reading.problems) {
+        finding.file = entry.path;
+    }
+    entry.holdsWeapon = !isUntouched(entry.weapon);
+    if (!entry.holdsWeapon) {
+        reading.problems.push_back({.key = finding_key::NoWeapon,
+                                    .severity = Severity::Error,
+                                    .file = entry.path,
+                                    .message = "holds no weapon"});
+    }
+    return reading;
+}
+
+CatalogueReading unreadForCatalogue(const FileFailure& failure) {
+    CatalogueReading reading{{.path = failure.path, .holdsWeapon = false}, {cannotRead(failure)}};
+    reading.entry.weapon.fileName = nameOfPath(failure.path);
+    return reading;
+}
+
 void WeaponCatalogue::load(std::string_view programFolder, std::string_view modFolder) {
     folders_ = {.program = std::string(programFolder), .mod = std::string(modFolder)};
     entries_.clear();
@@ -92,35 +115,54 @@ void WeaponCatalogue::refresh(std::string_view fileName) {
     addFiles(std::move(list));
 }
 
+void WeaponCatalogue::take(GameFolders folders, std::vector<CatalogueReading> readings,
+                           std::vector<GameFile> hidden) {
+    folders_ = std::move(folders);
+    entries_.clear();
+    problems_.clear();
+    entries_.reserve(readings.size());
+    std::for_each(std::move_iterator(readings.begin()), std::move_iterator(readings.end()),
+                  [this](CatalogueReading&& reading) { add(std::move(reading)); });
+    addHidden(std::move(hidden));
+    sortEntries();
+}
+
 /// Reads the files that count, and hidden ones in whose place there is no weapon.
 void WeaponCatalogue::addFiles(GameFileList list) {
     TagTree tree;
     entries_.reserve(entries_.size() + list.files.size());
     GameFileWalk counting(std::move(list.files));
-    counting.run([&](const GameFile& file, std::string_view content) {
-        entries_.push_back(readEntry(file, content, tree));
-    });
+    counting.run(
+        [&](const GameFile& file, std::string_view content) { add(readForCatalogue(file, content, tree)); });
     for (const FileFailure& failure : counting.failures()) {
-        CatalogueEntry& entry = entries_.emplace_back();
-        entry.path = failure.path;
-        entry.weapon.fileName = nameOfPath(failure.path);
-        entry.holdsWeapon = false;
-        problems_.push_back(cannotRead(failure));
+        add(unreadForCatalogue(failure));
     }
-    std::erase_if(list.hidden, [&](const GameFile& file) { return entryToReplace(file) == nullptr; });
-    GameFileWalk hidden(std::move(list.hidden));
+    addHidden(std::move(list.hidden));
+    sortEntries();
+}
+
+void WeaponCatalogue::add(CatalogueReading reading) {
+    entries_.push_back(std::move(reading.entry));
+    std::move(reading.problems.begin(), reading.problems.end(), std::back_inserter(problems_));
+}
+
+void WeaponCatalogue::addHidden(std::vector<GameFile> files) {
+    std::erase_if(files, [&](const GameFile& file) { return entryToReplace(file) == nullptr; });
+    TagTree tree;
+    GameFileWalk hidden(std::move(files));
     hidden.run([&](const GameFile& file, std::string_view content) {
         CatalogueEntry* const place = entryToReplace(file);
         if (place == nullptr) {
             return;
         }
-        if (CatalogueEntry entry = readEntry(file, content, tree); entry.holdsWeapon) {
-            *place = std::move(entry);
+        CatalogueReading reading = readForCatalogue(file, content, tree);
+        std::move(reading.problems.begin(), reading.problems.end(), std::back_inserter(problems_));
+        if (reading.entry.holdsWeapon) {
+            *place = std::move(reading.entry);
         }
     });
     std::transform(hidden.failures().begin(), hidden.failures().end(), std::back_inserter(problems_),
                    cannotRead);
-    sortEntries();
 }
 
 /// The entry without a weapon that has the name of a file; null where there is none.
@@ -129,24 +171,6 @@ CatalogueEntry* WeaponCatalogue::entryToReplace(const GameFile& file) {
         return !entry.holdsWeapon && equalsIgnoringCase(entry.weapon.fileName, file.name);
     });
     return found == entries_.end() ? nullptr : &*found;
-}
-
-CatalogueEntry WeaponCatalogue::readEntry(const GameFile& file, std::string_view content, TagTree& tree) {
-    CatalogueEntry entry{.path = file.path};
-    Diagnostics diagnostics;
-    entry.weapon = readWeapon(tree, content, file.name, diagnostics);
-    for (Finding& finding : diagnostics) {
-        finding.file = entry.path;
-        problems_.push_back(std::move(finding));
-    }
-    entry.holdsWeapon = !isUntouched(entry.weapon);
-    if (!entry.holdsWeapon) {
-        problems_.push_back({.key = finding_key::NoWeapon,
-                             .severity = Severity::Error,
-                             .file = entry.path,
-                             .message = "holds no weapon"});
-    }
-    return entry;
 }
 
 /// Records are large: their places are sorted, and each record is moved once.

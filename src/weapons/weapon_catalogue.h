@@ -20,6 +20,17 @@ struct CatalogueEntry {
     bool holdsWeapon = true; ///< false: nothing in the file could be read, the record has only its name
 };
 
+/// A file of a catalogue as it was read.
+struct CatalogueReading {
+    CatalogueEntry entry;
+    std::vector<Finding> problems = {}; ///< by its path
+};
+
+/// Reads the content of a weapon file, by way of `tree`, which holds it from then on.
+CatalogueReading readForCatalogue(const GameFile& file, std::string_view content, TagTree& tree);
+/// What stands for a file that cannot be read.
+CatalogueReading unreadForCatalogue(const FileFailure& failure);
+
 /// Which weapons a list offers. An empty member lets all of them through.
 struct WeaponFilter {
     std::span<const WeaponType> types = {};
@@ -38,6 +49,10 @@ public:
     /// Drops what was loaded and reads all weapon files below `programFolder` and, unless it is empty,
     /// `modFolder`; both end in a backslash. A mod without weapons of its own is no problem.
     void load(std::string_view programFolder, std::string_view modFolder = {});
+
+    /// The same from files that others have read: one reading for each that counts, as `listGameFiles` tells,
+    /// in its order. The hidden ones are read where they are needed.
+    void take(GameFolders folders, std::vector<CatalogueReading> readings, std::vector<GameFile> hidden);
 
     /// Brings one weapon up to date after its file was saved, created or deleted in either folder. `fileName`
     /// is without folder and ".txt". When the mod's file is gone, the program's file of that name shows
@@ -65,7 +80,8 @@ public:
 private:
     void addFiles(GameFileList list);
     CatalogueEntry* entryToReplace(const GameFile& file);
-    CatalogueEntry readEntry(const GameFile& file, std::string_view content, TagTree& tree);
+    void add(CatalogueReading reading);
+    void addHidden(std::vector<GameFile> hidden);
     void sortEntries();
 
     GameFolders folders_;

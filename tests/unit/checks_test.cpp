@@ -190,6 +190,53 @@ TEST(Checks, FindNothingInTheSample) {
               "0 errors, 0 warnings, 0 notes\n");
 }
 
+/// What is usual is learnt by all threads together: who read what must not show.
+TEST(Checks, FindTheSameInAnyNumberOfThreads) {
+    const TemporaryFolder folder;
+    writeGame(folder);
+    for (int i = 0; i < 120; ++i) {
+        const std::string name = "German T" + std::to_string(i);
+        const std::string weight = i == 70 ? "900000" : std::to_string(20000 + 50 * i);
+        folder.write("Data\\Vehicles\\" + name + ".txt",
+                     withLine(Tank, "<weight>", "\t\t\t<weight>" + weight + "</weight>"));
+    }
+    std::vector<std::string> reports;
+    for (const std::size_t threads : {1U, 2U, 3U}) {
+        FolderCheck check({.program = folder.path()});
+        check.run(threads);
+        reports.push_back(checkReportJson(check.findings()));
+    }
+    EXPECT_NE(reports[0].find("vehicle-weight"), std::string::npos);
+    EXPECT_NE(reports[0].find("is also the name of Data/Vehicles/German T.txt"), std::string::npos);
+    EXPECT_EQ(reports[0], reports[1]);
+    EXPECT_EQ(reports[0], reports[2]);
+    FolderCheck inSteps({.program = folder.path()});
+    while (inSteps.step()) {
+    }
+    EXPECT_EQ(reports[0], checkReportJson(inSteps.findings()));
+}
+
+TEST(Checks, FindNothingInAFileOfUtf16ButThat) {
+    const std::vector<Finding> found =
+        checkFileText({.category = Category::Weapons, .content = std::string("\xFF\xFE<\0w\0>\0", 8)});
+    EXPECT_EQ(linesOf(found), "1:1 empty-file");
+}
+
+TEST(Checks, TellOfACalibreThatNoMassGoesWith) {
+    FolderCheck check({.program = SampleBase});
+    check.run();
+    std::string content;
+    ASSERT_TRUE(
+        readWholeFile(std::string(SampleBase) + "Data\\Weapons\\WEAPON_CANNON_75_KWK42_L70.txt", content));
+    const auto found = [&](std::string_view line) {
+        return linesOf(check.checkAgain(Category::Weapons, "WEAPON_CANNON_75_KWK42_L70",
+                                        withLine(content, "<calibre>", line)));
+    };
+    EXPECT_EQ(found("\t\t<calibre>75</calibre>"), "");
+    EXPECT_EQ(found("\t\t<calibre>750</calibre>"),
+              "7:12 unusual-value\n25:65 unusual-value\n26:65 unusual-value\n27:62 unusual-value");
+}
+
 TEST(Checks, AreAllOnTheirPage) {
     std::string page;
     ASSERT_TRUE(readWholeFile("docs\\checks.md", page));

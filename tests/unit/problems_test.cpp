@@ -103,6 +103,35 @@ TEST_F(ProblemsTest, QuickFixesChangeWhatTheyNameAndNothingElse) {
     EXPECT_FALSE(files("Game\\Backups\\Data\\Infantry\\German Squad").empty());
 }
 
+/// The squad with these points in the place of its own.
+std::string squadFrom(std::string_view points) {
+    std::string text = squadOf(RifleLine + RoundsLine);
+    const std::string own = "\t\t<data><month>1</month><year>1940</year><number>9</number></data>\r\n";
+    return text.replace(text.find(own), own.size(), points);
+}
+
+TEST_F(ProblemsTest, PointsOfAvailabilityAreSortedWhereNoDateStandsTwice) {
+    const std::string first =
+        "\t\t<data><month>5</month><year>1940</year><number>1</number></data> // the first\r\n";
+    const std::string second = "\t\t<data><month>1</month><year>1941</year><number>2</number></data>\r\n";
+    const std::string third = "\t\t<data><year>1942</year><month>1</month><number>3</number></data>\r\n";
+    const struct {
+        std::string broken;
+        std::size_t problems;
+        std::string mended;
+    } rows[] = {{third + second + first, 2, first + second + third},
+                {second + first + third, 1, first + second + third},
+                {second + first + second, 1, {}}};
+    for (const auto& row : rows) {
+        folder.write(SquadFile, squadFrom(row.broken));
+        look();
+        const std::vector<Problem> problems = squadProblems(ck::AvailabilityOrder);
+        EXPECT_EQ(problems.size(), row.problems) << row.broken;
+        EXPECT_EQ(fixProblems(book, workspace, problems).fixed, row.mended.empty() ? 0 : row.problems);
+        EXPECT_EQ(fileText(SquadFile), squadFrom(row.mended.empty() ? row.broken : row.mended));
+    }
+}
+
 TEST_F(ProblemsTest, WhatHasSeveralAnswersIsNotFixed) {
     folder.write("Game\\Data\\Weapons\\WEAPON_RIFLE_K98A.txt",
                  weaponFileText(newWeapon("WEAPON_RIFLE_K98A")));

@@ -73,7 +73,7 @@ TEST(DataSheet, SaysWhatTheFilesOfTheSampleHold) {
 }
 
 TEST(DataSheet, OfAWeaponListsProblemsAndUsers) {
-    const auto problems = std::to_array<Finding>({{.message = "a weapon without a type"}});
+    const auto problems = std::to_array<SheetProblem>({{{.message = "a weapon without a type"}}});
     const std::string text =
         sheetText(weaponSheet({}, problems, std::vector<std::string>{"Vehicles: Tiger", "Aircraft: Il-2"}));
     EXPECT_NE(text.find("[Problems of the file]\nA weapon without a type.\n"), std::string::npos) << text;

@@ -2,6 +2,7 @@
 
 #include "data/finding_text.h"
 #include "test_support.h"
+#include "tools/checks/engine/check_rules.h"
 #include "tools/checks/sheet_problems.h"
 #include "view/sheet/data_sheet.h"
 #include "view/sheet/missing_files.h"
@@ -116,6 +117,19 @@ TEST(UnitProblems, NameThePlaceAndThePart) {
         }
         EXPECT_TRUE(isFound) << row.by << ":\n" << all;
     }
+}
+
+TEST(UnitProblems, OfAWeaponPointAtItsAmmunition) {
+    WeaponRecord weapon;
+    weapon.ammoTypes = {{.mass = 2}, {.mass = 1, .highExplosive = 3}};
+    const std::vector<SheetProblem> problems = valueProblems(weapon, {});
+    ASSERT_EQ(problems.size(), 1U);
+    EXPECT_EQ(problems[0].finding.key, check_key::MoreExplosiveThanMass);
+    EXPECT_EQ(problems[0].part, (UnitPart{PartKind::Ammunition, 0, 1}));
+    EXPECT_EQ(partOfField(weapon, "calibre"), UnitPart{PartKind::Details});
+    const std::vector<SheetProblem> broken = fileProblems(Category::Weapons, "<weapon><rof>4</rof");
+    ASSERT_FALSE(broken.empty());
+    EXPECT_EQ(broken[0].finding.line, 1U);
 }
 
 TEST(UnitProblems, NameMissingSoundsAndUniforms) {

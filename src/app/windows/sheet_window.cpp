@@ -184,7 +184,10 @@ bool showHandOverLink(HWND window, LPARAM detail) {
 void doubleClick(POINT pixel) {
     const SheetWarningPlace* warning = sheetWarningAt(pixel);
     const SquadRecord* unit = openUnit(theWorkspace());
-    if (warning != nullptr && unit != nullptr && warning->part) {
+    const WeaponRecord* weapon = openWeapon(theWorkspace());
+    if (warning != nullptr && weapon != nullptr) {
+        editOpenWeapon(targetOfField(*weapon, warning->field));
+    } else if (warning != nullptr && unit != nullptr && warning->part) {
         if (canEditSelectedPart()) {
             editPartAt(targetOfField(*unit, warning->field));
         }

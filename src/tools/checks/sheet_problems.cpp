@@ -48,7 +48,9 @@ std::vector<SheetProblem> fileProblems(Category category, std::string_view fileC
                std::find(ofValues.begin(), ofValues.end(), finding.key) != ofValues.end();
     });
     Diagnostics ofReader;
-    readUnit(fileContent, {}, ofReader);
+    if (category != Category::Weapons) { // the catalogue tells what it had no room for
+        readUnit(fileContent, {}, ofReader);
+    }
     std::copy_if(ofReader.begin(), ofReader.end(), std::back_inserter(found),
                  [](const Finding& finding) { return finding.key == finding_key::NoRoom; });
     std::stable_sort(found.begin(), found.end(),
@@ -87,6 +89,18 @@ std::vector<SheetProblem> valueProblems(const SquadRecord& record, std::string_v
     for (Finding& gap : unitGaps(record)) {
         const UnitPart part = partOfField(record, gap.field);
         problems.push_back({std::move(gap), part});
+    }
+    return problems;
+}
+
+std::vector<SheetProblem> valueProblems(const WeaponRecord& weapon, std::string_view fileContent) {
+    std::vector<SheetProblem> problems;
+    for (Finding& finding : checkWeaponFileValues(
+             {}, {.category = Category::Weapons, .name = weapon.fileName, .content = fileContent}, weapon)) {
+        if (finding.severity == Severity::Error) {
+            const UnitPart part = partOfField(weapon, finding.field);
+            problems.push_back({std::move(finding), part});
+        }
     }
     return problems;
 }

@@ -1,9 +1,11 @@
 #pragma once
-// What the checks find in the open unit, for the bar on top of its sheet.
+// What the checks find in the open unit or weapon, for the bar on top of its sheet.
 
 #include "data/category.h"
 #include "view/sheet/unit_problems.h"
 #include "weapons/weapon_catalogue.h"
+
+#include "weapons/weapon_record.h"
 
 #include <span>
 #include <string>
@@ -12,8 +14,8 @@
 
 namespace varrocade {
 
-/// Elements of a unit's file that its record has nothing of: not known, in the wrong place, left out, hidden
-/// by a nesting that is broken. Nothing of a file far longer than the game's are.
+/// Elements of a unit's or weapon's file that its record has nothing of: not known, in the wrong place, left
+/// out, hidden by a nesting that is broken. Nothing of a file far longer than the game's are.
 std::vector<SheetProblem> fileProblems(Category category, std::string_view fileContent);
 
 /// Values of the record that name what is not there or do not fit each other. The lines are those of the
@@ -23,5 +25,8 @@ std::vector<SheetProblem> valueProblems(const SquadRecord& record, std::string_v
                                         std::span<const std::string> missingPictures,
                                         const WeaponCatalogue& catalogue,
                                         std::span<const std::string> bases = {});
+
+/// Values of a weapon that cannot be.
+std::vector<SheetProblem> valueProblems(const WeaponRecord& weapon, std::string_view fileContent);
 
 } // namespace varrocade

@@ -65,9 +65,10 @@ void drawRounds(DrawList& list, const WeaponRecord& weapon, const ShapeGroup& pi
         const std::size_t column = i / rows;
         const Point bottom{left + cellWidth * (static_cast<double>(column) + 0.5),
                            length - cellHeight * static_cast<double>(i % rows) - longest};
-        addShapes(list, roundShape(weapon, weapon.ammoTypes[i]), bottom, 0);
+        const UnitPart part{PartKind::Ammunition, 0, i};
+        addShapes(list, roundShape(weapon, weapon.ammoTypes[i]), bottom, 0, part);
         list.items.emplace_back(
-            LabelItem{labelOf(weapon.ammoTypes[i]), {bottom.x, bottom.y - length * 0.008}, cellWidth});
+            LabelItem{labelOf(weapon.ammoTypes[i]), {bottom.x, bottom.y - length * 0.008}, cellWidth, part});
         coverBox(list, {bottom.x - cellWidth / 2, bottom.y - length * LabelShare},
                  {bottom.x + cellWidth / 2, bottom.y + longest});
     }
@@ -78,7 +79,7 @@ void drawRounds(DrawList& list, const WeaponRecord& weapon, const ShapeGroup& pi
 DrawList drawWeapon(const WeaponRecord& weapon, const DrawOptions& options, PictureSizes& sizes) {
     DrawList list;
     const ShapeGroup piece = weaponShape(weapon);
-    addShapes(list, piece, {}, 0);
+    addShapes(list, piece, {}, 0, {PartKind::Details});
     coverBox(list, {-piece.width / 2, 0}, {piece.width / 2, piece.length});
     drawTracer(list, weapon, piece.length, options, sizes);
     const bool isItsOwnRound = weapon.type == WeaponType::Bomb || weapon.type == WeaponType::Grenade;

@@ -95,9 +95,9 @@ DataSheet unitSheet(const SquadRecord& record, std::span<const std::string> miss
 /// Puts what is wrong with a unit on its sheet: into the bar, and in full into a section at its end.
 void addProblems(DataSheet& sheet, std::span<const SheetProblem> problems);
 
-/// The sheet of a weapon, what could not be read of its file, and the units that use it, as far as these are
-/// known yet.
-DataSheet weaponSheet(const WeaponRecord& weapon, std::span<const Finding> problems,
+/// The sheet of a weapon, what is wrong with its file, and the units that use it, as far as these are known
+/// yet.
+DataSheet weaponSheet(const WeaponRecord& weapon, std::span<const SheetProblem> problems,
                       const std::optional<std::vector<std::string>>& users);
 
 /// The sections that only infantry and heavy weapons, and only aircraft, have.

@@ -165,22 +165,22 @@ void addProblems(DataSheet& sheet, std::span<const SheetProblem> problems) {
     sheet.sections.push_back(std::move(section));
 }
 
-DataSheet weaponSheet(const WeaponRecord& weapon, std::span<const Finding> problems,
+DataSheet weaponSheet(const WeaponRecord& weapon, std::span<const SheetProblem> problems,
                       const std::optional<std::vector<std::string>>& users) {
     DataSheet sheet;
     sheet.title.text = weaponWord(weapon.name.empty() ? weapon.fileName : weapon.name);
     sheet.title.subtitle = shownValue(weapon_field::Type, weapon, {.nothing = {}});
     sheet.comment = weapon.comments;
     if (!problems.empty()) {
-        std::vector<std::string> lines(problems.size());
-        std::transform(problems.begin(), problems.end(), lines.begin(), sentence);
+        std::vector<std::string> lines;
+        for (const SheetProblem& problem : problems) {
+            lines.push_back(sentence(problem.finding));
+            sheet.warnings.push_back({lines.back(), problem.part, problem.finding.field});
+        }
         sheet.sections.push_back(notesSection("Problems of the file", lines));
         sheet.sections.back().holdsProblems = true;
-        for (std::string& line : lines) {
-            sheet.warnings.push_back({std::move(line)});
-        }
     }
-    SheetSection figures{.heading = {"Figures"}};
+    SheetSection figures{.heading = {"Figures"}, .part = {PartKind::Details}};
     constexpr PairTerms figure = {.zeroIsNothing = true};
     figures.pairs = {pairOf(weapon_field::Calibre, weapon, figure),
                      pairOf(weapon_field::BarrelLength, weapon, figure),
@@ -201,7 +201,8 @@ DataSheet weaponSheet(const WeaponRecord& weapon, std::span<const Finding> probl
             {{flavourWord(nameOf(ammo.flavour)), ammo.name, shownValue(weapon_field::Speed, ammo, figure),
               shownValue(weapon_field::Mass, ammo, figure),
               shownValue(weapon_field::HighExplosive, ammo, figure),
-              isHeat(ammo.flavour) ? shownValue(weapon_field::Era, ammo) : "-"}});
+              isHeat(ammo.flavour) ? shownValue(weapon_field::Era, ammo) : "-"},
+             {PartKind::Ammunition, 0, table.rows.size() - 1}});
     }
     if (weapon.ammoTypes.empty()) {
         ammunition.notes.push_back({"None."});

@@ -3,6 +3,7 @@
 #include "data/each_field.h"
 #include "data/format/numbers.h"
 #include "data/unit/elements.h"
+#include "weapons/weapon_elements.h"
 #include "weapons/weapon_fields.h"
 
 #include <algorithm>
@@ -134,6 +135,13 @@ WeaponTarget targetOfField(const WeaponRecord& weapon, std::string_view path) {
     const FieldId field = fieldAt(weapon, path);
     const Step step = takeStep(path);
     return {step.number > 0 ? step.place() : 0, field};
+}
+
+UnitPart partOfField(const WeaponRecord& weapon, std::string_view path) {
+    const Step step = takeStep(path);
+    const bool isAmmo = step.name == weapon_element::Ammo && step.number > 0;
+    return isAmmo && step.place() < weapon.ammoTypes.size() ? UnitPart{PartKind::Ammunition, 0, step.place()}
+                                                            : UnitPart{PartKind::Details};
 }
 
 UnitPart partOfField(const SquadRecord& record, std::string_view path) {

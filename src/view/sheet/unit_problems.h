@@ -46,5 +46,7 @@ WeaponTarget targetOfField(const WeaponRecord& weapon, std::string_view path);
 
 /// The part that a field belongs to, by its path from the unit on: "vehicle.turret[2].rotate_left".
 UnitPart partOfField(const SquadRecord& record, std::string_view path);
+/// Of a weapon, a type of its ammunition or, of kind `Details`, the weapon itself.
+UnitPart partOfField(const WeaponRecord& weapon, std::string_view path);
 
 } // namespace varrocade

@@ -75,12 +75,33 @@ std::optional<std::vector<std::string>> usersOf(const WeaponRecord& weapon) {
     return application().weaponUsers.usersOf(names);
 }
 
-std::vector<Finding> problemsOf(const WeaponRecord& weapon) {
+/// The file is looked through once; the values with every change.
+const std::vector<SheetProblem>& problemsOfFile(UnitDisplay& display) {
+    const OpenRecord& open = theWorkspace().open;
+    if (display.checkedContent != open.content) {
+        display.checkedContent = open.content;
+        display.fileProblems = fileProblems(open.category, open.content);
+    }
+    return display.fileProblems;
+}
+
+void append(std::vector<SheetProblem>& problems, std::vector<SheetProblem> others) {
+    std::move(others.begin(), others.end(), std::back_inserter(problems));
+}
+
+std::vector<SheetProblem> problemsOf(UnitDisplay& display, const WeaponRecord& weapon) {
     const Workspace& workspace = theWorkspace();
-    std::vector<Finding> problems = workspace.catalogue.problemsOf(
-        dataFilePath(baseFolder(workspace), Category::Weapons, weapon.fileName));
-    std::vector<Finding> missing = missingFiles(weapon, imageBases(workspace));
-    std::move(missing.begin(), missing.end(), std::back_inserter(problems));
+    std::vector<SheetProblem> problems;
+    for (Finding& problem : workspace.catalogue.problemsOf(
+             dataFilePath(baseFolder(workspace), Category::Weapons, weapon.fileName))) {
+        problems.push_back({std::move(problem)});
+    }
+    append(problems, problemsOfFile(display));
+    append(problems, valueProblems(weapon, workspace.open.content));
+    for (Finding& missing : missingFiles(weapon, imageBases(workspace))) {
+        const UnitPart part = partOfField(weapon, missing.field);
+        problems.push_back({std::move(missing), part});
+    }
     return problems;
 }
 
@@ -94,23 +115,19 @@ void addSaveFailure(DataSheet& sheet) {
 
 void composeWeaponSheet(UnitDisplay& display, const WeaponRecord& weapon) {
     display.weaponUsers = usersOf(weapon);
-    display.sheet = weaponSheet(weapon, problemsOf(weapon), display.weaponUsers);
+    const std::vector<SheetProblem> problems = problemsOf(display, weapon);
+    noteOpenProblems(problems);
+    display.sheet = weaponSheet(weapon, problems, display.weaponUsers);
     addSaveFailure(display.sheet);
 }
 
-/// The file is looked through once; the values with every change.
 void composeUnitSheet(UnitDisplay& display, const SquadRecord& unit) {
     const Workspace& workspace = theWorkspace();
     const std::string& content = workspace.open.content;
-    if (display.checkedContent != content) {
-        display.checkedContent = content;
-        display.fileProblems = fileProblems(workspace.open.category, content);
-    }
-    std::vector<SheetProblem> problems = display.fileProblems;
-    std::vector<SheetProblem> values = valueProblems(unit, content, display.drawing.missingPictures,
-                                                     workspace.catalogue, imageBases(workspace));
-    std::move(values.begin(), values.end(), std::back_inserter(problems));
-    noteOpenProblems(unit, problems);
+    std::vector<SheetProblem> problems = problemsOfFile(display);
+    append(problems, valueProblems(unit, content, display.drawing.missingPictures, workspace.catalogue,
+                                   imageBases(workspace)));
+    noteOpenProblems(problems);
     display.sheet = unitSheet(unit, display.drawing.missingPictures, workspace.catalogue);
     addProblems(display.sheet, problems);
     addSaveFailure(display.sheet);

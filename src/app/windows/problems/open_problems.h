@@ -1,5 +1,5 @@
 #pragma once
-// What is known of the open unit's problems, for its signs.
+// What is known of the open record's problems, for its signs.
 
 #include "view/sheet/unit_problems.h"
 
@@ -10,7 +10,8 @@ namespace varrocade {
 /// Forgets what was found in a folder that is no longer in use.
 void followProblemFolder();
 
-/// What the sheet tells of the open unit, for its signs and, before all files were checked, for the list.
-void noteOpenProblems(const SquadRecord& unit, const std::vector<SheetProblem>& problems);
+/// What the sheet tells of the open unit or weapon, for its signs and, before all files were checked, for the
+/// list.
+void noteOpenProblems(const std::vector<SheetProblem>& problems);
 
 } // namespace varrocade

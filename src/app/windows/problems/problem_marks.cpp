@@ -32,15 +32,14 @@ Point placeOf(const Item& item) {
     }
 }
 
-} // namespace
-
-std::vector<MarkedPart> markedParts(const SquadRecord& unit, const std::vector<Finding>& findings) {
+template <typename Record>
+std::vector<MarkedPart> partsOf(const Record& record, const std::vector<Finding>& findings) {
     std::vector<MarkedPart> marks;
     for (const Finding& finding : findings) {
         if (finding.severity == Severity::Note) {
             continue;
         }
-        const UnitPart part = partOfField(unit, finding.field);
+        const UnitPart part = partOfField(record, finding.field);
         const auto found = std::find_if(marks.begin(), marks.end(),
                                         [&](const MarkedPart& mark) { return isSameShown(mark.part, part); });
         if (found == marks.end()) {
@@ -50,6 +49,16 @@ std::vector<MarkedPart> markedParts(const SquadRecord& unit, const std::vector<F
         }
     }
     return marks;
+}
+
+} // namespace
+
+std::vector<MarkedPart> markedParts(const SquadRecord& unit, const std::vector<Finding>& findings) {
+    return partsOf(unit, findings);
+}
+
+std::vector<MarkedPart> markedParts(const WeaponRecord& weapon, const std::vector<Finding>& findings) {
+    return partsOf(weapon, findings);
 }
 
 void paintProblemSign(HDC device, const DrawingObjects& objects, POINT centre, Severity severity) {

@@ -14,15 +14,16 @@
 
 namespace varrocade {
 
-/// A part of the open unit that has a sign, an error or a warning.
+/// A part of the open unit or weapon that has a sign, an error or a warning.
 struct MarkedPart {
     UnitPart part;
     Severity severity = Severity::Warning;
     bool operator==(const MarkedPart&) const = default;
 };
 
-/// The parts that findings are about, each once with the worst of its findings.
+/// The parts that findings about a unit or weapon are about, each once with the worst of its findings.
 std::vector<MarkedPart> markedParts(const SquadRecord& unit, const std::vector<Finding>& findings);
+std::vector<MarkedPart> markedParts(const WeaponRecord& weapon, const std::vector<Finding>& findings);
 
 /// How wide and high a sign is, in pixels of 96 dpi.
 inline constexpr int ProblemSignSize = 11;

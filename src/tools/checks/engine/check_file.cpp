@@ -10,6 +10,7 @@
 #include "tools/checks/rules/structure_rules.h"
 #include "tools/checks/rules/unit_rules.h"
 #include "tools/checks/rules/weapon_file_rules.h"
+#include "weapons/weapon_files.h"
 #include "weapons/weapon_rules.h"
 
 #include <algorithm>
@@ -43,6 +44,7 @@ void dropEchoes(std::vector<Finding>& found) {
         {finding_key::AmmoWithoutWeapon, finding_key::UnknownWeapon},
         {finding_key::AmmoWithoutWeapon, ck::EmptyValue},
         {ck::EmptyValue, ck::BrokenTag},
+        {finding_key::UnknownElement, ck::BrokenTag},
         {ck::WeaponWithoutAmmo, finding_key::UnknownWeapon},
         {ck::NoRounds, ck::NotANumber},
         {ck::NoRounds, ck::EmptyValue},
@@ -95,6 +97,12 @@ std::vector<Finding> sorted(FileFindings& out) {
 
 /// What the text is like; whether it can be read as it is meant.
 bool checkText(const FileToCheck& file, const TagTree& tree, FileFindings& out) {
+    if (hasWideMark(file.content)) {
+        out.atFile({.key = ck::EmptyFile,
+                    .message = "the file is written in UTF-16, so that the game sees no element in it",
+                    .hint = "save it as ANSI text"});
+        return false;
+    }
     if (hasForeignBytes(file.content)) {
         checkCharacters(file.content, out);
     }
@@ -142,15 +150,6 @@ void addLeftOut(const Diagnostics& diagnostics, FileFindings& out) {
             out.found().back().file = out.file();
         }
     }
-}
-
-void checkWeaponTree(const CheckKnowledge& knowledge, const FileToCheck& file, const TagTree& tree,
-                     FileFindings& out) {
-    Diagnostics diagnostics;
-    ReaderFindings ofReader(diagnostics, file.name, tree, file.content);
-    const WeaponRecord weapon = weapon_rules::readTree(tree, file.name, &ofReader, nullptr);
-    addLeftOut(diagnostics, out);
-    checkWeaponRecord({weapon, file.name, knowledge, out});
 }
 
 std::vector<Finding> tooLarge(const FileToCheck& file) {
@@ -213,6 +212,8 @@ std::string pathOfFinding(Category category, std::string_view content, const Fin
 }
 
 void readForCheck(const FileToCheck& file, ReadUnitFile& into) {
+    into.unit = {};
+    into.diagnostics.clear();
     into.unit.fileName = file.name;
     into.tree.parse(file.content);
     ReaderFindings ofReader(into.diagnostics, file.name, into.tree, file.content);
@@ -226,11 +227,10 @@ std::vector<Finding> checkFile(const CheckKnowledge& knowledge, const FileToChec
         return tooLarge(file);
     }
     if (file.category == Category::Weapons) {
-        return withTree(file, [&](const TagTree& tree, FileFindings& out) {
-            if (checkText(file, tree, out)) {
-                checkWeaponTree(knowledge, file, tree, out);
-            }
-        });
+        TagTree tree;
+        Diagnostics diagnostics;
+        const WeaponRecord weapon = readWeapon(tree, file.content, file.name, diagnostics);
+        return checkWeaponFile(knowledge, file, {tree, weapon, diagnostics});
     }
     if (read == nullptr) {
         ReadUnitFile own;
@@ -241,6 +241,19 @@ std::vector<Finding> checkFile(const CheckKnowledge& knowledge, const FileToChec
         if (checkText(file, tree, out)) {
             addLeftOut(read->diagnostics, out);
             checkUnitRecord({read->unit, file.category, file.name, knowledge, out, file.looksIntoPictures});
+        }
+    });
+}
+
+std::vector<Finding> checkWeaponFile(const CheckKnowledge& knowledge, const FileToCheck& file,
+                                     const ReadWeaponFile& read) {
+    if (file.content.size() > LargestFile) {
+        return tooLarge(file);
+    }
+    return onTree(file, read.tree, [&](const TagTree& tree, FileFindings& out) {
+        if (checkText(file, tree, out)) {
+            addLeftOut(read.diagnostics, out);
+            checkWeaponRecord({read.weapon, file.name, knowledge, out});
         }
     });
 }

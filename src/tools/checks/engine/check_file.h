@@ -23,20 +23,32 @@ struct FileToCheck {
     bool looksIntoPictures = false;
 };
 
-/// A unit's file taken apart and read, for those who look at it twice.
+/// A unit's file taken apart and read, for those who look at it twice; one after the other for those who look
+/// at many.
 struct ReadUnitFile {
     TagTree tree;
     SquadRecord unit;
     Diagnostics diagnostics; ///< of the reader
 };
 
+/// What `into` held before is dropped.
 void readForCheck(const FileToCheck& file, ReadUnitFile& into);
+
+/// A weapon's file taken apart and read.
+struct ReadWeaponFile {
+    const TagTree& tree;
+    const WeaponRecord& weapon;
+    const Diagnostics& diagnostics; ///< of the reader
+};
 
 /// Everything about a unit's or weapon's file, by its lines: what its text is like, and, where that can be
 /// read, what its values name and whether they fit. Without what its own comments suppress. `read` is what
 /// was made of a unit's file before, null where it is to be read now.
 std::vector<Finding> checkFile(const CheckKnowledge& knowledge, const FileToCheck& file,
                                const ReadUnitFile* read = nullptr);
+/// The same of a weapon's file that was read before.
+std::vector<Finding> checkWeaponFile(const CheckKnowledge& knowledge, const FileToCheck& file,
+                                     const ReadWeaponFile& read);
 
 /// What the text of a file is like, whatever is in the game around it: tags, elements, single values. Quick
 /// enough for every key that is typed.

@@ -34,14 +34,26 @@ void inThreads(std::size_t threads, Work work) {
     }
 }
 
+/// Calls `visit(thread, i)` with each number from `from` on below `count`, in so many threads.
+template <typename Visit>
+void share(std::size_t threads, std::size_t from, std::size_t count, Visit visit) {
+    constexpr std::size_t perTurn = 16;
+    std::atomic<std::size_t> next = from;
+    inThreads(std::min(threads, (count - from) / perTurn + 1), [&](std::size_t thread) {
+        for (std::size_t begin = next.fetch_add(perTurn); begin < count; begin = next.fetch_add(perTurn)) {
+            for (std::size_t i = begin; i < std::min(begin + perTurn, count); ++i) {
+                visit(thread, i);
+            }
+        }
+    });
+}
+
 } // namespace
 
 FolderCheck::FolderCheck(const GameFolders& folders, bool looksIntoPictures)
     : looksIntoPictures_(looksIntoPictures) {
-    // Listing waits for the disk, and reading the weapons for the processor.
-    constexpr std::size_t lister = 1;
-    inThreads(
-        2, [&](std::size_t thread) { thread == lister ? list(folders) : learnFolders(knowledge_, folders); });
+    learnFolders(knowledge_, folders);
+    list(folders);
     if (failure_) {
         return;
     }
@@ -65,6 +77,11 @@ void FolderCheck::list(const GameFolders& folders) {
         if (!list.failures.empty() && !failure_) {
             failure_ = list.failures.front();
         }
+        if (category == Category::Weapons) {
+            firstWeapon_ = files_.size();
+            weapons_.resize(list.files.size());
+            hiddenWeapons_ = std::move(list.hidden);
+        }
         for (GameFile& file : list.files) {
             CheckedFile& entry = files_.emplace_back();
             entry.isChecked = folders.mod.empty() || file.isOfMod;
@@ -78,89 +95,161 @@ void FolderCheck::list(const GameFolders& folders) {
     }
 }
 
-void FolderCheck::survey(CheckedFile& entry, UnitSurvey& survey) const {
-    if (!readWholeFile(entry.file.path, entry.content)) {
-        Finding finding = cannotRead({entry.shown, systemFiles().lastError()});
-        finding.file = entry.shown;
-        finding.line = 1;
-        finding.column = 1;
-        entry.found.push_back(std::move(finding));
+/// A file that cannot be read has that as its one finding.
+bool FolderCheck::read(CheckedFile& entry, std::string& content) const {
+    if (readWholeFile(entry.file.path, content)) {
+        return true;
+    }
+    Finding finding = cannotRead({entry.shown, systemFiles().lastError()});
+    finding.file = entry.shown;
+    finding.line = 1;
+    finding.column = 1;
+    entry.found.assign(1, std::move(finding));
+    return false;
+}
+
+void FolderCheck::lookAtWeapon(CheckedFile& entry, Desk& desk, CatalogueReading& weapon) const {
+    if (!read(entry, desk.content)) {
+        weapon = unreadForCatalogue({entry.file.path, systemFiles().lastError()});
         return;
     }
-    if (entry.file.category != Category::Weapons) {
-        auto read = std::make_unique<ReadUnitFile>();
-        readForCheck(entry.toCheck(), *read);
-        survey.add(entry.file.category, entry.shown, read->unit);
-        entry.read = entry.isChecked ? std::move(read) : nullptr;
+    weapon = readForCatalogue(entry.file, desk.content, desk.unit.tree);
+    checkWeapon(entry, desk, weapon);
+}
+
+void FolderCheck::lookAtUnit(CheckedFile& entry, Desk& desk, std::uint32_t number, UnitSurvey& survey) const {
+    if (read(entry, desk.content)) {
+        readForCheck(toCheck(entry, desk), desk.unit);
+        survey.add(number, entry.file.category, entry.shown, desk.unit.unit);
+        checkUnit(entry, desk);
     }
 }
 
-void FolderCheck::check(CheckedFile& entry) const {
-    if (!entry.isChecked || !entry.found.empty()) {
+void FolderCheck::lookAgain(CheckedFile& entry, Desk& desk) const {
+    if (!entry.isChecked || !read(entry, desk.content)) {
         return;
     }
-    entry.found = checkFile(knowledge_, entry.toCheck(looksIntoPictures_), entry.read.get());
-    entry.read.reset();
-    std::erase_if(entry.found, [this](const Finding& finding) { return suppressions_.covers(finding); });
-    if (entry.found.empty()) {
-        entry.content = {};
+    if (entry.file.category == Category::Weapons) {
+        checkWeapon(entry, desk, readForCatalogue(entry.file, desk.content, desk.unit.tree));
+    } else {
+        readForCheck(toCheck(entry, desk), desk.unit);
+        checkUnit(entry, desk);
     }
 }
 
-void FolderCheck::finishSurvey() {
-    survey_.finish(knowledge_);
+FileToCheck FolderCheck::toCheck(const CheckedFile& entry, const Desk& desk) const {
+    return {entry.file.category, entry.file.name, entry.shown, desk.content, looksIntoPictures_};
+}
+
+void FolderCheck::checkUnit(CheckedFile& entry, const Desk& desk) const {
+    if (entry.isChecked) {
+        keep(entry, desk, checkFile(knowledge_, toCheck(entry, desk), &desk.unit));
+    }
+}
+
+void FolderCheck::checkWeapon(CheckedFile& entry, const Desk& desk, const CatalogueReading& reading) const {
+    if (entry.isChecked) {
+        const ReadWeaponFile read{desk.unit.tree, reading.entry.weapon, reading.problems};
+        keep(entry, desk, checkWeaponFile(knowledge_, toCheck(entry, desk), read));
+    }
+}
+
+void FolderCheck::keep(CheckedFile& entry, const Desk& desk, std::vector<Finding> found) const {
+    std::erase_if(found, [this](const Finding& finding) { return suppressions_.covers(finding); });
+    entry.content = found.empty() ? std::string() : desk.content;
+    entry.found = std::move(found);
+}
+
+void FolderCheck::finishWeapons() {
+    knowledge_.ownCatalogue.take(knowledge_.files.bases(), std::move(weapons_), std::move(hiddenWeapons_));
+    for (const CatalogueEntry* weapon : learnOwnWeapons(knowledge_)) {
+        const auto file =
+            std::find_if(files_.begin() + static_cast<std::ptrdiff_t>(firstWeapon_), files_.end(),
+                         [weapon](const CheckedFile& entry) { return entry.file.path == weapon->path; });
+        if (file != files_.end()) {
+            outstanding_.push_back(static_cast<std::uint32_t>(file - files_.begin()));
+        }
+    }
+}
+
+void FolderCheck::finishUnits() {
+    const std::vector<std::uint32_t> units = survey_.finish(knowledge_);
+    outstanding_.insert(outstanding_.end(), units.begin(), units.end());
+    // Some are there twice.
+    std::sort(outstanding_.begin(), outstanding_.end());
+    outstanding_.erase(std::unique(outstanding_.begin(), outstanding_.end()), outstanding_.end());
+}
+
+std::size_t FolderCheck::count() const {
+    switch (stage_) {
+    case Stage::Weapons:
+        return files_.size() - firstWeapon_;
+    case Stage::Units:
+        return firstWeapon_;
+    case Stage::Outstanding:
+        return outstanding_.size();
+    case Stage::Done:
+        break;
+    }
+    return 0;
+}
+
+/// The place among the files of what a stage looks at.
+std::size_t FolderCheck::placeOf(std::size_t i) const {
+    return stage_ == Stage::Weapons ? firstWeapon_ + i : stage_ == Stage::Units ? i : outstanding_[i];
+}
+
+void FolderCheck::look(std::size_t i, Desk& desk, UnitSurvey& survey) {
+    CheckedFile& entry = files_[placeOf(i)];
+    if (stage_ == Stage::Weapons) {
+        lookAtWeapon(entry, desk, weapons_[i]);
+    } else if (stage_ == Stage::Units) {
+        lookAtUnit(entry, desk, static_cast<std::uint32_t>(i), survey);
+    } else {
+        lookAgain(entry, desk);
+    }
+}
+
+void FolderCheck::endStage() {
+    if (stage_ == Stage::Weapons) {
+        finishWeapons();
+    } else if (stage_ == Stage::Units) {
+        finishUnits();
+    }
+    done_ += at_;
+    at_ = 0;
+    stage_ = static_cast<Stage>(static_cast<unsigned>(stage_) + 1);
 }
 
 bool FolderCheck::step() {
-    if (surveyed_ < files_.size()) {
-        survey(files_[surveyed_++], survey_);
-        if (surveyed_ == files_.size()) {
-            finishSurvey();
-        }
-        return true;
+    if (at_ < count()) {
+        look(at_++, desk_, survey_);
     }
-    if (checked_ < files_.size()) {
-        check(files_[checked_++]);
+    while (!isDone() && at_ == count()) {
+        endStage();
     }
     return !isDone();
 }
 
 void FolderCheck::run(std::size_t threads) {
-    constexpr std::size_t filesPerTurn = 16;
-    const std::size_t cores = std::max(1U, std::thread::hardware_concurrency());
-    const std::size_t most = files_.size() / filesPerTurn + 1;
-    threads = std::min(threads == 0 ? cores : threads, most);
-    std::atomic<std::size_t> next = surveyed_;
-    const auto share = [&](auto visit) {
-        for (std::size_t from = next.fetch_add(filesPerTurn); from < files_.size();
-             from = next.fetch_add(filesPerTurn)) {
-            for (std::size_t i = from; i < std::min(from + filesPerTurn, files_.size()); ++i) {
-                visit(files_[i]);
-            }
-        }
-    };
-    if (surveyed_ < files_.size()) {
+    threads = threads == 0 ? std::max(1U, std::thread::hardware_concurrency()) : threads;
+    std::vector<Desk> desks(threads);
+    while (!isDone()) {
         std::vector<UnitSurvey> surveys(threads, UnitSurvey(knowledge_));
-        inThreads(threads, [&](std::size_t thread) {
-            share([&](CheckedFile& file) { survey(file, surveys[thread]); });
-        });
+        share(threads, at_, count(),
+              [&](std::size_t thread, std::size_t i) { look(i, desks[thread], surveys[thread]); });
         for (UnitSurvey& one : surveys) {
             survey_.join(std::move(one));
         }
-        surveyed_ = files_.size();
-        finishSurvey();
+        at_ = count();
+        endStage();
     }
-    next = checked_;
-    inThreads(threads, [&](std::size_t) { share([&](CheckedFile& file) { check(file); }); });
-    checked_ = files_.size();
 }
 
 WalkProgress FolderCheck::progress() const {
-    const std::size_t done = surveyed_ + checked_;
-    const std::size_t at = surveyed_ < files_.size() ? surveyed_ : checked_;
-    return {.done = done,
-            .total = 2 * files_.size(),
-            .name = at < files_.size() ? std::string_view(files_[at].file.name) : std::string_view()};
+    return {.done = done_ + at_,
+            .total = files_.size() + outstanding_.size(),
+            .name = at_ < count() ? std::string_view(files_[placeOf(at_)].file.name) : std::string_view()};
 }
 
 std::vector<Finding> FolderCheck::findings() const {

@@ -1,5 +1,6 @@
 #pragma once
-// Checking all files of a game or mod: first what is usual among them, then each.
+// Checking all files of a game or mod: weapons first, which units name, each file as soon as it is read, and
+// those that stand out among all of them once more.
 
 #include "data/finding.h"
 #include "data/game_files.h"
@@ -8,6 +9,7 @@
 #include "tools/checks/engine/suppressions.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -21,7 +23,7 @@ std::string shownPath(Category category, std::string_view name);
 /// Checks a game, or a mod's files within their game, in steps between which a window can answer.
 class FolderCheck {
 public:
-    /// Lists the files and loads what the rules know. With a mod, only its files are checked; the game's are
+    /// Lists the files. With a mod, only its files are checked; the game's are
     /// what they name and are compared with. Pictures are taken apart only where that is asked for: it takes
     /// seconds for a hundred vehicles.
     explicit FolderCheck(const GameFolders& folders, bool looksIntoPictures = false);
@@ -34,7 +36,7 @@ public:
     void run(std::size_t threads = 0);
 
     [[nodiscard]] WalkProgress progress() const;
-    [[nodiscard]] bool isDone() const { return checked_ == files_.size(); }
+    [[nodiscard]] bool isDone() const { return stage_ == Stage::Done; }
 
     /// What was found so far, in the order of the files and their lines.
     [[nodiscard]] std::vector<Finding> findings() const;
@@ -63,29 +65,50 @@ private:
     struct CheckedFile {
         GameFile file;
         std::string shown;
-        std::string content = {};
-        bool isChecked = true;                   ///< otherwise it is only compared with
-        std::unique_ptr<ReadUnitFile> read = {}; ///< between its survey and its check
+        std::string content = {}; ///< of a file with findings
+        bool isChecked = true;    ///< otherwise it is only compared with
         std::vector<Finding> found = {};
-
-        [[nodiscard]] FileToCheck toCheck(bool looksIntoPictures = false) const {
-            return {file.category, file.name, shown, content, looksIntoPictures};
-        }
     };
+    /// What a thread uses again for one file after the other.
+    struct Desk {
+        std::string content;
+        ReadUnitFile unit; ///< of a weapon's file, only the tree
+    };
+    enum class Stage : std::uint8_t { Weapons, Units, Outstanding, Done };
 
     void list(const GameFolders& folders);
-    void survey(CheckedFile& file, UnitSurvey& survey) const;
-    void check(CheckedFile& file) const;
-    void finishSurvey();
+    [[nodiscard]] std::size_t count() const; ///< of what the stage looks at
+    [[nodiscard]] std::size_t placeOf(std::size_t i) const;
+    void look(std::size_t i, Desk& desk, UnitSurvey& survey);
+    void endStage();
+    void finishWeapons();
+    void finishUnits();
+
+    bool read(CheckedFile& file, std::string& content) const;
+    void lookAtWeapon(CheckedFile& file, Desk& desk, CatalogueReading& weapon) const;
+    void lookAtUnit(CheckedFile& file, Desk& desk, std::uint32_t number, UnitSurvey& survey) const;
+    void lookAgain(CheckedFile& file, Desk& desk) const;
+    [[nodiscard]] FileToCheck toCheck(const CheckedFile& file, const Desk& desk) const;
+    void checkUnit(CheckedFile& file, const Desk& desk) const;
+    void checkWeapon(CheckedFile& file, const Desk& desk, const CatalogueReading& reading) const;
+    void keep(CheckedFile& file, const Desk& desk, std::vector<Finding> found) const;
+
     bool looksIntoPictures_;
     CheckKnowledge knowledge_;
     SuppressionList suppressions_;
-    std::vector<CheckedFile> files_;
+    std::vector<CheckedFile> files_; ///< units before weapons
+    std::size_t firstWeapon_ = 0;
     std::vector<Finding> ofFolder_; ///< of the list of suppressions and of the mod's settings
     std::string modContent_;
+    std::vector<CatalogueReading> weapons_; ///< until all are known
+    std::vector<GameFile> hiddenWeapons_;
     UnitSurvey survey_{knowledge_};
-    std::size_t surveyed_ = 0;
-    std::size_t checked_ = 0;
+    /// The files that may have more findings by what is usual among all of them.
+    std::vector<std::uint32_t> outstanding_;
+    Stage stage_ = Stage::Weapons;
+    std::size_t at_ = 0;   ///< how far the stage has come
+    std::size_t done_ = 0; ///< what the former ones looked at
+    Desk desk_;
     std::optional<FileFailure> failure_;
 };
 

@@ -1,5 +1,6 @@
 #include "tools/checks/engine/knowledge.h"
 
+#include "analysis/performance/outliers.h"
 #include "analysis/performance/vehicle_figures.h"
 #include "data/format/texts.h"
 #include "data/unit_fields.h"
@@ -78,13 +79,28 @@ void learnWeapons(CheckKnowledge& knowledge, const WeaponCatalogue& catalogue) {
 
 void learnFolders(CheckKnowledge& knowledge, const GameFolders& folders) {
     knowledge.files.setBases(folders);
-    knowledge.ownCatalogue.load(folders.program, folders.mod);
-    learnWeapons(knowledge, knowledge.ownCatalogue);
-    knowledge.masses.emplace(knowledge.ownCatalogue);
     const std::string& modFolder = folders.mod.empty() ? folders.program : folders.mod;
     if (systemFiles().exists(modFolder + std::string(ModFileName))) {
         knowledge.mod = loadModSettings(modFolder);
     }
+}
+
+std::vector<const CatalogueEntry*> learnOwnWeapons(CheckKnowledge& knowledge) {
+    learnWeapons(knowledge, knowledge.ownCatalogue);
+    knowledge.masses.emplace(knowledge.ownCatalogue);
+    const std::vector<CatalogueEntry>& entries = knowledge.ownCatalogue.entries();
+    ValueSamples samples;
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+        if (entries[i].holdsWeapon) {
+            addSamples(samples, entries[i].weapon, static_cast<std::uint32_t>(i));
+        }
+    }
+    knowledge.usual.learn(samples);
+    std::vector<const CatalogueEntry*> outstanding;
+    for (const std::uint32_t owner : knowledge.usual.ownersOfUnusual(samples)) {
+        outstanding.push_back(&entries[owner]);
+    }
+    return outstanding;
 }
 
 void UnitSurvey::addLoads(const SquadRecord& unit) {
@@ -120,20 +136,21 @@ void UnitSurvey::addLoads(const SquadRecord& unit) {
     addMen(unit.infantrymen);
 }
 
-void UnitSurvey::add(Category category, std::string_view file, const SquadRecord& unit) {
-    addSamples(samples_, unit);
+void UnitSurvey::add(std::uint32_t number, Category category, std::string_view file,
+                     const SquadRecord& unit) {
+    addSamples(samples_, unit, number);
     addLoads(unit);
     if (unit.vehicle && knowledge_.masses) {
-        vehicles_.push_back(vehicleFigures(unit, *knowledge_.masses));
+        vehicles_.push_back({number, vehicleFigures(unit, *knowledge_.masses)});
     }
     if (!unit.longName.empty()) {
-        units_.push_back({category, std::string(file), unit.longName.str(), unit.nationality.str()});
+        units_.push_back({number, category, std::string(file), unit.longName.str(), unit.nationality.str()});
     }
 }
 
 void UnitSurvey::join(UnitSurvey other) {
     for (auto& [key, values] : other.samples_) {
-        std::vector<float>& ours = samples_[key];
+        std::vector<ValueSample>& ours = samples_[key];
         ours.insert(ours.end(), values.begin(), values.end());
     }
     std::move(other.vehicles_.begin(), other.vehicles_.end(), std::back_inserter(vehicles_));
@@ -156,16 +173,15 @@ std::int32_t middleOf(std::vector<std::int32_t> values) {
     return *middle;
 }
 
+template <typename Surveyed>
+void sortByNumber(std::vector<Surveyed>& entries) {
+    std::sort(entries.begin(), entries.end(),
+              [](const Surveyed& a, const Surveyed& b) { return a.number < b.number; });
+}
+
 } // namespace
 
-void UnitSurvey::finish(CheckKnowledge& knowledge) {
-    for (const CatalogueEntry& entry : knowledge.catalogue->entries()) {
-        if (entry.holdsWeapon) {
-            addSamples(samples_, entry.weapon);
-        }
-    }
-    knowledge.usual = UsualValues(samples_);
-    knowledge.weights = calibrateWeight(vehicles_);
+void UnitSurvey::finishLoads(CheckKnowledge& knowledge) const {
     knowledge.usualLoads.clear();
     for (const auto& [weapon, loads] : loads_) {
         std::vector<UsualLoad>& usual = knowledge.usualLoads[weapon];
@@ -176,10 +192,52 @@ void UnitSurvey::finish(CheckKnowledge& knowledge) {
             }
         }
     }
-    knowledge.unitsByName.clear();
-    for (KnownUnit& unit : units_) {
-        knowledge.unitsByName[loweredText(unit.longName)].push_back(std::move(unit));
+}
+
+/// Learns the weights of all vehicles, and tells which are far from them.
+void UnitSurvey::finishWeights(CheckKnowledge& knowledge, std::vector<std::uint32_t>& outstanding) {
+    sortByNumber(vehicles_);
+    std::vector<VehicleFigures> figures;
+    figures.reserve(vehicles_.size());
+    for (SurveyedVehicle& vehicle : vehicles_) {
+        figures.push_back(std::move(vehicle.figures));
     }
+    knowledge.weights = calibrateWeight(figures);
+    for (std::size_t i = 0; i < figures.size(); ++i) {
+        if (weightOutlier(figures[i], *knowledge.weights)) {
+            outstanding.push_back(vehicles_[i].number);
+        }
+    }
+}
+
+/// Learns the names of all units, and tells which share one within their nation.
+void UnitSurvey::finishNames(CheckKnowledge& knowledge, std::vector<std::uint32_t>& outstanding) {
+    sortByNumber(units_);
+    knowledge.unitsByName.clear();
+    knowledge.unitsByName.reserve(units_.size());
+    for (KnownUnit& unit : units_) {
+        knowledge.unitsByName[unit.longName].push_back(std::move(unit));
+    }
+    for (const auto& [name, units] : knowledge.unitsByName) {
+        for (const KnownUnit& unit : units) {
+            if (std::any_of(units.begin(), units.end(), [&unit](const KnownUnit& other) {
+                    return &other != &unit && other.nationality == unit.nationality;
+                })) {
+                outstanding.push_back(unit.number);
+            }
+        }
+    }
+}
+
+std::vector<std::uint32_t> UnitSurvey::finish(CheckKnowledge& knowledge) {
+    knowledge.usual.learn(samples_);
+    std::vector<std::uint32_t> outstanding = knowledge.usual.ownersOfUnusual(samples_);
+    finishWeights(knowledge, outstanding);
+    finishNames(knowledge, outstanding);
+    finishLoads(knowledge);
+    std::sort(outstanding.begin(), outstanding.end());
+    outstanding.erase(std::unique(outstanding.begin(), outstanding.end()), outstanding.end());
+    return outstanding;
 }
 
 } // namespace varrocade

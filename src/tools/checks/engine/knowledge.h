@@ -12,6 +12,7 @@
 #include "tools/pictures/silhouette.h"
 #include "weapons/weapon_catalogue.h"
 
+#include <cstdint>
 #include <map>
 #include <mutex>
 #include <optional>
@@ -34,6 +35,7 @@ struct UsualLoad {
 
 /// A unit as far as others are compared with it.
 struct KnownUnit {
+    std::uint32_t number; ///< of the survey's caller
     Category category;
     std::string file;
     std::string longName;
@@ -56,7 +58,8 @@ struct CheckKnowledge {
     UsualValues usual = {};
     std::optional<WeightCalibration> weights = {};
     std::optional<WeaponMasses> masses = {};
-    std::unordered_map<std::string, std::vector<KnownUnit>> unitsByName = {}; ///< by long name, small letters
+    /// By long name.
+    std::unordered_map<std::string, std::vector<KnownUnit>, CaselessHash, CaselessEqual> unitsByName = {};
 
     /// By weapon, as units write its name.
     std::unordered_map<std::string, std::vector<UsualLoad>> usualLoads = {};
@@ -74,21 +77,27 @@ private:
     mutable std::map<std::pair<const AssetFile*, const AssetFile*>, PictureShift> shifts_;
 };
 
-/// Loads weapons, lists pictures and sounds, reads the mod's settings.
+/// Where pictures and sounds are, and the mod's settings.
 void learnFolders(CheckKnowledge& knowledge, const GameFolders& folders);
+
+/// Takes the weapons of the knowledge's own catalogue for those of the game, and learns what they weigh and
+/// what is usual among them. Gives back those that stand out.
+std::vector<const CatalogueEntry*> learnOwnWeapons(CheckKnowledge& knowledge);
 
 /// Takes the weapons of a catalogue for those of the game; it must live as long as the knowledge.
 void learnWeapons(CheckKnowledge& knowledge, const WeaponCatalogue& catalogue);
 
-/// What is usual among the units of a game, and which names they have. `learnUnit` with each, then once
-/// `finish`.
+/// What is usual among the units of a game, and which names they have. Units go by numbers of the caller's.
 class UnitSurvey {
 public:
     explicit UnitSurvey(const CheckKnowledge& knowledge) : knowledge_(knowledge) {}
-    void add(Category category, std::string_view file, const SquadRecord& unit);
-    /// Puts the findings of another survey behind those of this.
+    void add(std::uint32_t number, Category category, std::string_view file, const SquadRecord& unit);
+    /// Adds the findings of another survey.
     void join(UnitSurvey other);
-    void finish(CheckKnowledge& knowledge);
+    /// Tells the knowledge, once all are added. What comes of it is the same whoever surveyed which unit.
+    /// Gives back, in their order, the units that stand out: only about these do rules find anything with
+    /// it that they don't find without.
+    std::vector<std::uint32_t> finish(CheckKnowledge& knowledge);
 
 private:
     /// The loads for a weapon in all lists of ammunition.
@@ -96,12 +105,19 @@ private:
         std::size_t carriers = 0;
         std::map<std::string, std::vector<std::int32_t>, std::less<>> rounds = {}; ///< by flavour
     };
+    struct SurveyedVehicle {
+        std::uint32_t number;
+        VehicleFigures figures;
+    };
 
     void addLoads(const SquadRecord& unit);
+    void finishLoads(CheckKnowledge& knowledge) const;
+    void finishWeights(CheckKnowledge& knowledge, std::vector<std::uint32_t>& outstanding);
+    void finishNames(CheckKnowledge& knowledge, std::vector<std::uint32_t>& outstanding);
 
     const CheckKnowledge& knowledge_;
     ValueSamples samples_;
-    std::vector<VehicleFigures> vehicles_;
+    std::vector<SurveyedVehicle> vehicles_;
     std::vector<KnownUnit> units_;
     std::map<std::string, Loads, std::less<>> loads_;
 };

@@ -32,40 +32,25 @@ constexpr double OfNormal = 1.4826;
 constexpr double LeastPower = 1.5;
 constexpr double GreatestPower = 60.0;
 
-double median(std::vector<double>& values) {
-    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
-    std::nth_element(values.begin(), middle, values.end());
-    return *middle;
-}
-
-constexpr UsualFigure ofField(const FieldInfo& field) {
-    return {&field, field.label, field.traits.unit};
+/// The value that would stand in this place if they were sorted.
+double ranked(std::vector<double>& values, std::size_t place) {
+    const auto at = values.begin() + static_cast<std::ptrdiff_t>(place);
+    std::nth_element(values.begin(), at, values.end());
+    return *at;
 }
 
 namespace figure {
 
-constexpr UsualFigure Horsepower = ofField(field::Horsepower);
+constexpr UsualFigure Horsepower = figureOf(field::Horsepower);
 constexpr UsualFigure PowerForWeight = {&field::Horsepower, "Power for the weight", "hp/t"};
-constexpr UsualFigure IdleRevolutions = ofField(field::IdleRevolutions);
-constexpr UsualFigure RevolutionLimit = ofField(field::RevolutionLimit);
-constexpr UsualFigure ForwardGears = ofField(field::ForwardGears);
-constexpr UsualFigure RotateTime = ofField(field::RotateTime);
-constexpr UsualFigure Rounds = ofField(field::Rounds);
-constexpr UsualFigure Mass = ofField(field::Mass);
-constexpr UsualFigure TrailLength = ofField(field::TrailLength);
-constexpr UsualFigure Speed = ofField(field::AircraftSpeed);
-
-constexpr UsualFigure Calibre = ofField(weapon_field::Calibre);
-constexpr UsualFigure BarrelLength = {&weapon_field::BarrelLength, "Barrel length", "calibres"};
-constexpr UsualFigure Range = ofField(weapon_field::Range);
-constexpr UsualFigure RateOfFire = ofField(weapon_field::RateOfFire);
-constexpr UsualFigure Capacity = ofField(weapon_field::Capacity);
-constexpr UsualFigure ShellSpeed = ofField(weapon_field::Speed);
-/// Projectiles of a kind are alike in shape: their masses go with the cube of the calibre, here in
-/// decimetres.
-constexpr UsualFigure ShellMass = {&weapon_field::Mass, "Mass for the calibre", "kg/dm3"};
-constexpr UsualFigure Explosive = {&weapon_field::HighExplosive, "Share of high explosive", ""};
-constexpr UsualFigure Fuse = ofField(weapon_field::ExplodeIn);
+constexpr UsualFigure IdleRevolutions = figureOf(field::IdleRevolutions);
+constexpr UsualFigure RevolutionLimit = figureOf(field::RevolutionLimit);
+constexpr UsualFigure ForwardGears = figureOf(field::ForwardGears);
+constexpr UsualFigure RotateTime = figureOf(field::RotateTime);
+constexpr UsualFigure Rounds = figureOf(field::Rounds);
+constexpr UsualFigure Mass = figureOf(field::Mass);
+constexpr UsualFigure TrailLength = figureOf(field::TrailLength);
+constexpr UsualFigure Speed = figureOf(field::AircraftSpeed);
 
 } // namespace figure
 
@@ -147,38 +132,21 @@ void visitFigures(const WeaponRecord& weapon, Visit& visit) {
     const Holder holder = holderOf(weapon.type);
     const std::string_view type = nameOf(weapon.type);
     const auto ofWeapon = [] { return std::string(); };
-    const auto show = [&](const UsualFigure& what, double value) {
-        if (what.field->isStoredBy(holder)) {
-            visit(what, type, value, ofWeapon);
+    for (const ComparedFigure& compared : figuresOfWeapons()) {
+        if (compared.figure.field->isStoredBy(holder)) {
+            visit(compared.figure, type, compared.value(weapon, {}), ofWeapon);
         }
-    };
-    show(figure::Calibre, weapon.calibre);
-    if (weapon.calibre > 0) {
-        show(figure::BarrelLength, weapon.barrelLength / double{weapon.calibre});
     }
-    show(figure::Range, weapon.range);
-    show(figure::RateOfFire, weapon.rateOfFire);
-    show(figure::Capacity, weapon.magazineCapacity);
     std::string kind;
     for (std::size_t i = 0; i < weapon.ammoTypes.size(); ++i) {
         const AmmoTypeRecord& ammo = weapon.ammoTypes[i];
         kind.assign(nameOf(ammo.flavour)).append(" ").append(type);
         const auto ofAmmo = [i] { return entryPath(weapon_element::Ammo, i); };
-        const auto showAmmo = [&](const UsualFigure& what, double value) {
-            if (what.field->isStoredBy(holderOf(ammo.flavour), holder)) {
-                visit(what, kind, value, ofAmmo);
+        for (const ComparedFigure& compared : figuresOfAmmunition()) {
+            if (compared.figure.field->isStoredBy(holderOf(ammo.flavour), holder)) {
+                visit(compared.figure, kind, compared.value(weapon, ammo), ofAmmo);
             }
-        };
-        constexpr double decimetre = 100; // millimetres
-        const double calibre = weapon.calibre / decimetre;
-        showAmmo(figure::ShellSpeed, ammo.speed);
-        if (calibre > 0) {
-            showAmmo(figure::ShellMass, ammo.mass / (calibre * calibre * calibre));
         }
-        if (ammo.mass > 0) {
-            showAmmo(figure::Explosive, double{ammo.highExplosive} / ammo.mass);
-        }
-        showAmmo(figure::Fuse, ammo.explodeIn);
     }
 }
 
@@ -188,16 +156,16 @@ void visitFigures(const SquadRecord& unit, Visit& visit) {
 }
 
 template <typename Record>
-void sample(ValueSamples& samples, const Record& record) {
+void sample(ValueSamples& samples, const Record& record, std::uint32_t owner) {
     auto take = [&](const UsualFigure& what, std::string_view kind, double value, const auto&) {
         if (value <= 0) {
             return;
         }
         auto found = samples.find(std::pair(&what, kind));
         if (found == samples.end()) {
-            found = samples.emplace(std::pair(&what, std::string(kind)), std::vector<float>()).first;
+            found = samples.emplace(std::pair(&what, std::string(kind)), std::vector<ValueSample>()).first;
         }
-        found->second.push_back(static_cast<float>(value));
+        found->second.push_back({static_cast<float>(value), owner});
     };
     visitFigures(record, take);
 }
@@ -210,17 +178,12 @@ std::string wordsOfKind(std::string_view kind) {
     return displayName(kind, kind.starts_with(WeaponPrefix) ? WeaponPrefix : "TYPE_");
 }
 
-template <typename Record, typename Ranges>
-std::vector<UnusualValue> unusualValues(const Record& record, const Ranges& ranges) {
+/// `rangeOf` tells the range of a figure and a kind.
+template <typename Record, typename RangeOf>
+std::vector<UnusualValue> unusualValues(const Record& record, RangeOf rangeOf) {
     std::vector<UnusualValue> values;
     auto look = [&](const UsualFigure& what, std::string_view kind, double value, const auto& path) {
-        const auto found = ranges.find(std::pair(&what, kind));
-        const bool isKnown = found != ranges.end();
-        UsualValues::Range range = isKnown ? found->second : UsualValues::Range{.least = 0, .greatest = 1e30};
-        if (&what == &figure::PowerForWeight) {
-            range = {.least = std::max(range.least, LeastPower),
-                     .greatest = std::min(range.greatest, GreatestPower)};
-        }
+        const UsualValues::Range range = rangeOf(what, kind);
         if (value <= 0 || (value >= range.least && value <= range.greatest)) {
             return;
         }
@@ -238,44 +201,72 @@ std::vector<UnusualValue> unusualValues(const Record& record, const Ranges& rang
 
 } // namespace
 
-void addSamples(ValueSamples& samples, const SquadRecord& unit) {
-    sample(samples, unit);
+void addSamples(ValueSamples& samples, const SquadRecord& unit, std::uint32_t owner) {
+    sample(samples, unit, owner);
 }
 
-void addSamples(ValueSamples& samples, const WeaponRecord& weapon) {
-    sample(samples, weapon);
+void addSamples(ValueSamples& samples, const WeaponRecord& weapon, std::uint32_t owner) {
+    sample(samples, weapon, owner);
 }
 
-UsualValues::UsualValues(const ValueSamples& samples) {
+void UsualValues::learn(const ValueSamples& samples) {
     for (const auto& [key, found] : samples) {
         if (found.size() < LeastValues) {
             continue;
         }
         std::vector<double> logarithms(found.size());
         std::transform(found.begin(), found.end(), logarithms.begin(),
-                       [](float value) { return std::log(double{value}); });
-        std::vector<double> sorted = logarithms;
-        std::sort(sorted.begin(), sorted.end());
-        const double middle = median(logarithms);
+                       [](const ValueSample& sample) { return std::log(double{sample.value}); });
+        // The outermost value may be the faulty one: the next counts as the nearest other.
+        const double nextToLeast = ranked(logarithms, 1);
+        const double nextToGreatest = ranked(logarithms, logarithms.size() - 2);
+        const double middle = ranked(logarithms, logarithms.size() / 2);
         for (double& value : logarithms) {
             value = std::abs(value - middle);
         }
-        const double deviation = OfNormal * median(logarithms);
+        const double deviation = OfNormal * ranked(logarithms, logarithms.size() / 2);
         const double spread = Deviations * std::max(deviation, LeastSpread);
-        // The outermost value may be the faulty one: the next counts as the nearest other.
         const double margin = std::log(deviation > 0 ? BeyondOthers : BeyondAlike);
-        const double least = std::min(middle - spread, sorted[1] - margin);
-        const double greatest = std::max(middle + spread, sorted[sorted.size() - 2] + margin);
+        const double least = std::min(middle - spread, nextToLeast - margin);
+        const double greatest = std::max(middle + spread, nextToGreatest + margin);
         ranges_[key] = {.least = std::exp(least), .greatest = std::exp(greatest)};
     }
 }
 
+UsualValues::Range UsualValues::rangeOf(const UsualFigure& what, std::string_view kind) const {
+    const auto found = ranges_.find(std::pair(&what, kind));
+    Range range = found != ranges_.end() ? found->second : Range{.least = 0, .greatest = 1e30};
+    if (&what == &figure::PowerForWeight) {
+        range = {.least = std::max(range.least, LeastPower),
+                 .greatest = std::min(range.greatest, GreatestPower)};
+    }
+    return range;
+}
+
+std::vector<std::uint32_t> UsualValues::ownersOfUnusual(const ValueSamples& samples) const {
+    constexpr double rounding = 1e-6;
+    std::vector<std::uint32_t> owners;
+    for (const auto& [key, found] : samples) {
+        const Range range = rangeOf(*key.first, key.second);
+        const double least = range.least * (1 + rounding);
+        const double greatest = range.greatest * (1 - rounding);
+        for (const ValueSample& sample : found) {
+            if (double{sample.value} < least || double{sample.value} > greatest) {
+                owners.push_back(sample.owner);
+            }
+        }
+    }
+    return owners;
+}
+
 std::vector<UnusualValue> UsualValues::unusual(const SquadRecord& unit) const {
-    return unusualValues(unit, ranges_);
+    return unusualValues(
+        unit, [this](const UsualFigure& what, std::string_view kind) { return rangeOf(what, kind); });
 }
 
 std::vector<UnusualValue> UsualValues::unusual(const WeaponRecord& weapon) const {
-    return unusualValues(weapon, ranges_);
+    return unusualValues(
+        weapon, [this](const UsualFigure& what, std::string_view kind) { return rangeOf(what, kind); });
 }
 
 } // namespace varrocade

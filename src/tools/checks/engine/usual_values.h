@@ -1,10 +1,11 @@
 #pragma once
 // What is usual: the values of all units or weapons of a kind, and which lie apart from all others.
 
-#include "data/field.h"
+#include "analysis/compared_figures.h"
 #include "data/unit/unit_record.h"
 #include "weapons/weapon_record.h"
 
+#include <cstdint>
 #include <functional>
 #include <map>
 #include <string>
@@ -13,13 +14,6 @@
 #include <vector>
 
 namespace varrocade {
-
-/// A figure that is compared among units or weapons of a kind: a value, or what two of them come to.
-struct UsualFigure {
-    FieldId field;          ///< that is to be mended
-    std::string_view label; ///< for people
-    std::string_view unit = {};
-};
 
 /// Figures and kinds are few; values are told by both.
 struct ByFigureAndKind {
@@ -31,12 +25,18 @@ struct ByFigureAndKind {
     }
 };
 
+/// A value and whose it is, by the number that the caller has for that.
+struct ValueSample {
+    float value = 0;
+    std::uint32_t owner = 0;
+};
+
 /// The values found so far. Kinds are unit types, weapon types, or flavours and weapon types.
 using ValueSamples =
-    std::map<std::pair<const UsualFigure*, std::string>, std::vector<float>, ByFigureAndKind>;
+    std::map<std::pair<const UsualFigure*, std::string>, std::vector<ValueSample>, ByFigureAndKind>;
 
-void addSamples(ValueSamples& samples, const SquadRecord& unit);
-void addSamples(ValueSamples& samples, const WeaponRecord& weapon);
+void addSamples(ValueSamples& samples, const SquadRecord& unit, std::uint32_t owner);
+void addSamples(ValueSamples& samples, const WeaponRecord& weapon, std::uint32_t owner);
 
 /// A value apart from those of its kind.
 struct UnusualValue {
@@ -51,11 +51,14 @@ struct UnusualValue {
 /// The ranges that the values of each kind lie in.
 class UsualValues {
 public:
-    UsualValues() = default;
-    explicit UsualValues(const ValueSamples& samples);
+    /// Learns the ranges of all kinds that there are samples of.
+    void learn(const ValueSamples& samples);
 
     [[nodiscard]] std::vector<UnusualValue> unusual(const SquadRecord& unit) const;
     [[nodiscard]] std::vector<UnusualValue> unusual(const WeaponRecord& weapon) const;
+    /// The owners of samples that lie apart, some of them several times: all that `unusual` has something to
+    /// say about. Samples are rounded, so that one on the border may be none after all.
+    [[nodiscard]] std::vector<std::uint32_t> ownersOfUnusual(const ValueSamples& samples) const;
 
     struct Range {
         double least = 0;
@@ -63,6 +66,8 @@ public:
     };
 
 private:
+    [[nodiscard]] Range rangeOf(const UsualFigure& what, std::string_view kind) const;
+
     std::map<std::pair<const UsualFigure*, std::string>, Range, ByFigureAndKind> ranges_;
 };
 

@@ -4,12 +4,16 @@
 #include "data/format/source_map.h"
 #include "data/format/texts.h"
 #include "data/format/words.h"
+#include "data/reading/unit_reader.h"
+#include "data/reading/unit_rules.h"
 #include "data/unit/elements.h"
 #include "data/unit_fields.h"
 #include "tools/checks/engine/check_file.h"
 #include "tools/checks/engine/check_rules.h"
+#include "tools/checks/engine/file_findings.h"
 
 #include <algorithm>
+#include <numeric>
 #include <tuple>
 #include <vector>
 
@@ -28,10 +32,10 @@ struct TextEdit {
 /// From the last one of the file to the first: so each leaves the places of the others.
 using FixEdits = std::vector<TextEdit>;
 
-std::size_t offsetOf(std::string_view content, const Finding& finding) {
+std::size_t offsetOf(std::string_view content, const SourcePlace& place) {
     const LineIndex lines(content);
-    const std::string_view line = lines.line(finding.line);
-    const std::size_t column = std::min(finding.column - 1, line.size());
+    const std::string_view line = lines.line(place.line);
+    const std::size_t column = std::min(place.column - 1, line.size());
     return line.empty() ? content.size() : static_cast<std::size_t>(line.data() - content.data()) + column;
 }
 
@@ -107,13 +111,58 @@ FixEdits valueEdits(std::string_view content, std::size_t at, const Finding& fin
     return {{found, finding.value.size(), finding.replacement}};
 }
 
+/// A point of availability with what stands behind it on its line, which goes with it.
+std::size_t endOfPoint(std::string_view content, std::size_t begin) {
+    const std::string closing = "</" + std::string(element::Data) + ">";
+    const std::size_t end = std::min(content.find(closing, begin), content.size() - closing.size());
+    const std::size_t lineEnd = std::min(content.find_first_of("\r\n", end), content.size());
+    const std::size_t behind = end + closing.size();
+    const std::string_view rest = trimmed(content.substr(behind, lineEnd - behind));
+    return rest.starts_with("//") ? lineEnd : behind;
+}
+
+/// Puts the points into the order of their dates, each in the place of another.
+FixEdits sortingEdits(std::string_view content) {
+    TagTree tree;
+    tree.parse(content);
+    Diagnostics diagnostics;
+    const std::vector<AvailabilityPoint> points = readUnit(content, {}, diagnostics).availability;
+    const auto nodes = pathsOfElements(tree, unit_rules::elements());
+    const SourceMap places(tree, content);
+    std::vector<std::string_view> texts;
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        const auto node = nodes.find(std::string(element::Availability) + "[" + std::to_string(i + 1) + "]");
+        if (node == nodes.end()) {
+            return {};
+        }
+        const std::size_t begin = offsetOf(content, places.placeOf(tree.nodes()[node->second]));
+        texts.push_back(content.substr(begin, endOfPoint(content, begin) - begin));
+    }
+    std::vector<std::size_t> order(points.size());
+    std::iota(order.begin(), order.end(), std::size_t{0});
+    std::stable_sort(order.begin(), order.end(), [&](std::size_t a, std::size_t b) {
+        return std::tie(points[a].year, points[a].month) < std::tie(points[b].year, points[b].month);
+    });
+    FixEdits edits;
+    for (std::size_t i = points.size(); i-- > 0;) {
+        if (order[i] != i) {
+            edits.push_back({static_cast<std::size_t>(texts[i].data() - content.data()), texts[i].size(),
+                             std::string(texts[order[i]])});
+        }
+    }
+    return edits;
+}
+
 FixEdits editsFor(const CheckKnowledge& knowledge, std::string_view content, const Finding& finding) {
     if (quickFixName(knowledge, finding).empty()) {
         return {};
     }
-    const std::size_t at = offsetOf(content, finding);
+    const std::size_t at = offsetOf(content, SourcePlace{finding.line, finding.column});
     if (finding.key == ck::WeaponWithoutAmmo) {
         return ammunitionEdits(content, at, finding, *loadsFor(knowledge, finding));
+    }
+    if (finding.key == ck::AvailabilityOrder) {
+        return sortingEdits(content);
     }
     return finding.key == finding_key::UnknownElement ? renameEdits(content, at, finding)
                                                       : valueEdits(content, at, finding);
@@ -165,6 +214,10 @@ std::string quickFixName(const CheckKnowledge& knowledge, const Finding& finding
         }
         return text + " for " + quoted(finding.value);
     }
+    if (finding.key == ck::AvailabilityOrder) {
+        // The rule says so only where sorting is all that is to be done.
+        return finding.hint.empty() ? "" : "Sort the points of availability by their dates";
+    }
     if (finding.replacement.empty() || finding.value.empty() || finding.replacement == finding.value) {
         return {};
     }
@@ -187,6 +240,11 @@ FixedText fixText(const CheckKnowledge& knowledge, Category category, std::strin
     };
     std::vector<Finding> present = check(content);
     for (const Finding* finding : fromBehind) {
+        if (std::none_of(present.begin(), present.end(),
+                         [finding](const Finding& one) { return isSameProblem(one, *finding); })) {
+            result.fixed += 1; // with another one
+            continue;
+        }
         std::string text = result.text;
         const FixEdits edits = editsFor(knowledge, text, *finding);
         for (const TextEdit& edit : edits) {

@@ -15,13 +15,10 @@ namespace {
 
 namespace ck = check_key;
 
-/// `pathOf()` is the path of what holds the loads, made only where something is found.
-template <typename Path>
-void checkRounds(const CheckedUnit& checked, const std::vector<AmmoLoadRecord>& loads, Path pathOf) {
+void checkRounds(const CheckedUnit& checked, const std::vector<AmmoLoadRecord>& loads, const RulePath& path) {
     for (std::size_t i = 0; i < loads.size(); ++i) {
         if (loads[i].rounds == 0) {
-            checked.out.atValue(pathOf() + numbered(element::Ammo, i) + "." +
-                                    std::string(field::Rounds.element),
+            checked.out.atValue(RulePath(path, element::Ammo, i + 1).to(field::Rounds),
                                 {.key = ck::NoRounds,
                                  .message = "no rounds for " + quoted(loads[i].weaponType),
                                  .value = "0",
@@ -49,7 +46,7 @@ void tellUnloaded(const CheckedUnit& checked, std::string_view weapon, const std
 }
 
 /// What the men of a squad carry for each other: an assistant the gunner's belts.
-void checkMen(const CheckedUnit& checked, const std::vector<CrewManRecord>& men, const std::string& path,
+void checkMen(const CheckedUnit& checked, const std::vector<CrewManRecord>& men, const RulePath& path,
               bool sharesAmmo) {
     std::vector<std::string_view> carried;
     std::vector<std::string_view> loaded; // the weapons that somebody has rounds for
@@ -67,7 +64,7 @@ void checkMen(const CheckedUnit& checked, const std::vector<CrewManRecord>& men,
         }
     }
     for (std::size_t i = 0; i < men.size(); ++i) {
-        const auto ofMan = [&] { return path + numbered(element::Man, i) + "."; };
+        const RulePath ofMan(path, element::Man, i + 1);
         if (!sharesAmmo) {
             carried.clear();
             loaded.clear();
@@ -75,7 +72,7 @@ void checkMen(const CheckedUnit& checked, const std::vector<CrewManRecord>& men,
         }
         for (std::size_t k = 0; k < men[i].weapons.size(); ++k) {
             if (!isOneOf(men[i].weapons[k], loaded)) {
-                tellUnloaded(checked, men[i].weapons[k], ofMan() + numbered(element::Weapon, k));
+                tellUnloaded(checked, men[i].weapons[k], RulePath(ofMan, element::Weapon, k + 1).text());
             }
         }
         for (std::size_t k = 0; k < men[i].ammo.size(); ++k) {
@@ -84,8 +81,7 @@ void checkMen(const CheckedUnit& checked, const std::vector<CrewManRecord>& men,
             if (!load.weaponType.empty() && !isOneOf(load.weaponType, carried) &&
                 typeOfWeaponName(load.weaponType) != WeaponType::Grenade) {
                 const NearestName nearest = NearestName(load.weaponType).offerAll(carried);
-                checked.out.atValue(ofMan() + numbered(element::Ammo, k) + "." +
-                                        std::string(field::AmmoFor.element),
+                checked.out.atValue(RulePath(ofMan, element::Ammo, k + 1).to(field::AmmoFor),
                                     {.key = finding_key::AmmoWithoutWeapon,
                                      .message = std::to_string(load.rounds) + " rounds for " +
                                                 quoted(load.weaponType) + ", which nobody carries",
@@ -104,22 +100,20 @@ void checkArmament(const CheckedUnit& checked) {
     for (Finding& finding : ammunitionFindings(checked.unit)) {
         checked.out.atValue(std::move(finding));
     }
-    forEachArmed(checked.unit, [&](const auto& armed, const std::string& path) {
+    forEachArmed(checked.unit, [&](const auto& armed, const RulePath& path) {
         for (std::size_t i = 0; i < armed.weapons.size(); ++i) {
             if (!isLoaded(armed.weapons[i].type, armed.ammo)) {
                 tellUnloaded(checked, armed.weapons[i].type,
-                             path + numbered(element::Weapon, i) + "." +
-                                 std::string(field::MountedType.element));
+                             RulePath(path, element::Weapon, i + 1).to(field::MountedType));
             }
         }
-        checkRounds(checked, armed.ammo, [&] { return path; });
+        checkRounds(checked, armed.ammo, path);
     });
-    checkMen(checked, checked.unit.infantrymen, {}, true);
+    checkMen(checked, checked.unit.infantrymen, RulePath(), true);
     if (checked.unit.vehicle) {
-        forEachComponentPath(*checked.unit.vehicle,
-                             [&](const ComponentRecord& part, const std::string& path) {
-                                 checkMen(checked, part.crew, path, false);
-                             });
+        forEachComponentPath(*checked.unit.vehicle, [&](const ComponentRecord& part, const RulePath& path) {
+            checkMen(checked, part.crew, path, false);
+        });
     }
 }
 

@@ -29,20 +29,19 @@ constexpr auto SpacedRows = std::to_array<SpacedRow>({
     {&field::RearSpaced, {&field::UpperRear, &field::LowerRear, &field::UpperRear, &field::LowerRear}},
 });
 
-void checkPlates(const CheckedUnit& checked, const ArmourRecord& armour, const std::string& path,
+void checkPlates(const CheckedUnit& checked, const ArmourRecord& armour, const RulePath& path,
                  bool isFightingVehicle) {
     const auto isGiven = [&](const Field<ArmourRecord, ArmourPlate>* plate) {
         return plate->of(armour).thickness > 0;
     };
     const auto given = std::count_if(field::Plates.begin(), field::Plates.end(), isGiven);
     if (given == 0 && isFightingVehicle) {
-        checked.out.atValue(path.substr(0, path.size() - 1),
-                            {.key = ck::NoArmour, .message = "no plate has a thickness"});
+        checked.out.atValue(path.text(), {.key = ck::NoArmour, .message = "no plate has a thickness"});
     }
     if (given >= MostPlates) {
         for (const auto* plate : field::Plates) {
             if (!isGiven(plate)) {
-                checked.out.atValue(path + std::string(plate->element),
+                checked.out.atValue(path.to(*plate),
                                     {.key = ck::NoArmour,
                                      .message = std::string(plate->label) + " has no thickness",
                                      .value = "0",
@@ -52,7 +51,7 @@ void checkPlates(const CheckedUnit& checked, const ArmourRecord& armour, const s
     }
     for (const SpacedRow& row : SpacedRows) {
         if (row.spaced->of(armour) > 0 && std::none_of(row.plates.begin(), row.plates.end(), isGiven)) {
-            checked.out.atValue(path + std::string(row.spaced->element),
+            checked.out.atValue(path.to(*row.spaced),
                                 {.key = ck::SpacedWithoutBase,
                                  .message = std::string(row.spaced->label) + " armour of " +
                                             std::to_string(row.spaced->of(armour)) + " mm before no plate",
@@ -69,8 +68,8 @@ std::string pathOf(const Outlier& outlier, const VehicleRecord& vehicle) {
     }
     std::string path;
     std::size_t index = 0;
-    forEachComponentPath(vehicle, [&](const ComponentRecord&, const std::string& ofPart) {
-        path = index++ == outlier.component ? ofPart : path;
+    forEachComponentPath(vehicle, [&](const ComponentRecord&, const RulePath& ofPart) {
+        path = index++ == outlier.component ? ofPart.text() + "." : path;
     });
     return path + (outlier.kind == OutlierKind::Plate ? std::string(element::Armour) + "." : "") + name;
 }
@@ -118,9 +117,9 @@ void checkArmour(const CheckedUnit& checked) {
         {"TYPE_TANK", "TYPE_ASSAULT_GUN", "TYPE_ARMOURED_CAR", "TYPE_INFANTRY_FIGHTING_VEHICLE"});
     const bool isFightingVehicle =
         std::find(armoured.begin(), armoured.end(), checked.unit.type.view()) != armoured.end();
-    forEachComponentPath(*checked.unit.vehicle, [&](const ComponentRecord& part, const std::string& path) {
+    forEachComponentPath(*checked.unit.vehicle, [&](const ComponentRecord& part, const RulePath& path) {
         if (part.kind != ComponentKind::FixedWeapon) {
-            checkPlates(checked, part.armour, path + std::string(element::Armour) + ".",
+            checkPlates(checked, part.armour, RulePath(path, element::Armour),
                         isFightingVehicle && part.kind != ComponentKind::Superstructure);
         }
     });

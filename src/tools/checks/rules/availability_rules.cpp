@@ -3,7 +3,9 @@
 #include "tools/checks/rules/unit_rules.h"
 
 #include <algorithm>
+#include <span>
 #include <string>
+#include <vector>
 
 namespace varrocade {
 
@@ -23,6 +25,20 @@ std::string dateText(const AvailabilityPoint& point) {
     return std::to_string(point.month) + "/" + std::to_string(point.year);
 }
 
+/// Whether sorting is all that is to be done: of a date that stands twice, or that is none, a part is wrong.
+bool isSortable(std::span<const AvailabilityPoint> points) {
+    constexpr std::uint8_t lastMonth = 12;
+    if (std::any_of(points.begin(), points.end(), [](const AvailabilityPoint& point) {
+            return point.month == 0 || point.month > lastMonth;
+        })) {
+        return false;
+    }
+    std::vector<std::int32_t> dates(points.size());
+    std::transform(points.begin(), points.end(), dates.begin(), monthsOf);
+    std::sort(dates.begin(), dates.end());
+    return std::adjacent_find(dates.begin(), dates.end()) == dates.end();
+}
+
 } // namespace
 
 void checkAvailability(const CheckedUnit& checked) {
@@ -40,19 +56,22 @@ void checkAvailability(const CheckedUnit& checked) {
     const bool isOver = std::all_of(points.begin(), points.end(),
                                     [&](const AvailabilityPoint& point) { return point.year < first; }) &&
                         points.back().number == 0;
+    const RulePath unit;
+    const bool canSort = isSortable(points);
     for (std::size_t i = 0; i < points.size(); ++i) {
-        const std::string path = numbered(element::Availability, i) + ".";
+        const RulePath path(unit, element::Availability, i + 1);
         if (i > 0 && monthsOf(points[i]) <= monthsOf(points[i - 1])) {
             const bool isYear = points[i].year < points[i - 1].year;
-            checked.out.atValue(path + std::string(isYear ? field::Year.element : field::Month.element),
+            checked.out.atValue(isYear ? path.to(field::Year) : path.to(field::Month),
                                 {.key = ck::AvailabilityOrder,
                                  .message = dateText(points[i]) + " stands behind " + dateText(points[i - 1]),
                                  .value = std::to_string(isYear ? points[i].year : points[i].month),
-                                 .expected = "a date after " + dateText(points[i - 1])});
+                                 .expected = "a date after " + dateText(points[i - 1]),
+                                 .hint = canSort ? "sort the points" : ""});
         }
         const bool isEarly = points[i].year < FirstYear || (isOver && i + 1 == points.size());
         if (isEarly || points[i].year > std::min(last, LastYear)) {
-            checked.out.atValue(path + std::string(field::Year.element),
+            checked.out.atValue(path.to(field::Year),
                                 {.key = ck::AvailabilityYears,
                                  .message = std::to_string(points[i].year) +
                                             " lies outside of the years of the " +

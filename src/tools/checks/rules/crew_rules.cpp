@@ -30,11 +30,11 @@ bool isGun(const WeaponMountRecord& weapon) {
     return typeOfWeaponName(weapon.type) == WeaponType::Cannon;
 }
 
-void checkJobs(const CheckedUnit& checked, const ComponentRecord& part, const std::string& path) {
+void checkJobs(const CheckedUnit& checked, const ComponentRecord& part, const RulePath& path) {
     for (std::size_t i = 0; i < part.crew.size(); ++i) {
         const std::string_view job = part.crew[i].job;
         if (job.empty() || job == NoJob || job.starts_with(SquadPrefix)) {
-            checked.out.atValue(path + numbered(element::Man, i) + "." + std::string(field::Job.element),
+            checked.out.atValue(RulePath(path, element::Man, i + 1).to(field::Job),
                                 {.key = ck::CrewWithoutJob,
                                  .message = "a man of the crew has " +
                                             (job.empty() ? std::string("no job") : "the job " + quoted(job)),
@@ -55,42 +55,42 @@ bool isServedFromElsewhere(const VehicleRecord& vehicle, const ComponentRecord& 
 }
 
 /// Where the gunner was probably meant: the first of two men with one job, otherwise the gun.
-std::string placeOfGunner(const ComponentRecord& part, const std::string& path, const std::string& weapon) {
+std::string placeOfGunner(const ComponentRecord& part, const RulePath& path, const RulePath& weapon) {
     for (std::size_t i = 0; i < part.crew.size(); ++i) {
         const auto isSame = [&](const CrewManRecord& other) { return other.job == part.crew[i].job; };
         if (std::count_if(part.crew.begin(), part.crew.end(), isSame) > 1) {
-            return path + numbered(element::Man, i) + "." + std::string(field::Job.element);
+            return RulePath(path, element::Man, i + 1).to(field::Job);
         }
     }
-    return weapon;
+    return weapon.to(field::MountedType);
 }
 
-void checkService(const CheckedUnit& checked, const ComponentRecord& part, const std::string& path) {
+void checkService(const CheckedUnit& checked, const ComponentRecord& part, const RulePath& path) {
     if (part.weapons.empty()) {
         if (part.kind == ComponentKind::FixedWeapon) {
-            checked.out.atValue(path.substr(0, path.size() - 1),
+            checked.out.atValue(path.text(),
                                 {.key = ck::UnarmedPart, .message = "a fixed weapon has no <weapon>"});
         }
         if (part.kind == ComponentKind::FixedWeapon && !part.crew.empty()) {
             checked.out.atValue(
-                path + numbered(element::Man, 0),
+                RulePath(path, element::Man, 1).text(),
                 {.key = ck::CrewWithoutSeat, .message = "a man serves a fixed weapon that is not there"});
         }
         return;
     }
-    const std::string weapon =
-        path + numbered(element::Weapon, 0) + "." + std::string(field::MountedType.element);
-    const std::string name = part.weapons.front().type.str();
+    const RulePath weapon(path, element::Weapon, 1);
+    const std::string_view name = part.weapons.front().type;
     if (part.crew.empty()) {
         // Those who ride along serve what no crew does.
         const bool isForRiders =
             part.kind == ComponentKind::FixedWeapon && checked.unit.vehicle->canMountInfantry;
         if (!isForRiders && !isServedFromElsewhere(*checked.unit.vehicle, part)) {
-            checked.out.atValue(weapon, {.key = ck::WeaponWithoutMan,
-                                         .message = quoted(name) + " in a " +
-                                                    std::string(elementOf(part.kind)) + " without men",
-                                         .value = name,
-                                         .expected = "a <man> beside it"});
+            checked.out.atValue(
+                weapon.to(field::MountedType),
+                {.key = ck::WeaponWithoutMan,
+                 .message = quoted(name) + " in a " + std::string(elementOf(part.kind)) + " without men",
+                 .value = std::string(name),
+                 .expected = "a <man> beside it"});
         }
         return;
     }
@@ -105,7 +105,7 @@ void checkService(const CheckedUnit& checked, const ComponentRecord& part, const
                             {.key = ck::GunWithoutGunner,
                              .message = "none of the " + std::to_string(part.crew.size()) + " men beside " +
                                         quoted(name) + " is a gunner",
-                             .value = name,
+                             .value = std::string(name),
                              .expected = "a man with " + std::string(Gunner)});
     }
 }
@@ -113,7 +113,7 @@ void checkService(const CheckedUnit& checked, const ComponentRecord& part, const
 void checkVehicleCrew(const CheckedUnit& checked, const VehicleRecord& vehicle) {
     bool hasDriver = false;
     std::size_t men = 0;
-    forEachComponentPath(vehicle, [&](const ComponentRecord& part, const std::string& path) {
+    forEachComponentPath(vehicle, [&](const ComponentRecord& part, const RulePath& path) {
         checkJobs(checked, part, path);
         if (part.kind == ComponentKind::Turret || part.kind == ComponentKind::FixedWeapon) {
             checkService(checked, part, path);
@@ -143,14 +143,15 @@ void checkCrew(const CheckedUnit& checked) {
     if (unit.aircraft) {
         return;
     }
+    const RulePath record;
     if (unit.heavyWeapon) {
-        const std::string path(elementOf(unit.heavyWeapon->kind));
+        const std::string_view name = elementOf(unit.heavyWeapon->kind);
         if (unit.heavyWeapon->weapons.empty()) {
-            checked.out.atValue(path,
-                                {.key = ck::UnarmedPart, .message = tagText(path) + " has no <weapon>"});
+            checked.out.atValue(name,
+                                {.key = ck::UnarmedPart, .message = tagText(name) + " has no <weapon>"});
         } else if (unit.infantrymen.empty()) {
             checked.out.atValue(
-                path + "." + numbered(element::Weapon, 0) + "." + std::string(field::MountedType.element),
+                RulePath(RulePath(record, name), element::Weapon, 1).to(field::MountedType),
                 {.key = ck::WeaponWithoutMan,
                  .message = quoted(unit.heavyWeapon->weapons.front().type) + " has no men who serve it",
                  .value = unit.heavyWeapon->weapons.front().type.str()});
@@ -162,7 +163,7 @@ void checkCrew(const CheckedUnit& checked) {
         const std::string_view job = unit.infantrymen[i].job;
         constexpr auto ofVehicles = std::to_array<std::string_view>({Driver, "JOB_COMMANDER", "JOB_RADIO"});
         if (isIn(job, ofVehicles)) {
-            checked.out.atValue(numbered(element::Man, i) + "." + std::string(field::Job.element),
+            checked.out.atValue(RulePath(record, element::Man, i + 1).to(field::Job),
                                 {.key = ck::CrewWithoutJob,
                                  .message = "an infantryman has the job " + quoted(job) + " of a vehicle",
                                  .value = std::string(job)});

@@ -95,7 +95,7 @@ void checkNationality(const CheckedUnit& checked) {
 }
 
 void checkNames(const CheckedUnit& checked) {
-    const auto found = checked.knowledge.unitsByName.find(loweredText(checked.unit.longName));
+    const auto found = checked.knowledge.unitsByName.find(checked.unit.longName.view());
     if (found == checked.knowledge.unitsByName.end()) {
         return;
     }

@@ -52,6 +52,10 @@ std::size_t commentInValue(std::string_view line) {
 
 } // namespace
 
+bool hasWideMark(std::string_view content) {
+    return content.starts_with("\xFF\xFE") || content.starts_with("\xFE\xFF");
+}
+
 bool hasForeignBytes(std::string_view content) {
     constexpr std::uint64_t high = 0x8080808080808080U;
     std::uint64_t seen = 0;

@@ -7,6 +7,9 @@
 
 namespace varrocade {
 
+/// Whether a file begins with the mark of UTF-16: then nothing of it looks like an element.
+bool hasWideMark(std::string_view content);
+
 /// Whether a file holds bytes beyond ASCII.
 bool hasForeignBytes(std::string_view content);
 

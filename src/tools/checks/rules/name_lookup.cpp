@@ -33,6 +33,11 @@ std::string nameOnDisk(const AssetFile& file, std::string_view name) {
     return std::string(name.substr(0, name.find_last_of("\\/") + 1)) + std::string(file.stem());
 }
 
+/// Whether that is the name already.
+bool isNameOnDisk(const AssetFile& file, std::string_view name) {
+    return name.substr(name.find_last_of("\\/") + 1) == file.stem();
+}
+
 } // namespace
 
 const AssetFile* findPicture(const CheckKnowledge& knowledge, std::span<const ImageSource> sources,
@@ -51,7 +56,8 @@ void lookUpPicture(const CheckKnowledge& knowledge, std::span<const ImageSource>
         return;
     }
     if (const AssetFile* picture = findPicture(knowledge, sources, name)) {
-        if (const std::string real = nameOnDisk(*picture, name); real != name) {
+        if (!isNameOnDisk(*picture, name)) {
+            const std::string real = nameOnDisk(*picture, name);
             out.atValue(path.text(), {.key = ck::PictureCase,
                                       .message = "the picture " + quoted(pictureFile(name)) + " is called " +
                                                  quoted(real) + " on the disk",
@@ -103,7 +109,8 @@ void lookUpSound(const CheckKnowledge& knowledge, const FieldPath& path, std::st
                                   .expected = "a file in " + slashed(SoundFolder),
                                   .hint = nearest.hint(),
                                   .replacement = nearest.onlyName()});
-    } else if (const std::string real = nameOnDisk(*sound, name); real != name) {
+    } else if (!isNameOnDisk(*sound, name)) {
+        const std::string real = nameOnDisk(*sound, name);
         out.atValue(path.text(),
                     {.key = ck::SoundCase,
                      .message = "the sound " + quoted(name) + " is called " + quoted(real) + " on the disk",

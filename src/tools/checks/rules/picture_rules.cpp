@@ -43,7 +43,7 @@ std::string shiftText(const PictureShift& shift) {
 }
 
 /// A wreck of the same size that lies beside its whole jumps all the same.
-void checkPivot(const CheckedUnit& checked, const ComponentRecord& part, const std::string& path,
+void checkPivot(const CheckedUnit& checked, const ComponentRecord& part, const RulePath& path,
                 const AssetFile& whole, const AssetFile& wreck) {
     const PictureShift shift = checked.knowledge.shiftOf(whole, wreck);
     if (shift == PictureShift{}) {
@@ -51,7 +51,7 @@ void checkPivot(const CheckedUnit& checked, const ComponentRecord& part, const s
     }
     const std::string name = part.destroyedImage.str();
     checked.out.atValue(
-        path + std::string(field::DestroyedImage.element),
+        path.to(field::DestroyedImage),
         {.key = ck::WreckPivot,
          .message = "the wreck lies beside the " + std::string(elementOf(part.kind)) + " in its picture",
          .value = name,
@@ -59,7 +59,7 @@ void checkPivot(const CheckedUnit& checked, const ComponentRecord& part, const s
          .hint = "move it by about " + shiftText(shift)});
 }
 
-void checkComponent(const CheckedUnit& checked, const ComponentRecord& part, const std::string& path) {
+void checkComponent(const CheckedUnit& checked, const ComponentRecord& part, const RulePath& path) {
     const bool isHull = part.kind == ComponentKind::Hull;
     const FoundPicture found =
         find(checked, isHull ? image_sources::Hull : image_sources::Turret, part.viewImage);
@@ -70,7 +70,7 @@ void checkComponent(const CheckedUnit& checked, const ComponentRecord& part, con
     if (isHull && part.width > 0 && part.length > 0) {
         const bool isWide = std::abs(whole->width - part.width) > Slack;
         if (isWide || std::abs(whole->height - part.length) > Slack) {
-            checked.out.atValue(path + std::string(isWide ? field::Width.element : field::Length.element),
+            checked.out.atValue(isWide ? path.to(field::Width) : path.to(field::Length),
                                 {.key = ck::PictureSizeKey,
                                  .message = "the hull is " + std::to_string(part.width) + " x " +
                                             std::to_string(part.length) + " cm, its picture " +
@@ -82,7 +82,7 @@ void checkComponent(const CheckedUnit& checked, const ComponentRecord& part, con
     const FoundPicture wrecked = find(checked, image_sources::Destroyed, part.destroyedImage);
     const std::optional<PictureSize>& wreck = wrecked.size;
     if (wreck && *wreck != *whole) {
-        checked.out.atValue(path + std::string(field::DestroyedImage.element),
+        checked.out.atValue(path.to(field::DestroyedImage),
                             {.key = ck::WreckSize,
                              .message = "the wreck's picture has " + sizeText(*wreck) +
                                         " pixels, that of the " + std::string(elementOf(part.kind)) + " " +
@@ -98,12 +98,11 @@ void checkComponent(const CheckedUnit& checked, const ComponentRecord& part, con
 
 void checkPictures(const CheckedUnit& checked) {
     if (checked.unit.vehicle) {
-        forEachComponentPath(*checked.unit.vehicle,
-                             [&](const ComponentRecord& part, const std::string& path) {
-                                 if (part.kind != ComponentKind::Superstructure) {
-                                     checkComponent(checked, part, path);
-                                 }
-                             });
+        forEachComponentPath(*checked.unit.vehicle, [&](const ComponentRecord& part, const RulePath& path) {
+            if (part.kind != ComponentKind::Superstructure) {
+                checkComponent(checked, part, path);
+            }
+        });
     }
 }
 

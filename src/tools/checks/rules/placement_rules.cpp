@@ -22,10 +22,10 @@ const ComponentRecord* hullOf(const VehicleRecord& vehicle) {
 }
 
 /// Tells of an offset beyond a half of what it stands on.
-void checkOffset(const CheckedUnit& checked, const std::string& path, const FieldInfo& field,
+void checkOffset(const CheckedUnit& checked, const RulePath& path, const FieldInfo& field,
                  std::int32_t offset, std::int32_t half, std::string_view around) {
     if (half > 0 && std::abs(std::int64_t{offset}) > half) {
-        checked.out.atValue(path + std::string(field.element),
+        checked.out.atValue(path.to(field),
                             {.key = ck::OutsideHull,
                              .message = std::string(field.element) + " " + std::to_string(offset) +
                                         " cm lies outside of the " + std::string(around),
@@ -34,10 +34,9 @@ void checkOffset(const CheckedUnit& checked, const std::string& path, const Fiel
     }
 }
 
-void checkSize(const CheckedUnit& checked, const std::string& path, const FieldInfo& field,
-               std::int32_t size) {
+void checkSize(const CheckedUnit& checked, const RulePath& path, const FieldInfo& field, std::int32_t size) {
     if (size <= 0) {
-        checked.out.atValue(path + std::string(field.element),
+        checked.out.atValue(path.to(field),
                             {.key = ck::NoSize,
                              .message = std::string(field.label) + " is " + std::to_string(size),
                              .value = std::to_string(size),
@@ -45,7 +44,7 @@ void checkSize(const CheckedUnit& checked, const std::string& path, const FieldI
     }
 }
 
-void checkSizes(const CheckedUnit& checked, const ComponentRecord& part, const std::string& path) {
+void checkSizes(const CheckedUnit& checked, const ComponentRecord& part, const RulePath& path) {
     if (part.kind == ComponentKind::Hull || part.kind == ComponentKind::Superstructure) {
         checkSize(checked, path, field::Width, part.width);
         checkSize(checked, path, field::Length, part.length);
@@ -56,7 +55,7 @@ void checkSizes(const CheckedUnit& checked, const ComponentRecord& part, const s
     }
 }
 
-void checkOnHull(const CheckedUnit& checked, const ComponentRecord& part, const std::string& path,
+void checkOnHull(const CheckedUnit& checked, const ComponentRecord& part, const RulePath& path,
                  const ComponentRecord& hull) {
     if (part.kind != ComponentKind::Hull) {
         checkOffset(checked, path, field::OffsetX, part.offsetX, hull.width / 2, "hull");
@@ -64,7 +63,7 @@ void checkOnHull(const CheckedUnit& checked, const ComponentRecord& part, const 
     }
     if (part.kind == ComponentKind::FixedWeapon && part.offsetZ > 2 * hull.height + 200 && hull.height > 0) {
         checked.out.atValue(
-            path + std::string(field::OffsetZ.element),
+            path.to(field::OffsetZ),
             {.key = ck::OutsideHull,
              .message = "offsetZ " + std::to_string(part.offsetZ) + " cm is far above the vehicle",
              .value = std::to_string(part.offsetZ),
@@ -74,14 +73,14 @@ void checkOnHull(const CheckedUnit& checked, const ComponentRecord& part, const 
     const std::int32_t halfWidth = (isTurret ? part.diameter : hull.width) / 2 + Overhang;
     const std::int32_t halfLength = (isTurret ? part.diameter : hull.length) / 2 + Overhang;
     for (std::size_t i = 0; i < part.smokeDischargers.size(); ++i) {
-        const std::string discharger = path + numbered(element::SmokeDischarger, i) + ".";
+        const RulePath discharger(path, element::SmokeDischarger, i + 1);
         checkOffset(checked, discharger, field::DischargerOffsetX, part.smokeDischargers[i].offsetX,
                     halfWidth, elementOf(part.kind));
         checkOffset(checked, discharger, field::DischargerOffsetY, part.smokeDischargers[i].offsetY,
                     halfLength, elementOf(part.kind));
     }
     for (std::size_t i = 0; i < part.weapons.size(); ++i) {
-        const std::string weapon = path + numbered(element::Weapon, i) + ".";
+        const RulePath weapon(path, element::Weapon, i + 1);
         // To the front a barrel may reach beyond its turret, but hardly beyond the hull's half length.
         checkOffset(checked, weapon, field::MountedOffsetX, part.weapons[i].offsetX, halfWidth,
                     elementOf(part.kind));
@@ -115,15 +114,16 @@ void checkPlacement(const CheckedUnit& checked) {
         checked.out.atValue(std::move(finding));
     }
     const ComponentRecord* hull = hullOf(vehicle);
-    forEachComponentPath(vehicle, [&](const ComponentRecord& part, const std::string& path) {
+    forEachComponentPath(vehicle, [&](const ComponentRecord& part, const RulePath& path) {
         checkSizes(checked, part, path);
         if (hull != nullptr) {
             checkOnHull(checked, part, path, *hull);
         }
     });
+    const RulePath record;
+    const RulePath ofVehicle(record, element::Vehicle);
     for (std::size_t i = 0; hull != nullptr && i < vehicle.exhaustPipes.size(); ++i) {
-        const std::string path =
-            std::string(element::Vehicle) + "." + numbered(element::ExhaustPipe, i) + ".";
+        const RulePath path(ofVehicle, element::ExhaustPipe, i + 1);
         checkOffset(checked, path, field::ExhaustOffsetX, vehicle.exhaustPipes[i].offsetX,
                     hull->width / 2 + Overhang, "hull");
         checkOffset(checked, path, field::ExhaustOffsetY, vehicle.exhaustPipes[i].offsetY,

@@ -51,7 +51,7 @@ void lookUpWeapon(const CheckedUnit& checked, const FieldPath& path, std::string
 }
 
 /// A flavour must be one that the weapon has.
-void lookUpFlavour(const CheckedUnit& checked, const AmmoLoadRecord& load, const std::string& path,
+void lookUpFlavour(const CheckedUnit& checked, const AmmoLoadRecord& load, const RulePath& path,
                    std::size_t index) {
     const AmmoFlavour flavour = flavourOf(load.flavour);
     const WeaponRecord* weapon =
@@ -67,7 +67,7 @@ void lookUpFlavour(const CheckedUnit& checked, const AmmoLoadRecord& load, const
     for (const AmmoTypeRecord& ammo : weapon->ammoTypes) {
         had += (had.empty() ? "" : ", ") + std::string(nameOf(ammo.flavour));
     }
-    checked.out.atValue(path + numbered(element::Ammo, index) + "." + std::string(field::Flavour.element),
+    checked.out.atValue(RulePath(path, element::Ammo, index + 1).to(field::Flavour),
                         {.key = ck::MissingFlavour,
                          .message = load.weaponType.str() + " has no " + load.flavour.str(),
                          .value = load.flavour.str(),
@@ -181,15 +181,16 @@ void checkReferences(const CheckedUnit& checked) {
             }
         }
     });
-    const auto checkLoads = [&](const std::vector<AmmoLoadRecord>& loads, const std::string& path) {
+    const auto checkLoads = [&](const std::vector<AmmoLoadRecord>& loads, const RulePath& path) {
         for (std::size_t i = 0; i < loads.size(); ++i) {
             lookUpFlavour(checked, loads[i], path, i);
         }
     };
     forEachArmed(checked.unit,
-                 [&](const auto& armed, const std::string& path) { checkLoads(armed.ammo, path); });
+                 [&](const auto& armed, const RulePath& path) { checkLoads(armed.ammo, path); });
+    const RulePath record;
     for (std::size_t i = 0; i < checked.unit.infantrymen.size(); ++i) {
-        checkLoads(checked.unit.infantrymen[i].ammo, numbered(element::Man, i) + ".");
+        checkLoads(checked.unit.infantrymen[i].ammo, RulePath(record, element::Man, i + 1));
     }
     lookUpFlag(checked);
 }

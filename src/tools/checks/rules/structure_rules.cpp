@@ -80,7 +80,7 @@ public:
                 at = end;
                 continue;
             }
-            const Tag tag = tagAt(text_, at);
+            const Tag tag = withKnownName(tagAt(text_, at));
             if (tag.isBroken && !tag.closesItself) {
                 reportBroken(tag);
             }
@@ -114,6 +114,23 @@ private:
     };
 
     [[nodiscard]] std::string_view nameOf(const Level& level) const { return nodes_[level.node].name; }
+
+    /// "<length590</length>": where a bracket is missing, the value looks like a part of the name.
+    [[nodiscard]] Tag withKnownName(Tag tag) const {
+        const bool hasEnd = tag.end > tag.begin && text_[tag.end - 1] == '>';
+        if (!tag.isBroken || tag.isClosing || hasEnd || table_.knows(tag.name)) {
+            return tag;
+        }
+        const std::string_view behind = text_.substr(std::min(text_.find('<', tag.end), text_.size()));
+        for (std::string_view name = tag.name; !name.empty(); name.remove_suffix(1)) {
+            if (table_.knows(name) && behind.starts_with("</" + std::string(name) + ">")) {
+                tag.end -= tag.name.size() - name.size();
+                tag.name = name;
+                break;
+            }
+        }
+        return tag;
+    }
 
     void reportBroken(const Tag& tag) {
         const std::string shown(text_.substr(tag.begin, tag.end - tag.begin));

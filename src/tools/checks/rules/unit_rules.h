@@ -43,14 +43,35 @@ void checkIdentity(const CheckedUnit& checked);
 /// Values that the file of such a unit does not carry, and those unlike all others.
 void checkValues(const CheckedUnit& checked);
 
-/// Calls `visit` with each component and its path, with a point at its end: "vehicle.turret[2].".
+/// The way to what a rule looks at. It becomes a text only for what is found. Those that lead on from it
+/// refer to it.
+class RulePath {
+public:
+    RulePath() = default; ///< to the record itself
+    RulePath(const RulePath& around, std::string_view name, std::size_t number = 0)
+        : step_{around.step_.name.empty() ? nullptr : &around.step_, name, number} {}
+    RulePath(const RulePath&) = delete;
+    RulePath& operator=(const RulePath&) = delete;
+
+    [[nodiscard]] std::string text() const { return FieldPath(&step_).text(); }
+    /// To a value of it, as a text.
+    [[nodiscard]] std::string to(const FieldInfo& field) const {
+        return RulePath(*this, field.element).text();
+    }
+
+private:
+    FieldPath::Step step_;
+};
+
+/// Calls `visit` with each component and its path, such as "vehicle.turret[2]".
 template <typename Visit>
 void forEachComponentPath(const VehicleRecord& vehicle, Visit visit) {
+    const RulePath record;
+    const RulePath ofVehicle(record, element::Vehicle);
     std::size_t counts[4] = {};
     for (const ComponentRecord& component : vehicle.components) {
         const std::size_t number = ++counts[static_cast<std::size_t>(component.kind)];
-        visit(component, std::string(element::Vehicle) + "." + std::string(elementOf(component.kind)) + "[" +
-                             std::to_string(number) + "].");
+        visit(component, RulePath(ofVehicle, elementOf(component.kind), number));
     }
 }
 
@@ -60,17 +81,13 @@ void forEachArmed(const SquadRecord& unit, Visit visit) {
     if (unit.vehicle) {
         forEachComponentPath(*unit.vehicle, visit);
     }
+    const RulePath record;
     if (unit.heavyWeapon) {
-        visit(*unit.heavyWeapon, std::string(elementOf(unit.heavyWeapon->kind)) + ".");
+        visit(*unit.heavyWeapon, RulePath(record, elementOf(unit.heavyWeapon->kind)));
     }
     if (unit.aircraft) {
-        visit(*unit.aircraft, std::string(element::Aircraft) + ".");
+        visit(*unit.aircraft, RulePath(record, element::Aircraft));
     }
-}
-
-/// "weapon[2]", "ammo[1]"
-inline std::string numbered(std::string_view name, std::size_t index) {
-    return std::string(name) + "[" + std::to_string(index + 1) + "]";
 }
 
 } // namespace varrocade

@@ -7,7 +7,8 @@
 #include "weapons/weapon_usage.h"
 
 #include <algorithm>
-#include <set>
+#include <string_view>
+#include <vector>
 
 namespace varrocade {
 
@@ -46,8 +47,12 @@ public:
     /// `pathOf()` is the path of the value, made only where something is found.
     template <typename Path>
     void check(std::string_view name, Path pathOf) {
+        // A squad has many of the same.
+        if (!isNew(names_, name)) {
+            return;
+        }
         const WeaponRecord* weapon = checked_.knowledge.findWeapon(name);
-        if (weapon == nullptr || !seen_.insert(weapon).second) {
+        if (weapon == nullptr || !isNew(weapons_, weapon)) {
             return;
         }
         const int begins = firstYearOf(*weapon);
@@ -70,39 +75,49 @@ public:
     }
 
 private:
+    template <typename Value>
+    static bool isNew(std::vector<Value>& seen, Value value) {
+        const bool is = std::find(seen.begin(), seen.end(), value) == seen.end();
+        if (is) {
+            seen.push_back(value);
+        }
+        return is;
+    }
+
     const CheckedUnit& checked_;
     int year_;
-    std::set<const WeaponRecord*> seen_; ///< one finding a weapon is enough
+    // One finding a weapon is enough, whatever the letter case of its name.
+    std::vector<std::string_view> names_;
+    std::vector<const WeaponRecord*> weapons_;
 };
 
 } // namespace
 
 void checkUsage(const CheckedUnit& checked) {
     UsageCheck usage(checked);
-    forEachArmed(checked.unit, [&](const auto& armed, const std::string& path) {
+    forEachArmed(checked.unit, [&](const auto& armed, const RulePath& path) {
         for (std::size_t i = 0; i < armed.weapons.size(); ++i) {
-            usage.check(armed.weapons[i].type, [&] {
-                return path + numbered(element::Weapon, i) + "." + std::string(field::MountedType.element);
-            });
+            usage.check(armed.weapons[i].type,
+                        [&] { return RulePath(path, element::Weapon, i + 1).to(field::MountedType); });
         }
     });
-    const auto ofMen = [&](const std::vector<CrewManRecord>& men, const std::string& path) {
+    const auto ofMen = [&](const std::vector<CrewManRecord>& men, const RulePath& path) {
         for (std::size_t i = 0; i < men.size(); ++i) {
-            const auto man = [&] { return path + numbered(element::Man, i) + "."; };
+            const RulePath man(path, element::Man, i + 1);
             for (std::size_t k = 0; k < men[i].weapons.size(); ++k) {
-                usage.check(men[i].weapons[k], [&] { return man() + numbered(element::Weapon, k); });
+                usage.check(men[i].weapons[k], [&] { return RulePath(man, element::Weapon, k + 1).text(); });
             }
             for (std::size_t k = 0; k < men[i].ammo.size(); ++k) {
-                usage.check(men[i].ammo[k].weaponType, [&] {
-                    return man() + numbered(element::Ammo, k) + "." + std::string(field::AmmoFor.element);
-                });
+                usage.check(men[i].ammo[k].weaponType,
+                            [&] { return RulePath(man, element::Ammo, k + 1).to(field::AmmoFor); });
             }
         }
     };
-    ofMen(checked.unit.infantrymen, {});
+    ofMen(checked.unit.infantrymen, RulePath());
     if (checked.unit.vehicle) {
-        forEachComponentPath(*checked.unit.vehicle, [&](const ComponentRecord& part,
-                                                        const std::string& path) { ofMen(part.crew, path); });
+        forEachComponentPath(*checked.unit.vehicle, [&](const ComponentRecord& part, const RulePath& path) {
+            ofMen(part.crew, path);
+        });
     }
 }
 

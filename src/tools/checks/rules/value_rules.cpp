@@ -6,8 +6,12 @@
 #include "tools/checks/rules/weapon_file_rules.h"
 #include "weapons/weapon_fields.h"
 
+#include <algorithm>
+#include <cmath>
+#include <iterator>
 #include <string>
 #include <type_traits>
+#include <vector>
 
 namespace varrocade {
 
@@ -21,9 +25,8 @@ std::string figureText(double value) {
     return text;
 }
 
-template <typename Record>
-void tellUnusual(const UsualValues& usual, const Record& record, FileFindings& out) {
-    for (const UnusualValue& value : usual.unusual(record)) {
+void tellUnusual(const std::vector<UnusualValue>& values, FileFindings& out) {
+    for (const UnusualValue& value : values) {
         const std::string unit =
             value.figure->unit.empty() ? std::string() : " " + std::string(value.figure->unit);
         out.atValue(value.path,
@@ -33,6 +36,38 @@ void tellUnusual(const UsualValues& usual, const Record& record, FileFindings& o
                      .value = figureText(value.value),
                      .expected = figureText(value.least) + " to " + figureText(value.greatest) + unit});
     }
+}
+
+/// Where the masses of all ammunition are too great for the calibre, or all too small, the calibre is what
+/// they have in common.
+void tellCalibre(const WeaponRecord& weapon, const std::vector<UnusualValue>& values, FileFindings& out) {
+    std::vector<const UnusualValue*> masses;
+    for (const UnusualValue& value : values) {
+        if (value.figure->field == &weapon_field::Mass) {
+            masses.push_back(&value);
+        }
+    }
+    const auto given = std::count_if(weapon.ammoTypes.begin(), weapon.ammoTypes.end(),
+                                     [](const AmmoTypeRecord& ammo) { return ammo.mass > 0; });
+    if (masses.size() < 2 || std::ssize(masses) != given) {
+        return;
+    }
+    const auto isGreat = [](const UnusualValue* mass) { return mass->value > mass->greatest; };
+    const auto great = std::count_if(masses.begin(), masses.end(), isGreat);
+    if (great != 0 && great != given) {
+        return;
+    }
+    const UnusualValue& first = *masses.front();
+    const std::string unit = " " + std::string(weapon_field::Calibre.traits.unit);
+    const double calibre = weapon.calibre;
+    out.atValue(
+        weapon_field::Calibre.element,
+        {.key = ck::UnusualValue,
+         .message =
+             "Calibre " + figureText(calibre) + unit + " does not go with the masses of all its ammunition",
+         .value = figureText(calibre),
+         .expected = figureText(std::round(calibre * std::cbrt(first.value / first.greatest))) + " to " +
+                     figureText(std::round(calibre * std::cbrt(first.value / first.least))) + unit});
 }
 
 /// Whether a value is one that somebody gave: not what stands for none.
@@ -73,12 +108,14 @@ void tellUseless(const Record& record, FileFindings& out) {
 
 void checkValues(const CheckedUnit& checked) {
     tellUseless(checked.unit, checked.out);
-    tellUnusual(checked.knowledge.usual, checked.unit, checked.out);
+    tellUnusual(checked.knowledge.usual.unusual(checked.unit), checked.out);
 }
 
 void checkWeaponValues(const CheckedWeapon& checked) {
     tellUseless(checked.weapon, checked.out);
-    tellUnusual(checked.knowledge.usual, checked.weapon, checked.out);
+    const std::vector<UnusualValue> unusual = checked.knowledge.usual.unusual(checked.weapon);
+    tellUnusual(unusual, checked.out);
+    tellCalibre(checked.weapon, unusual, checked.out);
 }
 
 } // namespace varrocade

@@ -49,7 +49,8 @@ void checkName(const CheckedWeapon& checked) {
 void checkAmmo(const CheckedWeapon& checked, std::size_t index) {
     const WeaponRecord& weapon = checked.weapon;
     const AmmoTypeRecord& ammo = weapon.ammoTypes[index];
-    const std::string path = numbered(weapon_element::Ammo, index) + ".";
+    const RulePath record;
+    const RulePath path(record, weapon_element::Ammo, index + 1);
     const auto usual = flavoursOf(weapon.type);
     const std::string name(nameOf(ammo.flavour));
     if (ammo.flavour != AmmoFlavour::None &&
@@ -58,7 +59,7 @@ void checkAmmo(const CheckedWeapon& checked, std::size_t index) {
         for (const AmmoFlavour flavour : usual) {
             expected += (expected.empty() ? "" : ", ") + std::string(nameOf(flavour));
         }
-        checked.out.atValue(path + std::string(wf::Flavour.element),
+        checked.out.atValue(path.to(wf::Flavour),
                             {.key = ck::FlavourOfType,
                              .message = std::string(nameOf(weapon.type)) + " does not fire " + name,
                              .value = name,
@@ -66,7 +67,7 @@ void checkAmmo(const CheckedWeapon& checked, std::size_t index) {
     }
     for (std::size_t i = 0; i < index; ++i) {
         if (weapon.ammoTypes[i].flavour == ammo.flavour && weapon.ammoTypes[i].name == ammo.name) {
-            checked.out.atValue(path + std::string(wf::Flavour.element),
+            checked.out.atValue(path.to(wf::Flavour),
                                 {.key = ck::SameFlavour,
                                  .message = name + " is there twice, both times as " + quoted(ammo.name),
                                  .value = name});
@@ -78,7 +79,7 @@ void checkAmmo(const CheckedWeapon& checked, std::size_t index) {
         std::string mass;
         appendShortest(explosive, double{ammo.highExplosive});
         appendShortest(mass, double{ammo.mass});
-        checked.out.atValue(path + std::string(wf::HighExplosive.element),
+        checked.out.atValue(path.to(wf::HighExplosive),
                             {.key = ck::MoreExplosiveThanMass,
                              .message = explosive + " kg of explosive in a projectile of " + mass + " kg",
                              .value = explosive,
