@@ -23,13 +23,19 @@ ContestResult coldLoadingContest(std::size_t rounds);
 /// Loading the weapon catalogue against only opening and reading its files.
 ContestResult catalogueContest(std::size_t rounds);
 
-/// Spreadsheets of all units and weapons against loading their records.
+/// Spreadsheets of all units and weapons, on all cores, against loading their records on one; the clock on
+/// the wall counts.
 ContestResult sheetsContest(std::size_t rounds);
 
 /// The lists of used and unused pictures, and the check for unused files, against loading all records and
-/// listing the pictures.
+/// listing the pictures, in the same way.
 ContestResult usageContest(std::size_t rounds);
 ContestResult unusedContest(std::size_t rounds);
+
+/// The same on one core, in processor time.
+ContestResult singleSheetsContest(std::size_t rounds);
+ContestResult singleUsageContest(std::size_t rounds);
+ContestResult singleUnusedContest(std::size_t rounds);
 
 /// How many vehicles thumbnails are made of.
 inline constexpr std::size_t ThumbnailCount = 2000;

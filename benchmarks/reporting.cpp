@@ -62,9 +62,9 @@ void loadRecordsAndListPictures() {
 }
 
 template <typename Report>
-void makeReport() {
+void makeReport(unsigned threads) {
     Report report({.program = game().base()});
-    runJob(report);
+    report.run(threads);
     if constexpr (std::is_base_of_v<FileReport, Report>) {
         benchmark::DoNotOptimize(report.files().size());
     } else {
@@ -72,18 +72,40 @@ void makeReport() {
     }
 }
 
+template <typename Report>
+void makeReportOnAllCores() {
+    makeReport<Report>(0);
+}
+
+template <typename Report>
+void makeReportOnOneCore() {
+    makeReport<Report>(1);
+}
+
 } // namespace
 
 ContestResult sheetsContest(std::size_t rounds) {
-    return contest(rounds, makeReport<UnitSheets>, loadRecords);
+    return contest(rounds, makeReportOnAllCores<UnitSheets>, loadRecords, WallClock());
 }
 
 ContestResult usageContest(std::size_t rounds) {
-    return contest(rounds, makeReport<PngUsage>, loadRecordsAndListPictures);
+    return contest(rounds, makeReportOnAllCores<PngUsage>, loadRecordsAndListPictures, WallClock());
 }
 
 ContestResult unusedContest(std::size_t rounds) {
-    return contest(rounds, makeReport<UnusedFiles>, loadRecordsAndListPictures);
+    return contest(rounds, makeReportOnAllCores<UnusedFiles>, loadRecordsAndListPictures, WallClock());
+}
+
+ContestResult singleSheetsContest(std::size_t rounds) {
+    return contest(rounds, makeReportOnOneCore<UnitSheets>, loadRecords);
+}
+
+ContestResult singleUsageContest(std::size_t rounds) {
+    return contest(rounds, makeReportOnOneCore<PngUsage>, loadRecordsAndListPictures);
+}
+
+ContestResult singleUnusedContest(std::size_t rounds) {
+    return contest(rounds, makeReportOnOneCore<UnusedFiles>, loadRecordsAndListPictures);
 }
 
 } // namespace varrocade::benchmarks

@@ -53,6 +53,11 @@ int importSheet(const std::string& path, const GameFolders& folders, bool isWrit
         complain("nothing is written");
         return CouldNot;
     }
+    if (!import.files().empty()) {
+        // The table above is for programs, this is for people.
+        complain(import.writtenText() + " What the files held before is in " +
+                 withSlashes(import.backupFolder()));
+    }
     return Done;
 }
 

@@ -1,7 +1,7 @@
 // The reports that make pictures.
 
 #include "cli/report_command.h"
-#include "tools/pictures/parallel.h"
+#include "tools/parallel.h"
 #include "tools/pictures/picture_reduction.h"
 #include "tools/pictures/thumbnails.h"
 

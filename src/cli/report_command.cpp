@@ -15,6 +15,9 @@ namespace varrocade::cli {
 
 namespace {
 
+/// As many threads as there are processors.
+constexpr unsigned AllProcessors = 0;
+
 template <typename Made>
 int fileReport(const ReportRequest& request) {
     Made report(request.folders);
@@ -108,7 +111,7 @@ std::optional<ReportRequest> requestOf(const Report& report, Arguments arguments
 } // namespace
 
 int finishJob(Job& job) {
-    runJob(job);
+    job.run(AllProcessors);
     const std::vector<FileFailure> failures = job.failures();
     for (const FileFailure& failure : failures) {
         complain(failure.path + ": " + failure.reason);

@@ -53,6 +53,12 @@ std::string FieldPath::text() const {
     return text;
 }
 
+KeptPath::KeptPath(FieldPath path) {
+    for (const FieldPath::Step* step = path.last_; step != nullptr; step = step->around) {
+        steps_.at(count_++) = {step->name.data(), step->number};
+    }
+}
+
 bool FieldPath::operator==(std::string_view text) const {
     const auto take = [&text](char c) {
         const bool is = text.ends_with(c);

@@ -33,7 +33,36 @@ public:
     bool operator==(std::string_view text) const;
 
 private:
+    friend class KeptPath;
+
     const Step* last_ = nullptr;
+};
+
+/// The steps of a path, to know it again in another record.
+class KeptPath {
+public:
+    KeptPath() = default;
+    explicit KeptPath(FieldPath path);
+    /// Whether a path has these steps. Their texts are not read: a path whose names lie elsewhere in the
+    /// memory is taken for another one.
+    [[nodiscard]] bool isKnown(FieldPath path) const {
+        const FieldPath::Step* step = path.last_;
+        for (std::size_t i = 0; i < count_; ++i, step = step->around) {
+            if (step == nullptr || step->name.data() != steps_[i].name || step->number != steps_[i].number) {
+                return false;
+            }
+        }
+        return step == nullptr;
+    }
+
+private:
+    struct Step {
+        const char* name;
+        std::size_t number;
+    };
+
+    std::array<Step, FieldPath::MostSteps> steps_ = {}; ///< the last one first
+    std::size_t count_ = 0;
 };
 
 /// One value of a record while it is visited.

@@ -271,13 +271,13 @@ std::unique_ptr<Encoding> withPalette(const RawPixels& pixels, const LodePNGColo
 
 /// The chunks that say what the colours are. Many programs write those of the usual colour space, which is
 /// also what a file without them means.
-std::string colourMeaning(std::string_view bytes) {
+std::string colourMeaning(const PngChunks& file) {
     using namespace std::string_view_literals;
     constexpr auto usual = std::to_array<std::string_view>(
         {"gAMA\0\0\xB1\x8F"sv,
          "cHRM\0\0\x7A\x26\0\0\x80\x84\0\0\xFA\0\0\0\x80\xE8\0\0\x75\x30\0\0\xEA\x60\0\0\x3A\x98\0\0\x17\x70"sv});
     std::string text;
-    for (const PngChunk& chunk : splitPng(bytes).chunks) {
+    for (const PngChunk& chunk : file.chunks) {
         constexpr std::size_t lengthSize = 4;
         const bool isUsual = std::any_of(usual.begin(), usual.end(), [&](std::string_view content) {
             return chunk.whole.substr(lengthSize).starts_with(content);
@@ -289,17 +289,12 @@ std::string colourMeaning(std::string_view bytes) {
     return text;
 }
 
-} // namespace
-
-PngReading readPng(std::string_view bytes) {
-    PngChunks file = splitPng(bytes);
-    if (!file.failure.empty()) {
-        return {{}, std::move(file.failure)};
-    }
-    PngReading reading{{file.header.size, file.header.bits == DeepBits}, {}};
+/// The pixels of a file whose chunks are in order.
+PngReading pixelsOf(std::string_view bytes, const PngHeader& header) {
+    PngReading reading{{header.size, header.bits == DeepBits}, {}};
     LodePngState state;
     state->info_raw = modeOf(reading.picture);
-    const Bytes pixels = decode(state, bytes, file.header, reading.failure);
+    const Bytes pixels = decode(state, bytes, header, reading.failure);
     if (pixels) {
         const std::size_t size = reading.picture.pixelCount() * reading.picture.bytesPerPixel();
         reading.picture.samples.assign(pixels.get(), pixels.get() + size);
@@ -307,11 +302,24 @@ PngReading readPng(std::string_view bytes) {
     return reading;
 }
 
+} // namespace
+
+PngReading readPng(std::string_view bytes) {
+    const PngChunks file = splitPng(bytes);
+    return file.failure.empty() ? pixelsOf(bytes, file.header) : PngReading{{}, file.failure};
+}
+
 bool samePngPixels(std::string_view a, std::string_view b) {
-    const PngReading first = readPng(a);
-    const PngReading second = readPng(b);
-    return first.failure.empty() && second.failure.empty() && samePixels(first.picture, second.picture) &&
-           colourMeaning(a) == colourMeaning(b);
+    const PngChunks first = splitPng(a);
+    const PngChunks second = splitPng(b);
+    // Most pictures that differ do so in what takes no time to compare.
+    if (!first.failure.empty() || !second.failure.empty() || first.header.size != second.header.size ||
+        colourMeaning(first) != colourMeaning(second)) {
+        return false;
+    }
+    const PngReading one = pixelsOf(a, first.header);
+    const PngReading other = pixelsOf(b, second.header);
+    return one.failure.empty() && other.failure.empty() && samePixels(one.picture, other.picture);
 }
 
 std::string writePng(const Picture& picture) {

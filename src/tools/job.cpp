@@ -4,6 +4,10 @@
 
 namespace varrocade {
 
+void Job::run(unsigned /*threads*/) {
+    runJob(*this);
+}
+
 std::optional<std::chrono::seconds> timeToGo(const JobProgress& progress, std::chrono::milliseconds elapsed) {
     constexpr std::chrono::milliseconds leastTime{500};
     constexpr double leastShare = 0.05;

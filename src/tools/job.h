@@ -39,6 +39,9 @@ public:
     /// Does the next piece of work, at most some milliseconds; false when there is nothing left to do. A file
     /// that fails is kept for `failures` and stops nothing.
     virtual bool step() = 0;
+    /// Does all of it in one go. Work that can be shared is, among `threads` threads, or as many as there are
+    /// processors where that is 0; what it comes to is the same for any number. No thread is left behind.
+    virtual void run(unsigned threads);
     [[nodiscard]] virtual JobProgress progress() const = 0;
     [[nodiscard]] virtual std::vector<FileFailure> failures() const = 0;
 };

@@ -157,6 +157,11 @@ TEST_F(ToolsTest, SheetIsShownWrittenAndUndone) {
     EXPECT_TRUE(clipboardText().ends_with("\r\n2\t" + std::string(Tiger) + "\tWeight [kg]\t56900\t57000\r\n"))
         << clipboardText();
     finish(preview);
+    const Window imported = editor->waitForDialog("Imported spreadsheet");
+    EXPECT_EQ(imported.control(IDC_JOB_SUMMARY).text(),
+              "1 value of 1 file was changed. What the files held before is in the folder:");
+    expectWellLaidOut(imported);
+    finish(imported);
     EXPECT_TRUE(eventually([&] { return (menuState(IDM_UNDO) & MF_GRAYED) == 0; }));
     EXPECT_EQ(weightInFile(), "57000");
     EXPECT_EQ(game.backups(dataFile(Tiger)).back().find("<weight>57000"), std::string::npos);

@@ -102,6 +102,22 @@ TEST(CommandLine, RefusesWhatItDoesNotUnderstand) {
     EXPECT_NE(usage.complaints.find("rewrite [--explain] CATEGORY IN OUT"), std::string::npos);
 }
 
+TEST(CommandLine, TellsWhatAnImportWrote) {
+    const TemporaryFolder folder;
+    folder.write("Data\\Vehicles\\Car.txt", "<squad><vehicle></vehicle></squad>");
+    folder.write("sheet.csv", "Vehicles\tWeight [kg]\nCar\t7\n");
+    const CommandOutcome shown = runCommand(folder, "import $sheet.csv $");
+    EXPECT_EQ(shown.status, cli::Findings);
+    EXPECT_EQ(shown.output, "2\tCar\tWeight [kg]\t0\t7\n");
+    EXPECT_EQ(shown.complaints, "");
+    const CommandOutcome written = runCommand(folder, "import $sheet.csv $ --write");
+    EXPECT_EQ(written.status, cli::Done);
+    EXPECT_EQ(written.output, shown.output);
+    EXPECT_NE(written.complaints.find("1 value of 1 file was changed."), std::string::npos);
+    EXPECT_TRUE(written.complaints.ends_with("Backups/Data/Vehicles/\n")) << written.complaints;
+    EXPECT_EQ(runCommand(folder, "import $sheet.csv $ --write").complaints, "");
+}
+
 TEST(CommandLine, RewritesAFile) {
     const TemporaryFolder folder;
     folder.write("in.txt", LooseSquad);

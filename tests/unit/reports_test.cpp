@@ -1,6 +1,7 @@
 // The reports over a game or a mod.
 
 #include "data/unit/enumerations.h"
+#include "made_png.h"
 #include "pictures/png_codec.h"
 #include "test_support.h"
 #include "tools/reports/duplicate_files.h"
@@ -82,11 +83,17 @@ TEST(Reports, FindWhatAModDoesNotNeed) {
               "This file would be moved to the recycle bin:\n\n    Images\\Units\\"
               "Vehicles\\Turrets\\Pixels.png\n\nMove it?");
 
+    const auto recycle = [&](const std::vector<std::string>& paths) {
+        RecycleJob job(systemFiles(), folder.folders().mod, paths);
+        runJob(job);
+        EXPECT_EQ(job.moved().size() + job.failures().size(), paths.size());
+        return job.failures();
+    };
     const std::vector<std::string> before = folder.files();
     const std::vector<std::string> paths = {unused.rows().front().path, folder.folders().program + "Data\\x",
                                             folder.folders().mod + "..\\Game\\Data\\Weapons\\Kwk.txt",
                                             folder.folders().mod + "none.png"};
-    const std::vector<FileFailure> failures = recycleModFiles(systemFiles(), folder.folders().mod, paths);
+    const std::vector<FileFailure> failures = recycle(paths);
     ASSERT_EQ(failures.size(), 3U) << "nothing outside the mod's folder is touched";
     EXPECT_EQ(failures[1].reason, "it is not in the mod's folder");
 
@@ -95,13 +102,75 @@ TEST(Reports, FindWhatAModDoesNotNeed) {
     std::filesystem::create_directory_symlink(folder.nativePath("Game\\Data\\Weapons"),
                                               folder.nativePath("Mod\\Linked"), error);
     if (!error) {
-        const std::vector<FileFailure> linked =
-            recycleModFiles(systemFiles(), folder.folders().mod, {folder.folders().mod + "Linked\\Kwk.txt"});
+        const std::vector<FileFailure> linked = recycle({folder.folders().mod + "Linked\\Kwk.txt"});
         ASSERT_EQ(linked.size(), 1U);
         EXPECT_EQ(linked[0].reason, "a folder of its path is a link to another place");
         std::filesystem::remove(folder.nativePath("Mod\\Linked"));
     }
     EXPECT_EQ(folder.files().size(), before.size() - 1);
+}
+
+TEST(Reports, NameUsersInOneOrderForAnyNumberOfThreads) {
+    const TemporaryFolder folder;
+    const auto write = [&](const std::string& name, const std::string& hull, const std::string& turret) {
+        folder.write("Data\\" + name + ".txt",
+                     "<squad><description><nationality>NATIONALITY_DUTCH</nationality></description><vehicle>"
+                     "<hull><image_view>" +
+                         hull + "</image_view></hull><turret><image_view>" + turret +
+                         "</image_view><weapon><type>WEAPON_KWK</type></weapon></turret></vehicle></squad>");
+    };
+    std::string users;
+    for (const std::string name : {"10", "11", "12", "13", "14", "15"}) {
+        // A picture may be named in any letter case.
+        write("Vehicles\\" + name, name < "13" ? "TIGER.png" : "tiger.png", name == "15" ? "GONE.png" : "");
+        users += "\tVehicles: " + name + "\r\n";
+    }
+    // One that is missing is called as the first one calls it, whichever thread reads that one.
+    write("AT Guns\\20", "", "gone.png");
+    write("AT Guns\\21", "", "Gone.png");
+    folder.write("Data\\Weapons\\Kwk.txt", Gun);
+    folder.write("Images\\Units\\Vehicles\\Hulls\\Tiger.png", "");
+    for (const unsigned threads : {1U, 2U, 5U}) {
+        PngUsage usage({.program = folder.path()});
+        usage.run(threads);
+        EXPECT_EQ(usage.files()[1].content,
+                  "Images\\Units\\Vehicles\\Hulls\\Tiger.png\r\n" + users +
+                      "\r\nNamed, but not there:\r\nImages\\Units\\Vehicles\\Turrets\\GONE.png\r\n"
+                      "\tVehicles: 15\r\n\tAT Guns: 20\r\n\tAT Guns: 21\r\n")
+            << threads;
+        UnusedFiles unused({.program = folder.path() + "none\\", .mod = folder.path()});
+        unused.run(threads);
+        EXPECT_TRUE(unused.rows().empty()) << "the weapon is known by the name in its file";
+    }
+}
+
+TEST(Reports, CompareLargePicturesBesideTheWindow) {
+    const TemporaryFolder folder;
+    Picture large = emptyPicture({1000, 800});
+    const std::string below = "Images\\Units\\Vehicles\\Hulls\\";
+    // What nearly all programs write of the usual colours is no difference.
+    using namespace std::string_literals;
+    const std::string plain = writePng(large);
+    const std::string usual = std::string(plain).insert(
+        33, pngChunk("gAMA", "\0\0\xB1\x8F"s) +
+                pngChunk("cHRM", "\0\0\x7A\x26\0\0\x80\x84\0\0\xFA\0\0\0\x80\xE8"
+                                 "\0\0\x75\x30\0\0\xEA\x60\0\0\x3A\x98\0\0\x17\x70"s));
+    const std::string other = std::string(plain).insert(33, pngChunk("gAMA", "\0\1\0\0"s));
+    large.samples.back() = 1;
+    const std::string changed = writePng(large);
+    for (const auto& [name, content] :
+         {std::pair("usual.png", &usual), {"gamma.png", &other}, {"pixel.png", &changed}}) {
+        folder.write("Game\\" + below + name, plain);
+        folder.write("Mod\\" + below + name, *content);
+    }
+    const GameFolders folders{folder.path() + "Game\\", folder.path() + "Mod\\"};
+    DuplicateFiles duplicates(folders);
+    EXPECT_EQ(rowsOf(duplicates), below + "usual.png: pixel for pixel\n");
+    // One that is dropped while its thread works.
+    DuplicateFiles dropped(folders);
+    while (dropped.progress().name != "gamma.png") {
+        ASSERT_TRUE(dropped.step());
+    }
 }
 
 TEST(Reports, FindTheVoicesThatAModLacks) {

@@ -1,6 +1,7 @@
 // Spreadsheets of units, and back.
 
 #include "test_support.h"
+#include "tools/reports/png_usage.h"
 #include "tools/reports/unit_sheets.h"
 #include "tools/sheets/sheet_import.h"
 
@@ -98,6 +99,52 @@ TEST(Sheets, HaveARowAUnitAndSurviveWhatProgramsDoToThem) {
     EXPECT_EQ(importOf(folder, turned, true), "2: the column \"x\" is none of the fields and not read\n");
     EXPECT_EQ(folder.read("Data\\Vehicles\\German Tank.txt"), SheetTank);
     EXPECT_EQ(folder.files().size(), 2U);
+}
+
+/// All files of a report that as many threads make.
+template <typename Report>
+std::string madeBy(unsigned threads, const GameFolders& folders) {
+    Report report(folders);
+    report.run(threads);
+    EXPECT_EQ(report.progress().done, report.progress().total);
+    std::string all;
+    for (const ReportFile& file : report.files()) {
+        all += file.name + "\n" + file.content;
+    }
+    for (const FileFailure& failure : report.failures()) {
+        all += failure.path + "\n";
+    }
+    return all;
+}
+
+TEST(Sheets, AreTheSameForAnyNumberOfThreads) {
+    // Each unit brings columns that the one before has not, at its beginning, in its middle and at its end.
+    const TemporaryFolder folder;
+    constexpr std::array<std::string_view, 4> parts = {
+        "<hull><exhaust_pipe></exhaust_pipe></hull>", "<turret><weapon></weapon></turret>",
+        "<turret><man></man><smoke_discharger></smoke_discharger></turret>",
+        "<superstructure><ammo></ammo></superstructure>"};
+    for (std::size_t i = 0; i < 16; ++i) {
+        std::string text = "<squad>";
+        for (std::size_t point = 0; point < i % 5; ++point) {
+            text +=
+                "<availability><year>1940</year><number>" + std::to_string(i) + "</number></availability>";
+        }
+        text += "<vehicle>";
+        for (std::size_t part = 0; part < parts.size(); ++part) {
+            text += (i * 7 >> part) % 2 != 0 ? parts.at((part + i) % parts.size()) : "";
+        }
+        folder.write("Data\\Vehicles\\" + std::to_string((i * 11) % 16) + ".txt",
+                     text + "</vehicle></squad>");
+    }
+    for (const GameFolders& folders : {GameFolders{folder.path()}, GameFolders{SampleBase}}) {
+        const std::string sheets = madeBy<UnitSheets>(1, folders);
+        const std::string usage = madeBy<PngUsage>(1, folders);
+        for (const unsigned threads : {2U, 3U, 40U}) {
+            EXPECT_EQ(madeBy<UnitSheets>(threads, folders), sheets) << threads;
+            EXPECT_EQ(madeBy<PngUsage>(threads, folders), usage) << threads;
+        }
+    }
 }
 
 TEST(Sheets, ComeBackAsChangesOrAsRefusals) {

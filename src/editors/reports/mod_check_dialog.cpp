@@ -3,6 +3,7 @@
 #include "editors/form/clipboard_win32.h"
 #include "editors/form/form_port_win32.h"
 #include "editors/form/table_win32.h"
+#include "editors/reports/progress_dialog.h"
 #include "editors/reports/result_dialog.h"
 #include "platform/messages.h"
 #include "resources/resource.h"
@@ -97,22 +98,14 @@ void moveSelected(HWND dialog, CheckDialog& context) {
                                       .icon = MessageIcon::Question}) != Answer::Yes) {
         return;
     }
-    const std::vector<FileFailure> failures =
-        recycleModFiles(context.tools.files, context.tools.modFolder, paths);
-    context.moved += paths.size() - failures.size();
+    RecycleJob job(context.tools.files, context.tools.modFolder, std::move(paths));
+    runJobInWindow(dialog, caption, job);
+    context.moved += job.moved().size();
     context.outcome.hasMoved = context.moved > 0;
-    std::erase_if(context.rows, [&](const ModCheckRow& row) {
-        return std::find(paths.begin(), paths.end(), row.path) != paths.end() &&
-               std::none_of(failures.begin(), failures.end(),
-                            [&](const FileFailure& failure) { return failure.path == row.path; });
-    });
+    std::erase_if(context.rows, [&](const ModCheckRow& row) { return job.moved().count(row.path) != 0; });
     fillRows(dialog, context);
-    if (!failures.empty()) {
-        std::string text = "These files could not be moved:\n";
-        for (const FileFailure& failure : failures) {
-            text += "\n    " + failure.path + ": " + failure.reason;
-        }
-        showMessage({.text = std::move(text), .caption = caption, .icon = MessageIcon::Warning});
+    if (!job.failures().empty()) {
+        tellFailures(caption, "These files could not be moved:\n", job.failures());
     }
 }
 

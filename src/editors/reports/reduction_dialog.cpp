@@ -165,8 +165,10 @@ void ReductionDialog::write(const std::vector<ReductionRow>& rows) {
     }
     sets_ = std::move(left);
     list();
-    for (const FileFailure& failure : writer.failures()) {
-        showCouldNotSave(failure.path);
+    if (const auto failures = writer.failures(); failures.size() == 1) {
+        showCouldNotSave(failures.front().path);
+    } else if (!failures.empty()) {
+        tellFailures(caption(), "These pictures could not be written and are as they were:\n", failures);
     }
 }
 

@@ -9,11 +9,8 @@
 
 #include <algorithm>
 #include <array>
-#include <chrono>
-#include <condition_variable>
 #include <iterator>
 #include <mutex>
-#include <thread>
 #include <unordered_set>
 #include <utility>
 
@@ -225,11 +222,9 @@ std::vector<ReducedPicture> reduceSet(const ReductionSet& set) {
 struct ReductionJob::Work {
     std::vector<ReductionSet> sets;
     std::mutex lock; ///< of what follows
-    std::condition_variable ended;
     std::vector<std::vector<ReducedPicture>> results = {};
     JobProgress progress = {};
     bool isUnwanted = false;
-    bool isDone = false;
 };
 
 void ReductionJob::start(const GameFolders& folders, const ReductionOptions& options,
@@ -244,6 +239,7 @@ void ReductionJob::abandon() {
         const std::lock_guard guard(work_->lock);
         work_->isUnwanted = true;
     }
+    thread_.leave();
     work_.reset();
 }
 
@@ -264,13 +260,13 @@ void ReductionJob::beginWork() {
             work_->progress.workTotal += pixelsOf(picture);
         }
     }
-    std::thread(reduceAll, work_).detach();
+    thread_.start([work = work_] { reduceAll(*work); });
 }
 
 /// On the job's thread.
-void ReductionJob::reduceAll(const std::shared_ptr<Work>& work) {
-    JobProgress before = work->progress; // with the sets that are done
-    for (const ReductionSet& set : work->sets) {
+void ReductionJob::reduceAll(Work& work) {
+    JobProgress before = work.progress; // with the sets that are done
+    for (const ReductionSet& set : work.sets) {
         std::optional<SetReduction> reduction;
         const auto goesOn = [&](double share) {
             JobProgress now = before;
@@ -283,9 +279,9 @@ void ReductionJob::reduceAll(const std::shared_ptr<Work>& work) {
             if (done < set.size()) {
                 now.workDone += static_cast<std::size_t>(share * static_cast<double>(pixelsOf(set[done])));
             }
-            const std::lock_guard guard(work->lock);
-            work->progress = std::move(now);
-            return !work->isUnwanted;
+            const std::lock_guard guard(work.lock);
+            work.progress = std::move(now);
+            return !work.isUnwanted;
         };
         reduction.emplace(set, goesOn);
         bool isMore = true;
@@ -302,14 +298,12 @@ void ReductionJob::reduceAll(const std::shared_ptr<Work>& work) {
                 picture.former = {};
             }
         }
-        const std::lock_guard guard(work->lock);
-        work->results.push_back(std::move(reduction->pictures()));
+        const std::lock_guard guard(work.lock);
+        work.results.push_back(std::move(reduction->pictures()));
     }
-    const std::lock_guard guard(work->lock);
+    const std::lock_guard guard(work.lock);
     before.name.clear();
-    work->progress = std::move(before);
-    work->isDone = true;
-    work->ended.notify_one();
+    work.progress = std::move(before);
 }
 
 bool ReductionJob::step() {
@@ -319,10 +313,7 @@ bool ReductionJob::step() {
         }
         return true;
     }
-    // Whoever drives the job in a loop need not spin.
-    constexpr std::chrono::milliseconds patience{10};
-    std::unique_lock guard(work_->lock);
-    if (!work_->ended.wait_for(guard, patience, [this] { return work_->isDone; })) {
+    if (!thread_.isDone()) {
         return true;
     }
     results_ = std::move(work_->results);

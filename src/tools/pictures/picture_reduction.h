@@ -4,6 +4,7 @@
 #include "data/game_files.h"
 #include "pictures/png_codec.h"
 #include "platform/backups.h"
+#include "tools/background_work.h"
 #include "tools/job.h"
 #include "tools/pictures/picture_sets.h"
 
@@ -113,8 +114,8 @@ private:
 };
 
 /// Plans in steps of a file, then makes the pictures smaller on a thread of its own, for a window: a large
-/// picture takes seconds. Nothing is written. A job that is dropped does not wait for the thread, which ends
-/// by itself after the next file that it tries.
+/// picture takes seconds. Nothing is written. A job that is dropped tells the thread to end, which it does
+/// after the file that it tries.
 class ReductionJob : public Job {
 public:
     ReductionJob() = default;
@@ -133,12 +134,13 @@ public:
 
 private:
     struct Work;
-    static void reduceAll(const std::shared_ptr<Work>& work);
+    static void reduceAll(Work& work);
     void beginWork();
     void abandon();
 
     ReductionPlan plan_;
     std::shared_ptr<Work> work_; ///< shared with the thread
+    BackgroundWork thread_;
     std::vector<std::vector<ReducedPicture>> results_;
 };
 

@@ -5,8 +5,8 @@
 #include "data/unit/enumerations.h"
 #include "pictures/png_codec.h"
 #include "platform/safe_save.h"
+#include "tools/parallel.h"
 #include "tools/pictures/canvas.h"
-#include "tools/pictures/parallel.h"
 
 #include <algorithm>
 #include <atomic>

@@ -69,15 +69,49 @@ void DuplicateFiles::compare(const Pair& pair) {
         duplicates_.push_back({&pair, "byte for byte the game's own"});
     } else if (pair.category && holdSameRecord(*pair.category, mod, game)) {
         duplicates_.push_back({&pair, "value for value the game's own"});
-    } else if (isPicture && samePngPixels(mod, game)) {
-        duplicates_.push_back({&pair, "pixel for pixel the game's own"});
+    } else if (isPicture) {
+        comparePixels(pair, std::move(mod), std::move(game));
     }
+}
+
+struct DuplicateFiles::PixelComparison {
+    const Pair* pair;
+    std::string mod;
+    std::string game;
+    bool isSame = false;
+};
+
+void DuplicateFiles::comparePixels(const Pair& pair, std::string mod, std::string game) {
+    comparison_ = std::make_shared<PixelComparison>(PixelComparison{&pair, std::move(mod), std::move(game)});
+    const auto compareThem = [](PixelComparison& both) { both.isSame = samePngPixels(both.mod, both.game); };
+    // Fewer pixels are compared in less time than anybody feels.
+    constexpr std::int64_t few = 500'000;
+    const PictureSize size = pngSizeOf(comparison_->mod).value_or(PictureSize{});
+    if (std::int64_t{size.width} * size.height > few) {
+        thread_.start([both = comparison_, compareThem] { compareThem(*both); });
+    } else {
+        compareThem(*comparison_);
+        finishPixels();
+    }
+}
+
+void DuplicateFiles::finishPixels() {
+    if (comparison_->isSame) {
+        duplicates_.push_back({comparison_->pair, "pixel for pixel the game's own"});
+    }
+    comparison_.reset();
 }
 
 bool DuplicateFiles::step() {
     if (!isListed_) {
         isListed_ = true;
         list();
+        return true;
+    }
+    if (comparison_) {
+        if (thread_.isDone()) {
+            finishPixels();
+        }
         return true;
     }
     if (done_ < pairs_.size()) {
@@ -89,9 +123,11 @@ bool DuplicateFiles::step() {
 
 JobProgress DuplicateFiles::progress() const {
     JobProgress progress = scan_.progress();
-    progress.done += done_;
+    progress.done += comparison_ ? done_ - 1 : done_;
     progress.total += pairs_.size();
-    if (done_ < pairs_.size()) {
+    if (comparison_) {
+        progress.name = comparison_->pair->mod->name;
+    } else if (done_ < pairs_.size()) {
         progress.name = pairs_[done_].mod->name;
     }
     return progress;

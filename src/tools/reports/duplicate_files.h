@@ -1,8 +1,10 @@
 #pragma once
 // The files of a mod that are the game's own over again.
 
+#include "tools/background_work.h"
 #include "tools/reports/mod_check.h"
 
+#include <memory>
 #include <optional>
 #include <utility>
 
@@ -33,11 +35,17 @@ private:
     void list();
     void addPairs(std::string_view folder, std::string_view ending, std::optional<Category> category = {});
     void compare(const Pair& pair);
+    void comparePixels(const Pair& pair, std::string mod, std::string game);
+    void finishPixels();
 
     ReferenceScan scan_;
     bool isListed_ = false;
     std::vector<Pair> pairs_;
     std::size_t done_ = 0;
+    /// Two large pictures whose pixels a thread compares; the next pair waits for it.
+    struct PixelComparison;
+    std::shared_ptr<PixelComparison> comparison_; ///< shared with the thread
+    BackgroundWork thread_;
     std::vector<Duplicate> duplicates_;
     std::vector<FileFailure> failures_;
 };

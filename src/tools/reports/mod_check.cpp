@@ -24,6 +24,14 @@ bool goesThroughLink(std::string_view folder, const std::string& path) {
     return false;
 }
 
+/// Why a file must stay where it is; empty where it may go.
+std::string reasonToKeep(const std::string& modFolder, const std::string& path) {
+    return !isWithin(modFolder, path)              ? "it is not in the mod's folder"
+           : goesThroughLink(modFolder, path)      ? "a folder of its path is a link to another place"
+           : statusOf(path).kind != PathKind::File ? "it is no plain file"
+                                                   : "";
+}
+
 } // namespace
 
 ReferenceUser userOfFile(Category category, const AssetFile& file) {
@@ -60,21 +68,26 @@ std::string recycleQuestion(const std::vector<ModCheckRow>& rows) {
     return text + (rows.size() == 1 ? "\n\nMove it?" : "\n\nMove them?");
 }
 
-std::vector<FileFailure> recycleModFiles(FileOperations& files, const std::string& modFolder,
-                                         const std::vector<std::string>& paths) {
-    std::vector<FileFailure> failures;
-    for (const std::string& path : paths) {
-        if (!isWithin(modFolder, path)) {
-            failures.push_back({path, "it is not in the mod's folder"});
-        } else if (goesThroughLink(modFolder, path)) {
-            failures.push_back({path, "a folder of its path is a link to another place"});
-        } else if (statusOf(path).kind != PathKind::File) {
-            failures.push_back({path, "it is no plain file"});
-        } else if (!files.recycle(path)) {
-            failures.push_back({path, files.lastError()});
+bool RecycleJob::step() {
+    if (done_ < paths_.size()) {
+        const std::string& path = paths_[done_++];
+        std::string reason = reasonToKeep(modFolder_, path);
+        if (reason.empty() && !files_.recycle(path)) {
+            reason = files_.lastError();
+        }
+        if (reason.empty()) {
+            moved_.insert(path);
+        } else {
+            failures_.push_back({path, std::move(reason)});
         }
     }
-    return failures;
+    return done_ < paths_.size();
+}
+
+JobProgress RecycleJob::progress() const {
+    return {done_, paths_.size(),
+            done_ < paths_.size() ? paths_[done_].substr(std::min(modFolder_.size(), paths_[done_].size()))
+                                  : ""};
 }
 
 } // namespace varrocade

@@ -5,8 +5,11 @@
 #include "tools/job.h"
 #include "tools/reports/reference_scan.h"
 
+#include <functional>
+#include <set>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace varrocade {
@@ -33,9 +36,27 @@ std::string modCheckSummary(std::size_t found, std::size_t moved);
 /// What is asked before files go: how many, and which, as far as a box has room.
 std::string recycleQuestion(const std::vector<ModCheckRow>& rows);
 
-/// Moves files to the recycle bin. What is not below the mod's folder, or leaves it again by its path or by a
-/// link, is refused. The files that could not be moved.
-std::vector<FileFailure> recycleModFiles(FileOperations& files, const std::string& modFolder,
-                                         const std::vector<std::string>& paths);
+/// Moves files to the recycle bin, one a step. What is not below the mod's folder, or leaves it again by its
+/// path or by a link, is refused.
+class RecycleJob : public Job {
+public:
+    RecycleJob(FileOperations& files, std::string modFolder, std::vector<std::string> paths)
+        : files_(files), modFolder_(std::move(modFolder)), paths_(std::move(paths)) {}
+
+    bool step() override;
+    [[nodiscard]] JobProgress progress() const override;
+    /// The files that could not be moved.
+    [[nodiscard]] std::vector<FileFailure> failures() const override { return failures_; }
+    /// Those that were.
+    [[nodiscard]] const std::set<std::string, std::less<>>& moved() const { return moved_; }
+
+private:
+    FileOperations& files_;
+    std::string modFolder_;
+    std::vector<std::string> paths_;
+    std::size_t done_ = 0;
+    std::set<std::string, std::less<>> moved_;
+    std::vector<FileFailure> failures_;
+};
 
 } // namespace varrocade

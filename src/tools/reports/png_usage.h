@@ -16,6 +16,7 @@ public:
     explicit PngUsage(GameFolders folders) : scan_(std::move(folders)) {}
 
     bool step() override { return scan_.step(); }
+    void run(unsigned threads) override { scan_.run(threads); }
     [[nodiscard]] JobProgress progress() const override { return scan_.progress(); }
     [[nodiscard]] std::vector<FileFailure> failures() const override { return scan_.failures(); }
     [[nodiscard]] std::vector<ReportFile> files() override;

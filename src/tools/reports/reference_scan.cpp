@@ -1,11 +1,12 @@
 #include "tools/reports/reference_scan.h"
 
 #include "data/format/texts.h"
-#include "data/reading/unit_reader.h"
 #include "mod/mod_settings.h"
-#include "weapons/weapon_files.h"
+#include "tools/file_shares.h"
+#include "tools/parallel.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace varrocade {
@@ -28,25 +29,7 @@ std::string expectedPath(const Reference& reference) {
 
 } // namespace
 
-ReferenceScan::ReferenceScan(GameFolders folders)
-    : files_(std::move(folders)), noteUser_([this](const Reference& reference) { note(reference); }) {}
-
-void ReferenceScan::note(const Reference& reference) {
-    if (reference.folders.empty()) {
-        return;
-    }
-    // Thousands of units name the same few hundred files: each is looked for once.
-    ListsByName& lists = lists_[reference.folders.data()];
-    auto known = lists.find(reference.name);
-    if (known == lists.end()) {
-        known = lists.emplace(reference.name, listOf(reference)).first;
-    }
-    const std::size_t user = users_.size() - 1;
-    std::vector<std::size_t>* list = known->second;
-    if (list != nullptr && (list->empty() || list->back() != user)) {
-        list->push_back(user);
-    }
-}
+ReferenceScan::ReferenceScan(GameFolders folders) : files_(std::move(folders)) {}
 
 /// The list of those who name a file; null for one that nobody misses.
 std::vector<std::size_t>* ReferenceScan::listOf(const Reference& reference) {
@@ -66,58 +49,137 @@ std::vector<std::size_t>* ReferenceScan::listOf(const Reference& reference) {
     return &missing.users;
 }
 
-/// Weapons come first: units name them by names that only the weapons' files have.
 void ReferenceScan::list() {
-    std::vector<GameFile> all = listAllFiles(files_.bases(), failures_);
-    std::stable_partition(all.begin(), all.end(),
+    isListed_ = true;
+    toRead_ = listAllFiles(files_.bases(), failures_);
+    std::stable_partition(toRead_.begin(), toRead_.end(),
                           [](const GameFile& file) { return file.category == Category::Weapons; });
-    users_.reserve(all.size() + 2);
-    // A unit has some pictures of its own.
-    constexpr std::size_t filesAUnit = 4;
-    usages_.reserve(filesAUnit * all.size());
+    users_.reserve(toRead_.size() + 2);
     users_.push_back({.name = "the game"});
     forEachGameReference([this](const Reference& reference) {
         // What the game would take if there were one is not missing.
         if (files_.find(reference) != nullptr) {
-            note(reference);
+            notes_.front().note(reference, 0);
         }
     });
     const std::string& mod = files_.bases().mod;
     if (!mod.empty()) {
         users_.push_back({.name = std::string(ModFileName)});
         if (const auto settings = loadModSettings(mod)) {
-            forEachReference(*settings, noteUser_);
+            forEachReference(*settings,
+                             [this](const Reference& reference) { notes_.front().note(reference, 1); });
         }
     }
-    walk_ = GameFileWalk(std::move(all));
+    firstFile_ = users_.size();
+    for (const GameFile& file : toRead_) {
+        std::string name(categoryName(file.category));
+        name.append(": ").append(file.name);
+        users_.push_back({std::move(name), file});
+    }
 }
 
-void ReferenceScan::read(const GameFile& file, std::string_view content) {
-    std::string name(categoryName(file.category));
-    name.append(": ").append(file.name);
-    users_.push_back({std::move(name), file});
-    Diagnostics diagnostics;
-    if (file.category == Category::Weapons) {
-        const WeaponRecord weapon = readWeapon(content, file.name, diagnostics);
-        files_.nameWeapon(weapon.name, file.name);
-        forEachReference(weapon, noteUser_);
+/// Sorts what several threads noted as one would have come to it. Weapons are known by the names that units
+/// use before anything is looked for.
+void ReferenceScan::sortNamed() {
+    std::vector<const NamedWeapon*> weapons;
+    for (ReferenceNotes& one : notes_) {
+        for (NamedFile& named : one.files()) {
+            named_.push_back(&named);
+        }
+        for (const NamedWeapon& weapon : one.weapons()) {
+            weapons.push_back(&weapon);
+        }
+    }
+    // A user is in one thread's notes only.
+    std::stable_sort(named_.begin(), named_.end(), [](const NamedFile* a, const NamedFile* b) {
+        return a->users.front() < b->users.front();
+    });
+    std::sort(weapons.begin(), weapons.end(),
+              [](const NamedWeapon* a, const NamedWeapon* b) { return a->user < b->user; });
+    for (const NamedWeapon* weapon : weapons) {
+        files_.nameWeapon(weapon->name, weapon->fileName);
+    }
+    // A unit has some pictures of its own.
+    usages_.reserve(named_.size());
+}
+
+void ReferenceScan::settle(NamedFile& named) {
+    Reference reference;
+    reference.kind = named.kind;
+    reference.name = named.name;
+    reference.folders = named.folders;
+    reference.ending = named.ending;
+    std::vector<std::size_t>* list = listOf(reference);
+    if (list == nullptr) {
         return;
     }
-    forEachReference(readUnit(content, file.name, diagnostics), noteUser_);
+    if (list->empty()) {
+        *list = std::move(named.users);
+        return;
+    }
+    const std::vector<std::size_t> known = std::move(*list);
+    list->clear();
+    std::set_union(known.begin(), known.end(), named.users.begin(), named.users.end(),
+                   std::back_inserter(*list));
 }
 
 bool ReferenceScan::step() {
     if (!isListed_) {
-        isListed_ = true;
         list();
+        walk_ = GameFileWalk(std::move(toRead_));
         return true;
     }
-    return walk_.step([this](const GameFile& file, std::string_view content) { read(file, content); });
+    const auto read = [this](const GameFile& file, std::string_view content) {
+        notes_.front().read(file, content, firstFile_ + walk_.progress().done);
+    };
+    if (walk_.step(read)) {
+        return true;
+    }
+    if (named_.empty()) {
+        sortNamed();
+    }
+    constexpr std::size_t namesAStep = 200;
+    const std::size_t end = std::min(settled_ + namesAStep, named_.size());
+    while (settled_ < end) {
+        settle(*named_[settled_++]);
+    }
+    return settled_ < named_.size();
+}
+
+void ReferenceScan::run(unsigned threads) {
+    threads = threadCount(threads);
+    if (isListed_ || threads == 1) {
+        while (step()) {
+        }
+        return;
+    }
+    list();
+    std::vector<FileShare> shares = shareFiles(toRead_, threads);
+    while (notes_.size() < threads) {
+        notes_.emplace_back();
+    }
+    const auto readShares = [&](std::size_t thread) {
+        for (std::size_t i = thread; i < shares.size(); i += threads) {
+            GameFileWalk& walk = shares[i].walk;
+            const std::size_t first = firstFile_ + shares[i].first;
+            walk.run([&](const GameFile& file, std::string_view content) {
+                notes_[thread].read(file, content, first + walk.progress().done);
+            });
+        }
+    };
+    forEachInParallel(threads, readShares, threads);
+    appendFailures(failures_, shares);
+    readInThreads_ = toRead_.size();
+    sortNamed();
+    for (NamedFile* named : named_) {
+        settle(*named);
+    }
+    settled_ = named_.size();
 }
 
 JobProgress ReferenceScan::progress() const {
     const WalkProgress walked = walk_.progress();
-    return {walked.done, walked.total, std::string(walked.name)};
+    return {walked.done + readInThreads_, walked.total + readInThreads_, std::string(walked.name)};
 }
 
 std::vector<FileFailure> ReferenceScan::failures() const {

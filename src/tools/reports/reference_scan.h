@@ -1,12 +1,13 @@
 #pragma once
-// Who names which file: all units, weapons and the mod's settings gone through once, in steps.
+// Who names which file: all units, weapons and the mod's settings gone through once, in steps or by several
+// threads.
 
 #include "data/game_files.h"
 #include "tools/asset_files.h"
 #include "tools/job.h"
-#include "tools/references.h"
+#include "tools/reports/reference_notes.h"
 
-#include <functional>
+#include <deque>
 #include <map>
 #include <optional>
 #include <string>
@@ -37,8 +38,11 @@ public:
     ReferenceScan& operator=(const ReferenceScan&) = delete;
     ~ReferenceScan() = default;
 
-    /// Lists the folders, or reads a file; false when there is nothing left to do.
+    /// Lists the folders, reads a file, or looks for some of what files name; false when there is nothing
+    /// left to do.
     bool step();
+    /// All of it in one go, by as many threads; see `Job::run`.
+    void run(unsigned threads);
     [[nodiscard]] JobProgress progress() const;
     [[nodiscard]] std::vector<FileFailure> failures() const;
 
@@ -50,27 +54,24 @@ public:
     AssetFiles& files() { return files_; }
 
 private:
-    struct NameHash {
-        using is_transparent = void; // NOLINT(readability-identifier-naming): the library asks for this name
-        std::size_t operator()(std::string_view name) const { return std::hash<std::string_view>()(name); }
-    };
-    using ListsByName = std::unordered_map<std::string, std::vector<std::size_t>*, NameHash, std::equal_to<>>;
-
     void list();
-    void read(const GameFile& file, std::string_view content);
-    void note(const Reference& reference);
+    void sortNamed();
+    void settle(NamedFile& named);
     std::vector<std::size_t>* listOf(const Reference& reference);
 
     AssetFiles files_;
     GameFileWalk walk_;
+    std::vector<GameFile> toRead_; ///< until the walk has them
     bool isListed_ = false;
     std::vector<FileFailure> failures_;
-    std::vector<ReferenceUser> users_;
-    ReferenceVisit noteUser_; ///< notes what the last of the users names
+    std::vector<ReferenceUser> users_; ///< the files in the order in which they are read
+    std::size_t firstFile_ = 0;        ///< among the users
+    std::size_t readInThreads_ = 0;    ///< how many files, which the walk knows nothing of
+    /// One a thread; the first one has those of the game and the mod, too.
+    std::deque<ReferenceNotes> notes_ = std::deque<ReferenceNotes>(1);
+    std::vector<NamedFile*> named_; ///< what all notes name, as one user after the other came to it
+    std::size_t settled_ = 0;       ///< how many of them were looked for
     std::unordered_map<const AssetFile*, std::vector<std::size_t>> usages_;
-    /// The lists among `usages_` and `missing_` by the folders that a reference is looked for in, and its
-    /// name.
-    std::map<const ImageSource*, ListsByName> lists_;
     std::map<std::string, MissingFile> missing_; ///< by path in small letters
 };
 

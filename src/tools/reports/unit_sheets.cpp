@@ -2,6 +2,8 @@
 
 #include "data/reading/unit_reader.h"
 #include "tools/asset_files.h"
+#include "tools/file_shares.h"
+#include "tools/parallel.h"
 #include "weapons/weapon_files.h"
 
 #include <utility>
@@ -11,6 +13,15 @@ namespace varrocade {
 namespace {
 
 constexpr std::string_view SheetEnding = ".csv";
+
+void addFile(SheetBuilder& sheet, const GameFile& file, std::string_view content) {
+    Diagnostics diagnostics;
+    if (file.category == Category::Weapons) {
+        sheet.add(file.name, readWeapon(content, file.name, diagnostics));
+    } else {
+        sheet.add(file.name, readUnit(content, file.name, diagnostics));
+    }
+}
 
 } // namespace
 
@@ -31,19 +42,41 @@ bool UnitSheets::step() {
         return true;
     }
     return walk_.step([this](const GameFile& file, std::string_view content) {
-        Diagnostics diagnostics;
-        SheetBuilder& sheet = sheets_.at(static_cast<std::size_t>(file.category));
-        if (file.category == Category::Weapons) {
-            sheet.add(file.name, readWeapon(content, file.name, diagnostics));
-        } else {
-            sheet.add(file.name, readUnit(content, file.name, diagnostics));
-        }
+        addFile(sheets_.at(static_cast<std::size_t>(file.category)), file, content);
     });
+}
+
+void UnitSheets::run(unsigned threads) {
+    threads = threadCount(threads);
+    if (isListed_ || threads == 1) {
+        runJob(*this);
+        return;
+    }
+    isListed_ = true;
+    threads_ = threads;
+    const std::vector<GameFile> files = listOwnFiles(folders_, failures_);
+    std::vector<FileShare> shares = shareFiles(files, threads);
+    std::vector<SheetBuilder> parts;
+    parts.reserve(shares.size());
+    for (const FileShare& share : shares) {
+        parts.emplace_back(categoryName(share.category));
+    }
+    const auto read = [&](std::size_t i) {
+        shares[i].walk.run([&sheet = parts[i]](const GameFile& file, std::string_view content) {
+            addFile(sheet, file, content);
+        });
+    };
+    forEachInParallel(shares.size(), read, threads);
+    for (std::size_t i = 0; i < shares.size(); ++i) {
+        sheets_.at(static_cast<std::size_t>(shares[i].category)).join(parts[i]);
+    }
+    appendFailures(failures_, shares);
+    readInThreads_ = files.size();
 }
 
 JobProgress UnitSheets::progress() const {
     const WalkProgress walked = walk_.progress();
-    return {walked.done, walked.total, std::string(walked.name)};
+    return {walked.done + readInThreads_, walked.total + readInThreads_, std::string(walked.name)};
 }
 
 std::vector<FileFailure> UnitSheets::failures() const {
@@ -53,11 +86,11 @@ std::vector<FileFailure> UnitSheets::failures() const {
 }
 
 std::vector<ReportFile> UnitSheets::files() {
-    std::vector<ReportFile> files;
-    files.reserve(std::size(AllCategories));
-    for (const Category category : AllCategories) {
-        files.push_back({sheetFileName(category), sheets_.at(static_cast<std::size_t>(category)).file()});
-    }
+    std::vector<ReportFile> files(sheets_.size());
+    const auto make = [&](std::size_t category) {
+        files[category] = {sheetFileName(static_cast<Category>(category)), sheets_[category].file()};
+    };
+    forEachInParallel(files.size(), make, threads_);
     return files;
 }
 

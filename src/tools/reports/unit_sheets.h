@@ -18,6 +18,7 @@ public:
     explicit UnitSheets(GameFolders folders);
 
     bool step() override;
+    void run(unsigned threads) override;
     [[nodiscard]] JobProgress progress() const override;
     [[nodiscard]] std::vector<FileFailure> failures() const override;
     [[nodiscard]] std::vector<ReportFile> files() override;
@@ -26,7 +27,9 @@ private:
     GameFolders folders_;
     GameFileWalk walk_;
     bool isListed_ = false;
-    std::vector<FileFailure> failures_; ///< of the listing
+    unsigned threads_ = 1;              ///< that the work was shared among
+    std::size_t readInThreads_ = 0;     ///< how many files, which the walk knows nothing of
+    std::vector<FileFailure> failures_; ///< of the listing and of what was read in threads
     std::vector<SheetBuilder> sheets_;  ///< one a category
 };
 

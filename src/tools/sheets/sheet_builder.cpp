@@ -22,6 +22,28 @@ void appendValueCell(std::string& out, const CellPlace& cell, const Value& value
     }
 }
 
+/// A cell with the place of its column in the table.
+struct PlacedCell {
+    std::size_t position;
+    std::string_view text;
+};
+
+/// What lies between the cells is one run of tabs.
+void appendRow(std::string& table, std::vector<PlacedCell>& row, std::size_t columns) {
+    const auto isBefore = [](const PlacedCell& a, const PlacedCell& b) { return a.position < b.position; };
+    if (!std::is_sorted(row.begin(), row.end(), isBefore)) {
+        std::sort(row.begin(), row.end(), isBefore);
+    }
+    std::size_t position = 0;
+    for (const PlacedCell& cell : row) {
+        table.append(cell.position - position, '\t');
+        table += cell.text;
+        position = cell.position;
+    }
+    table.append(columns - 1 - position, '\t');
+    table += RowEnd;
+}
+
 } // namespace
 
 SheetBuilder::SheetBuilder(std::string_view firstHeading) {
@@ -33,7 +55,7 @@ SheetBuilder::SheetBuilder(std::string_view firstHeading) {
 std::size_t SheetBuilder::placeOf(const CellPlace& cell, std::size_t before) {
     const std::size_t expected = places_[before].following;
     if (expected != None && places_[expected].field == &cell.field &&
-        cell.place.path == places_[expected].path) {
+        places_[expected].path.isKnown(cell.place.path)) {
         return expected;
     }
     const auto known = placesByKey_.find({cell.place.path.text(), &cell.field});
@@ -42,19 +64,23 @@ std::size_t SheetBuilder::placeOf(const CellPlace& cell, std::size_t before) {
     return place;
 }
 
-/// A column that no row had before comes behind the one that stands before it in this row.
 std::size_t SheetBuilder::newPlace(const CellPlace& cell, std::size_t before) {
-    const std::string heading = headingOf(cell);
-    const auto [known, isNew] = columnsByHeading_.try_emplace(heading, columns_.size());
     std::string path = cell.place.path.text();
+    const std::size_t column =
+        columnOf(headingOf(cell), places_[before].column, path.starts_with(element::Availability));
+    placesByKey_.emplace(std::pair(std::move(path), &cell.field), places_.size());
+    places_.push_back({KeptPath(cell.place.path), &cell.field, column});
+    return places_.size() - 1;
+}
+
+/// A column that no row had before comes behind the one that stands before it in this row.
+std::size_t SheetBuilder::columnOf(const std::string& heading, std::size_t left, bool isOfTime) {
+    const auto [known, isNew] = columnsByHeading_.try_emplace(heading, columns_.size());
     if (isNew) {
-        const std::size_t left = places_[before].column;
-        columns_.push_back({heading, columns_[left].next, path.starts_with(element::Availability)});
+        columns_.push_back({heading, left, isOfTime, columns_[left].next});
         columns_[left].next = columns_.size() - 1;
     }
-    placesByKey_.emplace(std::pair(path, &cell.field), places_.size());
-    places_.push_back({std::move(path), &cell.field, known->second});
-    return places_.size() - 1;
+    return known->second;
 }
 
 template <typename Record>
@@ -77,6 +103,22 @@ void SheetBuilder::add(std::string_view fileName, const SquadRecord& unit) {
 
 void SheetBuilder::add(std::string_view fileName, const WeaponRecord& weapon) {
     addRow(fileName, weapon);
+}
+
+/// Its columns come here in the order in which its rows brought them, each behind the same one as there: so
+/// they stand where the rows themselves would have put them.
+void SheetBuilder::join(const SheetBuilder& other) {
+    std::vector<std::size_t> columns;
+    columns.reserve(other.columns_.size());
+    for (const Column& column : other.columns_) {
+        const std::size_t left = columns.empty() ? 0 : columns[column.left];
+        columns.push_back(columnOf(column.heading, left, column.isOfTime));
+    }
+    cells_.reserve(cells_.size() + other.cells_.size());
+    for (const Cell& cell : other.cells_) {
+        cells_.push_back({static_cast<std::uint32_t>(columns[cell.column]), cell.length});
+    }
+    texts_ += other.texts_;
 }
 
 std::vector<std::size_t> SheetBuilder::sheetOrder() const {
@@ -108,37 +150,28 @@ std::string SheetBuilder::file() const {
     return sheetFile(std::move(table));
 }
 
-/// A row has few of the columns, most of them in their order: what lies between is one run of tabs.
+/// A row has few of the columns, most of them in their order.
 void SheetBuilder::appendRows(std::string& table, const std::vector<std::size_t>& positions) const {
-    using Placed = std::pair<std::size_t, std::string_view>;
-    const auto isBefore = [](const Placed& a, const Placed& b) { return a.first < b.first; };
-    std::vector<Placed> row;
-    std::vector<Placed> times;
+    std::vector<PlacedCell> row;
+    std::vector<PlacedCell> times;
     const std::string_view texts = texts_;
     std::size_t begin = 0;
-    for (std::size_t i = 0; i < cells_.size();) {
-        row.clear();
+    for (auto cell = cells_.begin(); cell != cells_.end();) {
+        const auto rowEnd = std::find_if(cell + 1, cells_.end(), [](const Cell& c) { return c.column == 0; });
+        row.resize(static_cast<std::size_t>(rowEnd - cell));
         times.clear();
-        do {
-            const Cell& cell = cells_[i];
-            if (cell.length > 0) {
-                (columns_[cell.column].isOfTime ? times : row)
-                    .emplace_back(positions[cell.column], texts.substr(begin, cell.length));
+        auto placed = row.begin();
+        for (; cell != rowEnd; ++cell) {
+            *placed = {positions[cell->column], texts.substr(begin, cell->length)};
+            begin += cell->length;
+            if (columns_[cell->column].isOfTime) {
+                times.push_back(*placed);
+            } else {
+                ++placed;
             }
-            begin += cell.length;
-        } while (++i < cells_.size() && cells_[i].column != 0);
-        row.insert(row.end(), times.begin(), times.end());
-        if (!std::is_sorted(row.begin(), row.end(), isBefore)) {
-            std::sort(row.begin(), row.end(), isBefore);
         }
-        std::size_t position = 0;
-        for (const auto& [wanted, text] : row) {
-            table.append(wanted - position, '\t');
-            table += text;
-            position = wanted;
-        }
-        table.append(columns_.size() - 1 - position, '\t');
-        table += RowEnd;
+        std::copy(times.begin(), times.end(), placed);
+        appendRow(table, row, columns_.size());
     }
 }
 

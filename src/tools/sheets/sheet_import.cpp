@@ -293,6 +293,18 @@ void SheetImport::noteUnread(const Row& row) {
     }
 }
 
+std::string SheetImport::backupFolder() const {
+    return base() + std::string(BackupFolder) + categoryFolder({}, category_.value_or(Category::Vehicles));
+}
+
+std::string SheetImport::writtenText() const {
+    const auto counted = [](std::size_t count, std::string_view word) {
+        return std::to_string(count) + " " + std::string(word) + (count == 1 ? "" : "s");
+    };
+    return counted(changes_.size(), "value") + " of " + counted(changedFiles_.size(), "file") +
+           (changes_.size() == 1 ? " was changed." : " were changed.");
+}
+
 std::optional<FileFailure> SheetImport::write(FileOperations& files, BackupKeeper& backups) const {
     return replaceTogether(files, backups, base(), changedFiles_);
 }

@@ -51,6 +51,11 @@ public:
         return folders_.mod.empty() ? folders_.program : folders_.mod;
     }
 
+    /// Where a write keeps what the files held.
+    [[nodiscard]] std::string backupFolder() const;
+    /// What was written, as a sentence: "3 values of 2 files were changed."
+    [[nodiscard]] std::string writtenText() const;
+
     /// Writes the changed files, with what they held kept among the backups. After a failure all are as they
     /// were. Refused where a file has changed since it was read.
     std::optional<FileFailure> write(FileOperations& files, BackupKeeper& backups) const;

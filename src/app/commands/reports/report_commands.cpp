@@ -13,6 +13,7 @@
 #include "tools/reports/unit_sheets.h"
 #include "tools/reports/unused_files.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace varrocade {
@@ -36,17 +37,25 @@ void confirmThenReport(const std::string& caption, std::string question, std::st
     for (const FileFailure& failure : unwritten) {
         showCouldNotSave(failure.path);
     }
-    if (unwritten.empty()) {
+    if (unwritten.size() < files.size()) {
         std::string details;
         for (const ReportFile& file : files) {
-            details += file.name + "\n";
+            const bool isWritten =
+                std::none_of(unwritten.begin(), unwritten.end(), [&](const FileFailure& failure) {
+                    return failure.path == baseFolder(workspace) + file.name;
+                });
+            details += isWritten ? file.name + "\n" : std::string();
+        }
+        if (!unwritten.empty()) {
+            details += "\nThese could not be written:\n" + failureLines(unwritten);
         }
         if (const std::vector<FileFailure> unread = report.failures(); !unread.empty()) {
             details += "\nThese files could not be read and are left out:\n" + failureLines(unread);
         }
         showJobResult(application().window,
                       {.caption = std::move(title),
-                       .summary = "Created " + std::to_string(files.size()) + " files in the folder:",
+                       .summary = "Created " + std::to_string(files.size() - unwritten.size()) +
+                                  " files in the folder:",
                        .folder = baseFolder(workspace),
                        .details = std::move(details)});
     }

@@ -77,6 +77,24 @@ bool saveFirst(const std::vector<std::size_t>& unsaved) {
            saveChosen(workspace, unsaved);
 }
 
+/// Tells what was written: each file once, with how many of its values were changed.
+void tellImported(const SheetImport& import) {
+    std::string details;
+    const std::vector<SheetChange>& changes = import.changes();
+    for (auto change = changes.begin(); change != changes.end();) {
+        const auto end = std::find_if(change, changes.end(),
+                                      [&](const SheetChange& other) { return other.unit != change->unit; });
+        details += change->unit + ": " + std::to_string(end - change) +
+                   (end - change == 1 ? " value\n" : " values\n");
+        change = end;
+    }
+    showJobResult(application().window,
+                  {.caption = "Imported spreadsheet",
+                   .summary = import.writtenText() + " What the files held before is in the folder:",
+                   .folder = import.backupFolder(),
+                   .details = std::move(details)});
+}
+
 /// Writes all, or nothing where something fails or the user cancels.
 void writeImport(const SheetImport& import) {
     Workspace& workspace = theWorkspace();
@@ -85,6 +103,7 @@ void writeImport(const SheetImport& import) {
         job.putBack();
     } else if (job.failures().empty()) {
         noteImport(workspace, import);
+        tellImported(import);
     }
     if (const std::vector<FileFailure> failures = job.failures(); !failures.empty()) {
         tellFailures(importCaption(), "Nothing was imported:\n", failures);
