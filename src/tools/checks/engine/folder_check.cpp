@@ -104,7 +104,8 @@ bool FolderCheck::read(CheckedFile& entry, std::string& content) const {
     finding.file = entry.shown;
     finding.line = 1;
     finding.column = 1;
-    entry.found.assign(1, std::move(finding));
+    entry.found.clear();
+    entry.found.push_back(std::move(finding));
     return false;
 }
 
