@@ -42,6 +42,7 @@ bool countsBefore(const KeyedFile& a, const KeyedFile& b) {
 } // namespace
 
 void AssetFiles::setBases(GameFolders folders) {
+    newest_ = nullptr;
     listings_.clear();
     weaponFiles_.clear();
     bases_ = std::move(folders);
@@ -72,19 +73,30 @@ void AssetFiles::fill(Listing& listing) const {
     }
 }
 
-const AssetFiles::Listing& AssetFiles::listing(std::string_view folder, std::string_view ending) const {
+const AssetFiles::Listing* AssetFiles::known(std::string_view folder, std::string_view ending) const {
     constexpr CaselessEqual isSame;
+    const Listing* one = newest_.load(std::memory_order_acquire);
+    while (one != nullptr && !(isSame(one->folder, folder) && isSame(one->ending, ending))) {
+        one = one->older;
+    }
+    return one;
+}
+
+const AssetFiles::Listing& AssetFiles::listing(std::string_view folder, std::string_view ending) const {
+    if (const Listing* one = known(folder, ending)) {
+        return *one;
+    }
     const std::scoped_lock guard(guard_);
-    const auto known = std::find_if(listings_.begin(), listings_.end(), [&](const Listing& one) {
-        return isSame(one.folder, folder) && isSame(one.ending, ending);
-    });
-    if (known != listings_.end()) {
-        return *known;
+    // Another thread may have listed it while this one waited.
+    if (const Listing* one = known(folder, ending)) {
+        return *one;
     }
     Listing& made = listings_.emplace_back();
     made.folder = folder;
     made.ending = ending;
+    made.older = newest_.load(std::memory_order_relaxed);
     fill(made);
+    newest_.store(&made, std::memory_order_release);
     return made;
 }
 

@@ -6,6 +6,7 @@
 #include "data/game_files.h"
 #include "tools/references.h"
 
+#include <atomic>
 #include <list>
 #include <mutex>
 #include <span>
@@ -74,14 +75,19 @@ private:
         std::size_t counting = 0; ///< how many of the files count
         std::unordered_map<std::string_view, std::size_t, CaselessHash, CaselessEqual> places; ///< by stem
         bool isThere = false; ///< the folder, in one of the bases
+        const Listing* older = nullptr;
     };
 
+    [[nodiscard]] const Listing* known(std::string_view folder, std::string_view ending) const;
     [[nodiscard]] const Listing& listing(std::string_view folder, std::string_view ending) const;
     void fill(Listing& listing) const;
 
     GameFolders bases_;
-    mutable std::mutex guard_;            ///< of the listings
-    mutable std::list<Listing> listings_; ///< there are a few dozen folders
+    /// There are a few dozen folders. Threads ask for them at every name, so nobody waits for one that is
+    /// listed: a listing does not change any more once it is the newest.
+    mutable std::atomic<const Listing*> newest_ = nullptr;
+    mutable std::mutex guard_; ///< of what follows
+    mutable std::list<Listing> listings_;
     /// By the names in the files.
     std::unordered_map<std::string, std::string, CaselessHash, CaselessEqual> weaponFiles_;
 };

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <mutex>
 #include <utility>
 
 namespace varrocade {
@@ -21,7 +22,7 @@ const WeaponRecord* CheckKnowledge::findWeapon(std::string_view name) const {
 
 std::optional<PictureSize> CheckKnowledge::sizeOf(const AssetFile& picture) const {
     {
-        const std::scoped_lock guard(guard_);
+        const std::shared_lock guard(guard_);
         if (const auto known = sizes_.find(&picture); known != sizes_.end()) {
             return known->second;
         }
@@ -48,7 +49,7 @@ std::optional<Silhouette> silhouetteOfFile(const AssetFile& file) {
 PictureShift CheckKnowledge::shiftOf(const AssetFile& whole, const AssetFile& part) const {
     const std::pair key(&whole, &part);
     {
-        const std::scoped_lock guard(guard_);
+        const std::shared_lock guard(guard_);
         if (const auto known = shifts_.find(key); known != shifts_.end()) {
             return known->second;
         }

@@ -14,9 +14,9 @@
 
 #include <cstdint>
 #include <map>
-#include <mutex>
 #include <optional>
 #include <set>
+#include <shared_mutex>
 #include <span>
 #include <string>
 #include <string_view>
@@ -72,7 +72,7 @@ struct CheckKnowledge {
     [[nodiscard]] PictureShift shiftOf(const AssetFile& whole, const AssetFile& part) const;
 
 private:
-    mutable std::mutex guard_; ///< of what is read when it is asked for
+    mutable std::shared_mutex guard_; ///< of what is read when it is asked for
     mutable std::unordered_map<const AssetFile*, std::optional<PictureSize>> sizes_;
     mutable std::map<std::pair<const AssetFile*, const AssetFile*>, PictureShift> shifts_;
 };

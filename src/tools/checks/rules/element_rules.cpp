@@ -14,6 +14,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
+#include <map>
 #include <set>
 #include <string>
 #include <vector>
@@ -77,27 +79,50 @@ constexpr auto RequiredElements = std::to_array<Required>({
     {weapon_element::Type, weapon_field::Mass.element, true},
 });
 
-using RequiredOfRows = std::vector<std::vector<std::string_view>>;
+/// What is known of a row of a table beforehand.
+struct RowFacts {
+    std::vector<std::string_view> required; ///< what the element may not lack
+    /// Rows that may not stand beside each other in one parent have a bit in common. Others may have, too.
+    std::uint64_t bits = 0;
+};
 
-/// What each row of a table may not lack.
-RequiredOfRows requiredOfRows(const ElementTable& table, bool ofWeapons) {
-    RequiredOfRows required;
+/// Numbers those that come, in their order, and gives a bit for each.
+template <typename Thing>
+class Bits {
+public:
+    std::uint64_t of(Thing thing) {
+        constexpr std::size_t most = 64;
+        return std::uint64_t{1} << (numbers_.try_emplace(thing, numbers_.size()).first->second % most);
+    }
+
+private:
+    std::map<Thing, std::size_t> numbers_;
+};
+
+std::vector<RowFacts> factsOfRows(const ElementTable& table, bool ofWeapons) {
+    std::vector<RowFacts> facts;
+    Bits<FieldId> ofFields;
+    Bits<std::string_view> ofGroups;
     for (const ElementRow& row : table.rows()) {
-        std::vector<std::string_view>& names = required.emplace_back();
+        RowFacts& known = facts.emplace_back();
         for (const Required& one : RequiredElements) {
             if (one.parent == row.element && one.ofWeaponFiles == ofWeapons && row.place != 0 &&
                 table.find(row.place, one.name) != nullptr) {
-                names.push_back(one.name);
+                known.required.push_back(one.name);
             }
         }
+        known.bits = row.place != 0 ? ofGroups.of(row.element) : 0;
+        for (const FieldId field : row.fields) {
+            known.bits |= ofFields.of(field);
+        }
     }
-    return required;
+    return facts;
 }
 
 /// The same of the two tables that there are, made once.
-const RequiredOfRows& requiredElements(bool ofWeapons) {
-    static const RequiredOfRows ofUnitFiles = requiredOfRows(unit_rules::elements(), false);
-    static const RequiredOfRows ofWeaponFiles = requiredOfRows(weapon_rules::elements(), true);
+const std::vector<RowFacts>& rowFacts(bool ofWeapons) {
+    static const std::vector<RowFacts> ofUnitFiles = factsOfRows(unit_rules::elements(), false);
+    static const std::vector<RowFacts> ofWeaponFiles = factsOfRows(weapon_rules::elements(), true);
     return ofWeapons ? ofWeaponFiles : ofUnitFiles;
 }
 
@@ -127,8 +152,7 @@ public:
     ElementCheck(std::span<const TagNode> nodes, Category category, const ElementTable& table,
                  FileFindings& out)
         : nodes_(nodes), table_(table), out_(out), ofWeapons_(category == Category::Weapons),
-          requiredByRow_(requiredElements(ofWeapons_)), places_(nodes.size(), 0),
-          rows_(nodes.size(), nullptr) {}
+          facts_(rowFacts(ofWeapons_)), places_(nodes.size(), 0), rows_(nodes.size(), nullptr) {}
 
     void run() {
         for (std::uint32_t i = 1; i < nodes_.size(); ++i) {
@@ -158,6 +182,9 @@ public:
 private:
     [[nodiscard]] bool isRoot(std::string_view name) const {
         return ofWeapons_ ? name == weapon_element::Weapon : name == e::Squad || name == e::Aircraft;
+    }
+    [[nodiscard]] const RowFacts& factsOf(const ElementRow& row) const {
+        return facts_[static_cast<std::size_t>(&row - table_.rows().data())];
     }
     [[nodiscard]] const TagNode& parentOf(const TagNode& node) const { return nodes_[node.parent]; }
     [[nodiscard]] std::string placeText(const TagNode& node) const {
@@ -255,6 +282,7 @@ private:
     /// Groups that stand once, and fields that one element sets after another did.
     void checkTwice(const TagNode& parent) {
         seen_.clear();
+        std::uint64_t seenBits = 0;
         for (std::uint32_t i = parent.firstChild; i != TagNode::None; i = nodes_[i].nextSibling) {
             const ElementRow* row = rows_[i];
             if (row == nullptr) {
@@ -262,42 +290,48 @@ private:
             }
             const bool isAlone = row->place != 0 && (!row->makesEntry || row->element == e::Vehicle ||
                                                      row->element == e::Aircraft);
-            const bool isTwice = std::any_of(seen_.begin(), seen_.end(), [&](std::uint32_t earlier) {
-                const ElementRow& former = *rows_[earlier];
-                if (isAlone || former.place != 0) {
-                    return isAlone && former.element == row->element;
-                }
-                // A plate of its own after that of both is how armour is given.
-                const bool isPartOfFormer =
-                    former.fields.size() > row->fields.size() && former.element != row->element;
-                return !isPartOfFormer &&
-                       std::any_of(row->fields.begin(), row->fields.end(), [&](FieldId field) {
-                           return std::find(former.fields.begin(), former.fields.end(), field) !=
-                                  former.fields.end();
-                       });
-            });
-            if (isTwice) {
+            const std::uint64_t bits = factsOf(*row).bits;
+            if ((bits & seenBits) != 0 && isTwice(*row, isAlone)) {
                 out_.atElement(nodes_[i], {.key = ck::GivenTwice,
                                            .message = elementText(nodes_[i]) + " " + placeText(nodes_[i]) +
                                                       " was given before"});
             }
             if (isAlone || (row->place == 0 && !row->fields.empty())) {
                 seen_.push_back(i);
+                seenBits |= bits;
             }
         }
     }
 
+    /// Whether an element of a row sets what one of those seen did, or is a group that was there.
+    [[nodiscard]] bool isTwice(const ElementRow& row, bool isAlone) const {
+        return std::any_of(seen_.begin(), seen_.end(), [&](std::uint32_t earlier) {
+            const ElementRow& former = *rows_[earlier];
+            if (isAlone || former.place != 0) {
+                return isAlone && former.element == row.element;
+            }
+            // A plate of its own after that of both is how armour is given.
+            const bool isPartOfFormer =
+                former.fields.size() > row.fields.size() && former.element != row.element;
+            return !isPartOfFormer && std::any_of(row.fields.begin(), row.fields.end(), [&](FieldId field) {
+                return std::find(former.fields.begin(), former.fields.end(), field) != former.fields.end();
+            });
+        });
+    }
+
     void checkMissing(const TagNode& node, const ElementRow& row) {
-        for (const std::string_view required :
-             requiredByRow_[static_cast<std::size_t>(&row - table_.rows().data())]) {
+        for (const std::string_view required : factsOf(row).required) {
             if (ofWeapons_ && node.name == weapon_element::Type &&
                 parentOf(node).name != weapon_element::Ammo) {
                 continue;
             }
             bool isThere = false;
             for (std::uint32_t i = node.firstChild; i != TagNode::None; i = nodes_[i].nextSibling) {
-                isThere = isThere || nodes_[i].name == required ||
-                          (required == e::Availability && nodes_[i].name == e::Commonness);
+                if (nodes_[i].name == required ||
+                    (required == e::Availability && nodes_[i].name == e::Commonness)) {
+                    isThere = true;
+                    break;
+                }
             }
             if (!isThere) {
                 out_.atElement(node, {.key = ck::MissingElement,
@@ -312,7 +346,7 @@ private:
     const ElementTable& table_;
     FileFindings& out_;
     bool ofWeapons_;
-    const RequiredOfRows& requiredByRow_;
+    const std::vector<RowFacts>& facts_;
     std::vector<std::uint8_t> places_;
     std::vector<const ElementRow*> rows_;
     std::vector<std::uint32_t> seen_;
