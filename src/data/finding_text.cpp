@@ -1,5 +1,7 @@
 #include "data/finding_text.h"
 
+#include "data/format/words.h"
+
 #include <algorithm>
 #include <array>
 
@@ -47,6 +49,18 @@ bool endsSentence(std::string_view text) {
 std::string_view severityWord(Severity severity) {
     constexpr std::array<std::string_view, 3> words = {"note", "warning", "error"};
     return words[static_cast<std::size_t>(severity)];
+}
+
+std::string severityCounts(std::span<const Severity> severities, bool tellsNone) {
+    std::string text;
+    for (const Severity severity : {Severity::Error, Severity::Warning, Severity::Note}) {
+        const auto count =
+            static_cast<std::size_t>(std::count(severities.begin(), severities.end(), severity));
+        if (count > 0 || tellsNone) {
+            text += (text.empty() ? "" : ", ") + counted(count, severityWord(severity));
+        }
+    }
+    return text;
 }
 
 std::string debuggerLine(const Finding& finding) {

@@ -5,6 +5,7 @@
 #include "data/format/source_map.h"
 #include "platform/file_operations.h"
 
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -15,6 +16,9 @@ Finding cannotRead(const FileFailure& failure);
 
 /// "error", "warning" or "note".
 std::string_view severityWord(Severity severity);
+
+/// "2 errors, 1 warning, 0 notes"; those of which there are none only where `tellsNone`.
+std::string severityCounts(std::span<const Severity> severities, bool tellsNone);
 
 /// What a reader writes to the debugger: the game's own line where it has one, otherwise
 /// "ERROR: name: line 12: ...".

@@ -24,11 +24,17 @@ Category categoryOf(const SquadRecord& record) {
                                 : Category::Infantry;
 }
 
-/// Whether the bar shows a finding about values; what is only unusual has its place in lists.
+/// Whether the bar shows a finding; what is only unusual has its place in lists.
 bool isForBar(const Finding& finding) {
-    // A broken file gives no whole unit: that it lacks a vehicle goes without saying.
-    return (finding.severity == Severity::Error && finding.key != check_key::WrongCategory) ||
-           finding.key == finding_key::AmmoWithoutWeapon;
+    // A broken file gives no whole unit: that it lacks a vehicle goes without saying. What a comment excuses
+    // may be what only the other half of the checks looks for.
+    return finding.severity != Severity::Note && finding.key != check_key::WrongCategory &&
+           finding.key != check_key::BadSuppression;
+}
+
+/// Whether it is told of a unit in the making, which fits nowhere yet.
+bool isForUnfinished(const Finding& finding) {
+    return finding.severity == Severity::Error || finding.key == finding_key::AmmoWithoutWeapon;
 }
 
 } // namespace
@@ -44,7 +50,7 @@ std::vector<SheetProblem> fileProblems(Category category, std::string_view fileC
         std::to_array<std::string_view>({finding_key::UnknownWord, check_key::OutOfRange});
     std::vector<Finding> found = checkFileText({.category = category, .content = fileContent});
     std::erase_if(found, [&](const Finding& finding) {
-        return finding.severity != Severity::Error ||
+        return !isForBar(finding) ||
                std::find(ofValues.begin(), ofValues.end(), finding.key) != ofValues.end();
     });
     Diagnostics ofReader;
@@ -76,17 +82,18 @@ std::vector<SheetProblem> valueProblems(const SquadRecord& record, std::string_v
         knowledge.missingPictures = missingPictures;
     }
     std::vector<SheetProblem> problems;
+    std::vector<Finding> gaps = unitGaps(record);
     for (Finding& finding : checkUnitValues(
              knowledge, {.category = categoryOf(record), .name = record.fileName, .content = fileContent},
              record)) {
-        if (isForBar(finding)) {
+        if (isForBar(finding) && (gaps.empty() || isForUnfinished(finding))) {
             // A record that no file holds yet has no lines.
             finding.line = fileContent.empty() ? 0 : finding.line;
             const UnitPart part = partOfField(record, finding.field);
             problems.push_back({std::move(finding), part});
         }
     }
-    for (Finding& gap : unitGaps(record)) {
+    for (Finding& gap : gaps) {
         const UnitPart part = partOfField(record, gap.field);
         problems.push_back({std::move(gap), part});
     }
@@ -97,12 +104,20 @@ std::vector<SheetProblem> valueProblems(const WeaponRecord& weapon, std::string_
     std::vector<SheetProblem> problems;
     for (Finding& finding : checkWeaponFileValues(
              {}, {.category = Category::Weapons, .name = weapon.fileName, .content = fileContent}, weapon)) {
-        if (finding.severity == Severity::Error) {
+        if (isForBar(finding)) {
             const UnitPart part = partOfField(weapon, finding.field);
             problems.push_back({std::move(finding), part});
         }
     }
     return problems;
+}
+
+void dropSuppressed(std::vector<SheetProblem>& problems, const SuppressionList& list,
+                    const std::string& shown) {
+    std::erase_if(problems, [&](SheetProblem& problem) {
+        problem.finding.file = shown;
+        return list.covers(problem.finding);
+    });
 }
 
 } // namespace varrocade

@@ -133,7 +133,7 @@ private:
 
     /// What is wrong stays in sight however far the sheet is scrolled: a few lines of it.
     void paintBar(const std::vector<SheetWarning>& warnings) {
-        constexpr std::size_t mostLines = 3;
+        constexpr std::size_t mostLines = 4;
         const int margin = device_.scaled(4);
         const int lineHeight = device_.lineHeight(TextFont::Small);
         const std::size_t lines = std::min(warnings.size(), mostLines);

@@ -149,34 +149,60 @@ void addAircraftSections(DataSheet& sheet, const AircraftRecord& aircraft, const
     sheet.sections.push_back(std::move(armament));
 }
 
-void addProblems(DataSheet& sheet, std::span<const SheetProblem> problems) {
-    if (problems.empty()) {
+namespace {
+
+/// The worst first, otherwise in their order.
+std::vector<SheetProblem> bySeverity(std::span<const SheetProblem> problems) {
+    std::vector<SheetProblem> sorted(problems.begin(), problems.end());
+    std::stable_sort(sorted.begin(), sorted.end(), [](const SheetProblem& a, const SheetProblem& b) {
+        return a.finding.severity > b.finding.severity;
+    });
+    return sorted;
+}
+
+/// A line each, below one that counts them where there are several.
+void fillBar(DataSheet& sheet, std::span<const SheetProblem> problems) {
+    if (problems.size() > 1) {
+        std::vector<Severity> severities(problems.size());
+        std::transform(problems.begin(), problems.end(), severities.begin(),
+                       [](const SheetProblem& problem) { return problem.finding.severity; });
+        sheet.warnings.push_back({severityCounts(severities, false)});
+    }
+    for (const SheetProblem& problem : problems) {
+        sheet.warnings.push_back({sentence(problem.finding), problem.part, problem.finding.field});
+    }
+}
+
+} // namespace
+
+void addProblems(DataSheet& sheet, std::span<const SheetProblem> unsorted) {
+    if (unsorted.empty()) {
         return;
     }
+    const std::vector<SheetProblem> problems = bySeverity(unsorted);
+    fillBar(sheet, problems);
     SheetSection section{.heading = {"Problems"}, .holdsProblems = true};
     SheetTable table;
     table.rows.push_back({{"What is wrong"}});
     for (const SheetProblem& problem : problems) {
-        const std::string text = sentence(problem.finding);
-        sheet.warnings.push_back({text, problem.part, problem.finding.field});
-        table.rows.push_back({{text}, problem.part, problem.source});
+        table.rows.push_back({{sentence(problem.finding)}, problem.part, problem.source});
     }
     section.tables.push_back(std::move(table));
     sheet.sections.push_back(std::move(section));
 }
 
-DataSheet weaponSheet(const WeaponRecord& weapon, std::span<const SheetProblem> problems,
+DataSheet weaponSheet(const WeaponRecord& weapon, std::span<const SheetProblem> unsorted,
                       const std::optional<std::vector<std::string>>& users) {
     DataSheet sheet;
     sheet.title.text = weaponWord(weapon.name.empty() ? weapon.fileName : weapon.name);
     sheet.title.subtitle = shownValue(weapon_field::Type, weapon, {.nothing = {}});
     sheet.comment = weapon.comments;
-    if (!problems.empty()) {
-        std::vector<std::string> lines;
-        for (const SheetProblem& problem : problems) {
-            lines.push_back(sentence(problem.finding));
-            sheet.warnings.push_back({lines.back(), problem.part, problem.finding.field});
-        }
+    if (!unsorted.empty()) {
+        const std::vector<SheetProblem> problems = bySeverity(unsorted);
+        fillBar(sheet, problems);
+        std::vector<std::string> lines(problems.size());
+        std::transform(problems.begin(), problems.end(), lines.begin(),
+                       [](const SheetProblem& problem) { return sentence(problem.finding); });
         sheet.sections.push_back(notesSection("Problems of the file", lines));
         sheet.sections.back().holdsProblems = true;
     }

@@ -3,6 +3,7 @@
 #include "app/windows/application.h"
 #include "app/windows/display/redraw.h"
 #include "app/windows/problems/open_problems.h"
+#include "tools/checks/engine/folder_check.h"
 #include "tools/checks/sheet_problems.h"
 #include "view/drawing/part_positions.h"
 #include "view/painting/gdi_device_win32.h"
@@ -102,7 +103,19 @@ std::vector<SheetProblem> problemsOf(UnitDisplay& display, const WeaponRecord& w
         const UnitPart part = partOfField(weapon, missing.field);
         problems.push_back({std::move(missing), part});
     }
+    dropExcused(problems, weapon.fileName);
     return problems;
+}
+
+/// Drops what the folder's list excuses: that is to be seen nowhere.
+void dropExcused(std::vector<SheetProblem>& problems, std::string_view name) {
+    const OpenRecord& open = theWorkspace().open;
+    std::string content;
+    if (problems.empty() || !readWholeFile(open.base + std::string(SuppressionListName), content)) {
+        return;
+    }
+    std::vector<Finding> ofList;
+    dropSuppressed(problems, SuppressionList(content, ofList), shownPath(open.category, name));
 }
 
 /// The box that a failed save shows has no room for the reason.
@@ -127,6 +140,7 @@ void composeUnitSheet(UnitDisplay& display, const SquadRecord& unit) {
     std::vector<SheetProblem> problems = problemsOfFile(display);
     append(problems, valueProblems(unit, content, display.drawing.missingPictures, workspace.catalogue,
                                    imageBases(workspace)));
+    dropExcused(problems, unit.fileName);
     noteOpenProblems(problems);
     display.sheet = unitSheet(unit, display.drawing.missingPictures, workspace.catalogue);
     addProblems(display.sheet, problems);

@@ -15,14 +15,10 @@ namespace varrocade {
 namespace {
 
 std::string countsText(const std::vector<Finding>& findings) {
-    std::string text;
-    for (const Severity severity : {Severity::Error, Severity::Warning, Severity::Note}) {
-        const auto count = static_cast<std::size_t>(
-            std::count_if(findings.begin(), findings.end(),
-                          [severity](const Finding& finding) { return finding.severity == severity; }));
-        text += (text.empty() ? "" : ", ") + counted(count, severityWord(severity));
-    }
-    return text;
+    std::vector<Severity> severities(findings.size());
+    std::transform(findings.begin(), findings.end(), severities.begin(),
+                   [](const Finding& finding) { return finding.severity; });
+    return severityCounts(severities, true);
 }
 
 /// `"name": value` with a comma before it where it is not the first.
