@@ -90,6 +90,17 @@ void append(std::vector<SheetProblem>& problems, std::vector<SheetProblem> other
     std::move(others.begin(), others.end(), std::back_inserter(problems));
 }
 
+/// Drops what the folder's list excuses: that is to be seen nowhere.
+void dropExcused(std::vector<SheetProblem>& problems, std::string_view name) {
+    const OpenRecord& open = theWorkspace().open;
+    std::string content;
+    if (problems.empty() || !readWholeFile(open.base + std::string(SuppressionListName), content)) {
+        return;
+    }
+    std::vector<Finding> ofList;
+    dropSuppressed(problems, SuppressionList(content, ofList), shownPath(open.category, name));
+}
+
 std::vector<SheetProblem> problemsOf(UnitDisplay& display, const WeaponRecord& weapon) {
     const Workspace& workspace = theWorkspace();
     std::vector<SheetProblem> problems;
@@ -105,17 +116,6 @@ std::vector<SheetProblem> problemsOf(UnitDisplay& display, const WeaponRecord& w
     }
     dropExcused(problems, weapon.fileName);
     return problems;
-}
-
-/// Drops what the folder's list excuses: that is to be seen nowhere.
-void dropExcused(std::vector<SheetProblem>& problems, std::string_view name) {
-    const OpenRecord& open = theWorkspace().open;
-    std::string content;
-    if (problems.empty() || !readWholeFile(open.base + std::string(SuppressionListName), content)) {
-        return;
-    }
-    std::vector<Finding> ofList;
-    dropSuppressed(problems, SuppressionList(content, ofList), shownPath(open.category, name));
 }
 
 /// The box that a failed save shows has no room for the reason.
