@@ -5,9 +5,11 @@
 #include "data/format/source_map.h"
 #include "platform/file_operations.h"
 
+#include <functional>
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace varrocade {
 
@@ -19,6 +21,16 @@ std::string_view severityWord(Severity severity);
 
 /// "2 errors, 1 warning, 0 notes"; those of which there are none only where `tellsNone`.
 std::string severityCounts(std::span<const Severity> severities, bool tellsNone);
+
+/// The same of what holds findings; `findingOf` gives that of one.
+template <typename Things, typename FindingOf>
+std::string severityCounts(const Things& things, FindingOf findingOf, bool tellsNone) {
+    std::vector<Severity> severities;
+    for (const auto& thing : things) {
+        severities.push_back(std::invoke(findingOf, thing).severity);
+    }
+    return severityCounts(severities, tellsNone);
+}
 
 /// What a reader writes to the debugger: the game's own line where it has one, otherwise
 /// "ERROR: name: line 12: ...".

@@ -163,10 +163,7 @@ std::vector<SheetProblem> bySeverity(std::span<const SheetProblem> problems) {
 /// A line each, below one that counts them where there are several.
 void fillBar(DataSheet& sheet, std::span<const SheetProblem> problems) {
     if (problems.size() > 1) {
-        std::vector<Severity> severities(problems.size());
-        std::transform(problems.begin(), problems.end(), severities.begin(),
-                       [](const SheetProblem& problem) { return problem.finding.severity; });
-        sheet.warnings.push_back({severityCounts(severities, false)});
+        sheet.warnings.push_back({severityCounts(problems, &SheetProblem::finding, false)});
     }
     for (const SheetProblem& problem : problems) {
         sheet.warnings.push_back({sentence(problem.finding), problem.part, problem.finding.field});

@@ -59,13 +59,6 @@ int compareBy(ProblemColumn column, const Problem& a, const Problem& b) {
     return 0;
 }
 
-void addCount(std::string& text, std::size_t count, std::string_view what) {
-    if (count > 0) {
-        text += (text.empty() ? "" : ", ") + std::to_string(count) + " " + std::string(what) +
-                (count == 1 ? "" : "s");
-    }
-}
-
 } // namespace
 
 std::vector<Problem> problemsIn(const ProblemBook& book, const Workspace& workspace,
@@ -103,14 +96,7 @@ std::array<std::string_view, ProblemColumnCount> problemHeads() {
 }
 
 std::string problemCounts(const std::vector<Problem>& problems) {
-    std::string text;
-    for (const Severity severity : {Severity::Error, Severity::Warning, Severity::Note}) {
-        const auto count = std::count_if(problems.begin(), problems.end(), [&](const Problem& problem) {
-            return problem.finding.severity == severity;
-        });
-        addCount(text, static_cast<std::size_t>(count), severityWord(severity));
-    }
-    return text.empty() ? "No problems" : text;
+    return problems.empty() ? "No problems" : severityCounts(problems, &Problem::finding, false);
 }
 
 std::string problemsAsText(const std::vector<Problem>& problems) {

@@ -15,10 +15,7 @@ namespace varrocade {
 namespace {
 
 std::string countsText(const std::vector<Finding>& findings) {
-    std::vector<Severity> severities(findings.size());
-    std::transform(findings.begin(), findings.end(), severities.begin(),
-                   [](const Finding& finding) { return finding.severity; });
-    return severityCounts(severities, true);
+    return severityCounts(findings, std::identity(), true);
 }
 
 /// `"name": value` with a comma before it where it is not the first.
