@@ -26,6 +26,7 @@ std::string severityCounts(std::span<const Severity> severities, bool tellsNone)
 template <typename Things, typename FindingOf>
 std::string severityCounts(const Things& things, FindingOf findingOf, bool tellsNone) {
     std::vector<Severity> severities;
+    severities.reserve(things.size());
     for (const auto& thing : things) {
         severities.push_back(std::invoke(findingOf, thing).severity);
     }
