@@ -201,7 +201,7 @@ TEST(Checks, FindTheSameInAnyNumberOfThreads) {
                      withLine(Tank, "<weight>", "\t\t\t<weight>" + weight + "</weight>"));
     }
     std::vector<std::string> reports;
-    for (const std::size_t threads : {1U, 2U, 3U}) {
+    for (const unsigned threads : {1U, 2U, 3U}) {
         FolderCheck check({.program = folder.path()});
         check.run(threads);
         reports.push_back(checkReportJson(check.findings()));

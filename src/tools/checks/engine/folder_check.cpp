@@ -4,11 +4,10 @@
 #include "mod/mod_settings.h"
 #include "platform/file_operations.h"
 #include "tools/checks/engine/mod_file_check.h"
+#include "tools/parallel.h"
 
 #include <algorithm>
-#include <atomic>
 #include <iterator>
-#include <thread>
 #include <utility>
 
 namespace varrocade {
@@ -17,38 +16,6 @@ std::string shownPath(Category category, std::string_view name) {
     return "Data/" + std::string(categoryName(category)) + "/" + std::string(name) +
            std::string(DataFileEnding);
 }
-
-namespace {
-
-/// Calls `work` with each number below `threads`, in a thread each.
-template <typename Work>
-void inThreads(std::size_t threads, Work work) {
-    std::vector<std::thread> workers;
-    workers.reserve(threads);
-    for (std::size_t i = 1; i < threads; ++i) {
-        workers.emplace_back(work, i);
-    }
-    work(std::size_t{0});
-    for (std::thread& worker : workers) {
-        worker.join();
-    }
-}
-
-/// Calls `visit(thread, i)` with each number from `from` on below `count`, in so many threads.
-template <typename Visit>
-void share(std::size_t threads, std::size_t from, std::size_t count, Visit visit) {
-    constexpr std::size_t perTurn = 16;
-    std::atomic<std::size_t> next = from;
-    inThreads(std::min(threads, (count - from) / perTurn + 1), [&](std::size_t thread) {
-        for (std::size_t begin = next.fetch_add(perTurn); begin < count; begin = next.fetch_add(perTurn)) {
-            for (std::size_t i = begin; i < std::min(begin + perTurn, count); ++i) {
-                visit(thread, i);
-            }
-        }
-    });
-}
-
-} // namespace
 
 FolderCheck::FolderCheck(const GameFolders& folders, bool looksIntoPictures)
     : looksIntoPictures_(looksIntoPictures) {
@@ -232,13 +199,16 @@ bool FolderCheck::step() {
     return !isDone();
 }
 
-void FolderCheck::run(std::size_t threads) {
-    threads = threads == 0 ? std::max(1U, std::thread::hardware_concurrency()) : threads;
+void FolderCheck::run(unsigned threads) {
+    constexpr std::size_t filesPerTurn = 16;
+    threads = threadCount(threads);
     std::vector<Desk> desks(threads);
     while (!isDone()) {
         std::vector<UnitSurvey> surveys(threads, UnitSurvey(knowledge_));
-        share(threads, at_, count(),
-              [&](std::size_t thread, std::size_t i) { look(i, desks[thread], surveys[thread]); });
+        const auto lookAt = [&](std::size_t thread, std::size_t i) {
+            look(at_ + i, desks[thread], surveys[thread]);
+        };
+        shareInParallel(count() - at_, filesPerTurn, lookAt, threads);
         for (UnitSurvey& one : surveys) {
             survey_.join(std::move(one));
         }

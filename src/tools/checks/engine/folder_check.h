@@ -23,9 +23,9 @@ std::string shownPath(Category category, std::string_view name);
 /// Checks a game, or a mod's files within their game, in steps between which a window can answer.
 class FolderCheck {
 public:
-    /// Lists the files. With a mod, only its files are checked; the game's are
-    /// what they name and are compared with. Pictures are taken apart only where that is asked for: it takes
-    /// seconds for a hundred vehicles.
+    /// Lists the files. With a mod, only its files are checked; the game's are what they name and are
+    /// compared with. Pictures are taken apart only where that is asked for: it takes seconds for a hundred
+    /// vehicles.
     explicit FolderCheck(const GameFolders& folders, bool looksIntoPictures = false);
     FolderCheck(const FolderCheck&) = delete;
     FolderCheck& operator=(const FolderCheck&) = delete;
@@ -33,7 +33,7 @@ public:
     /// Looks at one file. False when there is nothing more to do.
     bool step();
     /// Does all that is left, in so many threads; 0: in as many as the machine has cores.
-    void run(std::size_t threads = 0);
+    void run(unsigned threads = 0);
 
     [[nodiscard]] WalkProgress progress() const;
     [[nodiscard]] bool isDone() const { return stage_ == Stage::Done; }

@@ -236,8 +236,6 @@ std::vector<std::uint32_t> UnitSurvey::finish(CheckKnowledge& knowledge) {
     finishWeights(knowledge, outstanding);
     finishNames(knowledge, outstanding);
     finishLoads(knowledge);
-    std::sort(outstanding.begin(), outstanding.end());
-    outstanding.erase(std::unique(outstanding.begin(), outstanding.end()), outstanding.end());
     return outstanding;
 }
 

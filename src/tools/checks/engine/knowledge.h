@@ -95,7 +95,7 @@ public:
     /// Adds the findings of another survey.
     void join(UnitSurvey other);
     /// Tells the knowledge, once all are added. What comes of it is the same whoever surveyed which unit.
-    /// Gives back, in their order, the units that stand out: only about these do rules find anything with
+    /// Gives back the units that stand out, some more than once: only about these do rules find anything with
     /// it that they don't find without.
     std::vector<std::uint32_t> finish(CheckKnowledge& knowledge);
 
